@@ -1,0 +1,138 @@
+// The desk on which forms lie: what windows ask of the world, and what a front end must do for it.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "window/form.h"
+#include "window/random.h"
+#include "window/timers.h"
+
+struct Extent {
+  int width = 0, height = 0;  // twips
+};
+
+// A moment of the local calendar.
+struct DateTime {
+  int year = 2000, month = 1, day = 1, hour = 0, minute = 0, second = 0;
+};
+
+enum class Icon { None, Information, Question, Exclamation, Critical };
+enum class Buttons { OK, OKCancel, YesNo };
+enum class Answer { OK, Cancel, Yes, No };
+
+struct MessageBox {
+  std::string text, title;
+  Icon icon = Icon::None;
+  Buttons buttons = Buttons::OK;
+};
+
+std::string_view IconName(Icon icon);          // "none", "information", ...
+std::string_view AnswerName(Answer answer);    // "OK", "Cancel", "Yes", "No"
+std::vector<Answer> AnswersOf(Buttons buttons);
+
+// Whoever watches what the windows do: a front end, a script that writes a trace.
+class Observer {
+ public:
+  virtual ~Observer() = default;
+  virtual void FormLoaded(Form&) {}
+  virtual void FormShown(Form&) {}
+  virtual void FormHidden(Form&) {}
+  virtual void FormUnloaded(Form&) {}
+  virtual void PropertyChanged(Control&, Prop) {}
+  virtual void OrderChanged(Visual&) {}
+  virtual void FocusMoved(Visual&) {}
+  virtual void TextSelected(TextBox&) {}
+  virtual void SurfaceCleared(PictureBox&) {}
+  virtual void SurfaceDrawn(PictureBox&, const Stroke&) {}
+  virtual void BoxShown(const MessageBox&) {}
+  virtual void Slept(int /*milliseconds*/) {}
+  virtual void EventsLetThrough() {}
+  virtual void WavePlayed(const std::string& /*path*/) {}
+  virtual void MediaCommanded(const std::string& /*command*/) {}
+  virtual void BrowserOpened(const std::string& /*url*/) {}
+  virtual void Ended(const std::string& /*failure*/) {}
+};
+
+// What a front end does besides observing.
+class FrontEnd : public Observer {
+ public:
+  // Milliseconds since the start. Never goes back.
+  virtual long long Milliseconds() = 0;
+  virtual DateTime Now() = 0;
+  virtual Extent ScreenExtent() = 0;
+  // The room that a label's caption needs in its lettering.
+  virtual Extent TextExtent(const Label& label) = 0;
+  // Shows what has changed, then lets the time pass. Serves no input and no timer.
+  virtual void Sleep(int milliseconds) = 0;
+  // Shows the box and serves timers until it is answered.
+  virtual Answer RunBox(const MessageBox& box) = 0;
+  // Serves events until the form is hidden or gone.
+  virtual void RunModal(Form& form) = 0;
+  // Starts a wave, which cuts the one playing. The path is relative to the data, as "\Chord.wav".
+  virtual void PlayWave(const std::string& path) = 0;
+  // Obeys "open "PATH" type sequencer alias NAME", "play NAME", "close NAME".
+  virtual void MediaCommand(const std::string& command) = 0;
+  // The program that opens web pages, "" if there is none; and opening one. False on failure.
+  virtual std::string FindBrowser() = 0;
+  virtual bool OpenPage(const std::string& browser, const std::string& url) = 0;
+};
+
+class Platform : public Observer {
+ public:
+  explicit Platform(FrontEnd& front) : front(front) {}
+
+  FrontEnd& front;
+  Observer* trace = nullptr;         // told of everything, after the front end
+  std::vector<Form*> forms;          // front first
+  Timers timers;
+  RandomSource random;
+  std::string CommandLine;           // a saved game's file name, or ""
+  // Told of a failure that no handler caught, with its description.
+  std::function<void(const std::string&)> OnFailure;
+
+  void Sleep(int milliseconds);
+  // Lets pending events through: each timer with a waiting tick ticks once.
+  void DoEvents();
+  Answer MsgBox(const std::string& text, const std::string& title, Icon icon = Icon::None,
+                Buttons buttons = Buttons::OK);
+  void sndPlaySound(const std::string& path);
+  void mciSendString(const std::string& command);
+  bool ShellExecute(const std::string& browser, const std::string& url);
+  DateTime Now() { return front.Now(); }
+  Extent ScreenExtent() { return front.ScreenExtent(); }
+  Extent TextExtent(const Label& label) { return front.TextExtent(label); }
+  // The program ends after the handler that is running. A failure's description, or "".
+  void End(const std::string& failure = "");
+  bool HasEnded() const { return ended_; }
+
+  // Runs a handler of an event. A failure in it ends it and is told to `OnFailure`.
+  void Dispatch(const std::function<void()>& handler);
+  // Serves the earliest tick that is due by now; false if there is none.
+  bool ServeTimer();
+
+  void RunModal(Form& form);
+  // The modal form or null; whether a message box stands.
+  Form* ModalForm() const { return modals_.empty() ? nullptr : modals_.back(); }
+  const MessageBox* StandingBox() const { return boxes_.empty() ? nullptr : boxes_.back(); }
+  Form* FindForm(std::string_view name) const;  // loaded ones only
+
+  void FormLoaded(Form&) override;
+  void FormShown(Form&) override;
+  void FormHidden(Form&) override;
+  void FormUnloaded(Form&) override;
+  void PropertyChanged(Control&, Prop) override;
+  void OrderChanged(Visual&) override;
+  void FocusMoved(Visual&) override;
+  void TextSelected(TextBox&) override;
+  void SurfaceCleared(PictureBox&) override;
+  void SurfaceDrawn(PictureBox&, const Stroke&) override;
+
+ private:
+  void Tick(Timer& timer);
+
+  std::vector<Form*> modals_;
+  std::vector<const MessageBox*> boxes_;
+  bool ended_ = false;
+};
