@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -14,9 +15,38 @@ class Control;
 
 // The properties that scripts can read and front ends are told of.
 enum class Prop : uint8_t {
-  Alignment, BackColor, BorderColor, BorderStyle, Caption, Checked, Drive, Enabled, FillColor, FontBold, FontName,
-  FontSize, ForeColor, Height, Interval, Left, List, ListIndex, Max, Min, MouseIcon, MousePointer, Path, Pattern,
-  Picture, Text, ToolTipText, Top, Value, Visible, Width, WindowState
+  Alignment,
+  BackColor,
+  BorderColor,
+  BorderStyle,
+  Caption,
+  Checked,
+  Drive,
+  Enabled,
+  FillColor,
+  FontBold,
+  FontName,
+  FontSize,
+  ForeColor,
+  Height,
+  Interval,
+  Left,
+  List,
+  ListIndex,
+  Max,
+  Min,
+  MouseIcon,
+  MousePointer,
+  Path,
+  Pattern,
+  Picture,
+  Text,
+  ToolTipText,
+  Top,
+  Value,
+  Visible,
+  Width,
+  WindowState
 };
 
 std::string_view PropName(Prop prop);
@@ -50,8 +80,24 @@ class Property {
 class Control {
  public:
   enum class Kind {
-    Form, Label, Image, Shape, CommandButton, TextBox, CheckBox, OptionButton, Frame, PictureBox, Timer, Menu,
-    StatusBar, Panel, ProgressBar, DriveListBox, DirListBox, FileListBox
+    Form,
+    Label,
+    Image,
+    Shape,
+    CommandButton,
+    TextBox,
+    CheckBox,
+    OptionButton,
+    Frame,
+    PictureBox,
+    Timer,
+    Menu,
+    StatusBar,
+    Panel,
+    ProgressBar,
+    DriveListBox,
+    DirListBox,
+    FileListBox
   };
 
   // `name` must outlive the control (in practice: a literal). An empty name makes a control that this window
@@ -116,6 +162,12 @@ class Visual : public Control {
 
   int z = 0;  // siblings are drawn in rising order
 
+  void Move(int left, int top, int width, int height) {
+    Left = left;
+    Top = top;
+    Width = width;
+    Height = height;
+  }
   // 0 brings the control before its siblings, 1 sends it behind them.
   void ZOrder(int position);
   // Takes the keyboard focus.
@@ -131,6 +183,11 @@ class Visual : public Control {
  protected:
   explicit Visual(Form& itself, std::string_view name) : Control(itself, name) {}
 };
+
+// Shows or hides a group at once.
+inline void SetVisible(std::initializer_list<Visual*> controls, bool visible) {
+  for (Visual* control : controls) control->Visible = visible;
+}
 
 // Puts `inner` in the middle of `outer`'s width: both in the same container.
 inline void CenterIn(Visual& inner, const Visual& outer) {

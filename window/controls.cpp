@@ -11,7 +11,8 @@ void Label::Fit() {
 }
 
 void Label::AfterChange(Prop prop) {
-  if (prop == Prop::Caption || prop == Prop::FontSize || prop == Prop::FontBold || prop == Prop::FontName) Fit();
+  if (prop == Prop::Caption || prop == Prop::FontSize || prop == Prop::FontBold || prop == Prop::FontName)
+    Fit();
   if (prop == Prop::Caption && OnChange && form.Loaded()) OnChange();
 }
 

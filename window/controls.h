@@ -10,7 +10,9 @@
 // What letters look like.
 struct Lettering {
   explicit Lettering(Control& owner)
-      : FontName(owner, Prop::FontName, ""), FontSize(owner, Prop::FontSize, 8), FontBold(owner, Prop::FontBold, false) {}
+      : FontName(owner, Prop::FontName, ""),
+        FontSize(owner, Prop::FontSize, 8),
+        FontBold(owner, Prop::FontBold, false) {}
   Property<std::string> FontName;  // "" for the front end's own
   Property<int> FontSize;          // points
   Property<bool> FontBold;
@@ -54,9 +56,9 @@ class Shape : public Visual {
 
   Property<int> BorderColor{*this, Prop::BorderColor, 0};
   Property<int> FillColor{*this, Prop::FillColor, 0};
-  int BorderWidth = 1;      // pixels
-  bool Filled = false;      // filled with `FillColor`
-  bool Sunken = false;      // drawn as a box let into the window, a score box
+  int BorderWidth = 1;  // pixels
+  bool Filled = false;  // filled with `FillColor`
+  bool Sunken = false;  // drawn as a box let into the window, a score box
 
   void Visit(const PropertyVisitor& visit) const override;
 };
@@ -120,10 +122,10 @@ class Frame : public Visual {
 // One stroke on a picture surface.
 struct Stroke {
   enum class Kind { Pie, Line, Circle } kind;
-  double start = 0, end = 0;            // Pie: degrees clockwise from the top
-  int x1 = 0, y1 = 0, x2 = 0, y2 = 0;   // Line: twips on the surface
-  int x = 0, y = 0;                     // Pie, Circle: the centre
-  double radius = 0;                    // Pie, Circle
+  double start = 0, end = 0;           // Pie: degrees clockwise from the top
+  int x1 = 0, y1 = 0, x2 = 0, y2 = 0;  // Line: twips on the surface
+  int x = 0, y = 0;                    // Pie, Circle: the centre
+  double radius = 0;                   // Pie, Circle
   int colour = 0;
 };
 
@@ -164,6 +166,7 @@ class Menu : public Control {
   Property<bool> Checked{*this, Prop::Checked, false};
   Property<bool> Enabled{*this, Prop::Enabled, true};
   Property<bool> Visible{*this, Prop::Visible, true};
+  int rank = 50;  // siblings stand in rising rank, those of one rank in the order in which they were made
 
   std::function<void()> OnClick;
 

@@ -49,6 +49,11 @@ void Form::Unload() {
   Form_QueryUnload(cancel);
   if (cancel || !loaded_) return;
   Form_Unload();
+  Discard();
+}
+
+void Form::Discard() {
+  if (!loaded_) return;
   for (Control* control : controls_)
     if (control->kind == Kind::Timer) static_cast<Timer*>(control)->Enabled = false;
   loaded_ = false;  // from here on nobody is told of changes
@@ -91,8 +96,10 @@ bool CanTakeFocus(const Control& control) {
     case Control::Kind::OptionButton:
     case Control::Kind::DriveListBox:
     case Control::Kind::DirListBox:
-    case Control::Kind::FileListBox: break;
-    default: return false;
+    case Control::Kind::FileListBox:
+      break;
+    default:
+      return false;
   }
   if (!static_cast<const Visual&>(control).Enabled) return false;
   for (const Control* each = &control; each->kind != Control::Kind::Form; each = each->parent)
@@ -177,13 +184,26 @@ void ApplyDesign(Form& form, const Design* rows, size_t count) {
       if (row.toolTip) visual.ToolTipText = row.toolTip;
       if (!row.caption) continue;
       switch (control->kind) {
-        case Control::Kind::Label: static_cast<Label*>(control)->Caption = row.caption; break;
-        case Control::Kind::CommandButton: static_cast<CommandButton*>(control)->Caption = row.caption; break;
-        case Control::Kind::CheckBox: static_cast<CheckBox*>(control)->Caption = row.caption; break;
-        case Control::Kind::OptionButton: static_cast<OptionButton*>(control)->Caption = row.caption; break;
-        case Control::Kind::Frame: static_cast<Frame*>(control)->Caption = row.caption; break;
-        case Control::Kind::TextBox: static_cast<TextBox*>(control)->Text = row.caption; break;
-        default: break;
+        case Control::Kind::Label:
+          static_cast<Label*>(control)->Caption = row.caption;
+          break;
+        case Control::Kind::CommandButton:
+          static_cast<CommandButton*>(control)->Caption = row.caption;
+          break;
+        case Control::Kind::CheckBox:
+          static_cast<CheckBox*>(control)->Caption = row.caption;
+          break;
+        case Control::Kind::OptionButton:
+          static_cast<OptionButton*>(control)->Caption = row.caption;
+          break;
+        case Control::Kind::Frame:
+          static_cast<Frame*>(control)->Caption = row.caption;
+          break;
+        case Control::Kind::TextBox:
+          static_cast<TextBox*>(control)->Text = row.caption;
+          break;
+        default:
+          break;
       }
     }
     if (!found) throw std::logic_error(std::string("no control named ") + row.name);

@@ -24,8 +24,9 @@ class Form : public Visual {
 
   Property<std::string> Caption{*this, Prop::Caption, ""};
   Property<int> WindowState{*this, Prop::WindowState, window_state::kNormal};
-  bool Sizable = false;              // the player may resize it; else it is a dialog of fixed size
-  int MinWidth = 0, MinHeight = 0;   // what a front end should offer at least, twips; the window itself decides
+  bool Sizable = false;  // the player may resize it; else it is a dialog of fixed size
+  int MinWidth = 0,
+      MinHeight = 0;  // what a front end should offer at least, twips; the window itself decides
 
   // Brings the form into being: `Form_Load` runs. Does nothing if it is loaded.
   void Load();
@@ -34,6 +35,9 @@ class Form : public Visual {
   void Hide();
   // Asks `Form_QueryUnload`; unless that cancels, the form is gone afterwards.
   void Unload();
+
+  // Takes the form away without asking or telling it.
+  void Discard();
 
   bool Loaded() const { return loaded_; }
   bool Modal() const { return modal_; }
@@ -90,7 +94,8 @@ struct Design {
   const char* toolTip = nullptr;
 };
 
-// Places the controls of a form as a table tells. Every row must name a control (an array's name serves its whole row).
+// Places the controls of a form as a table tells. Every row must name a control (an array's name serves its
+// whole row).
 void ApplyDesign(Form& form, const Design* rows, size_t count);
 template <size_t N>
 void ApplyDesign(Form& form, const Design (&rows)[N]) {

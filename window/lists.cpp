@@ -119,7 +119,8 @@ void DirListBox::Visit(const PropertyVisitor& visit) const {
   Tell(visit, Path);
 }
 
-FileListBox::FileListBox(Control& parent, std::string_view name) : ListControl(Kind::FileListBox, parent, name) {}
+FileListBox::FileListBox(Control& parent, std::string_view name)
+    : ListControl(Kind::FileListBox, parent, name) {}
 
 std::string FileListBox::FileName() const {
   if (ListIndex < 0 || ListIndex >= static_cast<int>(List.get().size())) return "";

@@ -13,10 +13,10 @@ class RuntimeError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-[[noreturn]] void RaiseOverflow();           // "Overflow"
-[[noreturn]] void RaiseSubscript();          // "Subscript out of range"
-[[noreturn]] void RaiseDivisionByZero();     // "Division by zero"
-[[noreturn]] void RaiseElementNotFound();    // "Element not found"
+[[noreturn]] void RaiseOverflow();         // "Overflow"
+[[noreturn]] void RaiseSubscript();        // "Subscript out of range"
+[[noreturn]] void RaiseDivisionByZero();   // "Division by zero"
+[[noreturn]] void RaiseElementNotFound();  // "Element not found"
 
 // Rounds to the nearest whole number, a half to the even neighbour. Raises Overflow beyond 64 bits.
 long long RoundHalfEven(double value);
@@ -45,7 +45,8 @@ class Checked {
     return static_cast<Rep>(value);
   }
   static Checked Add(long long a, long long b) {
-    if (b > std::numeric_limits<int32_t>::max() || b < -static_cast<long long>(std::numeric_limits<int32_t>::max()))
+    if (b > std::numeric_limits<int32_t>::max() ||
+        b < -static_cast<long long>(std::numeric_limits<int32_t>::max()))
       RaiseOverflow();
     return Checked(a + b);
   }

@@ -14,15 +14,19 @@ std::string_view AnswerName(Answer answer) {
 
 std::vector<Answer> AnswersOf(Buttons buttons) {
   switch (buttons) {
-    case Buttons::OKCancel: return {Answer::OK, Answer::Cancel};
-    case Buttons::YesNo: return {Answer::Yes, Answer::No};
-    default: return {Answer::OK};
+    case Buttons::OKCancel:
+      return {Answer::OK, Answer::Cancel};
+    case Buttons::YesNo:
+      return {Answer::Yes, Answer::No};
+    default:
+      return {Answer::OK};
   }
 }
 
 void Platform::Sleep(int milliseconds) {
   if (trace) trace->Slept(milliseconds);
   front.Sleep(milliseconds);
+  timers.now = front.Milliseconds();  // a timer that is started now starts from now
 }
 
 void Platform::DoEvents() {
@@ -69,7 +73,7 @@ void Platform::Dispatch(const std::function<void()>& handler) {
   timers.now = front.Milliseconds();
   try {
     handler();
-  } catch (const RuntimeError& error) {
+  } catch (const std::exception& error) {
     if (OnFailure) OnFailure(error.what());
   }
 }

@@ -28,8 +28,8 @@ struct MessageBox {
   Buttons buttons = Buttons::OK;
 };
 
-std::string_view IconName(Icon icon);          // "none", "information", ...
-std::string_view AnswerName(Answer answer);    // "OK", "Cancel", "Yes", "No"
+std::string_view IconName(Icon icon);        // "none", "information", ...
+std::string_view AnswerName(Answer answer);  // "OK", "Cancel", "Yes", "No"
 std::vector<Answer> AnswersOf(Buttons buttons);
 
 // Whoever watches what the windows do: a front end, a script that writes a trace.
@@ -84,11 +84,11 @@ class Platform : public Observer {
   explicit Platform(FrontEnd& front) : front(front) {}
 
   FrontEnd& front;
-  Observer* trace = nullptr;         // told of everything, after the front end
-  std::vector<Form*> forms;          // front first
+  Observer* trace = nullptr;  // told of everything, after the front end
+  std::vector<Form*> forms;   // front first
   Timers timers;
   RandomSource random;
-  std::string CommandLine;           // a saved game's file name, or ""
+  std::string CommandLine;  // a saved game's file name, or ""
   // Told of a failure that no handler caught, with its description.
   std::function<void(const std::string&)> OnFailure;
 

@@ -49,12 +49,16 @@ std::string WhyNot(const Form& form) {
 std::string WhyNot(const Control& control) {
   if (std::string why = WhyNot(control.form); !why.empty()) return why;
   switch (control.kind) {
-    case Control::Kind::Form: return "";
-    case Control::Kind::Menu: return WhyNotMenu(control);
+    case Control::Kind::Form:
+      return "";
+    case Control::Kind::Menu:
+      return WhyNotMenu(control);
     case Control::Kind::Timer:
     case Control::Kind::Panel:
-    case Control::Kind::Shape: return control.FullName() + " takes no part in what a player does";
-    default: return WhyNotVisual(control);
+    case Control::Kind::Shape:
+      return control.FullName() + " takes no part in what a player does";
+    default:
+      return WhyNotVisual(control);
   }
 }
 
@@ -67,7 +71,9 @@ void Click(Control& control) {
       case Control::Kind::TextBox:
       case Control::Kind::DriveListBox:
       case Control::Kind::DirListBox:
-      case Control::Kind::FileListBox: visual.SetFocus(); break;
+      case Control::Kind::FileListBox:
+        visual.SetFocus();
+        break;
       case Control::Kind::CheckBox:
         visual.SetFocus();
         Toggle(static_cast<CheckBox&>(control));
@@ -76,7 +82,8 @@ void Click(Control& control) {
         visual.SetFocus();
         Choose(static_cast<OptionButton&>(control));
         break;
-      default: break;
+      default:
+        break;
     }
     if (const auto handler = visual.OnClick) handler();
   });
@@ -120,7 +127,8 @@ void Press(Form& form, Key key) {
   for (Control* control : form.Controls()) {
     if (control->kind != Control::Kind::CommandButton) continue;
     const auto& button = static_cast<const CommandButton&>(*control);
-    if ((key == Key::Return ? button.Default : button.Cancel) && WhyNot(button).empty()) return Click(*control);
+    if ((key == Key::Return ? button.Default : button.Cancel) && WhyNot(button).empty())
+      return Click(*control);
   }
 }
 

@@ -1,4 +1,5 @@
-// Where chance comes from: a generator that is stirred with the clock, and results that a script has laid ready.
+// Where chance comes from: a generator that is stirred with the clock, and results that a script has laid
+// ready.
 #pragma once
 
 #include <cstddef>

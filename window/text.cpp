@@ -16,7 +16,8 @@ double Val(std::string_view text) {
   const size_t digit = text.find_first_not_of("-.");
   if (digit == std::string_view::npos || text[digit] < '0' || text[digit] > '9') return 0;
   double value = 0;
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+  const auto result =
+      std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
   if (result.ec == std::errc::result_out_of_range) return text[0] == '-' ? -HUGE_VAL : HUGE_VAL;
   return value;
 }

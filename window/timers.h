@@ -17,8 +17,8 @@ class Timers {
 
   // When the next tick is due; nothing if no timer can tick.
   std::optional<Milliseconds> NextDue() const;
-  // The timer whose tick was due first, at `now` or before; ties go to the timer made first. Null if there is none.
-  // Its next tick is at the next multiple of its interval after `now`.
+  // The timer whose tick was due first, at `now` or before; ties go to the timer made first. Null if there is
+  // none. Its next tick is at the next multiple of its interval after `now`.
   Timer* TakeDue(Milliseconds now);
   // All timers with a tick waiting at `now`, in the order in which they would be taken.
   std::vector<Timer*> Waiting(Milliseconds now) const;

@@ -73,14 +73,15 @@ void ConsoleFrontEnd::Advance(int milliseconds) {
 
 DateTime ConsoleFrontEnd::Now() {
   using namespace std::chrono;
-  const sys_days day = year_month_day{year{options_.start.year}, month(options_.start.month), std::chrono::day(options_.start.day)};
+  const sys_days day = year_month_day{year{options_.start.year}, month(options_.start.month),
+                                      std::chrono::day(options_.start.day)};
   const sys_seconds moment = day + hours(options_.start.hour) + minutes(options_.start.minute) +
                              seconds(options_.start.second) + floor<seconds>(milliseconds(now_));
   const sys_days today = floor<days>(moment);
   const year_month_day date(today);
   const hh_mm_ss clock(moment - today);
-  return {int(date.year()), int(unsigned(date.month())), int(unsigned(date.day())), int(clock.hours().count()),
-          int(clock.minutes().count()), int(clock.seconds().count())};
+  return {int(date.year()),           int(unsigned(date.month())),  int(unsigned(date.day())),
+          int(clock.hours().count()), int(clock.minutes().count()), int(clock.seconds().count())};
 }
 
 Extent ConsoleFrontEnd::TextExtent(const Label& label) {

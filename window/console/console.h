@@ -7,8 +7,8 @@
 #include "window/script/script.h"
 
 struct ConsoleOptions {
-  DateTime start{2000, 1, 1, 12, 0, 0};       // the time of day at virtual time 0
-  Extent screen{1024 * 15, 768 * 15};         // twips
+  DateTime start{2000, 1, 1, 12, 0, 0};  // the time of day at virtual time 0
+  Extent screen{1024 * 15, 768 * 15};    // twips
 };
 
 class ConsoleFrontEnd : public FrontEnd, private Hands {

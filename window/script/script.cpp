@@ -188,7 +188,8 @@ constexpr int kLargestTwips = 16383 * 15;
 
 }  // namespace
 
-Script::Script(Platform& platform, Hands& hands, std::ostream& out) : platform_(platform), hands_(hands), out_(out) {}
+Script::Script(Platform& platform, Hands& hands, std::ostream& out)
+    : platform_(platform), hands_(hands), out_(out) {}
 
 void Script::Execute(const std::string& line) {
   std::string rest(Trim(line));
@@ -247,7 +248,8 @@ std::string Script::Run(const std::string& verb, const std::string& arguments) {
     const int width = Number(TakeWord(rest), 1, kLargestTwips);
     const int height = Number(rest, 1, kLargestTwips);
     if (!form.Sizable) throw Refusal(std::string(form.name) + " has a fixed size");
-    if (form.WindowState != window_state::kNormal) throw Refusal(std::string(form.name) + " isn't in its normal state");
+    if (form.WindowState != window_state::kNormal)
+      throw Refusal(std::string(form.name) + " isn't in its normal state");
     hands_.Resize(form, width, height);
   } else if (verb == "state") {
     Form& form = FindWindow(platform_, TakeWord(rest));
@@ -307,8 +309,8 @@ void Script::SurfaceDrawn(PictureBox& surface, const Stroke& stroke) {
 void Script::BoxShown(const MessageBox& box) {
   json buttons = json::array();
   for (Answer answer : AnswersOf(box.buttons)) buttons.push_back(std::string(AnswerName(answer)));
-  Say("msgbox {\"text\":" + Quoted(box.text) + ",\"title\":" + Quoted(box.title) + ",\"icon\":" +
-      Quoted(std::string(IconName(box.icon))) + ",\"buttons\":" + buttons.dump() + "}");
+  Say("msgbox {\"text\":" + Quoted(box.text) + ",\"title\":" + Quoted(box.title) +
+      ",\"icon\":" + Quoted(std::string(IconName(box.icon))) + ",\"buttons\":" + buttons.dump() + "}");
 }
 
 void Script::Slept(int milliseconds) {

@@ -1,4 +1,5 @@
-// Drives the suite by lines: reads commands, has them carried out, writes what happened. Both front ends use it.
+// Drives the suite by lines: reads commands, has them carried out, writes what happened. Both front ends use
+// it.
 #pragma once
 
 #include <iosfwd>
@@ -32,9 +33,9 @@ class Script : public Observer {
 
   // Carries out one line, except for the answer "ok". Empty lines and comments are skipped.
   void Execute(const std::string& line);
-  // Answers "ok" to the command under way, if it still waits for its answer. To be called when the suite has started,
-  // when a handler begins to wait for the player, and after `Execute`; only a command that ended the wait that it was
-  // given in is answered further out, when the handler that waited has ended or waits again.
+  // Answers "ok" to the command under way, if it still waits for its answer. To be called when the suite has
+  // started, when a handler begins to wait for the player, and after `Execute`; only a command that ended the
+  // wait that it was given in is answered further out, when the handler that waited has ended or waits again.
   void AnswerNow();
   // Whether `quit` was asked.
   bool Quit() const { return quit_; }

@@ -1,0 +1,79 @@
+#include "suite/common.h"
+
+#include <cmath>
+#include <cstdio>
+
+modCommon::modCommon(Platform& platform, std::filesystem::path folder)
+    : platform(platform), files(std::move(folder)), AppTitle(kSuiteTitle) {}
+
+void modCommon::TellWhatCantBeKept() {
+  if (!files.TakeRefusal()) return;
+  MsgBox("Settings and high scores can't be kept, since the folder " + files.Folder().string() +
+             " can't be written.\n\nYou may play on; they last until you close the program.",
+         Icon::Exclamation);
+}
+
+int modCommon::RandomInteger(int lower, int upper) {
+  int foreseen = 0;
+  if (platform.random.TakeForeseen(lower, upper, foreseen)) return foreseen;
+  platform.random.Reseed();
+  return static_cast<int>(std::floor((upper - lower + 1) * platform.random.Next() + lower));
+}
+
+bool modCommon::CreateStandardDeck() {
+  try {
+    Deck = StandardDeck();
+    return true;
+  } catch (const RuntimeError&) {
+    MsgBox("Unable to create the deck.");
+    return false;
+  }
+}
+
+bool modCommon::ShuffleDeck() {
+  try {
+    Shuffle(Deck, [this](int lower, int upper) { return RandomInteger(lower, upper); });
+    return true;
+  } catch (const RuntimeError&) {
+    MsgBox("Unable to shuffle the deck.", Icon::Critical);
+    return false;
+  }
+}
+
+void modCommon::PlayWaveFile(const std::string& path) { platform.sndPlaySound(path); }
+
+void modCommon::StartMusic() {
+  platform.mciSendString("open \"\\Quillmark.MID\" type sequencer alias HarbekMidi");
+  platform.mciSendString("play HarbekMidi");
+}
+
+void modCommon::StopMusic() { platform.mciSendString("close HarbekMidi"); }
+
+void modCommon::OpenWebPage(const std::string& url) {
+  const std::string browser = platform.front.FindBrowser();
+  if (browser.empty()) {
+    MsgBox("Unable to find default web Browser", Icon::Exclamation);
+  } else if (!platform.ShellExecute(browser, url)) {
+    MsgBox("Unable to open web page '" + url + "'.", Icon::Exclamation);
+  }
+}
+
+Answer modCommon::MsgBox(const std::string& text, Icon icon, Buttons buttons) {
+  return platform.MsgBox(text, AppTitle, icon, buttons);
+}
+
+bool modCommon::Ask(const std::string& question) {
+  return MsgBox(question, Icon::Question, Buttons::YesNo) == Answer::Yes;
+}
+
+int modCommon::MinutesPlayed() {
+  return static_cast<int>((platform.front.Milliseconds() - GameStartTime) / 60000);
+}
+
+std::string modCommon::TimeOfDay() {
+  const DateTime now = platform.Now();
+  char text[16];
+  std::snprintf(text, sizeof text, "%d:%02d %s", (now.hour + 11) % 12 + 1, now.minute,
+                now.hour < 12 ? "AM" : "PM");
+  return text;
+}

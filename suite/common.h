@@ -1,0 +1,76 @@
+// What all windows of one running suite share: the variables and the plain routines.
+#pragma once
+
+#include <string>
+
+#include "suite/cards.h"
+#include "suite/catalogue.h"
+#include "window/files.h"
+#include "window/number.h"
+#include "window/platform.h"
+
+class GameWindow;
+
+// The state of the time dial between two drawings.
+struct TimeDial {
+  Integer DialCenterX, DialCenterY;  // twips on the surface
+  double DialRadius = 0;
+  int DialFirstColor = 65280, DialSecondColor = 65535, DialLastColor = 0xFFFFFF, DialLineColor = 0xC0C0C0;
+};
+
+class modCommon {
+ public:
+  // `folder` is `AppPath`.
+  modCommon(Platform& platform, std::filesystem::path folder);
+
+  Platform& platform;
+  Files files;
+  ImageList ImageList2;
+  CardCodes Deck;
+  TimeDial dial;
+
+  std::string AppTitle;                            // of the game that is open
+  std::string PlayerName;                          // as entered last
+  Integer TimeLimit, ElapsedSeconds, DialSeconds;  // seconds
+  Long CurrentScore, PreviousScore, TimeBonus;
+  Integer DeckDesign = 1;
+  bool TakingScore = false, GameInProgress = false, PlaySounds = true, PlayMusic = false,
+       CountDownScore = true, CustomScoringInUse = false;
+  long long GameStartTime = 0;  // on the platform's clock, milliseconds
+
+  Form* selector = nullptr;      // shown again when a game window goes
+  GameWindow* window = nullptr;  // the game window that is loaded
+
+  // A whole number from `lower` to `upper`, both included.
+  int RandomInteger(int lower, int upper);
+  // Each tells a failure to the player and returns false.
+  bool CreateStandardDeck();
+  bool ShuffleDeck();
+
+  // Plays a wave, named "\Name.wav", and doesn't wait. The caller looks at `PlaySounds`.
+  void PlayWaveFile(const std::string& path);
+  void StartMusic();
+  void StopMusic();
+
+  void OpenWebPage(const std::string& url);
+
+  // A message box with the title `AppTitle`.
+  Answer MsgBox(const std::string& text, Icon icon = Icon::None, Buttons buttons = Buttons::OK);
+  // Asks Yes or No with the question icon; true for Yes.
+  bool Ask(const std::string& question);
+
+  // Says once, after the disk has refused a file, that nothing is kept.
+  void TellWhatCantBeKept();
+
+  // Whole minutes since the game window was loaded.
+  int MinutesPlayed();
+  // "h:mm AMPM"
+  std::string TimeOfDay();
+};
+
+inline constexpr char kSuiteTitle[] = "Quillmark's Card Haven";
+
+// Colours as blue, green, red.
+inline constexpr int kRed = 255, kBlack = 0, kBlue = 0xFF0000, kCyan = 0xFFFF00;
+// Mouse pointers.
+inline constexpr int kDefaultPointer = 0, kHourglass = 11, kCustomPointer = 99;

@@ -1,0 +1,22 @@
+// The two devices that show how a round pays: the round dial, and the counters that add a bonus to the score.
+#pragma once
+
+#include <string>
+
+class GameWindow;
+
+// Measures the window's `Surface`, and shows the dial of a round that begins.
+void InitTimeDial(GameWindow& window);
+
+// Draws a pie that has grown clockwise from the top to `angle` degrees, 0 to 360; others draw no pie. In the
+// last quarter the colour flips at each call and `Timer2` runs.
+void DrawTimeDial(long long angle, GameWindow& window);
+
+// The angle of the dial after that many seconds of the round.
+long long DialAngle(const GameWindow& window, long long seconds);
+
+// Pays `bonusPerSecond` for each second that is left, under "Speed Bonus!".
+void CountTimeBonus(GameWindow& window, long long bonusPerSecond);
+
+// Pays `count` times `value` under the title and a "!".
+void AwardBonus(GameWindow& window, const std::string& title, long long count, long long value);

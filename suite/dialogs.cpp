@@ -1,0 +1,163 @@
+#include "suite/dialogs.h"
+
+#include "suite/high_scores.h"
+#include "window/text.h"
+
+namespace {
+
+void CenterAcross(Visual& control) { control.Left = (control.form.Width - control.Width) / 2; }
+
+constexpr Design kHighScoresDesign[] = {
+    {"lblHiScoreInfo", 300, 4350, 4500, 480},
+    {"cmdDone", 1080, 4980, 1320, 420, "&Done"},
+    {"cmdClear", 2700, 4980, 1320, 420, "&Clear"},
+};
+
+constexpr Design kHiScoreNameDesign[] = {
+    {"lblInfo", 300, 240, 4800, 600},
+    {"lblPlayerName", 300, 960, 4800, 360, ""},
+    {"cmdOK", 2040, 1530, 1320, 420, "&OK"},
+};
+
+constexpr Design kRulesDesign[] = {
+    {"lblRules", 180, 180, 7140, 5400},
+    {"cmdOK", 3090, 5760, 1320, 420, "&OK"},
+};
+
+constexpr Design kAboutDesign[] = {
+    {"lblInfo", 300, 300, 4200, 1080},
+    {"lblStats", 300, 1500, 4200, 720},
+    {"cmdCoolDude", 1680, 2400, 1440, 420, "&Cool Dude"},
+};
+
+// What a name may not hold, since the table keeps one entry a line.
+std::string OnOneLine(std::string text) {
+  for (char& letter : text)
+    if (static_cast<unsigned char>(letter) < ' ') letter = ' ';
+  constexpr size_t kLongestName = 100;
+  if (text.size() > kLongestName) {
+    size_t end = kLongestName;
+    while (end > 0 && (text[end] & 0xC0) == 0x80) --end;  // not within a letter
+    text.resize(end);
+  }
+  return text;
+}
+
+}  // namespace
+
+frmHighScores::frmHighScores(modCommon& common, GameWindow& game)
+    : Form(common.platform, "frmHighScores"), common_(common), game_(game) {
+  Form::Move(0, 0, 5100, 5640);
+  ApplyDesign(*this, kHighScoresDesign);
+  for (int i = 0; i < ScoreList.size(); ++i) {
+    const bool isName = i % 2 == 0;
+    ScoreList(i).Visual::Move(isName ? 360 : 3060, 240 + i / 2 * 405, isName ? 2640 : 1680, 300);
+    ScoreList(i).FontSize = 10;
+    ScoreList(i).FontBold = true;
+    if (!isName) {
+      ScoreList(i).Alignment = 1;
+      ScoreList(i).ForeColor = kBlue;
+    }
+  }
+  lblHiScoreInfo.Alignment = 2;
+  cmdDone.Default = cmdDone.Cancel = true;
+  cmdDone.OnClick = [this] { Unload(); };
+  cmdClear.OnClick = [this] {
+    if (!common_.Ask("This will clear all High Scores. Are You Sure?")) return;
+    CreateHighScoreFile(game_.plan.tableName, game_, game_.plan.defaultScore);
+    ReadHighScoreTable();
+    ShowHighScore(game_.plan.tableName, game_, game_.plan.defaultScore);
+  };
+}
+
+void frmHighScores::Form_Load() {
+  CenterOnScreen();
+  Caption = common_.AppTitle + " Hall of Fame (" + std::to_string(common_.TimeLimit) + " secs)";
+  ReadHighScoreTable();
+  lblHiScoreInfo.Caption = game_.HighScoreInfo();
+  CenterAcross(lblHiScoreInfo);
+}
+
+void frmHighScores::ReadHighScoreTable() {
+  HighScores scores;
+  {
+    const Files::Lock lock(common_.files);
+    scores = ReadHighScores(game_, game_.plan.tableName, game_.plan.defaultScore);
+  }
+  for (size_t place = 0; place < kTablePlaces; ++place) {
+    const bool taken = place < scores.size();
+    ScoreList(2 * place).Caption = taken ? scores[place].name : "";
+    ScoreList(2 * place + 1).Caption = taken ? FormatNumber(scores[place].score) : "";
+  }
+}
+
+frmHiScoreName::frmHiScoreName(modCommon& common) : Form(common.platform, "frmHiScoreName"), common_(common) {
+  Form::Move(0, 0, 5400, 2160);
+  ApplyDesign(*this, kHiScoreNameDesign);
+  cmdOK.Default = true;
+  cmdOK.OnClick = [this] {
+    if (lblPlayerName.Text.get().find(',') != std::string::npos) {
+      common_.MsgBox("Sorry, you may not use commas in your name.", Icon::Critical);
+      return;
+    }
+    if (!lblPlayerName.Text.get().empty()) common_.PlayerName = OnOneLine(lblPlayerName.Text);
+    Unload();
+  };
+}
+
+void frmHiScoreName::Form_Load() {
+  common_.PlayerName = "Unknown User";  // stays so when the window is closed by its box
+  CenterOnScreen();
+  Caption = common_.AppTitle;
+  lblInfo.Caption = "Great score! Please enter your name so we can induct you into the " + common_.AppTitle +
+                    " Hall of Fame:";
+  lblPlayerName.SetFocus();
+}
+
+frmRules::frmRules(modCommon& common, const GameWindow& game)
+    : Form(common.platform, "frmRules"), common_(common), game_(game) {
+  Form::Move(0, 0, 7500, 6360);
+  ApplyDesign(*this, kRulesDesign);
+  lblRules.MultiLine = true;
+  lblRules.Locked = true;
+  cmdOK.Default = cmdOK.Cancel = true;
+  cmdOK.OnClick = [this] { Unload(); };
+}
+
+void frmRules::Form_Load() {
+  const std::string lineBreak = "\r\n";
+  CenterOnScreen();
+  Caption = common_.AppTitle + " Rules, Notes and Strategy";
+  CenterAcross(cmdOK);
+  cmdOK.SetFocus();
+  const RulesPage page = game_.Rules();
+  std::string text = lineBreak + std::string(page.blanks, ' ') + common_.AppTitle +
+                     " Rules, Notes and Strategy" + lineBreak + lineBreak;
+  for (size_t i = 0; i < page.paragraphs.size(); ++i) {
+    if (i > 0) text += lineBreak + lineBreak;
+    text += page.paragraphs[i];
+  }
+  lblRules.Text = text;
+}
+
+frmAbout::frmAbout(modCommon& common) : Form(common.platform, "frmAbout"), common_(common) {
+  Form::Move(0, 0, 4800, 3000);
+  ApplyDesign(*this, kAboutDesign);
+  lblInfo.Alignment = 2;
+  lblStats.Alignment = 2;
+  cmdCoolDude.Default = cmdCoolDude.Cancel = true;
+  cmdCoolDude.OnClick = [this] { Unload(); };
+}
+
+void frmAbout::Form_Load() {
+  CenterOnScreen();
+  Caption = "About " + common_.AppTitle;
+  lblInfo.Caption =
+      "These games are distributed and supported by Quillmark. Please direct questions, comments, bugs and "
+      "suggestions to: support@quillmark.example";
+  lblStats.Caption = "This session has lasted " + std::to_string(common_.MinutesPlayed()) + " minutes." +
+                     "Thanks for playing!";
+  CenterAcross(cmdCoolDude);
+  CenterAcross(lblInfo);
+  CenterAcross(lblStats);
+}

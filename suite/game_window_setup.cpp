@@ -1,0 +1,143 @@
+// How a game window is put together: designs, captions, and which event runs what.
+#include "suite/dial.h"
+#include "suite/dialogs.h"
+#include "suite/game_window.h"
+
+namespace {
+
+constexpr Design kSplashDesign[] = {
+    {"frmSplash", 1620, 1560, 6300, 2850},
+    {"imgSplashImage", 0, 0, 1065, 1440},
+    {"lblCompanyProduct", 2600, 330, 3550, 330},
+    {"lblProductName", 2600, 780, 3550, 780},
+    {"lblPlatform", 2600, 1830, 3550, 270, "Windows 95/98/NT"},
+    {"lblVersion", 2600, 2160, 3550, 270},
+};
+
+constexpr Design kButtonDesign[] = {
+    {"cmdPlay", 8220, 90, 1200, 420, "&Play", "Starts a new game"},
+    {"cmdPause", 8220, 1110, 1200, 420, "Pau&se", "Pauses the current game"},
+    {"StatusBar1", 0, 6840, 9540, 360},
+};
+
+void SetLettering(Label& label, int size, bool bold) {
+  label.FontSize = size;
+  label.FontBold = bold;
+}
+
+void SetEntry(Menu& entry, const char* caption, int rank) {
+  entry.Caption = caption;
+  entry.rank = rank;
+}
+
+}  // namespace
+
+void GameWindow::SetUpControls() {
+  ApplyDesign(*this, kSplashDesign);
+  ApplyDesign(*this, kButtonDesign);
+  for (int i = 0; i < imgSplashImage.size(); ++i) {
+    imgSplashImage(i).Left = 240 + 390 * i;
+    imgSplashImage(i).Top = 300 + 270 * i;
+    imgSplashImage(i).Picture = kFirstFace + 13 * i;
+    imgSplashImage(i).BorderStyle = 1;
+  }
+  frmSplash.Panel = true;
+  SetLettering(lblCompanyProduct, 10, true);
+  SetLettering(lblProductName, 26, true);
+  SetLettering(lblPlatform, 9, false);
+  SetLettering(lblVersion, 9, false);
+  for (Label* label : {&lblCompanyProduct, &lblProductName, &lblPlatform, &lblVersion}) label->Alignment = 2;
+  lblProductName.ForeColor = kBlue;
+
+  cmdTakeScore.Caption = "&Take Score";
+  cmdTakeScore.Move(8220, 600, 1200, 420);
+  cmdExit.Caption = "E&xit";
+  cmdExit.ToolTipText = "Exits the game";
+  cmdExit.Move(8220, 1620, 1200, 420);
+  cmdTakeScore.Enabled = false;
+  cmdPause.Enabled = false;
+
+  for (Label* label : {&lblMessage, &lblScoring, &lblCurrentScore, &lblCurrentRound}) label->AutoSize = true;
+  SetLettering(lblMessage, 20, true);
+  SetLettering(lblScoring, 20, true);
+  SetLettering(lblCurrentScore, 12, true);
+  SetLettering(lblCurrentRound, 12, true);
+  lblCurrentScore.ForeColor = kBlue;
+  lblCurrentRound.ForeColor = kBlue;
+  lblMessage.ForeColor = kRed;
+  lblMessage.Visible = false;
+  lblScoring.Visible = false;
+  for (Shape* box : {&TimerRectangle, &ScoreRectangle, &RoundRectangle}) box->Sunken = true;
+
+  Timer1.Interval = 1000;
+  Timer2.Interval = 200;
+  ClockTimer.Interval = 60000;
+  ClockTimer.Enabled = true;
+  Timer4.Interval = plan.splashInterval;
+}
+
+void GameWindow::SetUpMenus() {
+  SetEntry(mnuFile, plan.fileCaption, 10);
+  SetEntry(mnuPlay, "&Play", 10);
+  SetEntry(mnuTakeScore, "&Take Score", 20);
+  SetEntry(mnuPause, "Pau&se", 30);
+  SetEntry(mnuFileLine, "-", 80);
+  SetEntry(mnuExit, "E&xit", 90);
+  mnuTakeScore.Enabled = false;
+  mnuPause.Enabled = false;
+
+  SetEntry(mnuOptions, "&Options", 20);
+  SetEntry(mnuView, "&View High Scores...", 10);
+  SetEntry(mnuClear, plan.clearCaption, 20);
+  SetEntry(mnuOptionsLine, "-", 30);
+  SetEntry(mnuMusic, "Play &Music (plays during game)", 40);
+  SetEntry(mnuSounds, "&Play Sounds", 45);
+  SetEntry(mnuCustom, plan.customCaption, 60);
+  SetEntry(mnuTime, "&Time Limit", 70);
+  mnuSounds.Checked = true;
+  for (const TimeLimitEntry& limit : plan.limits) {
+    auto entry = std::make_unique<Menu>(mnuTime, limit.menu);
+    entry->Caption = limit.caption;
+    entry->Checked = limit.seconds == plan.timeLimit;
+    entry->OnClick = [this, seconds = limit.seconds] { ChooseTimeLimit(seconds); };
+    timeLimitEntries.push_back(std::move(entry));
+  }
+
+  SetEntry(mnuDeck, "Dec&k", 90);
+  for (int number = 1; number <= 4; ++number) {
+    const BackDesign& design = plan.designs[number - 1];
+    Menu& entry = static_cast<Menu&>(*find(design.menu));
+    entry.Caption = design.caption;
+    entry.OnClick = [this, number] { ChooseDeck(number); };
+  }
+
+  SetEntry(mnuHelp, "&Help", 30);
+  SetEntry(mnuRules, "&Rules...", 10);
+  SetEntry(mnuAbout, "&About...", 20);
+}
+
+void GameWindow::BindEvents() {
+  Timer1.OnTimer = [this] { Timer1_Timer(); };
+  Timer2.OnTimer = [this] { DrawTimeDial(DialAngle(*this, common.DialSeconds), *this); };
+  ClockTimer.OnTimer = [this] { StatusBar1.Panels(3).Text = common.TimeOfDay(); };
+  Timer4.OnTimer = [this] { Timer4_Timer(); };
+
+  cmdPlay.OnClick = [this] { cmdPlay_Click(); };
+  mnuPlay.OnClick = [this] { mnuPlay_Click(); };
+  cmdTakeScore.OnClick = [this] { cmdTakeScore_Click(); };
+  mnuTakeScore.OnClick = [this] { mnuTakeScore_Click(); };
+  cmdPause.OnClick = mnuPause.OnClick = [this] { Pause(); };
+  cmdExit.OnClick = mnuExit.OnClick = [this] { Unload(); };
+
+  mnuView.OnClick = [this] { PauseAround([this] { frmHighScores(common, *this).Show(true); }); };
+  mnuRules.OnClick = [this] { PauseAround([this] { frmRules(common, *this).Show(true); }); };
+  mnuAbout.OnClick = [this] { PauseAround([this] { frmAbout(common).Show(true); }); };
+  mnuClear.OnClick = [this] { ClearHighScores(); };
+  mnuMusic.OnClick = [this] { ToggleMusic(); };
+  mnuSounds.OnClick = [this] { ToggleSounds(); };
+  mnuCustom.OnClick = [this] { ShowCustomScoring(); };
+
+  lblMessage.OnChange = [this] { PlaceMessage(); };
+  lblCurrentScore.OnChange = [this] { CenterIn(lblCurrentScore, ScoreRectangle); };
+  lblCurrentRound.OnChange = [this] { CenterIn(lblCurrentRound, RoundRectangle); };
+}

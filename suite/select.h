@@ -1,0 +1,41 @@
+// The selector: the window that the suite begins with, a button a game.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "suite/common.h"
+#include "suite/game_window.h"
+
+// A game of the suite. One that isn't built yet has no `create`.
+struct GameEntry {
+  const char* button;   // "cmdSumfall"
+  const char* caption;  // "&Sumfall!"
+  const char* title;    // `AppTitle`
+  std::function<std::unique_ptr<GameWindow>(modCommon&)> create;
+};
+
+class frmSelect : public Form {
+ public:
+  frmSelect(modCommon& common, const std::vector<GameEntry>& games);
+  void Form_Load() override;
+  void Form_Unload() override;
+
+  Frame frmGameChoice{*this, "frmGameChoice"};
+  ControlArray<Image, 8> imgSplashImage{frmGameChoice, "imgSplashImage"};
+  std::vector<std::unique_ptr<CommandButton>> gameButtons;
+  CommandButton cmdLaunchBrowser{*this, "cmdLaunchBrowser"}, cmdClose{*this, "cmdClose"};
+  Label lblCopyRight{*this, "lblCopyRight"};
+  Timer Timer1{*this, "Timer1"};
+
+ private:
+  void Open(const GameEntry& game);
+  void Timer1_Timer();
+
+  modCommon& common_;
+  const std::vector<GameEntry>& games_;
+  std::unique_ptr<GameWindow> window_;  // the game window opened last
+  int SplashPosition_ = 0, SplashBackIndex_ = 0;
+  bool SplashForward_ = false, SplashShowBack_ = false;
+};
