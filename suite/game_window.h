@@ -20,8 +20,8 @@ struct TimeLimitEntry {
 
 // What tells one game from another without any code. Names of controls that the game doesn't have are "".
 struct GamePlan {
-  const char* window;        // "frmSumfall"
-  const char* settingsFile;  // "\\Sumfall.Ini"
+  const char* window;        // the form's name
+  const char* settingsFile;  // "\\Name.Ini"
   const char* tableName;     // of its high score tables
   const char* defaultScore;  // in a fresh table
   int width, height;         // smallest size, twips; written for a maximised window

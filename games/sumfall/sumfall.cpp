@@ -13,6 +13,7 @@ bool frmSumfall::CreateSumfallDeck() {
   try {
     const int goal = static_cast<int>(CardGoal);
     common.Deck = DeckForGoal(goal);
+    DeckGoal = goal;
     for (CardCodes* deck : {&Round1Deck, &Round2Deck, &Round3Deck}) deck->assign(common.Deck.size(), "");
     StockCards.assign(DeckSize(goal) - kPlaces + 1, "");
     return true;
@@ -537,6 +538,8 @@ SavedGame frmSumfall::LastGame(const std::string& userName) const {
   const CardCodes* decks[] = {&Round1Deck, &Round2Deck, &Round3Deck};
   for (int round = 0; round < 3; ++round) game.decks[round] = *decks[round];
   if (Round1Deck.empty()) game.decks[0].assign(DeckSize(game.cardGoal) + 1, "");
+  // A goal that was changed since must not ask for more cards, or fewer, than the file will hold.
+  if (UpperBound(game.decks[0]) != DeckSize(game.cardGoal)) game.cardGoal = DeckGoal;
   return game;
 }
 
@@ -555,6 +558,7 @@ bool frmSumfall::LoadSavedGame(const std::filesystem::path& path) {
   ChooseGoal(game.cardGoal);
   StockCards.assign(DeckSize(game.cardGoal) - kPlaces + 1, "");
   common.Deck.assign(DeckSize(game.cardGoal) + 1, "");
+  DeckGoal = game.cardGoal;
   for (int round = 0; round < 3; ++round) RoundDeck(round + 1) = game.decks[round];
 
   const std::string limit = std::to_string(game.timeLimit);

@@ -35,6 +35,7 @@ class frmSumfall : public GameWindow {
   std::array<std::string, modSumfall::kUpCards> UpCards;  // index 0 stays empty
   std::vector<std::string> StockCards;
   Integer UpCardIndex, StockIndex, CardGoal, CurrentTotal, CurrentRound, SelectionColorIndex;
+  int DeckGoal = modSumfall::kDefaultGoal;  // the card goal that the decks were made for
   Long CombinationCount;
   Long BonusRoundScore, CompletionBonus, CombinationBonus;
   bool CountDownScore = true;  // of this game alone
