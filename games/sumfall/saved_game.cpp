@@ -11,6 +11,9 @@ namespace {
 
 constexpr const char* kDeckSections[3] = {"[Round 1 Deck]", "[Round 2 Deck]", "[Round 3 Deck]"};
 
+// No game was ever played with a longer one, and counting up its seconds would take minutes.
+constexpr int kLongestTimeLimit = 600;
+
 [[noreturn]] void RaiseDamaged() { throw RuntimeError("Bad file format"); }
 
 // Takes field after field of a text: commas end a field as line ends do.
@@ -69,8 +72,8 @@ SavedGame ParseSavedGame(std::string_view text) {
   while (!fields.AtEnd()) {
     const std::string_view section = fields.Take();
     if (section == "[Time Limit]") {
-      game.timeLimit = Integer(fields.TakeNumber());
-      if (game.timeLimit < 1) RaiseDamaged();
+      game.timeLimit = fields.TakeNumber();
+      if (game.timeLimit < 1 || game.timeLimit > kLongestTimeLimit) RaiseDamaged();
     } else if (section == "[UserName]") {
       game.userName = fields.Take();
     } else if (section == "[Score]") {

@@ -505,7 +505,8 @@ void frmSumfall::ReplayOrTakeScore(bool fromButton) {
     cmdPlay_Click();
   } else if (!common.TakingScore) {
     TakeScore();
-    if (fromButton && common.PlayMusic && common.GameInProgress) common.StartMusic();
+    // The bonus round has started its music by itself.
+    if (fromButton && common.PlayMusic && common.GameInProgress && CurrentRound != 3) common.StartMusic();
   }
 }
 
