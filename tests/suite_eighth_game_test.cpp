@@ -1,0 +1,150 @@
+// A whole game that does nothing: what a new game has to give, and no more. It opens, starts, pauses, times
+// out, ends and closes by the frame alone.
+#include <gtest/gtest.h>
+
+#include "suite/high_scores.h"
+#include "tests/harness.h"
+
+namespace {
+
+constexpr TimeLimitEntry kLimits[] = {{5, "mnu5", "&5 seconds"}, {10, "mnu10", "&10 seconds"}};
+constexpr GamePlan kPlan{"frmEighth", "\\Eighth.Ini", "EighthHiScores", "1000", 9540, 7200, kLimits, 5};
+
+// Where the standing controls are. A real game adds its board.
+constexpr Design kDesign[] = {
+    {"lblTime", 150, 120, 1500, 255},         {"Surface", 330, 480, 1140, 1140},
+    {"ScoreRectangle", 1860, 420, 2040, 510}, {"RoundRectangle", 5640, 420, 1080, 510},
+    {"lblHighScore", 150, 6100, 2700, 255},
+};
+
+class frmEighth : public GameWindow {
+ public:
+  explicit frmEighth(modCommon& common) : GameWindow(common, kPlan) { ApplyDesign(*this, kDesign); }
+
+  void Play() override {
+    common.GameInProgress = true;
+    common.TakingScore = false;
+    common.CurrentScore = 0;
+    common.ElapsedSeconds = 0;
+    ShowScore();
+    ShowControls(true);
+    InitClock();
+  }
+  void TakeScore() override {
+    common.TakingScore = true;
+    AddToScore(1500);
+    FinishGame(plan.tableName, plan.defaultScore);
+    ShowMessage("Game Over");
+    platform.Sleep(2000);
+    lblMessage.Visible = false;
+    ShowSplash(true);
+    cmdPlay.Enabled = cmdExit.Enabled = true;
+  }
+  void EndGame() override {
+    FinishGame(plan.tableName, plan.defaultScore);
+    ShowSplash(true);
+  }
+  void GameFailed() override { EndGame(); }
+  void ShowCards(bool) override {}
+  void CoverCards(bool) override {}
+  void RefreshPlayCard() override {}
+  void RefreshFieldCards() override {}
+  void ShowCustomScoring() override {}
+  RulesPage Rules() const override { return {30, {"There are none.", "Good luck and have fun!"}}; }
+  void WriteSettings(SettingsWriter& writer) const override {
+    writer.Add(plan.timeSection, common.TimeLimit);
+    WriteWindowSettings(writer);
+  }
+
+ private:
+  void InitClock() {
+    cmdPause.Enabled = cmdTakeScore.Enabled = true;
+    Timer1.Enabled = true;
+  }
+};
+
+std::string RunEighth(const TestFolder& folder, const std::string& commands) {
+  std::istringstream in(commands);
+  std::ostringstream out;
+  ConsoleFrontEnd console({}, in, out);
+  console.platform.random.Seed(8);
+  Suite suite(console.platform, {folder.Path()}, {{"cmdEighth", "&Eighth", "Eighth!", [](modCommon& common) {
+                                                     return std::make_unique<frmEighth>(common);
+                                                   }}});
+  suite.Start();
+  console.Run();
+  return out.str();
+}
+
+}  // namespace
+
+TEST(EighthGame, IsPlayedByTheFrameAlone) {
+  TestFolder folder;
+  EXPECT_EQ(RunEighth(folder, R"(click frmSelect.cmdEighth
+get frmEighth.lblHighScore.Caption
+click frmEighth.mnu10
+click frmEighth.cmdPlay
+advance 3000
+click frmEighth.cmdPause
+advance 60000
+get frmEighth.lblTime.Caption
+get frmEighth.lblMessage.Caption
+click frmEighth.cmdPause
+click frmEighth.mnuRules
+click frmRules.cmdOK
+advance 7000
+type frmHiScoreName.lblPlayerName "Eve"
+click frmHiScoreName.cmdOK
+get frmHighScores.ScoreList(0).Caption
+click frmHighScores.cmdDone
+get frmEighth.frmSplash.Visible
+get frmEighth.cmdPlay.Caption
+close frmEighth
+answer "Yes"
+close frmSelect
+)"),
+            R"(* load frmSelect
+* show frmSelect
+ok
+* load frmEighth
+* show frmEighth
+* hide frmSelect
+ok
+ok "High Score: 1,000"
+ok
+ok
+ok
+ok
+ok
+ok "Time: 7"
+ok "Game Paused"
+ok
+* load frmRules
+* show frmRules modal
+ok
+* unload frmRules
+ok
+* load frmHiScoreName
+* show frmHiScoreName modal
+ok
+ok
+* unload frmHiScoreName
+* load frmHighScores
+* show frmHighScores modal
+ok
+ok "Eve"
+* unload frmHighScores
+ok
+ok true
+ok "&Play"
+* msgbox {"text":"Giving up so soon?","title":"Eighth!","icon":"question","buttons":["Yes","No"]}
+ok
+* show frmSelect
+* unload frmEighth
+ok
+* unload frmSelect
+* end
+)");
+  EXPECT_EQ(folder.Read("EighthHiScores10.Txt").substr(0, 11), "Eve, 1500\r\n");
+  EXPECT_EQ(folder.Read("Eighth.Ini").substr(0, 12), "[Time]\r\n10\r\n");
+}

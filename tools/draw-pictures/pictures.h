@@ -1,0 +1,37 @@
+// Every picture of the suite as the text of an SVG file.
+#pragma once
+
+#include <string>
+
+#include "glyphs.h"
+
+namespace pictures {
+
+/// How high the pile under a back lies.
+enum class Pile { kSingle, kHalf, kFull };
+
+/// A back design, 1 to 4, alone or on top of a pile.
+std::string DrawBack(int design, Pile pile);
+
+/// An ace or a number card, or a court card from 11 to 13.
+std::string DrawFace(Suit suit, int rank);
+
+/// Appends the figure of a court card: the panel in the middle of the face with both halves.
+void DrawCourt(std::string& out, Suit suit, int rank);
+
+/// The place of a card where no card lies.
+std::string DrawEmptyPlace();
+
+/// The wider place under a pile of which no card is left.
+std::string DrawEmptyWidePlace();
+
+/// The mouse pointer over a card that can be played.
+std::string DrawPointer();
+
+/// The title card of the game Sumfall.
+std::string DrawSumfall();
+
+/// The application's icon.
+std::string DrawIcon();
+
+}  // namespace pictures
