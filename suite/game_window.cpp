@@ -66,6 +66,7 @@ void GameWindow::Form_Load() {
   common.GameInProgress = false;
   common.TakingScore = false;
   SetDefaults();
+  for (Visual* above : std::initializer_list<Visual*>{&frmSplash, &lblMessage, &lblScoring}) above->ZOrder(0);
   Caption = common.AppTitle;
   StatusBar1.Panels(1).Text = "Welcome to " + common.AppTitle + "  ";
   StatusBar1.Panels(3).Text = common.TimeOfDay();
@@ -124,11 +125,13 @@ bool GameWindow::ApplySetting(std::string_view section, std::string_view value) 
 // A window larger than the screen couldn't be handled: it may have been kept on a larger one.
 void GameWindow::ApplySize(std::string_view section, int value) {
   if (WindowState == window_state::kMaximised) return;
+  // One that is too small is left to the resize event, which a minimised window doesn't have.
+  const bool resizes = WindowState == window_state::kNormal;
   const Extent screen = platform.ScreenExtent();
   if (section == "[Width]")
-    Width = std::clamp(value, plan.width, std::max(plan.width, screen.width));
+    Width = std::clamp(value, resizes ? 1 : plan.width, std::max(plan.width, screen.width));
   else
-    Height = std::clamp(value, plan.height, std::max(plan.height, screen.height));
+    Height = std::clamp(value, resizes ? 1 : plan.height, std::max(plan.height, screen.height));
 }
 
 void GameWindow::ApplyFlag(std::string_view value, bool& flag) {

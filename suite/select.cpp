@@ -53,7 +53,10 @@ void frmSelect::Form_Load() {
   for (size_t i = 0; i < games_.size(); ++i) gameButtons[i]->Caption = games_[i].caption;
 }
 
-void frmSelect::Form_Unload() { platform.End(); }
+void frmSelect::Form_Terminate() {
+  Discard();  // the window goes first: nothing happens any more once the program has ended
+  platform.End();
+}
 
 void frmSelect::Open(const GameEntry& game) {
   common_.AppTitle = game.title;

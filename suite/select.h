@@ -20,7 +20,7 @@ class frmSelect : public Form {
  public:
   frmSelect(modCommon& common, const std::vector<GameEntry>& games);
   void Form_Load() override;
-  void Form_Unload() override;
+  void Form_Terminate() override;
 
   Frame frmGameChoice{*this, "frmGameChoice"};
   ControlArray<Image, 8> imgSplashImage{frmGameChoice, "imgSplashImage"};

@@ -17,7 +17,7 @@
 #include <thread>
 #include <vector>
 
-#include "sound.h"
+#include "window/desktop/sound.h"
 
 namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
@@ -240,6 +240,11 @@ TEST_F(SoundTest, MusicThatIsClosedWhileItLoadsOrCannotBeReadIsSilent) {
     player.OpenMusic(Midi());
     player.PlayMusic();
     player.CloseMusic();
+    ASSERT_TRUE(WaitForFrames(6615));
+    // Nor is a wish to play the old tune one to play the new one.
+    player.OpenMusic(Midi());
+    player.PlayMusic();
+    player.OpenMusic(Midi());
     ASSERT_TRUE(WaitForFrames(11025));
     for (const fs::path& path : {Rubbish(), Missing()}) {
       player.OpenMusic(path);

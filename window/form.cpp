@@ -50,6 +50,7 @@ void Form::Unload() {
   if (cancel || !loaded_) return;
   Form_Unload();
   Discard();
+  Form_Terminate();
 }
 
 void Form::Discard() {

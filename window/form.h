@@ -60,7 +60,8 @@ class Form : public Visual {
   virtual void Form_Activate() {}
   virtual void Form_Resize() {}
   virtual void Form_QueryUnload(bool& /*cancel*/) {}
-  virtual void Form_Unload() {}
+  virtual void Form_Unload() {}     // before the form is gone
+  virtual void Form_Terminate() {}  // after it
 
   void Visit(const PropertyVisitor& visit) const override;
 

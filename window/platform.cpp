@@ -44,7 +44,9 @@ Answer Platform::MsgBox(const std::string& text, const std::string& title, Icon 
     std::vector<const MessageBox*>& boxes;
     ~Guard() { boxes.pop_back(); }
   } guard{boxes_};
-  return front.RunBox(box);
+  const Answer answer = front.RunBox(box);
+  timers.now = front.Milliseconds();  // the handler goes on at this moment
+  return answer;
 }
 
 void Platform::sndPlaySound(const std::string& path) {
@@ -105,6 +107,7 @@ void Platform::RunModal(Form& form) {
     ~Guard() { modals.pop_back(); }
   } guard{modals_};
   front.RunModal(form);
+  timers.now = front.Milliseconds();
 }
 
 Form* Platform::FindForm(std::string_view name) const {

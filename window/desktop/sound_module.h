@@ -1,0 +1,25 @@
+// What the sound module gives to its one user, the sound player. The module is loaded while the program
+// runs, so that the sound libraries cost nothing at its start.
+#pragma once
+
+extern "C" {
+
+/// Every function may take its time; none is called before `open` has succeeded or after `close`.
+struct CardHavenSoundModule {
+  /// Opens the audio device; false when there is none.
+  bool (*open)();
+  void (*close)();
+  /// Plays a wave instead of the one that plays; false, and nothing changes, when it can't be read.
+  bool (*play_wave)(const char* path);
+  /// Reads a tune and the soundfont that is to play it; null when one of them is no good. May run beside
+  /// `play_wave`.
+  void* (*load_music)(const char* path, const char* soundfont);
+  /// Plays a loaded tune once, from its beginning.
+  void (*play_music)(void* music);
+  /// Stops a tune if it plays, and forgets it.
+  void (*free_music)(void* music);
+};
+
+/// The module's only entry.
+const CardHavenSoundModule* CardHavenSound();
+}

@@ -1,0 +1,197 @@
+// The sound module: everything that touches the sound libraries.
+#include <SDL.h>
+#include <SDL_mixer.h>
+#include <dlfcn.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdarg>
+#include <cstdint>
+#include <cstring>
+#include <list>
+#include <string>
+
+#include "window/desktop/sound_module.h"
+
+namespace {
+
+constexpr int kRate = 44100;
+constexpr int kBufferFrames = 512;
+constexpr int kWaveVolume = 104;
+constexpr int kMusicVolume = 56;  // of 128: the waves stay in front
+constexpr std::size_t kMostChunks = 32;
+constexpr int kCutFrames = 176;  // 4 ms, so that a wave cut in the middle doesn't crack
+
+/// Waves take turns on two channels: while one begins, the other dies away.
+struct Voice {
+  std::atomic<bool> cut = false;
+  int frames_left = 0;
+};
+Voice voices[2];
+int last_voice = 0;
+
+struct CachedChunk {
+  std::string path;
+  Mix_Chunk* chunk;
+};
+
+/// The one used last in front. Never destroyed: a device that hung may come back while the program ends.
+std::list<CachedChunk>& Chunks() {
+  static auto* const chunks = new std::list<CachedChunk>;
+  return *chunks;
+}
+
+void Hush(void*, int, SDL_LogPriority, const char*) {}
+void HushAlsa(const char*, int, const char*, int, const char*, ...) {}
+void HushFluid(int, const char*, void*) {}
+
+void* LibraryFunction(const char* library, const char* function) {
+  void* handle = dlopen(library, RTLD_LAZY | RTLD_NOLOAD);
+  return handle == nullptr ? nullptr : dlsym(handle, function);
+}
+
+/// Two libraries below report a missing device or a bad file on the terminal by themselves.
+void HushLibraries() {
+  SDL_LogSetOutputFunction(Hush, nullptr);
+  using AlsaHandler = void (*)(const char*, int, const char*, int, const char*, ...);
+  if (void* function = LibraryFunction("libasound.so.2", "snd_lib_error_set_handler"))
+    reinterpret_cast<int (*)(AlsaHandler)>(function)(HushAlsa);
+  using FluidLog = void (*)(int, const char*, void*);
+  if (void* function = LibraryFunction("libfluidsynth.so.3", "fluid_set_log_function")) {
+    constexpr int kFluidLevels = 5;
+    for (int level = 0; level < kFluidLevels; ++level)
+      reinterpret_cast<FluidLog (*)(int, FluidLog, void*)>(function)(level, HushFluid, nullptr);
+  }
+}
+
+/// Runs in the device's thread over what a channel is about to play.
+void FadeWhenCut(int, void* stream, int length, void* user) {
+  Voice& voice = *static_cast<Voice*>(user);
+  if (!voice.cut) return;
+  auto* samples = static_cast<std::int16_t*>(stream);
+  const int frames = length / 4;
+  for (int i = 0; i < frames; ++i) {
+    for (int side = 0; side < 2; ++side)
+      samples[2 * i + side] =
+          static_cast<std::int16_t>(samples[2 * i + side] * voice.frames_left / kCutFrames);
+    voice.frames_left = std::max(0, voice.frames_left - 1);
+  }
+}
+
+/// Gives back what the library keeps for the program and for the calling thread.
+void Quit() {
+  SDL_Quit();
+  SDL_TLSCleanup();
+}
+
+bool Open() {
+  // The program's own handling of signals stays as it is.
+  SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+  SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Card Haven");
+  SDL_SetHint(SDL_HINT_AUDIO_DEVICE_STREAM_ROLE, "game");
+  SDL_SetMainReady();
+  HushLibraries();
+  if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) {
+    Quit();
+    return false;
+  }
+  HushLibraries();  // a driver may have brought in more of them
+  if (Mix_OpenAudioDevice(kRate, AUDIO_S16SYS, 2, kBufferFrames, nullptr, 0) != 0) {
+    Quit();
+    return false;
+  }
+  Mix_AllocateChannels(2);
+  Mix_Volume(-1, kWaveVolume);
+  Mix_VolumeMusic(kMusicVolume);
+  return true;
+}
+
+void Close() {
+  Mix_HaltMusic();
+  Mix_HaltChannel(-1);
+  for (const CachedChunk& cached : Chunks()) Mix_FreeChunk(cached.chunk);
+  Chunks().clear();
+  Mix_CloseAudio();
+  Quit();
+}
+
+/// The decoded wave; null when the file is missing or rubbish, which is asked again the next time.
+Mix_Chunk* Chunk(const std::string& path) {
+  std::list<CachedChunk>& chunks = Chunks();
+  const auto found = std::find_if(chunks.begin(), chunks.end(),
+                                  [&](const CachedChunk& cached) { return cached.path == path; });
+  if (found != chunks.end()) {
+    chunks.splice(chunks.begin(), chunks, found);
+    return chunks.front().chunk;
+  }
+  Mix_Chunk* chunk = Mix_LoadWAV(path.c_str());
+  if (chunk == nullptr) return nullptr;
+  if (chunk->alen == 0) {
+    Mix_FreeChunk(chunk);
+    return nullptr;
+  }
+  chunks.push_front({path, chunk});
+  if (chunks.size() > kMostChunks) {
+    Mix_FreeChunk(chunks.back().chunk);
+    chunks.pop_back();
+  }
+  return chunk;
+}
+
+bool PlayWave(const char* path) {
+  Mix_Chunk* chunk = Chunk(path);
+  if (chunk == nullptr) return false;
+  const int channel = 1 - last_voice;
+  Voice& old = voices[last_voice];
+  Voice& next = voices[channel];
+  // Halting takes the channel's effect away, so that the next wave's fade can be set up unseen.
+  Mix_HaltChannel(channel);
+  next.cut = false;
+  next.frames_left = kCutFrames;
+  Mix_RegisterEffect(channel, FadeWhenCut, nullptr, &next);
+  Mix_PlayChannel(channel, chunk, 0);
+  old.cut = true;
+  last_voice = channel;
+  return true;
+}
+
+bool BeginsLikeMidi(const char* path) {
+  SDL_RWops* file = SDL_RWFromFile(path, "rb");
+  if (file == nullptr) return false;
+  char mark[4] = {};
+  const bool read = SDL_RWread(file, mark, 1, 4) == 4;
+  SDL_RWclose(file);
+  return read && std::memcmp(mark, "MThd", 4) == 0;
+}
+
+void* LoadMusic(const char* path, const char* soundfont) {
+  Mix_Music* music = nullptr;
+  // Rubbish isn't worth reading a soundfont for.
+  if (BeginsLikeMidi(path)) {
+    Mix_SetSoundFonts(soundfont);
+    if (SDL_RWops* file = SDL_RWFromFile(path, "rb")) music = Mix_LoadMUSType_RW(file, MUS_MID, 1);
+  }
+  SDL_TLSCleanup();  // the tune's thread has no other end to do it at
+  return music;
+}
+
+void PlayMusic(void* music) { Mix_PlayMusic(static_cast<Mix_Music*>(music), 0); }
+
+void FreeMusic(void* music) {
+  // A tune dies away within a blink; a device that doesn't take any more samples mustn't hold that up.
+  constexpr int kFadeMilliseconds = 40;
+  constexpr int kSlice = 5;
+  if (Mix_PlayingMusic()) Mix_FadeOutMusic(kFadeMilliseconds);
+  for (int waited = 0; Mix_PlayingMusic() && waited < 2 * kFadeMilliseconds; waited += kSlice)
+    SDL_Delay(kSlice);
+  Mix_HaltMusic();
+  Mix_FreeMusic(static_cast<Mix_Music*>(music));
+  SDL_TLSCleanup();
+}
+
+}  // namespace
+
+extern "C" __attribute__((visibility("default"))) const CardHavenSoundModule* CardHavenSound() {
+  static const CardHavenSoundModule module = {Open, Close, PlayWave, LoadMusic, PlayMusic, FreeMusic};
+  return &module;
+}
