@@ -43,18 +43,6 @@ void Face(GameWindow& window) {
   window.Surface.Draw(rim);
 }
 
-// Shows the amount that a counter pays, in the middle of the window.
-void ShowAmount(GameWindow& window, const std::string& message, long long amount, int milliseconds) {
-  window.lblMessage.Caption = message;
-  window.lblMessage.Visible = true;
-  window.lblCurrentScore.ForeColor = kCyan;
-  window.lblScoring.Caption = FormatNumber(amount);
-  window.lblScoring.ForeColor = kRed;
-  window.PlaceScoring();
-  window.lblScoring.Visible = true;
-  window.common.platform.Sleep(milliseconds);
-}
-
 // One step of a counter: `amount` goes from what is left to the score.
 void CountStep(GameWindow& window, long long amount, long long& left) {
   window.AddToScore(amount);
@@ -122,16 +110,34 @@ void CountTimeBonus(GameWindow& window, long long bonusPerSecond) {
 
 void AwardBonus(GameWindow& window, const std::string& title, long long count, long long value) {
   const Long total = count * value;
+  ShowAmount(window, title + "!", total, 1000);
+  if (window.common.CountDownScore)
+    CountAmount(window, total);
+  else
+    window.AddToScore(total);
+  HideAmount(window);
+}
+
+void ShowAmount(GameWindow& window, const std::string& message, long long amount, int milliseconds) {
+  window.lblMessage.Caption = message;
+  window.lblMessage.Visible = true;
+  window.lblCurrentScore.ForeColor = kCyan;
+  window.lblScoring.Caption = FormatNumber(amount);
+  window.lblScoring.ForeColor = kRed;
+  window.PlaceScoring();
+  window.lblScoring.Visible = true;
+  window.common.platform.Sleep(milliseconds);
+}
+
+void CountAmount(GameWindow& window, long long total) {
+  const long long step = RoundHalfEven(static_cast<double>(total) / 20);
+  // A step of nothing would never end: the whole is paid at once.
+  if (step == 0) return window.AddToScore(total);
   long long left = total;
-  ShowAmount(window, title + "!", left, 1000);
-  if (window.common.CountDownScore) {
-    const long long step = RoundHalfEven(static_cast<double>(total) / 20);
-    // A step of nothing would never end: the whole is paid at once.
-    if (step == 0) window.AddToScore(left);
-    for (long long i = 1; step > 0 && i <= total; i += step) CountStep(window, step, left);
-  } else {
-    window.AddToScore(left);
-  }
+  for (long long i = 1; step > 0 ? i <= total : i >= total; i += step) CountStep(window, step, left);
+}
+
+void HideAmount(GameWindow& window) {
   window.lblCurrentScore.ForeColor = kBlue;
   window.lblScoring.Visible = false;
 }

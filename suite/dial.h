@@ -20,3 +20,9 @@ void CountTimeBonus(GameWindow& window, long long bonusPerSecond);
 
 // Pays `count` times `value` under the title and a "!".
 void AwardBonus(GameWindow& window, const std::string& title, long long count, long long value);
+
+// The three parts of a counter, for a game that pays in its own way: the amount stands under the message for
+// a while; it goes to the score in steps of a twentieth, whole steps only; the amount is gone.
+void ShowAmount(GameWindow& window, const std::string& message, long long amount, int milliseconds);
+void CountAmount(GameWindow& window, long long total);
+void HideAmount(GameWindow& window);

@@ -49,8 +49,7 @@ GameWindow::~GameWindow() {
   if (common.window == this) common.window = nullptr;
 }
 
-// --- Loading and settings
-// ----------------------------------------------------------------------------------------------
+// --- Loading and settings ------------------------------------------------------------------------
 
 void GameWindow::Form_Load() {
   MousePointer = kHourglass;
@@ -159,8 +158,7 @@ std::string GameWindow::TableFile(const std::string& tableName) const {
   return "\\" + tableName + std::to_string(common.TimeLimit) + ".Txt";
 }
 
-// --- Timers
-// ------------------------------------------------------------------------------------------------------------
+// --- Timers --------------------------------------------------------------------------------------
 
 void GameWindow::Timer1_Timer() {
   common.ElapsedSeconds += 1;
@@ -218,8 +216,7 @@ void GameWindow::ShowSplashBack(Image& image) {
   image.BorderStyle = 0;
 }
 
-// --- Play, pause, take score
-// -------------------------------------------------------------------------------------------
+// --- Play, pause, take score ---------------------------------------------------------------------
 
 void GameWindow::cmdPlay_Click() {
   if (cmdPlay.Caption != "&Play")
@@ -228,10 +225,11 @@ void GameWindow::cmdPlay_Click() {
   SetPlayCaption("&End Game");
   ShowSplash(false);
   Play();
-  if (common.PlayMusic && common.GameInProgress) common.StartMusic();
+  if (plan.playStartsMusic && common.PlayMusic && common.GameInProgress) common.StartMusic();
 }
 
 void GameWindow::AskToEndGame(const std::string& question) {
+  const std::string toolTip = cmdPlay.ToolTipText;
   cmdPlay.ToolTipText = "Starts a new game";
   if (!common.GameInProgress) return;
   Pause();
@@ -241,7 +239,7 @@ void GameWindow::AskToEndGame(const std::string& question) {
     SetPlayCaption("&Play");
     EndGame();
   } else {
-    cmdPlay.ToolTipText = "Ends the game in progress";
+    cmdPlay.ToolTipText = toolTip;
   }
 }
 
@@ -305,8 +303,7 @@ void GameWindow::FinishGame(const std::string& tableName, const std::string& def
   }
 }
 
-// --- Shown things
-// ------------------------------------------------------------------------------------------------------
+// --- Shown things --------------------------------------------------------------------------------
 
 void GameWindow::ShowControls(bool visible, std::optional<bool> scoreVisible) {
   SetVisible({&lblTime, &Surface, &TimerRectangle, &TimerBevelSide, &TimerBevelBottom, &lblRound,
@@ -345,6 +342,23 @@ void GameWindow::BlinkMessage(int times) {
   }
 }
 
+void GameWindow::Announce(const std::string& text) {
+  ShowMessage(text);
+  BlinkMessage(11);
+  lblMessage.Visible = false;
+}
+
+void GameWindow::ShowGameOver() {
+  lblMessage.Caption = "Game Over";
+  lblMessage.ForeColor = kRed;
+  MousePointer = kHourglass;
+  lblMessage.Visible = true;
+  platform.Sleep(2000);
+  lblMessage.Visible = false;
+  MousePointer = kDefaultPointer;
+  ShowSplash(true);
+}
+
 void GameWindow::SetPlayCaption(const char* caption) {
   cmdPlay.Caption = caption;
   mnuPlay.Caption = caption;
@@ -354,6 +368,15 @@ void GameWindow::PlaceMessage() { lblMessage.Left = (Width - lblMessage.Width) /
 
 void GameWindow::PlaceScoring() { lblScoring.Left = (Width - lblScoring.Width) / 2; }
 
+void GameWindow::PlaceInMiddle(std::span<const Design> rows) {
+  const int right = (Width - plan.width) / 2, down = (Height - plan.height) / 2;
+  for (const Design& row : rows) {
+    auto& control = static_cast<Visual&>(*find(row.name));
+    control.Left = row.left + right;
+    control.Top = row.top + down;
+  }
+}
+
 void GameWindow::Form_Resize() {
   if (WindowState == window_state::kMinimised) return;
   if (WindowState == window_state::kNormal && (Width < plan.width || Height < plan.height)) {
@@ -361,6 +384,7 @@ void GameWindow::Form_Resize() {
     return;
   }
   frmSplash.Left = (Width - frmSplash.Width) / 2;
+  frmSplash.Top = (Height - kBars - frmSplash.Height) / 2;
   for (CommandButton* button : {&cmdPlay, &cmdTakeScore, &cmdPause, &cmdExit}) button->Left = Width - 1320;
   StatusBar1.Width = Width;
   StatusBar1.Top = Height - StatusBar1.Height;
@@ -371,8 +395,7 @@ void GameWindow::Form_Resize() {
   PlaceMessage();
 }
 
-// --- Menus
-// -------------------------------------------------------------------------------------------------------------
+// --- Menus ---------------------------------------------------------------------------------------
 
 void GameWindow::TickOnly(Menu& entry) {
   for (Control* control : Controls())
@@ -393,7 +416,7 @@ void GameWindow::ChooseDeck(int number) {
   TickOnly(static_cast<Menu&>(*find(design.menu)));
   UseBackDesign(common.ImageList2, design);
   RefreshPlayCard();
-  if (IsPaused()) RefreshFieldCards();
+  if (IsPaused() || plan.backsInPlay) RefreshFieldCards();
   common.DeckDesign = number;
 }
 
@@ -415,8 +438,7 @@ void GameWindow::ClearHighScores() {
   ShowHighScore(plan.tableName, *this, plan.defaultScore);
 }
 
-// --- Closing
-// -----------------------------------------------------------------------------------------------------------
+// --- Closing -------------------------------------------------------------------------------------
 
 void GameWindow::Form_QueryUnload(bool& cancel) {
   const bool pauses = PausesBeforeClosing() && common.GameInProgress && !IsPaused();

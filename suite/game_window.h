@@ -6,10 +6,12 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "suite/common.h"
 #include "suite/settings_file.h"
+#include "window/text.h"
 
 // One entry of the time limit menu.
 struct TimeLimitEntry {
@@ -42,7 +44,14 @@ struct GamePlan {
   const char* takeScoreButton = "cmdTakeScore";
   const char* takeScoreMenu = "mnuTakeScore";
   const char* clockTimer = "Timer3";  // refreshes the time of day
+  // False if the game starts the music itself, with each round.
+  bool playStartsMusic = true;
+  // True if cards lie face down during play, so that a change of the back design is to be seen on them.
+  bool backsInPlay = false;
 };
+
+// What the menu bar and the status bar take off a window's height, at most.
+inline constexpr int kBars = 750;
 
 // What the rules window shows: the blanks before the heading, and the paragraphs.
 struct RulesPage {
@@ -58,8 +67,7 @@ class GameWindow : public Form {
   modCommon& common;
   const GamePlan& plan;
 
-  // --- What a game must give
-  // -----------------------------------------------------------------------------------------
+  // --- What a game must give ---------------------------------------------------------------------
 
   // Starts a game: `cmdPlay` reads "&End Game" already, the splash panel is hidden.
   virtual void Play() = 0;
@@ -82,8 +90,7 @@ class GameWindow : public Form {
   // The whole settings file.
   virtual void WriteSettings(SettingsWriter& writer) const = 0;
 
-  // --- What a game may say differently
-  // -------------------------------------------------------------------------------
+  // --- What a game may say differently -----------------------------------------------------------
 
   // The game's own defaults, set before the settings are read.
   virtual void SetDefaults() {}
@@ -114,13 +121,14 @@ class GameWindow : public Form {
   // Places `lblMessage` and `lblScoring` for their present texts.
   virtual void PlaceMessage();
   virtual void PlaceScoring();
+  // Captions of the button and the menu entry Play at once.
+  virtual void SetPlayCaption(const char* caption);
   // Places the board; the splash panel, the buttons and the status bar are placed already.
   virtual void PlaceBoard() {}
   // What else a finished game enables again.
   virtual void GameFinished() {}
 
-  // --- What the frame offers
-  // -----------------------------------------------------------------------------------------
+  // --- What the frame offers ---------------------------------------------------------------------
 
   // Stops the clock, puts the commands back, enters the score in the table, leaves only the score in view.
   void FinishGame(const std::string& tableName, const std::string& defaultScore);
@@ -142,8 +150,12 @@ class GameWindow : public Form {
   // Swaps the colour of `lblMessage` between red and black that many times, a quarter of a second each.
   void BlinkMessage(int times);
   void ShowMessage(const std::string& text);
-  // Captions of the button and the menu entry Play at once.
-  void SetPlayCaption(const char* caption);
+  // Announces the next round: the message blinks, and is gone.
+  void Announce(const std::string& text);
+  // "Game Over" for two seconds; then the splash panel is back.
+  void ShowGameOver();
+  // Places controls as in their design, but in the middle of the present window.
+  void PlaceInMiddle(std::span<const Design> rows);
   void ChooseTimeLimit(int seconds);
   void ChooseDeck(int number);
   // Ticks `entry` and no other entry of its menu.
@@ -152,9 +164,14 @@ class GameWindow : public Form {
   void WriteWindowSettings(SettingsWriter& writer) const;
   // Applies "True" or "False" to a flag; other values change nothing.
   static void ApplyFlag(std::string_view value, bool& flag);
+  // Applies a whole number; what is none, or doesn't fit, changes nothing.
+  template <class Rep>
+  static void ApplyNumber(std::string_view value, Checked<Rep>& number) {
+    int read = 0;
+    if (ParseLong(value, read) && std::in_range<Rep>(read)) number = read;
+  }
 
-  // --- The standing controls
-  // -----------------------------------------------------------------------------------------
+  // --- The standing controls ---------------------------------------------------------------------
 
   PictureBox Surface{*this, "Surface"};
   Shape TimerRectangle{*this, "TimerRectangle"}, TimerBevelSide{*this, "TimerBevelSide"},
@@ -180,8 +197,7 @@ class GameWindow : public Form {
   Menu mnuDeck, mnuPalm, mnuMagic, mnuNight, mnuHot;
   Menu mnuHelp, mnuRules, mnuAbout;
 
-  // --- Events
-  // --------------------------------------------------------------------------------------------------------
+  // --- Events ------------------------------------------------------------------------------------
 
   void Form_Load() override;
   void Form_Resize() override;

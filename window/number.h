@@ -18,6 +18,15 @@ class RuntimeError : public std::runtime_error {
 [[noreturn]] void RaiseDivisionByZero();   // "Division by zero"
 [[noreturn]] void RaiseElementNotFound();  // "Element not found"
 
+// One statement of a handler that goes on whatever fails.
+template <class Statement>
+void GoOnAfterError(Statement statement) {
+  try {
+    statement();
+  } catch (const std::exception&) {
+  }
+}
+
 // Rounds to the nearest whole number, a half to the even neighbour. Raises Overflow beyond 64 bits.
 long long RoundHalfEven(double value);
 
@@ -35,7 +44,10 @@ class Checked {
   constexpr operator long long() const { return value_; }
 
   Checked& operator+=(long long amount) { return *this = Add(value_, amount); }
-  Checked& operator-=(long long amount) { return *this = Add(value_, -amount); }
+  Checked& operator-=(long long amount) {
+    if (amount == std::numeric_limits<long long>::min()) RaiseOverflow();
+    return *this = Add(value_, -amount);
+  }
   Checked& operator++() { return *this += 1; }
   Checked& operator--() { return *this -= 1; }
 

@@ -38,10 +38,10 @@ void Platform::DoEvents() {
 
 Answer Platform::MsgBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) {
   const MessageBox box{text, title, icon, buttons};
-  boxes_.push_back(&box);
+  boxes_.push_back({&box, modals_.size()});
   if (trace) trace->BoxShown(box);
   struct Guard {
-    std::vector<const MessageBox*>& boxes;
+    std::vector<Standing>& boxes;
     ~Guard() { boxes.pop_back(); }
   } guard{boxes_};
   const Answer answer = front.RunBox(box);

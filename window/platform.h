@@ -113,9 +113,13 @@ class Platform : public Observer {
   bool ServeTimer();
 
   void RunModal(Form& form);
-  // The modal form or null; whether a message box stands.
+  // The modal form in front, or null.
   Form* ModalForm() const { return modals_.empty() ? nullptr : modals_.back(); }
-  const MessageBox* StandingBox() const { return boxes_.empty() ? nullptr : boxes_.back(); }
+  // The message box that stands before everything; null if there is none, or if a timer has opened a modal
+  // form over it.
+  const MessageBox* StandingBox() const {
+    return boxes_.empty() || boxes_.back().modals < modals_.size() ? nullptr : boxes_.back().box;
+  }
   Form* FindForm(std::string_view name) const;  // loaded ones only
 
   void FormLoaded(Form&) override;
@@ -133,6 +137,10 @@ class Platform : public Observer {
   void Tick(Timer& timer);
 
   std::vector<Form*> modals_;
-  std::vector<const MessageBox*> boxes_;
+  struct Standing {
+    const MessageBox* box;
+    size_t modals;  // how many modal forms it stands before
+  };
+  std::vector<Standing> boxes_;
   bool ended_ = false;
 };

@@ -6,8 +6,7 @@
 
 using namespace modSumfall;
 
-// --- Dealing
-// -----------------------------------------------------------------------------------------------------------
+// --- Dealing -------------------------------------------------------------------------------------
 
 bool frmSumfall::CreateSumfallDeck() {
   try {
@@ -93,8 +92,7 @@ bool frmSumfall::Deal(bool newGame) {
 
 void frmSumfall::StoreRoundDeck() { RoundDeck(CurrentRound) = common.Deck; }
 
-// --- Selection and combinations
-// ----------------------------------------------------------------------------------------
+// --- Selection and combinations ------------------------------------------------------------------
 
 bool frmSumfall::CheckLegalFieldCardMove(int index) const {
   for (int cover : CoveredBy(index))
@@ -224,8 +222,7 @@ void frmSumfall::ShowTotal() { lblCurrentTotal.Caption = std::to_string(CurrentT
 
 void frmSumfall::TakePoints(long long points) { AddToScore(-points); }
 
-// --- Rounds
-// ------------------------------------------------------------------------------------------------------------
+// --- Rounds --------------------------------------------------------------------------------------
 
 void frmSumfall::Play() {
   MousePointer = kHourglass;
@@ -355,9 +352,7 @@ void frmSumfall::PayTimeBonus() {
 }
 
 void frmSumfall::StartRound(int round, const char* announcement) {
-  ShowMessage(announcement);
-  BlinkMessage(11);
-  lblMessage.Visible = false;
+  Announce(announcement);
   CurrentRound = round;
   lblCurrentRound.Caption = std::to_string(CurrentRound);
   const CardCodes& stored = RoundDeck(round);
@@ -396,14 +391,7 @@ void frmSumfall::GameOver() {
   UpdateHighScoreTable(plan.tableName, *this, plan.defaultScore);
   ShowHighScore(plan.tableName, *this, plan.defaultScore);
   lblMessage.Top = Height / 2;
-  lblMessage.Caption = "Game Over";
-  lblMessage.ForeColor = kRed;
-  MousePointer = kHourglass;
-  lblMessage.Visible = true;
-  platform.Sleep(2000);
-  lblMessage.Visible = false;
-  MousePointer = kDefaultPointer;
-  ShowSplash(true);
+  ShowGameOver();
   cmdExit.Enabled = true;
   cmdPlay.Enabled = true;
   cmdPlay.ToolTipText = "Starts a new game";
@@ -469,8 +457,7 @@ void frmSumfall::EndGame() {
   if (common.PlayMusic) common.StopMusic();
 }
 
-// --- Commands
-// ----------------------------------------------------------------------------------------------------------
+// --- Commands ------------------------------------------------------------------------------------
 
 void frmSumfall::cmdPlay_Click() {
   if (cmdPlay.Caption != "&Play") {
@@ -526,8 +513,7 @@ void frmSumfall::SelectionColor(int index) {
   TickOnly(*colourEntries[index]);
 }
 
-// --- Saved games
-// -------------------------------------------------------------------------------------------------------
+// --- Saved games ---------------------------------------------------------------------------------
 
 SavedGame frmSumfall::LastGame(const std::string& userName) const {
   SavedGame game;

@@ -9,8 +9,7 @@ class frmSumfall : public GameWindow {
  public:
   explicit frmSumfall(modCommon& common);
 
-  // --- Board and cards
-  // -----------------------------------------------------------------------------------------------
+  // --- Board and cards ---------------------------------------------------------------------------
   ControlArray<Image, modSumfall::kPlaces> FieldCardPicture{*this, "FieldCardPicture"};
   Image PlayCardPicture{*this, "PlayCardPicture"}, UpCardPicture{*this, "UpCardPicture"};
   ControlArray<Shape, modSumfall::kPlaces> FieldSelectionRectangle{*this, "FieldSelectionRectangle"};
@@ -28,8 +27,7 @@ class frmSumfall : public GameWindow {
       mnuColor{mnuOptions, "mnuColor"};
   std::vector<std::unique_ptr<Menu>> goalEntries, colourEntries;
 
-  // --- State
-  // ---------------------------------------------------------------------------------------------------------
+  // --- State -------------------------------------------------------------------------------------
   CardCodes Round1Deck, Round2Deck, Round3Deck;  // as dealt, for replay and saved games
   std::array<std::string, modSumfall::kPlaces> FieldCards;
   std::array<std::string, modSumfall::kUpCards> UpCards;  // index 0 stays empty
@@ -41,8 +39,7 @@ class frmSumfall : public GameWindow {
   bool CountDownScore = true;  // of this game alone
   bool ReplayPending = false, UpCardUsed = false;
 
-  // --- Play
-  // ----------------------------------------------------------------------------------------------------------
+  // --- Play --------------------------------------------------------------------------------------
   bool CreateSumfallDeck();
   // Lays out `Deck` and starts the round clock. False, and the player is told, if a card can't be shown.
   bool Deal(bool newGame = false);
@@ -62,8 +59,7 @@ class frmSumfall : public GameWindow {
   // "Make n for Bonus Round!" in panel 1.
   void ShowBonusRoundGoal();
 
-  // --- The frame's plan
-  // ----------------------------------------------------------------------------------------------
+  // --- The frame's plan --------------------------------------------------------------------------
   void Form_Activate() override;
   void Play() override;
   void TakeScore() override;

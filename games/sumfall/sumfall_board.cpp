@@ -59,9 +59,6 @@ constexpr Design kDesign[] = {
     {"UpCardSelectionRectangle", 0, 0, 1065, 1455},
 };
 
-// What the menu bar and the status bar take off the window's height, at most.
-constexpr int kBars = 750;
-
 }  // namespace
 
 frmSumfall::frmSumfall(modCommon& common) : GameWindow(common, kPlan) {
@@ -158,11 +155,11 @@ void frmSumfall::BindBoardEvents() {
   lblCurrentTotal.OnChange = [this] { CenterIn(lblCurrentTotal, CardTotalRectangle); };
 }
 
-// --- Placing
-// -----------------------------------------------------------------------------------------------------------
+// --- Placing -------------------------------------------------------------------------------------
 
 void frmSumfall::PlaceBoard() {
-  const int x = static_cast<int>(Width / 2.208333333333), y = static_cast<int>(Height / 5.142857142857);
+  const int x = static_cast<int>(RoundHalfEven(Width / 2.208333333333)),
+            y = static_cast<int>(RoundHalfEven(Height / 5.142857142857));
   for (int i = 0; i < kPlaces; ++i) {
     const int left = x + kField[i].left, top = y + kField[i].top;
     FieldCardPicture(i).Left = left;
@@ -188,6 +185,16 @@ void frmSumfall::PlaceBoard() {
   lblCurrentTotal.Top = CardTotalRectangle.Top + (CardTotalRectangle.Height - lblCurrentTotal.Height) / 2;
   CenterIn(lblCurrentTotal, CardTotalRectangle);
 
+  // The boxes of round and combinations keep their distance from the buttons.
+  const struct {
+    Visual &label, &box, &side, &bottom;
+    int fromRight;
+  } boxes[] = {{lblRound, RoundRectangle, RoundBevelSide, RoundBevelBottom, 3900},
+               {lblElevens, ElevensRectangle, ElevensBevelSide, ElevensBevelBottom, 2640}};
+  for (const auto& group : boxes) {
+    group.box.Left = group.bottom.Left = group.label.Left = Width - group.fromRight;
+    group.side.Left = group.box.Left + group.box.Width;
+  }
   lblHighScore.Top = Height - kBars - 50 - lblHighScore.Height;
   for (Label* label : {&lblCurrentScore, &lblCurrentRound, &lblCurrentElevens})
     label->Top = ScoreRectangle.Top + (ScoreRectangle.Height - label->Height) / 2;
@@ -202,8 +209,7 @@ void frmSumfall::PlaceMessage() {
   lblMessage.Left = lblTotal.Left + lblTotal.Width / 2 - lblMessage.Width / 2;
 }
 
-// --- Showing
-// -----------------------------------------------------------------------------------------------------------
+// --- Showing -------------------------------------------------------------------------------------
 
 void frmSumfall::FieldCardDisplay(bool visible) {
   for (int i = 0; i < kPlaces; ++i) FieldCardPicture(i).Visible = visible;
@@ -285,8 +291,7 @@ void frmSumfall::ShowBonusRoundGoal() {
   StatusBar1.Panels(1).Text = "Make " + FormatNumber(BonusRoundScore) + " for Bonus Round!   ";
 }
 
-// --- Settings and texts
-// ------------------------------------------------------------------------------------------------
+// --- Settings and texts --------------------------------------------------------------------------
 
 void frmSumfall::SetDefaults() {
   BonusRoundScore = 80000;
