@@ -1,0 +1,198 @@
+#include "app/options.h"
+
+#include <unistd.h>
+
+#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+template <class Number>
+bool Parse(std::string_view text, Number& value) {
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  return error == std::errc() && end == text.data() + text.size();
+}
+
+// "YYYY-MM-DDTHH:MM:SS"
+bool ParseMoment(const std::string& text, DateTime& moment) {
+  if (text.size() != 19 || text[4] != '-' || text[7] != '-' || text[10] != 'T' || text[13] != ':' ||
+      text[16] != ':')
+    return false;
+  const auto part = [&](size_t from, size_t length, int& value) {
+    for (size_t i = from; i < from + length; ++i)
+      if (text[i] < '0' || text[i] > '9') return false;
+    return Parse(std::string_view(text).substr(from, length), value);
+  };
+  if (!part(0, 4, moment.year) || !part(5, 2, moment.month) || !part(8, 2, moment.day) ||
+      !part(11, 2, moment.hour) || !part(14, 2, moment.minute) || !part(17, 2, moment.second))
+    return false;
+  using namespace std::chrono;
+  const year_month_day date{year(moment.year), month(unsigned(moment.month)), day(unsigned(moment.day))};
+  return moment.year > 0 && date.ok() && moment.hour < 24 && moment.minute < 60 && moment.second < 60;
+}
+
+// "1024x768"
+bool ParseScreen(const std::string& text, Extent& screen) {
+  const size_t by = text.find('x');
+  if (by == std::string::npos) return false;
+  int width = 0, height = 0;
+  if (!Parse(std::string_view(text).substr(0, by), width) ||
+      !Parse(std::string_view(text).substr(by + 1), height))
+    return false;
+  if (width < 1 || height < 1 || width > 16383 || height > 16383) return false;
+  screen = {width * 15, height * 15};
+  return true;
+}
+
+std::string Name(Program program) { return program == Program::Desktop ? "cardhaven" : "cardhaven-console"; }
+
+fs::path ProgramFolder() {
+  std::error_code error;
+  const fs::path program = fs::read_symlink("/proc/self/exe", error);
+  return error ? fs::current_path(error) : program.parent_path();
+}
+
+// A folder that can't be made is as one that can't be written: the suite plays on, and says what it can't keep.
+fs::path Made(const fs::path& folder) {
+  std::error_code error;
+  fs::create_directories(folder, error);
+  return folder;
+}
+
+void ApplyValue(const std::string& option, const std::string& value, Options& options) {
+  const auto bad = [&](const char* wanted) {
+    throw BadOptions("the value of " + option + " must be " + wanted + ", not \"" + value + "\"");
+  };
+  if (option == "--folder") {
+    if (value.empty()) bad("a folder");
+    options.folder = value;
+  } else if (option == "--seed") {
+    uint64_t seed = 0;
+    if (!Parse(value, seed)) bad("a whole number from 0 up");
+    options.seed = seed;
+  } else if (option == "--speed") {
+    if (!Parse(value, options.speed) || !std::isfinite(options.speed) || options.speed < 0.01 ||
+        options.speed > 100000)
+      bad("a number from 0.01 to 100000");
+  } else if (option == "--start") {
+    if (!ParseMoment(value, options.start)) bad("a moment written YYYY-MM-DDTHH:MM:SS");
+  } else if (!ParseScreen(value, options.screen)) {
+    bad("a size in pixels written WIDTHxHEIGHT");
+  }
+}
+
+bool TakesValue(Program program, const std::string& option) {
+  if (option == "--folder" || option == "--seed" || option == "--start") return true;
+  return option == (program == Program::Desktop ? "--speed" : "--screen");
+}
+
+}  // namespace
+
+Options ParseOptions(Program program, const std::vector<std::string>& arguments) {
+  Options options;
+  std::string needsConsole;
+  bool onlyFiles = false;
+  for (size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& argument = arguments[i];
+    const size_t equals = argument.find('=');
+    const std::string option = argument.substr(0, equals);
+    if (onlyFiles || argument.size() < 2 || argument[0] != '-') {
+      if (!options.savedGame.empty()) throw BadOptions("there is more than one saved game");
+      options.savedGame = argument;
+    } else if (argument == "--") {
+      onlyFiles = true;
+    } else if (argument == "--help" || argument == "-h") {
+      options.help = true;
+    } else if (argument == "--version") {
+      options.version = true;
+    } else if (argument == "--console" && program == Program::Desktop) {
+      options.console = true;
+    } else if (TakesValue(program, option)) {
+      if (equals == std::string::npos && i + 1 == arguments.size())
+        throw BadOptions(option + " needs a value");
+      ApplyValue(option, equals == std::string::npos ? arguments[++i] : argument.substr(equals + 1), options);
+      if (option != "--folder") needsConsole = option;
+    } else {
+      throw BadOptions("there is no option " + argument);
+    }
+  }
+  if (program == Program::Desktop && !options.console && !needsConsole.empty())
+    throw BadOptions(needsConsole + " goes with --console only");
+  return options;
+}
+
+std::string Usage(Program program) {
+  std::string usage = "Usage: " + Name(program);
+  if (program == Program::Desktop)
+    usage +=
+        " [--folder DIR] [--console [--speed N] [--seed N] [--start MOMENT]] [SAVED-GAME]\n\n"
+        "Seven timed card games in a window.\n\n";
+  else
+    usage +=
+        " [--folder DIR] [--seed N] [--start MOMENT] [--screen WxH] [SAVED-GAME]\n\n"
+        "The same card games driven by lines: commands from standard input, answers on standard output.\n\n";
+  usage +=
+      "  SAVED-GAME      a saved game for Sumfall! to open\n"
+      "  --folder DIR    where settings, high scores and saved games are kept\n";
+  if (program == Program::Desktop)
+    usage +=
+        "  --console       take commands from standard input, under a clock of their own\n"
+        "  --speed N       let that clock run N times as fast\n";
+  usage +=
+      "  --seed N        make the cards fall the same way each time\n"
+      "  --start MOMENT  the time of day at the start, as 2000-01-01T12:00:00\n";
+  if (program == Program::Console)
+    usage += "  --screen WxH    the size of the screen in pixels, as 1024x768\n";
+  return usage +
+         "  --help          show this text\n"
+         "  --version       show the version\n";
+}
+
+std::optional<int> ReadCommandLine(Program program, int argc, char** argv, Options& options) {
+  try {
+    options = ParseOptions(program, std::vector<std::string>(argv + std::min(argc, 1), argv + argc));
+  } catch (const BadOptions& wrong) {
+    std::cerr << Name(program) << ": " << wrong.what() << "\n\n" << Usage(program);
+    return 2;
+  }
+  if (options.help) {
+    std::cout << Usage(program);
+    return EXIT_SUCCESS;
+  }
+  if (options.version) {
+    std::cout << Name(program) << " " << CARDHAVEN_VERSION << "\n";
+    return EXIT_SUCCESS;
+  }
+  return std::nullopt;
+}
+
+fs::path FindAppPath(const Options& options) {
+  if (!options.folder.empty()) {
+    std::error_code error;
+    return Made(fs::absolute(options.folder, error).lexically_normal());
+  }
+  const fs::path own = ProgramFolder();
+  if (access(own.c_str(), W_OK) == 0) return own;
+  const char* data = std::getenv("XDG_DATA_HOME");
+  const char* home = std::getenv("HOME");
+  if (data && data[0] == '/') return Made(fs::path(data) / "card-haven");
+  if (home && home[0] == '/') return Made(fs::path(home) / ".local/share/card-haven");
+  return own;
+}
+
+fs::path FindDataFolder() {
+  const fs::path own = ProgramFolder();
+  std::error_code error;
+  const fs::path installed = own.parent_path() / "share/card-haven";
+  if (fs::is_directory(installed / "pictures", error)) return installed;
+  for (fs::path folder = own;; folder = folder.parent_path()) {
+    if (fs::is_directory(folder / "data/pictures", error)) return folder / "data";
+    if (folder == folder.parent_path()) return installed;
+  }
+}

@@ -1,0 +1,43 @@
+// The command lines of the two programs, and the folders that they work with.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "window/platform.h"
+
+enum class Program { Desktop, Console };
+
+struct Options {
+  bool help = false, version = false;
+  std::string folder;                    // --folder, "" if it isn't given
+  bool console = false;                  // the desktop's --console
+  double speed = 1;                      // --speed
+  std::optional<uint64_t> seed;          // --seed
+  DateTime start{2000, 1, 1, 12, 0, 0};  // --start
+  Extent screen{1024 * 15, 768 * 15};    // --screen, twips
+  std::string savedGame;
+};
+
+// What is wrong with a command line.
+class BadOptions : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// Reads a command line, the program's name left out. Throws `BadOptions`.
+Options ParseOptions(Program program, const std::vector<std::string>& arguments);
+std::string Usage(Program program);
+
+// Reads the command line and does what is common: tells of mistakes, helps, names the version. The exit
+// status if that was all, else nothing.
+std::optional<int> ReadCommandLine(Program program, int argc, char** argv, Options& options);
+
+// The folder for settings, tables and saved games. Throws std::runtime_error if there is none to be had.
+std::filesystem::path FindAppPath(const Options& options);
+// The folder with pictures, sounds and music.
+std::filesystem::path FindDataFolder();

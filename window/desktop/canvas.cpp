@@ -1,0 +1,152 @@
+#include "window/desktop/canvas.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include "window/desktop/baize.h"
+#include "window/desktop/desktop.h"
+#include "window/desktop/paint.h"
+#include "window/player.h"
+
+namespace {
+
+constexpr int kWaiting = 11, kCustom = 99;
+
+// The tip of the pointing hand, in pixels from its picture's top left.
+constexpr QPoint kFingertip(7, 3);
+
+}  // namespace
+
+Canvas::Canvas(Form& form, DesktopFrontEnd& front, QWidget* parent)
+    : QWidget(parent), form_(form), front_(front), board_(IsBoard(form)) {
+  setObjectName("canvas");
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMouseTracking(true);
+  setFocusPolicy(Qt::NoFocus);
+}
+
+void Canvas::Refresh(const Visual& control) {
+  const auto known = reach_.find(&control);
+  if (known != reach_.end()) {
+    update(known->second);
+    if (!IsShown(control)) reach_.erase(known);
+  }
+  if (!IsShown(control)) return;
+  const QRect reach = Reach(control, front_.pictures);
+  reach_[&control] = reach;
+  update(reach);
+}
+
+void Canvas::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  const double scale = devicePixelRatioF();
+  if (board_) {
+    if (baize_.deviceIndependentSize().toSize() != size() || baize_.devicePixelRatio() != scale)
+      baize_ = Baize(size(), scale);
+    painter.drawPixmap(QPoint(0, 0), baize_);
+  } else {
+    painter.fillRect(event->rect(), palette().window());
+  }
+  painter.setRenderHint(QPainter::Antialiasing);
+  const Scene scene = Arrange(form_, front_.pictures);
+  const Easel easel{painter, front_.pictures, scene, board_, scale};
+  for (size_t i = 0; i < scene.size(); ++i) {
+    const QRect reach = Reach(*scene[i].control, front_.pictures);
+    reach_[scene[i].control] = reach;
+    if (event->region().intersects(reach)) PaintControl(easel, i);
+  }
+  front_.Painted();
+}
+
+Visual* Canvas::At(QPoint point) const { return HitTest(Arrange(form_, front_.pictures), point); }
+
+std::optional<QPoint> Canvas::SpotOf(const Visual& control) const {
+  constexpr int kGrid = 15;
+  const Scene scene = Arrange(form_, front_.pictures);
+  const QRect area = DrawnRect(control, front_.pictures);
+  const auto fits = [&](QPoint point) {
+    return rect().contains(point) && !childAt(point) && HitTest(scene, point) == &control;
+  };
+  if (fits(area.center())) return area.center();
+  for (int y = 0; y < kGrid; ++y)
+    for (int x = 0; x < kGrid; ++x) {
+      const QPoint point(area.left() + (2 * x + 1) * area.width() / (2 * kGrid),
+                         area.top() + (2 * y + 1) * area.height() / (2 * kGrid));
+      if (fits(point)) return point;
+    }
+  return std::nullopt;
+}
+
+// Cards answer to the press: waiting for the release would cost time that counts.
+void Canvas::Press(QPoint point) {
+  Visual* control = At(point);
+  if (!control) return;
+  front_.Deliver(form_, [control] {
+    if (player::WhyNot(*control).empty()) player::Click(*control);
+  });
+}
+
+void Canvas::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) Press(event->position().toPoint());
+}
+
+// For a fast player two clicks in a row are two clicks, unless the control knows what a double click is.
+void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const QPoint point = event->position().toPoint();
+  Visual* control = At(point);
+  if (!control) return;
+  if (!control->OnDblClick) return Press(point);
+  front_.Deliver(form_, [control] {
+    if (player::WhyNot(*control).empty()) player::DblClick(*control);
+  });
+}
+
+void Canvas::mouseMoveEvent(QMouseEvent* event) {
+  Visual* control = At(event->position().toPoint());
+  if (control && control->OnMouseMove && (front_.HeedsPointer() || !event->spontaneous()))
+    front_.Deliver(form_, [control] {
+      if (player::WhyNot(*control).empty()) player::MouseMove(*control);
+    });
+  UpdatePointer();
+}
+
+void Canvas::UpdatePointer() {
+  int wanted = form_.MousePointer;
+  if (wanted != kWaiting) {
+    const QPoint point = mapFromGlobal(QCursor::pos());
+    const Visual* control = rect().contains(point) ? At(point) : nullptr;
+    wanted = control ? control->MousePointer.get() : 0;
+    if (wanted == kCustom)
+      wanted =
+          control->kind == Control::Kind::Image ? kCustom + static_cast<const Image*>(control)->MouseIcon : 0;
+  }
+  if (wanted == pointer_) return;
+  pointer_ = wanted;
+  if (wanted == kWaiting)
+    setCursor(Qt::WaitCursor);
+  else if (wanted > kCustom)
+    setCursor(QCursor(front_.pictures.Get(wanted - kCustom, false, devicePixelRatioF()), kFingertip.x(),
+                      kFingertip.y()));
+  else
+    unsetCursor();
+}
+
+void Canvas::ShowToolTip(QHelpEvent& event) {
+  const Scene scene = Arrange(form_, front_.pictures);
+  for (auto it = scene.rbegin(); it != scene.rend(); ++it) {
+    if (!it->rect.contains(event.pos()) || !it->clip.contains(event.pos())) continue;
+    const QString text = QString::fromStdString(it->control->ToolTipText);
+    if (!text.isEmpty()) return QToolTip::showText(event.globalPos(), text, this, it->rect);
+    if (it->control->kind == Control::Kind::Image) break;
+  }
+  QToolTip::hideText();
+}
+
+bool Canvas::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  ShowToolTip(static_cast<QHelpEvent&>(*event));
+  return true;
+}

@@ -1,0 +1,13 @@
+// Which colours can be told from which.
+#pragma once
+
+#include <QColor>
+
+// 0xBBGGRR, as controls hold it.
+QColor ToColour(int value);
+// 1 for equal colours to 21 for black on white.
+double Contrast(const QColor& a, const QColor& b);
+// Letters are easy to read on a ground from here on.
+inline constexpr double kReadable = 4.5;
+// Ivory or a deep ink, whichever lets letters of that colour stand out more.
+QColor GroundFor(const QColor& letters);

@@ -1,0 +1,248 @@
+#include "window/desktop/desktop.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QEventLoop>
+#include <QProcess>
+#include <QScreen>
+#include <QStandardPaths>
+#include <algorithm>
+#include <cmath>
+#include <iostream>
+
+#include "window/desktop/form_window.h"
+#include "window/desktop/lettering.h"
+
+DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles files)
+    : pictures(std::move(files), folders.own, folders.installed / "pictures"),
+      media_(folders.own, folders.installed) {
+  clock_.start();
+  timer_.setTimerType(Qt::PreciseTimer);
+  timer_.setSingleShot(true);
+  QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { ServeTick(); });
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+DesktopFrontEnd::~DesktopFrontEnd() {
+  for (const auto& [form, window] : windows_) {
+    window->Leave();
+    delete window;
+  }
+}
+
+int DesktopFrontEnd::Run(const std::function<void()>& start) {
+  QTimer::singleShot(0, &timer_, [this, start] {
+    Run(nullptr, start);
+    if (!platform.HasEnded()) Serve();
+    if (platform.HasEnded()) Quit();
+  });
+  QApplication::exec();
+  return status_;
+}
+
+// --- Handlers, one at a time ---------------------------------------------------------------------
+
+bool DesktopFrontEnd::Knows(const Form& form) const { return windows_.contains(&form); }
+
+FormWindow* DesktopFrontEnd::WindowOf(const Form& form) const {
+  const auto found = windows_.find(&form);
+  return found == windows_.end() ? nullptr : found->second;
+}
+
+void DesktopFrontEnd::Run(Form* form, const std::function<void()>& handler) {
+  if (platform.HasEnded() || (form && !Knows(*form))) return;
+  busy_ = true;
+  try {
+    handler();
+  } catch (const std::exception& error) {
+    platform.End(error.what());
+  }
+  busy_ = false;
+  if (platform.HasEnded()) return Quit();
+  for (const auto& [each, window] : windows_)
+    if (each->Visible) window->Settle();
+  ArmTimer();
+  if (!deeds_.empty()) QTimer::singleShot(0, &timer_, [this] { DeliverWaiting(); });
+  Wake();
+}
+
+void DesktopFrontEnd::Deliver(Form& form, std::function<void()> deed) {
+  if (busy_)
+    deeds_.push_back({&form, std::move(deed)});
+  else
+    Run(&form, deed);
+}
+
+void DesktopFrontEnd::DeliverWaiting() {
+  while (!busy_ && !deeds_.empty()) {
+    const Deed deed = std::move(deeds_.front());
+    deeds_.pop_front();
+    Run(deed.form, deed.run);
+  }
+}
+
+void DesktopFrontEnd::ArmTimer() {
+  const auto due = platform.timers.NextDue();
+  if (!due || busy_) return timer_.stop();
+  timer_.start(static_cast<int>(std::clamp(*due - Milliseconds(), 0ll, 1000000000ll)));
+}
+
+// One tick at a time: what the player did comes in between when ticks are late.
+void DesktopFrontEnd::ServeTick() {
+  if (busy_) return;
+  Run(nullptr, [this] { platform.ServeTimer(); });
+}
+
+// --- Waiting -------------------------------------------------------------------------------------
+
+void DesktopFrontEnd::Wait(const std::function<bool()>& waiting) {
+  const Idle idle(*this);
+  QEventLoop* const outer = loop_;
+  ArmTimer();
+  if (!deeds_.empty()) QTimer::singleShot(0, &timer_, [this] { DeliverWaiting(); });
+  while (waiting() && !platform.HasEnded()) {
+    QEventLoop loop;
+    loop_ = &loop;
+    loop.exec();
+  }
+  loop_ = outer;
+  timer_.stop();
+  Wake();
+}
+
+void DesktopFrontEnd::Wake() {
+  if (loop_) loop_->quit();
+}
+
+void DesktopFrontEnd::Pause(int milliseconds) {
+  if (platform.HasEnded()) return;
+  QEventLoop loop;
+  if (milliseconds <= 0) {
+    loop.processEvents(QEventLoop::ExcludeUserInputEvents);
+    return;
+  }
+  QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+void DesktopFrontEnd::RunModal(Form& form) {
+  WaitFor([&form] { return form.Visible.get(); });
+}
+
+// --- The world -----------------------------------------------------------------------------------
+
+DateTime DesktopFrontEnd::Now() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QDate date = now.date();
+  const QTime time = now.time();
+  return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
+}
+
+Extent DesktopFrontEnd::ScreenExtent() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  const QSize size = screen ? screen->size() : QSize(1024, 768);
+  return {size.width() * 15, size.height() * 15};
+}
+
+Extent DesktopFrontEnd::TextExtent(const Label& label) {
+  const QSizeF needs = Needs(label);
+  return {static_cast<int>(std::ceil(needs.width())) * 15, static_cast<int>(std::ceil(needs.height())) * 15};
+}
+
+std::string DesktopFrontEnd::FindBrowser() {
+  const QString wanted = qEnvironmentVariable("BROWSER").section(':', 0, 0);
+  for (const QString& name : {wanted, QStringLiteral("xdg-open")})
+    if (const QString path = name.isEmpty() ? QString() : QStandardPaths::findExecutable(name);
+        !path.isEmpty())
+      return path.toStdString();
+  return "";
+}
+
+bool DesktopFrontEnd::OpenPage(const std::string& browser, const std::string& url) {
+  return QProcess::startDetached(QString::fromStdString(browser), {QString::fromStdString(url)});
+}
+
+void DesktopFrontEnd::Painted() {
+  if (painted_) return;
+  painted_ = true;
+  Wake();
+  // What the first window doesn't need waits until it stands on the screen.
+  QTimer::singleShot(100, &timer_, [this] { media_.Start(); });
+}
+
+void DesktopFrontEnd::Ended(const std::string& failure) {
+  if (failure.empty()) return;
+  status_ = 1;
+  std::cerr << "cardhaven: " << failure << std::endl;
+}
+
+void DesktopFrontEnd::Quit() {
+  Wake();
+  QCoreApplication::exit(status_);
+}
+
+// --- Windows -------------------------------------------------------------------------------------
+
+FormWindow* DesktopFrontEnd::FrontWindow() const {
+  for (const Form* form : platform.forms)
+    if (FormWindow* window = WindowOf(*form); window && window->isVisible()) return window;
+  return nullptr;
+}
+
+void DesktopFrontEnd::ActivateFront() {
+  if (FormWindow* window = FrontWindow()) window->activateWindow();
+}
+
+void DesktopFrontEnd::FormLoaded(Form& form) { windows_[&form] = new FormWindow(form, *this); }
+
+void DesktopFrontEnd::FormShown(Form& form) {
+  FormWindow* behind = nullptr;
+  for (const Form* each : platform.forms)
+    if (FormWindow* window = WindowOf(*each); !behind && each != &form && window && window->isVisible())
+      behind = window;
+  if (FormWindow* window = WindowOf(form)) window->ShowForm(behind);
+}
+
+void DesktopFrontEnd::FormHidden(Form& form) {
+  if (FormWindow* window = WindowOf(form)) {
+    const bool active = window->isActiveWindow();
+    window->hide();
+    if (active) ActivateFront();
+  }
+  Wake();
+}
+
+void DesktopFrontEnd::FormUnloaded(Form& form) {
+  FormWindow* window = WindowOf(form);
+  if (!window) return;
+  windows_.erase(&form);
+  std::erase_if(deeds_, [&](const Deed& deed) { return deed.form == &form; });
+  const bool active = window->isActiveWindow();
+  window->Leave();
+  window->deleteLater();
+  if (active) ActivateFront();
+  Wake();
+}
+
+void DesktopFrontEnd::PropertyChanged(Control& control, Prop prop) {
+  if (control.kind == Control::Kind::Timer && !busy_) ArmTimer();
+  if (FormWindow* window = WindowOf(control.form)) window->Apply(control, prop);
+}
+
+void DesktopFrontEnd::OrderChanged(Visual& control) {
+  if (FormWindow* window = WindowOf(control.form)) window->Reordered(control);
+}
+
+void DesktopFrontEnd::FocusMoved(Visual& control) {
+  if (FormWindow* window = WindowOf(control.form)) window->FocusMoved();
+}
+
+void DesktopFrontEnd::TextSelected(TextBox& box) {
+  if (FormWindow* window = WindowOf(box.form)) window->SelectText(box);
+}
+
+void DesktopFrontEnd::SurfaceCleared(PictureBox& surface) {
+  if (FormWindow* window = WindowOf(surface.form)) window->SurfaceChanged(surface);
+}
+
+void DesktopFrontEnd::SurfaceDrawn(PictureBox& surface, const Stroke&) { SurfaceCleared(surface); }

@@ -1,0 +1,127 @@
+// The front end with a screen: real windows, a real clock, sound.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <deque>
+#include <filesystem>
+#include <memory>
+#include <unordered_map>
+
+#include "window/desktop/media.h"
+#include "window/desktop/pictures.h"
+#include "window/platform.h"
+
+class FormWindow;
+class QEventLoop;
+
+struct DesktopFolders {
+  std::filesystem::path own;        // `AppPath`; what lies here goes before what is installed
+  std::filesystem::path installed;  // holds pictures/, sounds/, music/
+};
+
+class DesktopFrontEnd : public FrontEnd {
+ public:
+  DesktopFrontEnd(const DesktopFolders& folders, PictureFiles pictures);
+  ~DesktopFrontEnd() override;
+
+  Platform platform{*this};
+  Pictures pictures;
+
+  // Runs `start`, which shows the first window, then serves events until the program ends. The exit status.
+  int Run(const std::function<void()>& start);
+
+  // Runs what the player did on a form: now, or as soon as the handler that is under way has ended or waits.
+  void Deliver(Form& form, std::function<void()> deed);
+  // Whether a handler is under way that doesn't wait for the player.
+  bool Busy() const { return busy_; }
+  // Whether the form is there and loaded.
+  bool Knows(const Form& form) const;
+  FormWindow* WindowOf(const Form& form) const;
+  // A board has been painted.
+  void Painted();
+
+  // Whether windows follow what the window manager does to them, and cards the real pointer.
+  virtual bool HeedsWindowManager() const { return true; }
+  virtual bool HeedsPointer() const { return true; }
+
+  long long Milliseconds() override { return clock_.elapsed(); }
+  DateTime Now() override;
+  Extent ScreenExtent() override;
+  Extent TextExtent(const Label& label) override;
+  void Sleep(int milliseconds) override { Pause(milliseconds); }
+  Answer RunBox(const MessageBox& box) override;
+  void RunModal(Form& form) override;
+  void PlayWave(const std::string& path) override { media_.PlayWave(path); }
+  void MediaCommand(const std::string& command) override { media_.Command(command); }
+  std::string FindBrowser() override;
+  bool OpenPage(const std::string& browser, const std::string& url) override;
+
+  void FormLoaded(Form& form) override;
+  void FormShown(Form& form) override;
+  void FormHidden(Form& form) override;
+  void FormUnloaded(Form& form) override;
+  void PropertyChanged(Control& control, Prop prop) override;
+  void OrderChanged(Visual& control) override;
+  void FocusMoved(Visual& control) override;
+  void TextSelected(TextBox& box) override;
+  void SurfaceCleared(PictureBox& surface) override;
+  void SurfaceDrawn(PictureBox& surface, const Stroke& stroke) override;
+  void Ended(const std::string& failure) override;
+
+ protected:
+  // Called when the first window has been shown; what it leaves to be done the events bring.
+  virtual void Serve() {}
+  // Serves the player and the timers while `waiting()`. A handler that waits isn't busy.
+  virtual void WaitFor(const std::function<bool()>& waiting) { Wait(waiting); }
+  // Sees to it that the next tick comes in time.
+  virtual void ArmTimer();
+
+  void Wait(const std::function<bool()>& waiting);
+  // Lets real time pass, without input and ticks. The windows stay alive.
+  void Pause(int milliseconds);
+  // Lets the innermost wait look at what it waits for.
+  void Wake();
+  // Runs a handler, then sees to what it has left behind.
+  void Run(Form* form, const std::function<void()>& handler);
+  // While one stands the handler under way waits, and others may run.
+  class Idle {
+   public:
+    explicit Idle(DesktopFrontEnd& front) : front_(front), wasBusy_(front.busy_) { front_.busy_ = false; }
+    ~Idle() { front_.busy_ = wasBusy_; }
+    Idle(const Idle&) = delete;
+
+   private:
+    DesktopFrontEnd& front_;
+    const bool wasBusy_;
+  };
+  // For what is to be called later.
+  QObject& Context() { return timer_; }
+  bool HasPainted() const { return painted_; }
+  class QMessageBox* StandingBox() const {
+    return boxes_.empty() ? nullptr : boxes_.back();
+  }
+
+ private:
+  void ServeTick();
+  void DeliverWaiting();
+  FormWindow* FrontWindow() const;
+  // Gives the keyboard to the front window: nobody else may do so where no window manager runs.
+  void ActivateFront();
+  void Quit();
+
+  struct Deed {
+    Form* form;
+    std::function<void()> run;
+  };
+
+  QElapsedTimer clock_;
+  QTimer timer_;
+  Media media_;
+  std::unordered_map<const Form*, FormWindow*> windows_;
+  std::deque<Deed> deeds_;
+  std::vector<class QMessageBox*> boxes_;
+  QEventLoop* loop_ = nullptr;  // of the innermost wait
+  bool busy_ = false, painted_ = false;
+  int status_ = 0;
+};

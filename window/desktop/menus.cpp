@@ -1,0 +1,80 @@
+#include "window/desktop/menus.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <algorithm>
+#include <vector>
+
+#include "window/desktop/desktop.h"
+#include "window/player.h"
+
+namespace {
+
+constexpr int kTallest = 26;  // boards reckon with no more
+
+std::vector<Menu*> EntriesOf(const Control& parent) {
+  std::vector<Menu*> entries;
+  for (Control* control : parent.form.Controls())
+    if (control->kind == Control::Kind::Menu && control->parent == &parent)
+      entries.push_back(static_cast<Menu*>(control));
+  std::ranges::stable_sort(entries, {}, &Menu::rank);
+  return entries;
+}
+
+}  // namespace
+
+Menus::Menus(Form& form, DesktopFrontEnd& front, QWidget& window) : form_(form), front_(front) {
+  if (EntriesOf(form).empty()) return;
+  bar_ = new QMenuBar(&window);
+  bar_->setObjectName("menuBar");
+  bar_->setNativeMenuBar(false);
+  Build(form, *bar_);
+}
+
+void Menus::Build(const Control& parent, QWidget& holder) {
+  for (Menu* entry : EntriesOf(parent)) {
+    QAction* action = nullptr;
+    if (!EntriesOf(*entry).empty()) {
+      auto* menu = new QMenu(&holder);
+      action = menu->menuAction();
+      menu->setObjectName(QString::fromStdString(entry->NameInForm()));
+      holder.addAction(action);
+      Build(*entry, *menu);
+    } else {
+      action = new QAction(&holder);
+      action->setObjectName(QString::fromStdString(entry->NameInForm()));
+      action->setSeparator(entry->Caption == "-");
+      holder.addAction(action);
+      QObject::connect(action, &QAction::triggered, [this, entry] {
+        Apply(*entry);  // Qt has set a tick by itself
+        front_.Deliver(form_, [entry] {
+          if (player::WhyNot(*entry).empty()) player::Click(*entry);
+        });
+      });
+    }
+    actions_[entry] = action;
+    Apply(*entry);
+  }
+}
+
+int Menus::Height() const { return bar_ ? std::min(bar_->sizeHint().height(), kTallest) : 0; }
+
+void Menus::Place(int width) {
+  if (bar_) bar_->setGeometry(0, 0, width, Height());
+}
+
+void Menus::Apply(const Menu& menu) {
+  QAction* action = ActionOf(menu);
+  if (!action || action->isSeparator()) return;
+  action->setText(QString::fromStdString(menu.Caption));
+  action->setEnabled(menu.Enabled);
+  action->setVisible(menu.Visible);
+  if (menu.Checked) action->setCheckable(true);
+  action->setChecked(menu.Checked);
+}
+
+QAction* Menus::ActionOf(const Menu& menu) const {
+  const auto found = actions_.find(&menu);
+  return found == actions_.end() ? nullptr : found->second;
+}

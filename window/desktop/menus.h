@@ -1,0 +1,31 @@
+// The menu bar of a window.
+#pragma once
+
+#include <unordered_map>
+
+#include "window/form.h"
+
+class DesktopFrontEnd;
+class QAction;
+class QMenuBar;
+class QWidget;
+
+class Menus {
+ public:
+  // Builds the bar from the form's menu entries; a form without any gets none.
+  Menus(Form& form, DesktopFrontEnd& front, QWidget& window);
+
+  // The height that the bar takes from its window, in pixels.
+  int Height() const;
+  void Place(int width);
+  void Apply(const Menu& menu);
+  QAction* ActionOf(const Menu& menu) const;
+
+ private:
+  void Build(const Control& parent, QWidget& holder);
+
+  Form& form_;
+  DesktopFrontEnd& front_;
+  QMenuBar* bar_ = nullptr;
+  std::unordered_map<const Menu*, QAction*> actions_;
+};

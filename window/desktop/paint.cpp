@@ -1,0 +1,271 @@
+#include "window/desktop/paint.h"
+
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+
+#include "window/desktop/contrast.h"
+#include "window/desktop/lettering.h"
+#include "window/desktop/style.h"
+
+namespace {
+
+constexpr int kBigLetters = 14;  // points from which letters get an outline instead of a plate
+constexpr QColor kBox(0xfb, 0xf6, 0xe8);
+
+void PaintImage(const Easel& easel, const Placed& placed) {
+  const auto& image = static_cast<const Image&>(*placed.control);
+  if (image.Picture == 0) return;
+  QPainter& painter = easel.painter;
+  if (image.BorderStyle == 1) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 38));
+    painter.drawRoundedRect(QRectF(placed.rect).adjusted(0, 1, 2, 3), 5, 5);
+    painter.drawRoundedRect(QRectF(placed.rect).adjusted(0.5, 1, 1, 1.5), 4, 4);
+  }
+  const QPixmap& picture = easel.pictures.Get(image.Picture, image.BorderStyle == 1, easel.scale);
+  // On whole device pixels, so that each pixel of the picture is one of the screen.
+  const QTransform& transform = painter.deviceTransform();
+  const QPointF corner = transform.map(QPointF(placed.rect.topLeft()));
+  const QPointF whole(std::round(corner.x()), std::round(corner.y()));
+  painter.drawPixmap(transform.inverted().map(whole), picture);
+}
+
+// A box let into the window: dark along the top and left, lit along the bottom and right.
+void PaintSunken(QPainter& painter, const QRectF& rect, const QColor& fill) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(255, 255, 255, 90));
+  painter.drawRoundedRect(rect.adjusted(0, 0, 1, 1), 4, 4);
+  painter.setBrush(QColor(0, 0, 0, 130));
+  painter.drawRoundedRect(rect.adjusted(-1, -1, 0, 0), 4, 4);
+  painter.setBrush(fill);
+  painter.drawRoundedRect(rect, 3, 3);
+  QLinearGradient shade(rect.topLeft(), QPointF(rect.left(), rect.top() + std::min(7.0, rect.height() / 2)));
+  shade.setColorAt(0, QColor(0, 0, 0, 60));
+  shade.setColorAt(1, QColor(0, 0, 0, 0));
+  painter.setBrush(shade);
+  painter.drawRoundedRect(rect, 3, 3);
+}
+
+void PaintShape(const Easel& easel, const Placed& placed) {
+  const auto& shape = static_cast<const Shape&>(*placed.control);
+  QPainter& painter = easel.painter;
+  const QColor border = ToColour(shape.BorderColor);
+  if (shape.Width == 0 || shape.Height == 0) {
+    painter.setPen(QPen(border, shape.BorderWidth));
+    const QPointF half(0.5, 0.5), start = placed.rect.topLeft() + half;
+    painter.drawLine(start, start + QPointF(placed.rect.width(), placed.rect.height()));
+    return;
+  }
+  if (shape.Sunken) return PaintSunken(painter, placed.rect, shape.Filled ? ToColour(shape.FillColor) : kBox);
+  const double inset = shape.BorderWidth / 2.0;
+  const QRectF rect = QRectF(placed.rect).adjusted(inset, inset, -inset, -inset);
+  if (!shape.Filled && shape.BorderWidth > 1) {
+    // The mark of a selection: a thin light line on either side lets every colour show on every card.
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(255, 255, 255, 150), shape.BorderWidth + 2));
+    painter.drawRoundedRect(rect, 4, 4);
+  }
+  painter.setPen(shape.BorderWidth > 0 ? QPen(border, shape.BorderWidth) : QPen(Qt::NoPen));
+  painter.setBrush(shape.Filled ? QBrush(ToColour(shape.FillColor)) : QBrush(Qt::NoBrush));
+  painter.drawRoundedRect(rect, 4, 4);
+}
+
+void PaintPanel(const Easel& easel, const QRectF& rect) {
+  QPainter& painter = easel.painter;
+  painter.setPen(Qt::NoPen);
+  for (int step = 4; step > 0; --step) {
+    painter.setBrush(QColor(0, 0, 0, 18));
+    painter.drawRoundedRect(rect.adjusted(-step / 2.0, 0, step / 2.0, step * 1.4), 10, 10);
+  }
+  QLinearGradient paper(rect.topLeft(), rect.bottomLeft());
+  paper.setColorAt(0, QColor(0xff, 0xfc, 0xf1));
+  paper.setColorAt(1, QColor(0xec, 0xe0, 0xc2));
+  painter.setBrush(paper);
+  painter.setPen(QPen(style::kGold.darker(125), 1));
+  painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), 9, 9);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(style::kGold, 1));
+  painter.drawRoundedRect(rect.adjusted(4.5, 4.5, -4.5, -4.5), 6, 6);
+}
+
+// A group with its caption: let into the baize of a board, outlined on the paper of a dialog.
+void PaintGroup(const Easel& easel, const QRectF& rect, const std::string& caption) {
+  QPainter& painter = easel.painter;
+  const QFont font = style::Letters(easel.board ? 10 : 9, easel.board);
+  const QFontMetricsF metrics(font);
+  const QString text = QString::fromStdString(caption);
+  const double top = text.isEmpty() ? 0.5 : metrics.height() / 2;
+  const QRectF outline = rect.adjusted(0.5, top, -0.5, -0.5);
+  const QRectF title(outline.left() + 12, rect.top(),
+                     text.isEmpty() ? 0 : metrics.horizontalAdvance(text) + 10, metrics.height());
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(easel.board ? QColor(0, 0, 0, 56) : QColor(255, 255, 255, 70));
+  painter.drawRoundedRect(outline, 8, 8);
+  painter.save();
+  if (!text.isEmpty())
+    painter.setClipRegion(QRegion(rect.toAlignedRect()) - title.toAlignedRect(), Qt::IntersectClip);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(easel.board ? style::kGold : QColor(0xb5, 0xa8, 0x8a), 1));
+  painter.drawRoundedRect(outline, 8, 8);
+  painter.restore();
+  painter.setFont(font);
+  painter.setPen(easel.board ? style::kIvory : style::kInk);
+  painter.drawText(title, Qt::AlignCenter, text);
+}
+
+void PaintSurface(const Easel& easel, const Placed& placed) {
+  const auto& surface = static_cast<const PictureBox&>(*placed.control);
+  QPainter& painter = easel.painter;
+  const QRectF rect(placed.rect);
+  const QPointF corner = rect.topLeft();
+  QPointF centre = rect.center();
+  double radius = std::min(rect.width(), rect.height()) / 2 - 1;
+  for (const Stroke& stroke : surface.strokes) {
+    if (stroke.kind != Stroke::Kind::Circle) continue;
+    centre = corner + QPointF(stroke.x, stroke.y) / 15;
+    radius = stroke.radius / 15;
+  }
+  painter.setClipRect(placed.rect, Qt::IntersectClip);
+  QRadialGradient disc(centre - QPointF(radius, radius) * 0.3, radius * 1.5);
+  disc.setColorAt(0, QColor(0xff, 0xff, 0xfb));
+  disc.setColorAt(1, QColor(0xd9, 0xd2, 0xbe));
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(disc);
+  painter.drawEllipse(centre, radius, radius);
+  for (const Stroke& stroke : surface.strokes) {
+    const QColor colour = ToColour(stroke.colour);
+    const QPointF middle = corner + QPointF(stroke.x, stroke.y) / 15;
+    const double reach = stroke.radius / 15;
+    switch (stroke.kind) {
+      case Stroke::Kind::Pie: {
+        painter.setPen(Qt::NoPen);
+        QRadialGradient shine(middle, reach);
+        shine.setColorAt(0, colour.lighter(104));
+        shine.setColorAt(1, colour.darker(122));
+        painter.setBrush(shine);
+        const int start = static_cast<int>(std::lround((90 - stroke.start) * 16));
+        const int span = static_cast<int>(std::lround((stroke.start - stroke.end) * 16));
+        painter.drawPie(QRectF(middle - QPointF(reach, reach), QSizeF(2 * reach, 2 * reach)), start, span);
+        break;
+      }
+      case Stroke::Kind::Line:
+        painter.setPen(QPen(colour, 1));
+        painter.drawLine(corner + QPointF(stroke.x1, stroke.y1) / 15,
+                         corner + QPointF(stroke.x2, stroke.y2) / 15);
+        break;
+      case Stroke::Kind::Circle:
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(colour.darker(160), 1.5));
+        painter.drawEllipse(middle, reach - 0.5, reach - 0.5);
+        break;
+    }
+  }
+}
+
+// The one colour on which a label's letters stand, if there is one.
+const QColor* GroundBeneath(const Easel& easel, size_t place, const QPointF& point, QColor& colour) {
+  colour = style::kPaper;
+  const Placed& label = easel.scene[place];
+  for (size_t i = place; i-- > 0;) {
+    const Placed& below = easel.scene[i];
+    if (!below.rect.contains(point.toPoint())) continue;
+    if (below.control->kind == Control::Kind::Frame)
+      return static_cast<Frame*>(below.control)->Panel || !easel.board ? &colour : nullptr;
+    if (below.control->kind != Control::Kind::Shape) continue;
+    const auto& shape = static_cast<const Shape&>(*below.control);
+    if (!shape.Filled && !shape.Sunken) continue;
+    colour = shape.Filled ? ToColour(shape.FillColor) : kBox;
+    return &colour;
+  }
+  return easel.board && label.control->parent->kind == Control::Kind::Form ? nullptr : &colour;
+}
+
+void PaintOutlined(QPainter& painter, const TextBlock& block, const QColor& colour) {
+  QPainterPath letters;
+  for (const TextLine& line : block.lines) letters.addText(line.baseline, block.font, line.text);
+  letters.setFillRule(Qt::WindingFill);
+  const QColor outline = GroundFor(colour);
+  const double breadth = std::clamp(block.font.pixelSize() / 5.0, 4.0, 8.0);
+  QColor halo = outline;
+  halo.setAlpha(90);
+  painter.strokePath(letters, QPen(halo, breadth + 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.strokePath(letters, QPen(outline, breadth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.fillPath(letters, colour);
+}
+
+void PaintLabel(const Easel& easel, size_t place) {
+  const Placed& placed = easel.scene[place];
+  const auto& label = static_cast<const Label&>(*placed.control);
+  const TextBlock block = LayOut(label, placed.rect);
+  if (block.lines.empty()) return;
+  QPainter& painter = easel.painter;
+  const QColor colour = ToColour(label.ForeColor);
+  QColor known;
+  const QColor* ground = GroundBeneath(easel, place, block.bounds.center(), known);
+  const bool readable = ground && Contrast(colour, *ground) >= kReadable;
+  if (!readable && label.FontSize >= kBigLetters) return PaintOutlined(painter, block, colour);
+  if (!readable) {
+    QColor plate = GroundFor(colour);
+    plate.setAlpha(238);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(plate);
+    const double height = std::min(block.bounds.height() / 2 + 1, 7.0);
+    painter.drawRoundedRect(block.bounds.adjusted(-5, -1, 5, 1), height, height);
+  }
+  painter.setFont(block.font);
+  painter.setPen(colour);
+  for (const TextLine& line : block.lines) painter.drawText(line.baseline, line.text);
+}
+
+}  // namespace
+
+void PaintControl(const Easel& easel, size_t place) {
+  const Placed& placed = easel.scene[place];
+  QPainter& painter = easel.painter;
+  painter.save();
+  if (placed.control->parent->kind == Control::Kind::Frame)
+    painter.setClipRect(placed.clip, Qt::IntersectClip);
+  switch (placed.control->kind) {
+    case Control::Kind::Image:
+      PaintImage(easel, placed);
+      break;
+    case Control::Kind::Shape:
+      PaintShape(easel, placed);
+      break;
+    case Control::Kind::PictureBox:
+      PaintSurface(easel, placed);
+      break;
+    case Control::Kind::Label:
+      PaintLabel(easel, place);
+      break;
+    case Control::Kind::Frame: {
+      const auto& frame = static_cast<const Frame&>(*placed.control);
+      frame.Panel ? PaintPanel(easel, placed.rect) : PaintGroup(easel, placed.rect, frame.Caption);
+      break;
+    }
+    default:
+      break;
+  }
+  painter.restore();
+}
+
+QRect Reach(const Visual& control, const Pictures& pictures) {
+  const QRect rect = DrawnRect(control, pictures);
+  switch (control.kind) {
+    case Control::Kind::Image:
+      return rect.adjusted(-2, -2, 4, 5);
+    case Control::Kind::Frame:
+      return rect.adjusted(-4, -2, 4, 8);
+    case Control::Kind::Shape: {
+      const int more = static_cast<const Shape&>(control).BorderWidth + 2;
+      return rect.adjusted(-more, -more, more, more);
+    }
+    case Control::Kind::Label: {
+      const QRectF bounds = LayOut(static_cast<const Label&>(control), rect).bounds;
+      return bounds.isEmpty() ? QRect() : bounds.toAlignedRect().adjusted(-8, -8, 8, 8);
+    }
+    default:
+      return rect.adjusted(-2, -2, 2, 2);
+  }
+}

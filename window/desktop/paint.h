@@ -1,0 +1,21 @@
+// Drawing the controls of a board.
+#pragma once
+
+#include <QPainter>
+
+#include "window/desktop/pictures.h"
+#include "window/desktop/scene.h"
+
+struct Easel {
+  QPainter& painter;
+  Pictures& pictures;
+  const Scene& scene;
+  bool board;    // on baize; else on the paper of a dialog
+  double scale;  // device pixels to a pixel
+};
+
+// Draws the control at this place of the scene.
+void PaintControl(const Easel& easel, size_t place);
+
+// All that drawing the control may touch, shadows and plates included.
+QRect Reach(const Visual& control, const Pictures& pictures);

@@ -1,0 +1,96 @@
+#include "window/desktop/pictures.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QSvgRenderer>
+#include <cmath>
+
+#include "window/desktop/style.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr double kCorner = 4;  // radius of a framed card's corners
+
+void DrawSubstitute(QPainter& painter, const QRectF& rect, const QString& name) {
+  painter.setPen(QPen(QColor(0x80, 0x78, 0x68), 1, Qt::DashLine));
+  painter.setBrush(style::kPaper);
+  painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
+  QFont font;
+  font.setPixelSize(std::clamp(static_cast<int>(rect.width() / 5), 8, 14));
+  painter.setFont(font);
+  painter.setPen(style::kInk);
+  painter.drawText(rect, Qt::AlignCenter | Qt::TextWrapAnywhere, name);
+}
+
+}  // namespace
+
+Pictures::Pictures(PictureFiles files, fs::path own, fs::path installed)
+    : files_(std::move(files)), own_(std::move(own)), installed_(std::move(installed)) {}
+
+const PictureFile* Pictures::Find(int index) const {
+  return index >= 1 && index <= static_cast<int>(files_.size()) ? &files_[index - 1] : nullptr;
+}
+
+QSize Pictures::Size(int index) const {
+  const PictureFile* file = Find(index);
+  return file ? QSize(file->width, file->height) : QSize(71, 96);
+}
+
+const QPixmap& Pictures::Get(int index, bool framed, double scale) {
+  const auto key = std::tuple(index, framed, scale);
+  auto found = drawn_.find(key);
+  if (found == drawn_.end()) found = drawn_.emplace(key, Draw(index, framed, scale)).first;
+  return found->second;
+}
+
+QPixmap Pictures::Draw(int index, bool framed, double scale) const {
+  const QSize natural = Size(index);
+  const QSize outer = natural + (framed ? QSize(2, 2) : QSize(0, 0));
+  const QSize pixels(std::lround(outer.width() * scale), std::lround(outer.height() * scale));
+  QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  {
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(pixels.width() / double(outer.width()), pixels.height() / double(outer.height()));
+    const QRectF inner =
+        framed ? QRectF(QPointF(1, 1), QSizeF(natural)) : QRectF(QPointF(0, 0), QSizeF(natural));
+    const PictureFile* file = Find(index);
+    QSvgRenderer renderer;
+    if (file) {
+      std::error_code error;
+      fs::path path = own_ / file->file;
+      if (!fs::is_regular_file(path, error)) path = installed_ / file->file;
+      // Asking first keeps the library from complaining about a file that isn't there.
+      if (fs::is_regular_file(path, error)) renderer.load(QString::fromStdString(path.string()));
+    }
+    if (renderer.isValid())
+      renderer.render(&painter, inner);
+    else
+      DrawSubstitute(
+          painter, inner,
+          file ? QString::fromStdString(fs::path(file->file).stem().string()) : QString::number(index));
+  }
+  if (framed) {
+    // Round corners: what the frame doesn't hold is cut away, then the frame is drawn over the edge.
+    QImage rounded(pixels, QImage::Format_ARGB32_Premultiplied);
+    rounded.fill(Qt::transparent);
+    QPainter painter(&rounded);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QBrush(image));
+    painter.drawRoundedRect(QRectF(rounded.rect()), kCorner * scale, kCorner * scale);
+    const double pen = std::max(1.0, std::floor(scale));
+    painter.setPen(QPen(QColor(0x3a, 0x36, 0x30), pen));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rounded.rect()).adjusted(pen / 2, pen / 2, -pen / 2, -pen / 2),
+                            kCorner * scale, kCorner * scale);
+    painter.end();
+    image = std::move(rounded);
+  }
+  QPixmap pixmap = QPixmap::fromImage(std::move(image));
+  pixmap.setDevicePixelRatio(scale);
+  return pixmap;
+}

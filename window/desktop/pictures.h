@@ -1,0 +1,30 @@
+// The pictures of the catalogue as pixels: drawn from their files when first needed, then kept.
+#pragma once
+
+#include <QPixmap>
+#include <QSize>
+#include <filesystem>
+#include <map>
+#include <tuple>
+
+#include "window/pictures.h"
+
+class Pictures {
+ public:
+  // Files are looked for in the first folder, then in the second.
+  Pictures(PictureFiles files, std::filesystem::path own, std::filesystem::path installed);
+
+  // Pixels at 100 %.
+  QSize Size(int index) const;
+  // The picture for a screen of that scale; with a thin frame around it, which makes it 2 pixels larger
+  // either way. A picture without a usable file is an outlined card that names it.
+  const QPixmap& Get(int index, bool framed, double scale);
+
+ private:
+  QPixmap Draw(int index, bool framed, double scale) const;
+  const PictureFile* Find(int index) const;
+
+  PictureFiles files_;
+  std::filesystem::path own_, installed_;
+  std::map<std::tuple<int, bool, double>, QPixmap> drawn_;
+};

@@ -1,0 +1,17 @@
+// The desktop program around the windows: the screen, the style, the signals.
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "window/desktop/scripted.h"
+
+struct DesktopOptions {
+  DesktopFolders folders;
+  std::optional<ScriptOptions> script;  // commands come from standard input
+};
+
+// Opens the screen, lets `start` show the first window on the platform, and runs until the program ends. What
+// `start` returns is kept till then. The exit status; 1 with a line on standard error if there is no screen.
+int RunDesktop(int argc, char** argv, const DesktopOptions& options, const PictureFiles& pictures,
+               const std::function<std::shared_ptr<void>(Platform&)>& start);

@@ -1,0 +1,25 @@
+// The colours and letters of all windows.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+
+class QApplication;
+
+namespace style {
+
+inline constexpr QColor kInk(0x22, 0x1d, 0x24);
+inline constexpr QColor kDeepInk(0x0d, 0x0b, 0x0e);  // dark enough for pure red to read on it
+inline constexpr QColor kIvory(0xff, 0xfb, 0xee);
+inline constexpr QColor kPaper(0xf6, 0xf0, 0xe0);
+inline constexpr QColor kGold(0xd9, 0xb4, 0x5b);
+inline constexpr QColor kBaize(0x1d, 0x6b, 0x4a);
+
+// The font for labels and widgets, its size given in points at 96 dots to the inch, whatever the screen has:
+// places and sizes are told in the same measure.
+QFont Letters(int points, bool bold = false, const QString& family = {});
+
+// Sets palette, style and font of the whole program.
+void Apply(QApplication& application);
+
+}  // namespace style
