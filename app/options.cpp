@@ -58,7 +58,8 @@ fs::path ProgramFolder() {
   return error ? fs::current_path(error) : program.parent_path();
 }
 
-// A folder that can't be made is as one that can't be written: the suite plays on, and says what it can't keep.
+// A folder that can't be made is as one that can't be written: the suite plays on, and says what it can't
+// keep.
 fs::path Made(const fs::path& folder) {
   std::error_code error;
   fs::create_directories(folder, error);

@@ -1,4 +1,5 @@
-// The smallest Qt window with a menu bar: what any window of the kind costs, to hold the suite's figures against.
+// The smallest Qt window with a menu bar: what any window of the kind costs, to hold the suite's figures
+// against.
 #include <QApplication>
 #include <QMainWindow>
 #include <QMenuBar>

@@ -22,15 +22,14 @@ QMessageBox::Icon IconOf(Icon icon) {
   }
 }
 
-// A box that remembers whether it had the keyboard.
+// A box that hands the keyboard to the window behind it. Once it is hidden the screen would take it.
 class Box : public QMessageBox {
  public:
-  using QMessageBox::QMessageBox;
-  void done(int result) override {
-    wasActive = isActiveWindow();
-    QMessageBox::done(result);
+  explicit Box(QWidget* behind) : QMessageBox(behind) {}
+  void setVisible(bool visible) override {
+    if (!visible && isActiveWindow() && parentWidget()) parentWidget()->activateWindow();
+    QMessageBox::setVisible(visible);
   }
-  bool wasActive = false;
 };
 
 }  // namespace
@@ -75,6 +74,5 @@ Answer DesktopFrontEnd::RunBox(const MessageBox& box) {
   dialog.activateWindow();
   WaitFor([&] { return !answered; });
   boxes_.pop_back();
-  if (dialog.wasActive) ActivateFront();
   return answer;
 }

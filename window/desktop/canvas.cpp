@@ -15,7 +15,7 @@ namespace {
 constexpr int kWaiting = 11, kCustom = 99;
 
 // The tip of the pointing hand, in pixels from its picture's top left.
-constexpr QPoint kFingertip(7, 3);
+constexpr QPoint kFingertip(5, 1);
 
 }  // namespace
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QEventLoop>
+#include <QIcon>
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
@@ -13,8 +14,11 @@
 #include "window/desktop/form_window.h"
 #include "window/desktop/lettering.h"
 
+namespace fs = std::filesystem;
+
 DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles files)
     : pictures(std::move(files), folders.own, folders.installed / "pictures"),
+      folders_(folders),
       media_(folders.own, folders.installed) {
   clock_.start();
   timer_.setTimerType(Qt::PreciseTimer);
@@ -167,7 +171,19 @@ void DesktopFrontEnd::Painted() {
   painted_ = true;
   Wake();
   // What the first window doesn't need waits until it stands on the screen.
-  QTimer::singleShot(100, &timer_, [this] { media_.Start(); });
+  QTimer::singleShot(100, &timer_, [this] {
+    media_.Start();
+    ShowIcon();
+  });
+}
+
+// Beside the data while it is built, among the icons of the system when it is installed.
+void DesktopFrontEnd::ShowIcon() {
+  const fs::path name = "card-haven.svg";
+  for (const fs::path& folder :
+       {folders_.installed / "icons", folders_.installed.parent_path() / "icons/hicolor/scalable/apps"})
+    if (const QImage icon = DrawFile(folder / name, QSize(64, 64)); !icon.isNull())
+      return QGuiApplication::setWindowIcon(QPixmap::fromImage(icon));
 }
 
 void DesktopFrontEnd::Ended(const std::string& failure) {
@@ -185,11 +201,12 @@ void DesktopFrontEnd::Quit() {
 
 FormWindow* DesktopFrontEnd::FrontWindow() const {
   for (const Form* form : platform.forms)
-    if (FormWindow* window = WindowOf(*form); window && window->isVisible()) return window;
+    if (FormWindow* window = WindowOf(*form); window && form->Visible && window->isVisible()) return window;
   return nullptr;
 }
 
-void DesktopFrontEnd::ActivateFront() {
+void DesktopFrontEnd::LeaveActive(const FormWindow& going) {
+  if (!going.isActiveWindow()) return;
   if (FormWindow* window = FrontWindow()) window->activateWindow();
 }
 
@@ -205,9 +222,8 @@ void DesktopFrontEnd::FormShown(Form& form) {
 
 void DesktopFrontEnd::FormHidden(Form& form) {
   if (FormWindow* window = WindowOf(form)) {
-    const bool active = window->isActiveWindow();
+    LeaveActive(*window);
     window->hide();
-    if (active) ActivateFront();
   }
   Wake();
 }
@@ -217,10 +233,9 @@ void DesktopFrontEnd::FormUnloaded(Form& form) {
   if (!window) return;
   windows_.erase(&form);
   std::erase_if(deeds_, [&](const Deed& deed) { return deed.form == &form; });
-  const bool active = window->isActiveWindow();
+  LeaveActive(*window);
   window->Leave();
   window->deleteLater();
-  if (active) ActivateFront();
   Wake();
 }
 

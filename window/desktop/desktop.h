@@ -106,8 +106,10 @@ class DesktopFrontEnd : public FrontEnd {
   void ServeTick();
   void DeliverWaiting();
   FormWindow* FrontWindow() const;
-  // Gives the keyboard to the front window: nobody else may do so where no window manager runs.
-  void ActivateFront();
+  // A window that is about to be hidden hands the keyboard to the next one: where no window manager runs
+  // nobody else does.
+  void LeaveActive(const FormWindow& going);
+  void ShowIcon();
   void Quit();
 
   struct Deed {
@@ -115,6 +117,7 @@ class DesktopFrontEnd : public FrontEnd {
     std::function<void()> run;
   };
 
+  const DesktopFolders folders_;
   QElapsedTimer clock_;
   QTimer timer_;
   Media media_;

@@ -112,6 +112,7 @@ class PickList : public QListWidget {
 
 QWidget* MakeDriveList(DriveListBox& list, DesktopFrontEnd& front, QWidget* parent) {
   auto* widget = new QComboBox(parent);
+  widget->setPlaceholderText("Places");
   QObject::connect(widget, &QComboBox::activated, widget, [&, widget](int entry) {
     Form& form = list.form;
     front.Deliver(form, [&list, entry] {
@@ -133,6 +134,8 @@ void FillList(Widget& widget, const ListControl& list) {
 
 void ApplyList(QListWidget& widget, const ListControl& list, Prop prop) {
   if (prop == Prop::List) FillList(widget, list);
+  if (list.kind == Control::Kind::DirListBox)
+    widget.setToolTip(Text(static_cast<const DirListBox&>(list).Path));
   const QSignalBlocker blocker(widget);
   if (widget.currentRow() != list.ListIndex) widget.setCurrentRow(list.ListIndex);
 }

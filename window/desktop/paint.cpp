@@ -207,7 +207,7 @@ void PaintLabel(const Easel& easel, size_t place) {
   if (!readable && label.FontSize >= kBigLetters) return PaintOutlined(painter, block, colour);
   if (!readable) {
     QColor plate = GroundFor(colour);
-    plate.setAlpha(238);
+    if (!ground) plate.setAlpha(238);
     painter.setPen(Qt::NoPen);
     painter.setBrush(plate);
     const double height = std::min(block.bounds.height() / 2 + 1, 7.0);

@@ -13,6 +13,16 @@ namespace {
 
 constexpr double kCorner = 4;  // radius of a framed card's corners
 
+bool Render(const fs::path& path, QPainter& painter, const QRectF& rect) {
+  std::error_code error;
+  // Asking first keeps the library from complaining about a file that isn't there.
+  if (!fs::is_regular_file(path, error)) return false;
+  QSvgRenderer renderer(QString::fromStdString(path.string()));
+  if (!renderer.isValid()) return false;
+  renderer.render(&painter, rect);
+  return true;
+}
+
 void DrawSubstitute(QPainter& painter, const QRectF& rect, const QString& name) {
   painter.setPen(QPen(QColor(0x80, 0x78, 0x68), 1, Qt::DashLine));
   painter.setBrush(style::kPaper);
@@ -25,6 +35,14 @@ void DrawSubstitute(QPainter& painter, const QRectF& rect, const QString& name) 
 }
 
 }  // namespace
+
+QImage DrawFile(const fs::path& file, QSize size) {
+  QImage image(size, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  return Render(file, painter, QRectF(QPointF(0, 0), QSizeF(size))) ? image : QImage();
+}
 
 Pictures::Pictures(PictureFiles files, fs::path own, fs::path installed)
     : files_(std::move(files)), own_(std::move(own)), installed_(std::move(installed)) {}
@@ -58,17 +76,9 @@ QPixmap Pictures::Draw(int index, bool framed, double scale) const {
     const QRectF inner =
         framed ? QRectF(QPointF(1, 1), QSizeF(natural)) : QRectF(QPointF(0, 0), QSizeF(natural));
     const PictureFile* file = Find(index);
-    QSvgRenderer renderer;
-    if (file) {
-      std::error_code error;
-      fs::path path = own_ / file->file;
-      if (!fs::is_regular_file(path, error)) path = installed_ / file->file;
-      // Asking first keeps the library from complaining about a file that isn't there.
-      if (fs::is_regular_file(path, error)) renderer.load(QString::fromStdString(path.string()));
-    }
-    if (renderer.isValid())
-      renderer.render(&painter, inner);
-    else
+    const bool drawn = file && (Render(own_ / file->file, painter, inner) ||
+                                Render(installed_ / file->file, painter, inner));
+    if (!drawn)
       DrawSubstitute(
           painter, inner,
           file ? QString::fromStdString(fs::path(file->file).stem().string()) : QString::number(index));
@@ -85,8 +95,8 @@ QPixmap Pictures::Draw(int index, bool framed, double scale) const {
     const double pen = std::max(1.0, std::floor(scale));
     painter.setPen(QPen(QColor(0x3a, 0x36, 0x30), pen));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(rounded.rect()).adjusted(pen / 2, pen / 2, -pen / 2, -pen / 2),
-                            kCorner * scale, kCorner * scale);
+    const double half = pen / 2, radius = kCorner * scale - half;
+    painter.drawRoundedRect(QRectF(rounded.rect()).adjusted(half, half, -half, -half), radius, radius);
     painter.end();
     image = std::move(rounded);
   }

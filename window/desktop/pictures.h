@@ -1,6 +1,7 @@
 // The pictures of the catalogue as pixels: drawn from their files when first needed, then kept.
 #pragma once
 
+#include <QImage>
 #include <QPixmap>
 #include <QSize>
 #include <filesystem>
@@ -8,6 +9,9 @@
 #include <tuple>
 
 #include "window/pictures.h"
+
+// Draws an SVG file into an image of that size; a null one if the file is missing or broken.
+QImage DrawFile(const std::filesystem::path& file, QSize size);
 
 class Pictures {
  public:

@@ -19,7 +19,8 @@ void ArrangeWithin(const Control& container, const QRect& clip, const Pictures& 
   for (Control* control : container.form.Controls())
     if (control->parent == &container && IsDrawn(control->kind) && static_cast<Visual*>(control)->Visible)
       children.push_back(static_cast<Visual*>(control));
-  std::ranges::stable_sort(children, {}, [](const Visual* child) { return std::pair(IsOverlay(*child), child->z); });
+  std::ranges::stable_sort(children, {},
+                           [](const Visual* child) { return std::pair(IsOverlay(*child), child->z); });
   for (Visual* child : children) {
     const QRect rect = DrawnRect(*child, pictures);
     scene.push_back({child, rect, clip});
