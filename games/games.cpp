@@ -1,5 +1,6 @@
 #include "games/games.h"
 
+#include "games/spirehold/spirehold.h"
 #include "games/sumfall/sumfall.h"
 
 std::vector<GameEntry> AllGames() {
@@ -9,7 +10,8 @@ std::vector<GameEntry> AllGames() {
       {"cmdFivestack", "&Fivestack ", "Fivestack!", nullptr},
       {"cmdBlackrush", "&Blackrush", "Blackrush!", nullptr},
       {"cmdDuopick", "D&uopick", "Duopick!", nullptr},
-      {"cmdSpirehold", "&Spirehold", "Spirehold!", nullptr},
+      {"cmdSpirehold", "&Spirehold", "Spirehold!",
+       [](modCommon& common) { return std::make_unique<frmSpirehold>(common); }},
       {"cmdHandgrid", "&Handgrid", "Handgrid!", nullptr},
       {"cmdTreyshift", "Trey&shift", "Treyshift!", nullptr},
   };

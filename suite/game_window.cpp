@@ -342,8 +342,9 @@ void GameWindow::BlinkMessage(int times) {
   }
 }
 
-void GameWindow::Announce(const std::string& text) {
+void GameWindow::Announce(const std::string& text, const char* wave) {
   ShowMessage(text);
+  if (wave) PlaySound(wave);
   BlinkMessage(11);
   lblMessage.Visible = false;
 }

@@ -150,8 +150,8 @@ class GameWindow : public Form {
   // Swaps the colour of `lblMessage` between red and black that many times, a quarter of a second each.
   void BlinkMessage(int times);
   void ShowMessage(const std::string& text);
-  // Announces the next round: the message blinks, and is gone.
-  void Announce(const std::string& text);
+  // Announces the next round, with a wave if one is named: the message blinks, and is gone.
+  void Announce(const std::string& text, const char* wave = nullptr);
   // "Game Over" for two seconds; then the splash panel is back.
   void ShowGameOver();
   // Places controls as in their design, but in the middle of the present window.

@@ -363,6 +363,8 @@ void frmSumfall::StartRound(int round, const char* announcement) {
   }
   if (!Deal()) {  // only the cards of a damaged saved game can't be dealt
     SetPlayCaption("&Play");
+    cmdPlay.ToolTipText = "Starts a new game";
+    DisableCommandButtons(false);
     return EndGame();
   }
   lblMessage.Visible = false;

@@ -1,0 +1,119 @@
+// How fast Spirehold is without a screen: what a bot that plays it waits for.
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+
+#include "games/games.h"
+#include "games/spirehold/spirehold.h"
+#include "suite/suite.h"
+#include "window/player.h"
+
+namespace {
+
+// Shows nothing, waits for nobody: boxes are answered by their first button, modal windows go at once.
+class NoFrontEnd : public FrontEnd {
+ public:
+  long long Milliseconds() override { return now_; }
+  DateTime Now() override { return {}; }
+  Extent ScreenExtent() override { return {1024 * 15, 768 * 15}; }
+  Extent TextExtent(const Label& label) override {
+    return {static_cast<int>(label.Caption.get().size()) * 120, 240};
+  }
+  void Sleep(int milliseconds) override { now_ += milliseconds; }
+  Answer RunBox(const MessageBox& box) override { return AnswersOf(box.buttons).front(); }
+  void RunModal(Form& form) override { form.Unload(); }
+  void PlayWave(const std::string&) override {}
+  void MediaCommand(const std::string&) override {}
+  std::string FindBrowser() override { return ""; }
+  bool OpenPage(const std::string&, const std::string&) override { return false; }
+
+ private:
+  long long now_ = 0;
+};
+
+// A suite with Spirehold open. Its folder can't be written, so that the tables are kept in memory.
+struct Table {
+  Table() {
+    platform.random.Seed(1);
+    suite.Start();
+    player::Click(*platform.FindForm("frmSelect")->find("cmdSpirehold"));
+    game = static_cast<frmSpirehold*>(suite.common.window);
+  }
+
+  NoFrontEnd front;
+  Platform platform{front};
+  Suite suite{platform, {"/nowhere/to/be/found"}, AllGames()};
+  frmSpirehold* game;
+};
+
+// The first card that may be taken, or -1.
+int LegalCard(const frmSpirehold& game) {
+  for (int card = 0; card < modSpirehold::kCards; ++card) {
+    const Image& image = game.UpCardImage(card);
+    if (image.Visible && image.Enabled &&
+        modSpirehold::IsNeighbour(CardValue(game.DeckCards[card]), game.UpCardValue))
+      return card;
+  }
+  return -1;
+}
+
+void BM_CardClick(benchmark::State& state) {
+  Table table;
+  frmSpirehold& game = *table.game;
+  player::Click(game.cmdPlay);
+  int card = 0;
+  for (auto _ : state) {
+    if (card < modSpirehold::kTowers) {  // the topmost cards stay, so that the round goes on
+      state.PauseTiming();
+      if (game.CurrentRun != 0 && game.CurrentRun != 25) state.SkipWithError("a card wasn't taken");
+      game.Deal();
+      game.TowersCompleted = 0;
+      game.CurrentRun = 0;
+      game.RunValue = 0;
+      game.common.CurrentScore = 0;
+      card = modSpirehold::kCards - 1;
+      state.ResumeTiming();
+    }
+    game.UpCardValue = CardValue(game.DeckCards[card]) % 13 + 1;
+    player::Click(game.UpCardImage(card--));
+  }
+}
+BENCHMARK(BM_CardClick);
+
+void BM_StackClick(benchmark::State& state) {
+  Table table;
+  frmSpirehold& game = *table.game;
+  player::Click(game.cmdPlay);
+  for (auto _ : state) {
+    if (game.StackIndex == 52) game.StackIndex = modSpirehold::kFirstOfStack;
+    player::Click(game.CardStackPicture);
+  }
+}
+BENCHMARK(BM_StackClick);
+
+// From Play to "Game Over", with all that is counted and announced on the way.
+void BM_WholeGame(benchmark::State& state) {
+  Table table;
+  frmSpirehold& game = *table.game;
+  long long clicks = 0;
+  for (auto _ : state) {
+    player::Click(game.cmdPlay);
+    while (game.common.GameInProgress) {
+      ++clicks;
+      const int card = LegalCard(game);
+      if (card >= 0)
+        player::Click(game.UpCardImage(card));
+      else if (game.StackIndex < 52)
+        player::Click(game.CardStackPicture);
+      else
+        player::Click(game.cmdTakeScore);
+    }
+  }
+  state.counters["clicks"] =
+      benchmark::Counter(static_cast<double>(clicks), benchmark::Counter::kAvgIterations);
+}
+BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,209 @@
+// Settings files good and bad, and that no file is ever half written.
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+
+#include "tests/sumfall_cards.h"
+
+namespace {
+
+const std::string kIni = "Sumfall.Ini";
+
+std::string IniText(const std::vector<std::pair<std::string, std::string>>& sections) {
+  std::string text;
+  for (const auto& [name, value] : sections) text += "[" + name + "]\r\n" + value + "\r\n\r\n";
+  return text;
+}
+const std::string kDefaults = IniText({{"Color", "1"},
+                                       {"Play Music", "False"},
+                                       {"Time", "90"},
+                                       {"DrawTimer", "True"},
+                                       {"Play Sounds", "True"},
+                                       {"CardGoal", "11"},
+                                       {"State", "0"},
+                                       {"Width", "9540"},
+                                       {"Height", "7200"},
+                                       {"Deck", "1"}});
+const std::string kClose = "close frmSumfall\nanswer \"Yes\"\n";
+
+TEST(Settings, AMissingFileIsMadeWithTheDefaults) {
+  TestFolder folder;
+  Driver driver(folder.Path());
+  EXPECT_TRUE(BoxesOf(driver.Do(kOpenSumfall)).empty());
+  EXPECT_EQ(folder.Read(kIni), kDefaults);
+  for (const char* ticked : {"mnuRed", "mnu90", "mnuDrawTimer", "mnuSounds", "mnu11", "mnuPalm"})
+    EXPECT_EQ(driver.Get("frmSumfall." + std::string(ticked) + ".Checked"), true) << ticked;
+  EXPECT_EQ(driver.Get("frmSumfall.mnuMusic.Checked"), false);
+}
+
+TEST(Settings, AreAppliedAsTheMenusWouldAndWrittenBack) {
+  TestFolder folder;
+  const std::string text = IniText({{"Color", "4"},
+                                    {"Play Music", "True"},
+                                    {"Time", "150"},
+                                    {"DrawTimer", "False"},
+                                    {"Play Sounds", "False"},
+                                    {"CardGoal", "14"},
+                                    {"State", "0"},
+                                    {"Width", "12000"},
+                                    {"Height", "9000"},
+                                    {"Deck", "3"}});
+  folder.Write(kIni, text);
+  Driver driver(folder.Path());
+  driver.Do(kOpenSumfall);
+  for (const char* ticked : {"mnuPurple", "mnuMusic", "mnu150", "mnu14", "mnuNight"})
+    EXPECT_EQ(driver.Get("frmSumfall." + std::string(ticked) + ".Checked"), true) << ticked;
+  for (const char* unticked : {"mnuRed", "mnu90", "mnuDrawTimer", "mnuSounds", "mnu11", "mnuPalm"})
+    EXPECT_EQ(driver.Get("frmSumfall." + std::string(unticked) + ".Checked"), false) << unticked;
+  EXPECT_EQ(driver.Get("frmSumfall.UpCardSelectionRectangle.BorderColor"), 0x800080);
+  EXPECT_EQ(driver.Text("frmSumfall.lblElevens.Caption"), "Fourteens:");
+  EXPECT_EQ(driver.common().ImageList2("BACK"), 8);
+  EXPECT_EQ(driver.Get("frmSumfall.Width"), 12000);
+  EXPECT_TRUE(folder.Has("HiScores150_14.Txt"));
+  driver.Do(kClose);
+  EXPECT_EQ(folder.Read(kIni), text);
+}
+
+TEST(Settings, AValueThatMatchesNothingChangesNothing) {
+  const struct {
+    const char *section, *value, *property, *expected;
+  } rows[] = {
+      {"Time", "75", "mnu90.Checked", "true"},
+      {"Time", "99999", "mnu90.Checked", "true"},
+      {"Time", "", "mnu90.Checked", "true"},
+      {"Time", "30", "mnu30.Checked", "true"},
+      {"Deck", "5", "mnuPalm.Checked", "false"},
+      {"Deck", "0", "mnuHot.Checked", "false"},
+      {"Color", "6", "UpCardSelectionRectangle.BorderColor", "255"},
+      {"Color", "-1", "UpCardSelectionRectangle.BorderColor", "255"},
+      {"Color", "0", "UpCardSelectionRectangle.BorderColor", "65535"},
+      {"CardGoal", "9", "mnu11.Checked", "false"},
+      {"CardGoal", "9", "lblElevens.Caption", "Elevens:"},
+      {"CardGoal", "40000", "mnu11.Checked", "true"},
+      {"CardGoal", "x", "mnu11.Checked", "true"},
+      {"State", "7", "WindowState", "0"},
+      {"State", "2", "WindowState", "2"},
+      {"Play Sounds", "perhaps", "mnuSounds.Checked", "true"},
+      {"DrawTimer", "False", "mnuDrawTimer.Checked", "false"},
+      {"Width", "5000", "Width", "9540"},
+      {"Width", "99999999999", "Width", "9540"},
+      {"Width", "-20", "Width", "9540"},
+      {"Width", "999999", "Width", "15360"},
+      {"Height", "8000", "Height", "8000"},
+  };
+  for (const auto& row : rows) {
+    TestFolder folder;
+    folder.Write(
+        kIni, "; a line that nobody knows\r\n" + IniText({{row.section, row.value}}) + "[Unknown]\r\n12\r\n");
+    Driver driver(folder.Path());
+    EXPECT_TRUE(BoxesOf(driver.Do(kOpenSumfall)).empty());
+    EXPECT_EQ(driver.Text("frmSumfall." + std::string(row.property)), row.expected)
+        << row.section << row.value;
+    EXPECT_FALSE(folder.Has(kIni + ".bad"));
+  }
+}
+
+TEST(Settings, TheOrderOfTheFileMatters) {
+  const struct {
+    std::vector<std::pair<std::string, std::string>> sections;
+    int width, height;
+  } rows[] = {
+      {{{"State", "2"}, {"Width", "10000"}, {"Height", "8000"}}, 15360, 11520},
+      {{{"Width", "10000"}, {"Height", "8000"}, {"State", "2"}}, 15360, 11520},
+      {{{"State", "0"}, {"Width", "10000"}, {"Height", "8000"}}, 10000, 8000},
+      {{{"Width", "12000"}, {"Height", "3000"}}, 9540, 7200},  // the resize event sets both
+      {{{"Height", "3000"}, {"Width", "12000"}}, 12000, 7200},
+  };
+  for (const auto& row : rows) {
+    TestFolder folder;
+    folder.Write(kIni, IniText(row.sections));
+    Driver driver(folder.Path());
+    driver.Do(kOpenSumfall);
+    EXPECT_EQ(driver.Get("frmSumfall.Width"), row.width) << IniText(row.sections);
+    EXPECT_EQ(driver.Get("frmSumfall.Height"), row.height) << IniText(row.sections);
+  }
+}
+
+TEST(Settings, AMaximisedWindowIsWrittenWithItsDesignSize) {
+  TestFolder folder;
+  Driver driver(folder.Path());
+  driver.Do(kOpenSumfall + "resize frmSumfall 12000 9000\nstate frmSumfall 2\n" + kClose);
+  const std::string text = folder.Read(kIni);
+  EXPECT_TRUE(Contains(text, "[State]\r\n2\r\n\r\n[Width]\r\n9540\r\n\r\n[Height]\r\n7200\r\n")) << text;
+}
+
+TEST(Settings, ADesignStaysInForceWhereTheFileNamesNone) {
+  TestFolder folder;
+  Driver driver(folder.Path());
+  driver.Do(kOpenSumfall + "click frmSumfall.mnuHot\n" + kClose);
+  EXPECT_TRUE(Contains(folder.Read(kIni), "[Deck]\r\n4\r\n"));
+  folder.Write(kIni, IniText({{"Time", "60"}}));
+  driver.Do(kOpenSumfall);
+  EXPECT_EQ(driver.common().ImageList2("FULL"), 10);
+}
+
+TEST(Settings, AFileThatMakesNoSenseIsKeptBeside) {
+  const std::string huge(3 << 20, '#');
+  for (const std::string& text : {std::string("no settings at all"), std::string("\0\1\2\xff", 4), huge}) {
+    TestFolder folder;
+    folder.Write(kIni, text);
+    Driver driver(folder.Path());
+    EXPECT_TRUE(BoxesOf(driver.Do(kOpenSumfall)).empty());
+    EXPECT_EQ(folder.Read(kIni), kDefaults);
+    EXPECT_EQ(folder.Read(kIni + ".bad"), text);
+  }
+  TestFolder folder;
+  std::filesystem::create_directory(folder.Path() / kIni);
+  Driver driver(folder.Path());
+  EXPECT_TRUE(BoxesOf(driver.Do(kOpenSumfall)).empty());
+  EXPECT_EQ(folder.Read(kIni), kDefaults);
+  TestFolder empty;
+  empty.Write(kIni, "");
+  Driver other(empty.Path());
+  other.Do(kOpenSumfall);
+  EXPECT_EQ(empty.Read(kIni), kDefaults);
+  EXPECT_FALSE(empty.Has(kIni + ".bad")) << "an empty file holds nothing to keep";
+}
+
+TEST(Settings, AFolderThatCantBeWrittenIsToldOnce) {
+  TestFolder folder;
+  folder.Write("file", "in the way");
+  Driver driver(folder.Path() / "file" / "below");
+  std::string said = driver.Do(kOpenSumfall + "answer \"OK\"");
+  ASSERT_EQ(BoxesOf(said).size(), 1u);
+  EXPECT_TRUE(Contains(BoxesOf(said)[0], "can't be kept"));
+  said = FinishWith(driver, 61000,
+                    "type frmHiScoreName.lblPlayerName \"Me\"\nclick frmHiScoreName.cmdOK\n"
+                    "get frmHighScores.ScoreList(0).Caption\nclick frmHighScores.cmdDone");
+  EXPECT_EQ(Joined(LinesOf(said, "ok ")), "\"Me\"") << "the score lasts until the program ends";
+  said = driver.Do(
+      "click frmSumfall.mnu30\nclick frmSumfall.mnuHot\nclick frmSumfall.cmdExit\nanswer \"Yes\"\n" +
+      kOpenSumfall);
+  EXPECT_EQ(BoxesOf(said).size(), 1u) << "only the closing question";
+  EXPECT_EQ(driver.Get("frmSumfall.mnu30.Checked"), true);
+}
+
+TEST(Files, AreOldOrNewAtAnyMoment) {
+  TestFolder folder;
+  const auto path = folder.Path() / "table.Txt";
+  const std::string texts[2] = {std::string(200000, 'a'), std::string(100000, 'b')};
+  ASSERT_TRUE(Files::Write(path, texts[0]));
+  int seen[2] = {};
+  for (int round = 0; round < 60; ++round) {
+    const pid_t child = fork();
+    if (child == 0)
+      for (int i = round;; ++i) Files::Write(path, texts[i % 2]);
+    usleep(500 + round * 171);
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    const std::string found = folder.Read("table.Txt");
+    ASSERT_TRUE(found == texts[0] || found == texts[1]) << found.size() << " bytes after kill " << round;
+    ++seen[found == texts[1]];
+  }
+  EXPECT_GT(seen[1], 0) << "the child must have had the time to write";
+  EXPECT_FALSE(Files::Write(folder.Path() / "none" / "x", "text"));
+  std::filesystem::create_directories(folder.Path() / "taken" / "inner");
+  EXPECT_FALSE(Files::Write(folder.Path() / "taken", "text"));
+}
+
+}  // namespace

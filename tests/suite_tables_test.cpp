@@ -1,0 +1,233 @@
+// High score tables: their form, who gets in where, and that no entry is ever lost.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include "suite/high_scores.h"
+#include "tests/sumfall_cards.h"
+
+namespace {
+
+const std::string kTable = "HiScores90_11.Txt";
+
+std::string Repeated(const std::string& line, int times) {
+  std::string text;
+  for (int i = 0; i < times; ++i) text += line;
+  return text;
+}
+const std::string kFresh = Repeated("Quillmark, 50000\r\n", 10) + "\r\n";
+
+// What a player does at the end of a game that has a place.
+std::string Enter(const std::string& name) {
+  return "type frmHiScoreName.lblPlayerName \"" + name +
+         "\"\nclick frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone\n";
+}
+
+TEST(Tables, EntriesFindTheirPlace) {
+  const auto names = [](const HighScores& scores) {
+    std::string all;
+    for (const HighScore& entry : scores) all += entry.name + " ";
+    return all;
+  };
+  HighScores scores = FreshHighScores("50000");
+  EXPECT_EQ(PlaceOf(scores, 0), std::nullopt);
+  EXPECT_EQ(PlaceOf(scores, 50000), std::nullopt) << "a tie goes below the tenth";
+  EXPECT_EQ(PlaceOf(scores, 50001), 0u);
+  scores = WithEntry(scores, {"a", 60000});
+  scores = WithEntry(scores, {"b", 60000});
+  EXPECT_EQ(scores.size(), 10u);
+  EXPECT_EQ(scores[0].name + scores[1].name, "ab") << "a tie goes below the older entry";
+
+  HighScores falling;
+  for (int i = 0; i < 10; ++i) falling.push_back({std::string(1, static_cast<char>('A' + i)), 1000 - i * 10});
+  EXPECT_EQ(PlaceOf(falling, 911), 9u);
+  const HighScores eleven = WithEntry(falling, {"x", 911});
+  EXPECT_EQ(names(eleven), "A B C D E F G H I x J ") << "the old tenth stays as an eleventh line";
+  EXPECT_EQ(PlaceOf(eleven, 910), std::nullopt);
+  EXPECT_EQ(names(WithEntry(eleven, {"y", 5})), "A B C D E F G H I x ") << "and goes at the next update";
+  EXPECT_EQ(names(WithEntry(eleven, {"y", 2000})), "y A B C D E F G H I ");
+  EXPECT_EQ(names(WithEntry({{"A", 100}}, {"y", 50})), "A ") << "free places of a short table stay free";
+  EXPECT_EQ(names(WithEntry({{"A", 100}}, {"y", 150})), "y A ");
+}
+
+TEST(Tables, ReadWhatCanBeRead) {
+  const struct {
+    const char* text;
+    size_t entries;
+    bool damaged;
+  } rows[] = {{"", 0, false},
+              {"\r\n", 0, false},
+              {"A, 1\r\nB, -2\r\n\r\n", 2, false},
+              {"A,1\nB*,  2", 2, false},
+              {"A, 1\r\nrubbish\r\nC, 3\r\n", 1, true},
+              {"A, 99999999999\r\n", 0, true},
+              {"A, 1, 2\r\n", 0, true},
+              {"\x01\x02\xff", 0, true}};
+  for (const auto& row : rows) {
+    bool damaged = false;
+    EXPECT_EQ(ParseHighScores(row.text, damaged).size(), row.entries) << row.text;
+    EXPECT_EQ(damaged, row.damaged) << row.text;
+  }
+}
+
+TEST(Tables, AreMadeAtTheFirstLookAndOnePerLimitAndGoal) {
+  TestFolder folder;
+  Driver driver(folder.Path());
+  driver.Do(kOpenSumfall);
+  EXPECT_EQ(folder.Read(kTable), kFresh);
+  EXPECT_EQ(driver.Text("frmSumfall.lblHighScore.Caption"), "High Score: 50,000");
+  folder.Write("HiScores30_11.Txt", "Z, 1234567\r\n\r\n");
+  driver.Do("click frmSumfall.mnu30");
+  EXPECT_EQ(driver.Text("frmSumfall.lblHighScore.Caption"), "High Score: 1,234,567");
+  driver.Do("click frmSumfall.mnu15");
+  EXPECT_EQ(folder.Read("HiScores30_15.Txt"), kFresh);
+  EXPECT_EQ(driver.Text("frmSumfall.lblHighScore.Caption"), "High Score: 50,000");
+}
+
+TEST(Tables, APlaceAsksForTheNameAndShowsTheHallOfFame) {
+  TestFolder folder;
+  Driver driver(folder.Path());
+  driver.Do(kOpenSumfall);
+  std::string said = FinishWith(driver, 50000, "");
+  EXPECT_TRUE(LinesOf(said, "* show").empty()) << "a tie with all ten has no place";
+  EXPECT_EQ(folder.Read(kTable), kFresh);
+
+  driver.Do("trace on");
+  said = FinishWith(
+      driver, 71200,
+      "get frmHiScoreName.lblInfo.Caption\nget frmHiScoreName.Caption\n"
+      "type frmHiScoreName.lblPlayerName \"Smith, J\"\nkey frmHiScoreName \"Return\"\nanswer \"OK\"\n" +
+          Enter("J\xc3\xb6rg \\n Smith"));
+  driver.Do("trace off");
+  EXPECT_EQ(BoxesOf(said), std::vector<std::string>{"Sorry, you may not use commas in your name."});
+  EXPECT_TRUE(Contains(said, "\"icon\":\"critical\""));
+  EXPECT_EQ(Joined(LinesOf(said, "ok \"")),
+            "Great score! Please enter your name so we can induct you into the Sumfall! Hall of "
+            "Fame:\"|Sumfall!\"");
+  EXPECT_LT(said.find("* sound \"\\\\HighScore.wav\""), said.find("* show frmHiScoreName modal"));
+  EXPECT_LT(said.find("* show frmHiScoreName modal"), said.find("* show frmHighScores modal"));
+  EXPECT_LT(said.find("* unload frmHighScores"),
+            said.find("* set frmSumfall.lblMessage.Caption \"Game Over\""));
+  EXPECT_EQ(folder.Read(kTable),
+            "J\xc3\xb6rg   Smith, 71200\r\n" + Repeated("Quillmark, 50000\r\n", 9) + "\r\n");
+  EXPECT_EQ(driver.Text("frmSumfall.lblHighScore.Caption"), "High Score: 71,200");
+
+  driver.common().CustomScoringInUse = true;
+  said =
+      FinishWith(driver, 71200,
+                 "close frmHiScoreName\nget frmHighScores.Caption\nget frmHighScores.lblHiScoreInfo.Caption\n"
+                 "get frmHighScores.ScoreList(0).Caption\nget frmHighScores.ScoreList(2).Caption\n"
+                 "get frmHighScores.ScoreList(3).Caption\nget frmHighScores.ScoreList(19).Caption\n"
+                 "click frmHighScores.cmdDone\n");
+  EXPECT_EQ(Joined(LinesOf(said, "ok ")),
+            "\"Sumfall! Hall of Fame (90 secs)\"|"
+            "\"High Scores for Card Goal of 11\\r\\n* denotes customized scoring was used\"|"
+            "\"J\xc3\xb6rg   Smith\"|\"Unknown User*\"|\"71,200\"|\"50,000\"");
+  EXPECT_TRUE(Contains(folder.Read(kTable), "Unknown User*, 71200\r\n"));
+}
+
+TEST(Tables, ViewAndClear) {
+  TestFolder folder;
+  Driver driver(folder.Path());
+  folder.Write(kTable, "A, 90000\r\nB, 80000\r\n\r\n");
+  folder.Write("HiScores30_11.Txt", "C, 70000\r\n\r\n");
+  driver.Do(kOpenSumfall + kPlay);
+  const std::string view =
+      "click frmSumfall.mnuViewHiScore\nget frmHighScores.ScoreList(2).Caption\nget "
+      "frmHighScores.ScoreList(4).Caption\n";
+  std::string said =
+      driver.Do(view +
+                "get frmSumfall.lblMessage.Caption\nadvance 5000\nget frmSumfall.lblTime.Caption\n"
+                "click frmHighScores.cmdClear\nanswer \"No\"\nclick frmHighScores.cmdDone\n");
+  EXPECT_EQ(Joined(LinesOf(said, "ok ")), "\"B\"|\"\"|\"Game Paused\"|\"Time: 90\"");
+  EXPECT_EQ(BoxesOf(said), std::vector<std::string>{"This will clear all High Scores. Are You Sure?"});
+  EXPECT_EQ(driver.Text("frmSumfall.lblMessage.Caption"), "") << "the game goes on";
+  said = driver.Do(view +
+                   "click frmHighScores.cmdClear\nanswer \"Yes\"\nget frmHighScores.ScoreList(2).Caption\n"
+                   "click frmHighScores.cmdDone\n");
+  EXPECT_EQ(LinesOf(said, "ok ").back(), "\"Quillmark\"");
+  EXPECT_EQ(folder.Read(kTable), kFresh);
+  EXPECT_EQ(folder.Read("HiScores30_11.Txt"), "C, 70000\r\n\r\n") << "only the present table is cleared";
+  EXPECT_EQ(driver.Text("frmSumfall.lblHighScore.Caption"), "High Score: 50,000");
+  folder.Write(kTable, "A, 90000\r\n\r\n");
+  driver.Do("click frmSumfall.mnuClear\nanswer \"Yes\"");
+  EXPECT_EQ(folder.Read(kTable), kFresh);
+  // A paused game stays paused.
+  driver.Do("click frmSumfall.cmdPause\n" + view + "click frmHighScores.cmdDone");
+  EXPECT_EQ(driver.Text("frmSumfall.lblMessage.Caption"), "Game Paused");
+}
+
+TEST(Tables, ADamagedOneIsKeptBesideTheNew) {
+  const struct {
+    const char *text, *kept;
+    int best;
+  } rows[] = {{"A, 99000\r\nB; 5\r\n", "A, 99000\r\n\r\n", 99000},
+              {"\xff\xfe rubbish", nullptr, 50000},
+              {"A, 12345678901\r\n", nullptr, 50000}};
+  for (const auto& row : rows) {
+    TestFolder folder;
+    folder.Write(kTable, row.text);
+    Driver driver(folder.Path());
+    driver.Do(kOpenSumfall);
+    EXPECT_EQ(folder.Read(kTable + ".bad"), row.text);
+    EXPECT_EQ(folder.Read(kTable), row.kept ? row.kept : kFresh);
+    EXPECT_EQ(driver.Text("frmSumfall.lblHighScore.Caption"), "High Score: " + FormatNumber(row.best));
+  }
+  TestFolder folder;
+  std::filesystem::create_directories(folder.Path() / kTable / "inner");
+  folder.Write("HiScores30_11.Txt", std::string(2 << 20, 'x'));
+  Driver driver(folder.Path());
+  EXPECT_TRUE(BoxesOf(driver.Do(kOpenSumfall + "click frmSumfall.mnu30")).empty());
+  EXPECT_EQ(folder.Read(kTable), kFresh) << "where a folder stood";
+  EXPECT_EQ(folder.Read("HiScores30_11.Txt"), kFresh);
+  EXPECT_TRUE(folder.Has(kTable + ".bad/inner"));
+}
+
+TEST(Tables, TwoCopiesThatAskAtOnceKeepBothNames) {
+  TestFolder folder;
+  Driver first(folder.Path()), second(folder.Path());
+  first.Do(kOpenSumfall);
+  second.Do(kOpenSumfall);
+  first.meanwhile = [&] { FinishWith(second, 65000, Enter("Second")); };
+  FinishWith(first, 60000, "@\n" + Enter("First"));
+  EXPECT_EQ(folder.Read(kTable),
+            "Second, 65000\r\nFirst, 60000\r\n" + Repeated("Quillmark, 50000\r\n", 8) + "\r\n");
+}
+
+TEST(Tables, ManyCopiesLoseNoEntry) {
+  for (int round = 0; round < 5; ++round) {
+    TestFolder folder;
+    std::vector<pid_t> children;
+    for (int child = 0; child < 5; ++child) {
+      const pid_t pid = fork();
+      if (pid == 0) {
+        Driver driver(folder.Path());
+        driver.Do(kOpenSumfall);
+        for (int game = 0; game < 2; ++game) {
+          const int score = 60000 + 10 * child + game;
+          FinishWith(driver, score, Enter("P" + std::to_string(score)));
+        }
+        _exit(0);
+      }
+      children.push_back(pid);
+    }
+    for (pid_t pid : children) {
+      int status = 1;
+      waitpid(pid, &status, 0);
+      EXPECT_EQ(status, 0);
+    }
+    std::string expected;
+    for (int child = 4; child >= 0; --child)
+      for (int game = 1; game >= 0; --game) {
+        const std::string score = std::to_string(60000 + 10 * child + game);
+        expected += "P" + score + ", " + score + "\r\n";
+      }
+    bool damaged = false;
+    HighScores scores = ParseHighScores(folder.Read(kTable), damaged);
+    scores.resize(std::min<size_t>(scores.size(), 10));
+    EXPECT_EQ(FormatHighScores(scores), expected + "\r\n");
+    EXPECT_FALSE(damaged);
+    EXPECT_FALSE(folder.Has(kTable + ".bad"));
+  }
+}
+
+}  // namespace

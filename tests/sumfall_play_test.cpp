@@ -1,0 +1,380 @@
+// A round of Sumfall click by click, and what a whole game pays.
+#include <gtest/gtest.h>
+
+#include "suite/high_scores.h"
+#include "tests/sumfall_cards.h"
+
+using namespace modSumfall;
+
+namespace {
+
+const std::string kFlip = "click frmSumfall.PlayCardPicture\n", kUp = "click frmSumfall.UpCardPicture\n";
+
+class Sumfall : public ::testing::Test {
+ protected:
+  Sumfall() { driver.Do(kOpenSumfall); }
+  frmSumfall& game() { return SumfallOf(driver); }
+  modCommon& common() { return driver.common(); }
+  std::string Text(const std::string& property) { return driver.Text("frmSumfall." + property); }
+  // Deals a deck that begins with these cards.
+  void Deal(const std::vector<std::string>& cards) {
+    driver.Do(DrawsFor(DeckForGoal(static_cast<int>(game().CardGoal)), cards) + kPlay);
+  }
+  // The sounds of some clicks, and what they leave: "Chord.wav ... total score".
+  std::string Played(const std::string& commands) {
+    std::string all;
+    for (const std::string& sound : LinesOf(driver.Trace(commands), "* sound "))
+      all += sound.substr(3, sound.size() - 8) + " ";
+    return all + Text("lblCurrentTotal.Caption") + " " + Text("lblCurrentScore.Caption");
+  }
+
+  TestFolder folder;
+  Driver driver{folder.Path()};
+};
+
+TEST_F(Sumfall, DealsTheDeckAsItLies) {
+  const std::string draws = DrawsFor(DeckForGoal(11), {});
+  const std::string said = driver.Trace(draws + kPlay);
+  EXPECT_EQ(driver.Do("random 1..52"), "ok 0\n");
+  const CardCodes deck = DeckForGoal(11);
+  for (int i = 0; i < kPlaces; ++i) {
+    EXPECT_EQ(game().FieldCards[i], deck[i + 1]);
+    EXPECT_EQ(game().FieldCardPicture(i).Picture, common().ImageList2(CardKey(deck[i + 1])));
+    EXPECT_TRUE(game().FieldCardPicture(i).Visible && !game().FieldSelectionRectangle(i).Visible);
+  }
+  EXPECT_EQ(game().UpCards[1], " 8S");
+  EXPECT_EQ(game().StockIndex, 29);
+  EXPECT_EQ(game().StockCards[0], " 8S") << "the up card lies at the bottom of the pile once more";
+  EXPECT_EQ(game().StockCards[29], " 10D");
+  EXPECT_EQ(Text("lblCardCount.Caption") + Text("lblCurrentTotal.Caption") + Text("lblTime.Caption"),
+            "Cards: 300Time: 90");
+  EXPECT_EQ(Text("StatusBar1.Panels(1).Text"), "Make 80,000 for Bonus Round!   ");
+  EXPECT_EQ(Text("StatusBar1.Panels(2).Text"), "Click on exposed cards to total 11!   ");
+  EXPECT_EQ(game().Round1Deck, deck);
+  EXPECT_EQ(game().Round2Deck, CardCodes(53));
+  EXPECT_EQ(Text("cmdTakeScore.ToolTipText"), "Ends current round and awards time bonus");
+  EXPECT_EQ(Joined(LinesOf(said, "* set frmSumfall.MousePointer ")), "11|0");
+}
+
+TEST_F(Sumfall, SelectsDeselectsAndRefuses) {
+  auto cards = ElevenPairs();
+  std::swap(cards[20], cards[13]);  // 9C at the bottom, beside 8C
+  std::swap(cards[7], cards[6]);    // an ace at place 7
+  Deal(cards);
+  EXPECT_EQ(Played(ClickField(0)), "Chord 0 0") << "covered";
+  EXPECT_EQ(Played(ClickField(20)), "Markq 9 0");
+  EXPECT_EQ(Played(ClickField(21)), "Chord 9 0") << "17 is too much";
+  EXPECT_FALSE(game().FieldSelectionRectangle(21).Visible);
+  EXPECT_EQ(Played(ClickField(7)), "Markq 10 0") << "place 7 is free from the start";
+  EXPECT_EQ(Played(ClickField(20)), "Tick 1 0");
+  EXPECT_EQ(Played(ClickField(7) + ClickField(16)), "Tick Chord 0 0");
+  EXPECT_FALSE(game().FieldSelectionRectangle(7).Visible);
+}
+
+TEST_F(Sumfall, CombinationsPayByTierAtOnce) {
+  auto cards = ElevenPairs();
+  std::swap(cards[7], cards[13]);  // 9C at place 7
+  cards.push_back("1H");           // the up card
+  Deal(cards);
+  EXPECT_EQ(Played(ClickField(7) + kUp), "Markq Markq 10 0");
+  EXPECT_EQ(Played(kUp + ClickField(7)), "Tick Tick 0 0");
+  EXPECT_EQ(Played(ClickField(20) + ClickField(21)), "Markq Markq TwentyOne 0 400");
+  EXPECT_EQ(Text("lblCurrentElevens.Caption"), "1");
+  EXPECT_FALSE(game().FieldCardPicture(20).Visible || game().FieldCardPicture(21).Visible);
+  EXPECT_FALSE(game().FieldSelectionRectangle(20).Visible);
+  EXPECT_EQ(Played(ClickField(18) + ClickField(19)), "Markq Markq TwentyOne 0 1,000");
+  // Three cards, the up card among them: 500 and 300 and 100. The next card comes up by itself.
+  game().FieldCards[17] = "1C";
+  EXPECT_EQ(Played(ClickField(7) + kUp + ClickField(17)), "Markq Markq Markq TwentyOne 0 1,900");
+  EXPECT_EQ(Text("lblCurrentElevens.Caption") + Text("lblCardCount.Caption"), "3Cards: 29");
+}
+
+TEST_F(Sumfall, ACardOfTheGoalsValueIsACombinationAlone) {
+  driver.Do("click frmSumfall.mnu10");
+  auto cards = ElevenPairs();
+  std::swap(cards[20], cards[1]);  // 10S at place 20
+  Deal(cards);
+  EXPECT_EQ(Played(ClickField(20)), "Markq TwentyOne 0 200");
+}
+
+TEST_F(Sumfall, FlipsCostMoreWhenTheFieldTakesTheCard) {
+  auto cards = ElevenPairs();
+  Deal(cards);
+  const std::string top = game().StockCards[29];
+  EXPECT_EQ(Played(ClickField(20) + kFlip), "Markq Markq 0 -100") << "the selection goes";
+  EXPECT_FALSE(game().FieldSelectionRectangle(20).Visible);
+  EXPECT_EQ(game().UpCards[2], top);
+  EXPECT_EQ(Text("lblCardCount.Caption"), "Cards: 29");
+  EXPECT_EQ(driver.Get("frmSumfall.lblCurrentScore.ForeColor"), 255) << "red below zero";
+  EXPECT_EQ(Played(ClickField(20) + ClickField(21)), "Markq Markq TwentyOne 0 300");
+  EXPECT_EQ(driver.Get("frmSumfall.lblCurrentScore.ForeColor"), 0xFF0000);
+  EXPECT_EQ(Played(kFlip), "Markq 0 100") << "200 in all";
+  EXPECT_EQ(game().FieldCards[20], top) << "the lowest number that is free";
+  EXPECT_TRUE(game().FieldCardPicture(20).Visible && !game().FieldCardPicture(21).Visible);
+  EXPECT_EQ(game().UpCardIndex, 2);
+}
+
+TEST_F(Sumfall, AnUpCardThatIsUsedUpIsReplacedForNothing) {
+  auto cards = ElevenPairs();
+  cards.push_back("3D");
+  Deal(cards);
+  const std::string next = game().StockCards[29];
+  EXPECT_EQ(Played(ClickField(21) + kUp), "Markq Markq TwentyOne 0 300")
+      << "200 and 100; the flip is free and silent";
+  EXPECT_EQ(game().UpCards[1], next);
+  EXPECT_EQ(game().UpCardPicture.Picture, common().ImageList2(CardKey(next)));
+  EXPECT_EQ(Text("lblCardCount.Caption"), "Cards: 29");
+  EXPECT_FALSE(game().FieldCardPicture(21).Visible) << "nothing falls back";
+}
+
+TEST_F(Sumfall, EmptyPilesRefuse) {
+  Deal(ElevenPairs());
+  std::string pictures;
+  for (int n = 30; n > 0; --n) {
+    driver.Do(kFlip);
+    pictures += common().ImageList2.Key(game().PlayCardPicture.Picture)[0];
+  }
+  EXPECT_EQ(pictures, "FFFFFFFFFHHHHHHHHHHBBBBBBBBBBE");
+  EXPECT_EQ(Text("lblCardCount.Caption"), "Cards: 0");
+  EXPECT_EQ(game().UpCardIndex, 31) << "a full field takes no card";
+  EXPECT_EQ(game().UpCards[31], game().UpCards[1]) << "the repeated card comes last";
+  EXPECT_EQ(Played(kFlip), "Chord 0 -3,000");
+  game().UpCardIndex = 0;
+  EXPECT_EQ(Played(kUp), "Chord 0 -3,000");
+}
+
+TEST_F(Sumfall, AFullUpPileTakesNoMore) {
+  for (const char* goal : {"mnu14", "mnu15"}) {
+    driver.Do("click frmSumfall." + std::string(goal));
+    Deal({});
+    for (int n = 0; n < 30; ++n) driver.Do(kFlip);
+    EXPECT_EQ(game().UpCardIndex, 31);
+    EXPECT_EQ(Text("lblCardCount.Caption"), "Cards: 12");
+    EXPECT_EQ(Played(kFlip), "Chord 0 -3,000");
+    EXPECT_EQ(Text("lblCardCount.Caption"), "Cards: 12");
+    game().FieldCardPicture(20).Visible = false;
+    EXPECT_EQ(Played(kFlip), "Markq 0 -3,200") << "the field takes the top card";
+    driver.Do("click frmSumfall.cmdPlay\nanswer \"Yes\"");
+  }
+}
+
+TEST_F(Sumfall, ASelectionAtTheTopSurvivesAPause) {
+  Deal(ElevenPairs());
+  for (int place : {3, 4}) game().FieldCardPicture(place).Visible = false;
+  driver.Do(ClickField(0) + ClickField(20) + "click frmSumfall.cmdPause\n");
+  EXPECT_EQ(game().CurrentTotal, 0);
+  driver.Do("click frmSumfall.cmdPause");
+  EXPECT_TRUE(game().FieldSelectionRectangle(0).Visible);
+  EXPECT_FALSE(game().FieldSelectionRectangle(20).Visible);
+  EXPECT_EQ(Played(ClickField(0)), "Tick -1 0");
+}
+
+// What a player hears and sees while a round is scored, in order.
+std::string Story(const std::string& trace) {
+  std::string story;
+  std::istringstream lines(trace);
+  for (std::string line; std::getline(lines, line);) {
+    const auto take = [&](const std::string& prefix, const std::string& mark) {
+      if (line.rfind(prefix, 0) != 0) return;
+      story += mark + line.substr(prefix.size()) + "\n";
+    };
+    take("* sound ", "");
+    take("* sleep ", "sleep ");
+    take("* doevents", "doevents");
+    take("* mci ", "");
+    take("* set frmSumfall.lblMessage.Caption ", "");
+    take("* set frmSumfall.lblCurrentScore.Caption ", "score ");
+    take("* set frmSumfall.lblCurrentElevens.Caption ", "elevens ");
+    take("* set frmSumfall.MousePointer ", "pointer ");
+  }
+  return story;
+}
+
+std::string Counted(int times, int& score, int step, int elevens = -1) {
+  std::string story;
+  for (int i = 0; i < times; ++i) {
+    score += step;
+    story += "score \"" + FormatNumber(score) + "\"\n";
+    if (elevens > 0) story += "elevens \"" + std::to_string(--elevens) + "\"\n";
+    story += "\"\\\\Snap.wav\"\nsleep 75\n";
+  }
+  return story;
+}
+
+std::string Sleeps(int times, int milliseconds) {
+  std::string story;
+  for (int i = 0; i < times; ++i) story += "sleep " + std::to_string(milliseconds) + "\n";
+  return story;
+}
+
+TEST_F(Sumfall, AClearedFieldPaysThreeBonusesInOrder) {
+  Deal(ElevenPairs());
+  const std::string clicks = ClearElevenPairs();
+  const size_t last = clicks.rfind("click");
+  driver.Do("advance 10000\n" + clicks.substr(0, last));
+  const std::string story = Story(driver.Trace(clicks.substr(last)));
+  int score = 9600;
+  std::string expected =
+      "\"\\\\Markq.wav\"\n\"\\\\TwentyOne.wav\"\nelevens \"11\"\nscore \"9,600\"\npointer "
+      "11\n\"\\\\Wingame.wav\"\n\"Completion Bonus! 10000\"\nsleep 1000\n";
+  expected += Counted(10, score, 1000);
+  expected += "\"11 Elevens! Bonus = 16500\"\n" + Counted(11, score, 1500, 11);
+  expected += "\"Speed Bonus! 8000\"\nsleep 1000\n" + Counted(80, score, 100);
+  expected += "doevents\n\"Prepare for Round Two!\"\n" + Sleeps(11, 250) + "\"\"\npointer 0\n";
+  EXPECT_EQ(story, expected);
+  EXPECT_EQ(common().CurrentScore, 9600 + 10000 + 16500 + 8000);
+  EXPECT_EQ(Text("lblCurrentRound.Caption") + Text("lblTime.Caption"), "2Time: 90");
+  EXPECT_EQ(Text("Timer1.Enabled") + Text("FieldCardPicture(0).Visible") + Text("lblMessage.Visible"),
+            "truetruefalse");
+}
+
+TEST_F(Sumfall, WithoutCountingDownTheSumsComeAtOnce) {
+  driver.Do("click frmSumfall.mnuDrawTimer");
+  Deal(ElevenPairs());
+  const std::string clicks = ClearElevenPairs();
+  const size_t last = clicks.rfind("click");
+  driver.Do(clicks.substr(0, last));
+  EXPECT_EQ(Story(driver.Trace(clicks.substr(last))),
+            "\"\\\\Markq.wav\"\n\"\\\\TwentyOne.wav\"\nelevens \"11\"\nscore \"9,600\"\npointer "
+            "11\n\"\\\\Wingame.wav\"\n\"Completion Bonus! 10000\"\nsleep 1000\n"
+            "score \"19,600\"\nsleep 1000\n\"11 Elevens! Bonus = 16500\"\nscore \"36,100\"\nelevens "
+            "\"0\"\nsleep 1000\n"
+            "\"Speed Bonus! 9000\"\nsleep 1000\nscore \"45,100\"\nsleep 1000\ndoevents\n\"Prepare for Round "
+            "Two!\"\n" +
+                Sleeps(11, 250) + "\"\"\npointer 0\n");
+}
+
+TEST_F(Sumfall, ABonusThatTenDoesntDivideLosesItsRest) {
+  game().CompletionBonus = 9;
+  game().CombinationBonus = 1;
+  common().TimeBonus = 1;
+  Deal(ElevenPairs());
+  driver.Do(ClearElevenPairs());
+  EXPECT_EQ(common().CurrentScore, 9600 + 0 + 11 + 90);
+}
+
+TEST_F(Sumfall, WhenTimeIsUpTheRoundBlinksAndPaysNoSpeedBonus) {
+  Deal(ElevenPairs());
+  driver.Do("click frmSumfall.mnuMusic\nadvance 89999");
+  const std::string said = driver.Trace("advance 1");
+  EXPECT_EQ(Story(said), "pointer 11\n\"Times Up!\"\n" + Sleeps(10, 250) +
+                             "\"close HarbekMidi\"\ndoevents\n\"Prepare for Round Two!\"\n" +
+                             Sleeps(11, 250) +
+                             "\"\"\npointer 0\n\"open \\\"\\\\Quillmark.MID\\\" type sequencer alias "
+                             "HarbekMidi\"\n\"play HarbekMidi\"\n");
+  EXPECT_EQ(Joined(LinesOf(said, "* set frmSumfall.lblMessage.ForeColor "), ""),
+            "02550255025502550255025502550255025502550255")
+      << "ten blinks, eleven blinks, red at the end";
+  EXPECT_TRUE(Contains(said, "* set frmSumfall.StatusBar1.Panels(2).Text \"Time has expired!\""));
+  EXPECT_EQ(Text("cmdPlay.Enabled") + Text("cmdExit.Enabled") + Text("cmdPause.Enabled"), "truetruetrue");
+  driver.Do("advance 1000");
+  EXPECT_EQ(Text("lblTime.Caption"), "Time: 89");
+}
+
+TEST_F(Sumfall, TheBonusRoundNeedsTheWholeScore) {
+  for (int score : {79999, 80000}) {
+    driver.Do("click frmSumfall.mnuMusic\n" + kPlay);
+    common().ElapsedSeconds = common().TimeLimit;
+    driver.Do(kTakeScore);
+    common().ElapsedSeconds = common().TimeLimit;
+    common().CurrentScore = score;
+    const std::string name = "click frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone\n";
+    const std::string story = Story(driver.Trace(kTakeScore + (score < 80000 ? name : "")));
+    if (score < 80000) {
+      EXPECT_TRUE(Contains(story, "\"Game Over\"\nsleep 2000\npointer 0\n")) << story;
+      EXPECT_FALSE(Contains(story, "play Harbek"));
+      driver.Do("click frmSumfall.mnuMusic");
+      continue;
+    }
+    EXPECT_EQ(story, "pointer 11\n\"close HarbekMidi\"\ndoevents\n\"\\\\HighScore.wav\"\n\"Bonus Round!\"\n" +
+                         Sleeps(11, 250) +
+                         "\"\"\n\"open \\\"\\\\Quillmark.MID\\\" type sequencer alias HarbekMidi\"\n\"play "
+                         "HarbekMidi\"\npointer 0\n")
+        << "the music is started once";
+    EXPECT_EQ(Text("lblCurrentRound.Caption"), "Bonus");
+    common().CurrentScore = 500000;
+    driver.Do(kTakeScore + name);
+    EXPECT_FALSE(common().GameInProgress) << "there is no fourth round";
+    EXPECT_EQ(common().PreviousScore, 509000);
+    EXPECT_TRUE(
+        Contains(folder.Read("HiScores90_11.Txt"), "Unknown User, 509000\r\nUnknown User, 79999\r\n"));
+  }
+}
+
+TEST_F(Sumfall, AfterTheGameTheSplashReturns) {
+  const std::string story = Story((driver.Do("trace on"), FinishWith(driver, 100, "")));
+  driver.Do("trace off");
+  EXPECT_TRUE(Contains(story, "\"Game Over\"\nsleep 2000\npointer 0\n"));
+  EXPECT_EQ(Text("StatusBar1.Panels(2).Text"), "Game over");
+  for (const char* enabled : {"cmdExit", "cmdPlay", "cmdTakeScore", "mnuTakeScore", "mnuExit", "mnuPlay",
+                              "mnuTime", "mnuGoal", "mnuScoring", "mnuSave", "mnuOpen"})
+    EXPECT_EQ(Text(std::string(enabled) + ".Enabled"), "true") << enabled;
+  EXPECT_EQ(Text("cmdPause.Enabled") + Text("mnuPause.Enabled") + Text("Timer1.Enabled"), "falsefalsefalse");
+  EXPECT_EQ(Text("cmdPlay.Caption") + Text("cmdTakeScore.Caption") + Text("mnuTakeScore.Caption"),
+            "&Play&Replay&Replay");
+  EXPECT_EQ(Text("cmdPlay.ToolTipText") + Text("cmdTakeScore.ToolTipText"),
+            "Starts a new gameReplays the last game");
+  EXPECT_EQ(Text("lblMessage.Caption") + Text("lblMessage.Visible") + Text("lblMessage.ForeColor"),
+            "Game Overfalse255");
+  EXPECT_EQ(Text("frmSplash.Visible") + Text("Timer4.Enabled") + Text("CardTotalRectangle.Visible"),
+            "truetruetrue");
+  EXPECT_EQ(Text("lblCurrentScore.ForeColor"), std::to_string(0xFF0000));
+}
+
+TEST_F(Sumfall, AReplayIsCardForCard) {
+  driver.Do(kPlay + kTakeScore);
+  common().CurrentScore = 100000;
+  driver.Do(kTakeScore);
+  const CardCodes decks[] = {game().Round1Deck, game().Round2Deck, game().Round3Deck};
+  EXPECT_NE(decks[0], decks[1]);
+  const std::string name = "click frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone\n";
+  driver.Do(kTakeScore + name);
+  for (int turn = 0; turn < 2; ++turn) {
+    driver.Do(turn == 0 ? "click frmSumfall.cmdTakeScore" : "click frmSumfall.mnuTakeScore");
+    for (int round = 0; round < 3; ++round) {
+      EXPECT_EQ(common().Deck, decks[round]) << round;
+      for (int i = 0; i < kPlaces; ++i) EXPECT_EQ(game().FieldCards[i], decks[round][i + 1]);
+      if (round == 1) common().CurrentScore = 100000;
+      driver.Do(kTakeScore + (round == 2 ? name : ""));
+    }
+  }
+  driver.Do(kPlay);
+  EXPECT_NE(game().Round1Deck, decks[0]) << "Play shuffles anew";
+}
+
+TEST_F(Sumfall, AReplayAfterEndGameShufflesWhatWasNeverReached) {
+  driver.Do(kPlay);
+  const CardCodes first = game().Round1Deck;
+  driver.Do("click frmSumfall.cmdPlay\nanswer \"Yes\"\n" + kTakeScore);
+  EXPECT_EQ(common().Deck, first);
+  EXPECT_EQ(Text("cmdTakeScore.Caption"), "&Take Score");
+  driver.Do(DrawsFor(first, {"10D"}) + kTakeScore);
+  EXPECT_EQ(CardKey(common().Deck[1]), "10D") << "round two is drawn";
+  EXPECT_EQ(driver.Do("random 1..52"), "ok 0\n");
+}
+
+TEST_F(Sumfall, AScoreBeyondAllNumbersEndsTheGameAndNotTheProgram) {
+  driver.Do("click frmSumfall.mnu180\n" + kPlay);
+  common().TimeBonus = 5000000;
+  driver.Do(kTakeScore + kTakeScore);
+  EXPECT_EQ(common().CurrentScore, 1800000000);
+  const std::string said =
+      driver.Do(kTakeScore + "answer \"OK\"\nclick frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone\n");
+  EXPECT_EQ(LinesOf(said, "* msgbox ")[0],
+            "{\"text\":\"Overflow\",\"title\":\"Sumfall!\",\"icon\":\"critical\",\"buttons\":[\"OK\"]}");
+  EXPECT_FALSE(common().GameInProgress || common().TakingScore);
+  EXPECT_EQ(Text("cmdPlay.Caption") + Text("cmdPlay.Enabled") + Text("MousePointer"), "&Playtrue0");
+  driver.Do(kPlay + "advance 1000");
+  EXPECT_EQ(Text("lblTime.Caption"), "Time: 179");
+}
+
+TEST_F(Sumfall, AStrangeGoalPlaysTheSmallDeck) {
+  driver.Do("close frmSumfall\nanswer \"Yes\"");
+  folder.Write("Sumfall.Ini", "[CardGoal]\r\n9\r\n");
+  driver.Do(kOpenSumfall + kPlay);
+  EXPECT_EQ(UpperBound(common().Deck), 52);
+  EXPECT_EQ(Text("StatusBar1.Panels(2).Text"), "Click on exposed cards to total 9!   ");
+  EXPECT_TRUE(folder.Has("HiScores90_9.Txt"));
+}
+
+}  // namespace
