@@ -71,6 +71,6 @@ class modCommon {
 inline constexpr char kSuiteTitle[] = "Quillmark's Card Haven";
 
 // Colours as blue, green, red.
-inline constexpr int kRed = 255, kBlack = 0, kBlue = 0xFF0000, kCyan = 0xFFFF00;
+inline constexpr int kRed = 255, kBlack = 0, kBlue = 0xFF0000, kCyan = 0xFFFF00, kWhite = 0xFFFFFF;
 // Mouse pointers.
 inline constexpr int kDefaultPointer = 0, kHourglass = 11, kCustomPointer = 99;

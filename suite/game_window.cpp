@@ -393,6 +393,10 @@ void GameWindow::Form_Resize() {
   StatusBar1.Panels(2).Width = Width * 9 / 20;
   StatusBar1.Panels(3).Width = Width * 3 / 20;
   PlaceBoard();
+  for (const ScoreBox& each : scoreBoxes) {
+    each.side.Visual::Move(each.box.Left + each.box.Width, each.box.Top, 0, each.box.Height);
+    each.bottom.Visual::Move(each.box.Left, each.box.Top + each.box.Height, each.box.Width, 0);
+  }
   PlaceMessage();
 }
 

@@ -53,6 +53,13 @@ struct GamePlan {
 // What the menu bar and the status bar take off a window's height, at most.
 inline constexpr int kBars = 750;
 
+// A box let into the board, with the lines that light its edges.
+struct ScoreBox {
+  Shape& box;
+  Shape& side;
+  Shape& bottom;
+};
+
 // What the rules window shows: the blanks before the heading, and the paragraphs.
 struct RulesPage {
   int blanks;
@@ -196,6 +203,10 @@ class GameWindow : public Form {
   std::vector<std::unique_ptr<Menu>> timeLimitEntries;
   Menu mnuDeck, mnuPalm, mnuMagic, mnuNight, mnuHot;
   Menu mnuHelp, mnuRules, mnuAbout;
+
+  // The boxes of the board; a game adds its own. Their edges follow them.
+  std::vector<ScoreBox> scoreBoxes;
+  void AddScoreBox(Shape& box, Shape& side, Shape& bottom);
 
   // --- Events ------------------------------------------------------------------------------------
 

@@ -67,13 +67,21 @@ void GameWindow::SetUpControls() {
   lblMessage.ForeColor = kRed;
   lblMessage.Visible = false;
   lblScoring.Visible = false;
-  for (Shape* box : {&TimerRectangle, &ScoreRectangle, &RoundRectangle}) box->Sunken = true;
+  AddScoreBox(TimerRectangle, TimerBevelSide, TimerBevelBottom);
+  AddScoreBox(ScoreRectangle, ScoreBevelSide, ScoreBevelBottom);
+  AddScoreBox(RoundRectangle, RoundBevelSide, RoundBevelBottom);
 
   Timer1.Interval = 1000;
   Timer2.Interval = 200;
   ClockTimer.Interval = 60000;
   ClockTimer.Enabled = true;
   Timer4.Interval = plan.splashInterval;
+}
+
+void GameWindow::AddScoreBox(Shape& box, Shape& side, Shape& bottom) {
+  box.Sunken = true;
+  side.BorderColor = bottom.BorderColor = kWhite;
+  scoreBoxes.push_back({box, side, bottom});
 }
 
 void GameWindow::SetUpMenus() {

@@ -27,29 +27,19 @@ constexpr GamePlan kPlan = [] {
 constexpr Design kDesign[] = {
     {"lblTime", 150, 120, 1500, 255, "Time:"},
     {"TimerRectangle", 270, 420, 1260, 1260},
-    {"TimerBevelSide", 1530, 420, 0, 1260},
-    {"TimerBevelBottom", 270, 1680, 1260, 0},
     {"Surface", 330, 480, 1140, 1140},
     {"lblScore", 1860, 120, 2040, 255, "Score"},
     {"ScoreRectangle", 1860, 420, 2040, 510},
-    {"ScoreBevelSide", 3900, 420, 0, 510},
-    {"ScoreBevelBottom", 1860, 930, 2040, 0},
     {"lblCurrentScore", 1860, 495, 0, 0, "0"},
     {"lblRound", 5640, 120, 1080, 255, "Round"},
     {"RoundRectangle", 5640, 420, 1080, 510},
-    {"RoundBevelSide", 6720, 420, 0, 510},
-    {"RoundBevelBottom", 5640, 930, 1080, 0},
     {"lblCurrentRound", 5640, 495, 0, 0, "1"},
     {"lblElevens", 6900, 120, 1200, 255, "Elevens:"},
     {"ElevensRectangle", 6900, 420, 1200, 510},
-    {"ElevensBevelSide", 8100, 420, 0, 510},
-    {"ElevensBevelBottom", 6900, 930, 1200, 0},
     {"lblCurrentElevens", 6900, 495, 0, 0, "0"},
     {"lblHighScore", 150, 6100, 2700, 255},
     {"lblTotal", 4230, 3900, 1245, 255, "Card Total"},
     {"CardTotalRectangle", 4410, 4170, 885, 510},
-    {"CardTotalBevelSide", 5295, 4170, 0, 510},
-    {"CardTotalBevelBottom", 4410, 4680, 885, 0},
     {"lblCurrentTotal", 4410, 4245, 0, 0, "0"},
     {"lblCardCount", 2730, 5460, 900, 255, "Cards: 30"},
     {"FieldCardPicture", 0, 0, 1065, 1455},
@@ -78,7 +68,8 @@ void frmSumfall::SetUpBoard() {
   UpCardSelectionRectangle.BorderWidth = 3;
   for (Image* image : {&PlayCardPicture, &UpCardPicture}) image->MousePointer = kCustomPointer;
   UpCardPicture.BorderStyle = 1;
-  for (Shape* box : {&CardTotalRectangle, &ElevensRectangle}) box->Sunken = true;
+  AddScoreBox(CardTotalRectangle, CardTotalBevelSide, CardTotalBevelBottom);
+  AddScoreBox(ElevensRectangle, ElevensBevelSide, ElevensBevelBottom);
   for (Label* label : {&lblCurrentTotal, &lblCurrentElevens}) {
     label->FontSize = 12;
     label->FontBold = true;
@@ -178,23 +169,14 @@ void frmSumfall::PlaceBoard() {
   const int middle = x + FieldCardPicture(0).Width / 2;
   lblTotal.Left = middle - lblTotal.Width / 2;
   lblTotal.Top = bottomRow;
-  CardTotalRectangle.Left = CardTotalBevelBottom.Left = middle - CardTotalRectangle.Width / 2;
-  CardTotalRectangle.Top = CardTotalBevelSide.Top = bottomRow + 270;
-  CardTotalBevelSide.Left = CardTotalRectangle.Left + CardTotalRectangle.Width;
-  CardTotalBevelBottom.Top = CardTotalRectangle.Top + CardTotalRectangle.Height;
+  CardTotalRectangle.Left = middle - CardTotalRectangle.Width / 2;
+  CardTotalRectangle.Top = bottomRow + 270;
   lblCurrentTotal.Top = CardTotalRectangle.Top + (CardTotalRectangle.Height - lblCurrentTotal.Height) / 2;
   CenterIn(lblCurrentTotal, CardTotalRectangle);
 
   // The boxes of round and combinations keep their distance from the buttons.
-  const struct {
-    Visual &label, &box, &side, &bottom;
-    int fromRight;
-  } boxes[] = {{lblRound, RoundRectangle, RoundBevelSide, RoundBevelBottom, 3900},
-               {lblElevens, ElevensRectangle, ElevensBevelSide, ElevensBevelBottom, 2640}};
-  for (const auto& group : boxes) {
-    group.box.Left = group.bottom.Left = group.label.Left = Width - group.fromRight;
-    group.side.Left = group.box.Left + group.box.Width;
-  }
+  lblRound.Left = RoundRectangle.Left = Width - 3900;
+  lblElevens.Left = ElevensRectangle.Left = Width - 2640;
   lblHighScore.Top = Height - kBars - 50 - lblHighScore.Height;
   for (Label* label : {&lblCurrentScore, &lblCurrentRound, &lblCurrentElevens})
     label->Top = ScoreRectangle.Top + (ScoreRectangle.Height - label->Height) / 2;
