@@ -91,6 +91,7 @@ long long DialAngle(const GameWindow& window, long long seconds) {
 
 void CountTimeBonus(GameWindow& window, long long bonusPerSecond) {
   modCommon& common = window.common;
+  if (common.ElapsedSeconds >= common.TimeLimit) return;
   const Long total = (common.TimeLimit - common.ElapsedSeconds) * bonusPerSecond;
   long long left = total;
   ShowAmount(window, "Speed Bonus!", left, 2000);

@@ -15,7 +15,7 @@ void DrawTimeDial(long long angle, GameWindow& window);
 // The angle of the dial after that many seconds of the round.
 long long DialAngle(const GameWindow& window, long long seconds);
 
-// Pays `bonusPerSecond` for each second that is left, under "Speed Bonus!".
+// Pays `bonusPerSecond` for each second that is left, under "Speed Bonus!"; does nothing if none is.
 void CountTimeBonus(GameWindow& window, long long bonusPerSecond);
 
 // Pays `count` times `value` under the title and a "!".

@@ -271,6 +271,18 @@ TEST_F(Sumfall, WhenTimeIsUpTheRoundBlinksAndPaysNoSpeedBonus) {
   EXPECT_EQ(Text("lblTime.Caption"), "Time: 89");
 }
 
+TEST_F(Sumfall, MusicRestartsAfterTheButtonAndAClearedFieldNotAfterTheMenu) {
+  driver.Do("click frmSumfall.mnuMusic");
+  const std::string clear = ClearElevenPairs(), menu = "click frmSumfall.mnuTakeScore\n";
+  const std::pair<std::string, size_t> rows[] = {{kTakeScore, 3}, {clear, 3}, {menu, 1}};
+  for (const auto& [ending, commands] : rows) {
+    Deal(ElevenPairs());
+    EXPECT_EQ(LinesOf(driver.Trace(ending), "* mci ").size(), commands) << ending;
+    EXPECT_EQ(Text("lblCurrentRound.Caption"), "2");
+    driver.Do("click frmSumfall.cmdPlay\nanswer \"Yes\"");
+  }
+}
+
 TEST_F(Sumfall, TheBonusRoundNeedsTheWholeScore) {
   for (int score : {79999, 80000}) {
     driver.Do("click frmSumfall.mnuMusic\n" + kPlay);

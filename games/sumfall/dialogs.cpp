@@ -32,6 +32,12 @@ constexpr Design kFileDesign[] = {
 
 constexpr int kLowestValue = 1, kHighestValue = 5'000'000;
 
+// The number at the start of a box's text; a text that doesn't begin with a digit is 0.
+double NumberIn(const TextBox& box) {
+  const std::string& text = box.Text;
+  return text.empty() || text[0] < '0' || text[0] > '9' ? 0 : Val(text);
+}
+
 }  // namespace
 
 frmSumfallCustomScoring::frmSumfallCustomScoring(frmSumfall& game)
@@ -84,13 +90,13 @@ void frmSumfallCustomScoring::cmdOK_Click() {
        "and 5,000,000."},
   };
   for (const auto& field : fields) {
-    const double value = Val(field.box.Text.get());
+    const double value = NumberIn(field.box);
     if (value >= kLowestValue && value <= kHighestValue) continue;
     game_.common.MsgBox(field.message, Icon::Exclamation);
     field.box.SetFocus();
     return;
   }
-  for (const auto& field : fields) field.value = Val(field.box.Text.get());
+  for (const auto& field : fields) field.value = NumberIn(field.box);
   game_.ShowBonusRoundGoal();
   game_.common.CustomScoringInUse = game_.BonusRoundScore != 80000 || game_.CompletionBonus != 10000 ||
                                     game_.CombinationBonus != 1500 || game_.common.TimeBonus != 100;
