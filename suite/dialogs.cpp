@@ -8,9 +8,9 @@ namespace {
 void CenterAcross(Visual& control) { control.Left = (control.form.Width - control.Width) / 2; }
 
 constexpr Design kHighScoresDesign[] = {
-    {"lblHiScoreInfo", 300, 4350, 4500, 480},
-    {"cmdDone", 1080, 4980, 1320, 420, "&Done"},
-    {"cmdClear", 2700, 4980, 1320, 420, "&Clear"},
+    {"lblHiScoreInfo", 300, 4350, 5700, 480},
+    {"cmdDone", 1680, 4980, 1320, 420, "&Done"},
+    {"cmdClear", 3300, 4980, 1320, 420, "&Clear"},
 };
 
 constexpr Design kHiScoreNameDesign[] = {
@@ -25,9 +25,9 @@ constexpr Design kRulesDesign[] = {
 };
 
 constexpr Design kAboutDesign[] = {
-    {"lblInfo", 300, 300, 4200, 1080},
-    {"lblStats", 300, 1500, 4200, 720},
-    {"cmdCoolDude", 1680, 2400, 1440, 420, "&Cool Dude"},
+    {"lblInfo", 300, 300, 5100, 1080},
+    {"lblStats", 300, 1500, 5100, 720},
+    {"cmdCoolDude", 2130, 2400, 1440, 420, "&Cool Dude"},
 };
 
 // What a name may not hold, since the table keeps one entry a line.
@@ -47,11 +47,11 @@ std::string OnOneLine(std::string text) {
 
 frmHighScores::frmHighScores(modCommon& common, GameWindow& game)
     : Form(common.platform, "frmHighScores"), common_(common), game_(game) {
-  Form::Move(0, 0, 5100, 5640);
+  Form::Move(0, 0, 6300, 5640);
   ApplyDesign(*this, kHighScoresDesign);
   for (int i = 0; i < ScoreList.size(); ++i) {
     const bool isName = i % 2 == 0;
-    ScoreList(i).Visual::Move(isName ? 360 : 3060, 240 + i / 2 * 405, isName ? 2640 : 1680, 300);
+    ScoreList(i).Visual::Move(isName ? 360 : 4260, 240 + i / 2 * 405, isName ? 3780 : 1680, 300);
     ScoreList(i).FontSize = 10;
     ScoreList(i).FontBold = true;
     if (!isName) {
@@ -141,7 +141,7 @@ void frmRules::Form_Load() {
 }
 
 frmAbout::frmAbout(modCommon& common) : Form(common.platform, "frmAbout"), common_(common) {
-  Form::Move(0, 0, 4800, 3000);
+  Form::Move(0, 0, 5700, 3000);
   ApplyDesign(*this, kAboutDesign);
   lblInfo.Alignment = 2;
   lblStats.Alignment = 2;

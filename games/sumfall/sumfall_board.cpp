@@ -28,8 +28,8 @@ constexpr Design kDesign[] = {
     {"lblTime", 150, 120, 1500, 255, "Time:"},
     {"TimerRectangle", 270, 420, 1260, 1260},
     {"Surface", 330, 480, 1140, 1140},
-    {"lblScore", 1860, 120, 2040, 255, "Score"},
-    {"ScoreRectangle", 1860, 420, 2040, 510},
+    {"lblScore", 1860, 120, 2340, 255, "Score"},
+    {"ScoreRectangle", 1860, 420, 2340, 510},
     {"lblCurrentScore", 1860, 495, 0, 0, "0"},
     {"lblRound", 5640, 120, 1080, 255, "Round"},
     {"RoundRectangle", 5640, 420, 1080, 510},
@@ -39,9 +39,9 @@ constexpr Design kDesign[] = {
     {"lblCurrentElevens", 6900, 495, 0, 0, "0"},
     {"lblHighScore", 150, 6100, 2700, 255},
     {"lblTotal", 4230, 3900, 1245, 255, "Card Total"},
-    {"CardTotalRectangle", 4410, 4170, 885, 510},
+    {"CardTotalRectangle", 4410, 4170, 885, 450},
     {"lblCurrentTotal", 4410, 4245, 0, 0, "0"},
-    {"lblCardCount", 2730, 5460, 900, 255, "Cards: 30"},
+    {"lblCardCount", 2655, 5460, 900, 255, "Cards: 30"},
     {"FieldCardPicture", 0, 0, 1065, 1455},
     {"FieldSelectionRectangle", 0, 0, 1065, 1455},
     {"PlayCardPicture", 0, 0, 1065, 1455},
@@ -162,7 +162,7 @@ void frmSumfall::PlaceBoard() {
   PlayCardPicture.Left = x - 630;
   UpCardPicture.Left = UpCardSelectionRectangle.Left = x + 630;
   PlayCardPicture.Top = UpCardPicture.Top = UpCardSelectionRectangle.Top = bottomRow + 975;
-  lblCardCount.Left = x - 1590;
+  lblCardCount.Left = x - 1665;
   lblCardCount.Top = bottomRow + 1560;
 
   // The card total stands between the field and the pile, in the middle of place 0.

@@ -33,6 +33,23 @@ QStringList Wrap(const QString& line, double width, const QFontMetricsF& metrics
   return parts;
 }
 
+// Only as many parts of a line as the label has room for, the first of them at `y`; but always one. What a
+// player has entered may be longer than any label: its end shows all the same.
+void Shorten(QStringList& parts, const QString& line, double y, const QRectF& rect,
+             const QFontMetricsF& metrics) {
+  const double room = rect.bottom() + 1 - metrics.descent() - y;
+  const qsizetype most = std::max<qsizetype>(1, static_cast<qsizetype>(room / metrics.lineSpacing()) + 1);
+  if (parts.size() > most) {
+    qsizetype shown = 0;
+    for (qsizetype i = 0; i + 1 < most; ++i) shown += parts[i].size() + 1;
+    parts.resize(most);
+    parts.back() = line.mid(shown);
+  }
+  for (QString& part : parts)
+    if (metrics.horizontalAdvance(part) > rect.width() + 0.5)
+      part = metrics.elidedText(part, Qt::ElideMiddle, rect.width());
+}
+
 }  // namespace
 
 QFont FontOf(const Label& label) {
@@ -44,7 +61,8 @@ TextBlock LayOut(const Label& label, const QRectF& rect) {
   const QFontMetricsF metrics(block.font);
   double y = rect.top() + metrics.ascent();
   for (const QString& line : LinesOf(label)) {
-    const QStringList parts = label.AutoSize ? QStringList{line} : Wrap(line, rect.width() + 0.5, metrics);
+    QStringList parts = label.AutoSize ? QStringList{line} : Wrap(line, rect.width() + 0.5, metrics);
+    if (!label.AutoSize) Shorten(parts, line, y, rect, metrics);
     for (const QString& part : parts) {
       const double width = metrics.horizontalAdvance(part);
       double x = rect.left();

@@ -23,7 +23,7 @@ struct TextBlock {
 // The font of a label.
 QFont FontOf(const Label& label);
 // The label's caption broken into lines: at line ends, and at blanks where a label of fixed size is too
-// narrow.
+// narrow. What such a label has no room for is left out of the middle of the last line.
 TextBlock LayOut(const Label& label, const QRectF& rect);
 // The room that the caption needs without further breaks, in pixels.
 QSizeF Needs(const Label& label);

@@ -35,16 +35,16 @@ void PaintImage(const Easel& easel, const Placed& placed) {
 void PaintSunken(QPainter& painter, const QRectF& rect, const QColor& fill) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(255, 255, 255, 90));
-  painter.drawRoundedRect(rect.adjusted(0, 0, 1, 1), 4, 4);
+  painter.drawRoundedRect(rect.adjusted(0, 0, 1, 1), 1, 1);
   painter.setBrush(QColor(0, 0, 0, 130));
-  painter.drawRoundedRect(rect.adjusted(-1, -1, 0, 0), 4, 4);
+  painter.drawRoundedRect(rect.adjusted(-1, -1, 0, 0), 2, 2);
   painter.setBrush(fill);
-  painter.drawRoundedRect(rect, 3, 3);
+  painter.drawRoundedRect(rect, 1, 1);
   QLinearGradient shade(rect.topLeft(), QPointF(rect.left(), rect.top() + std::min(7.0, rect.height() / 2)));
   shade.setColorAt(0, QColor(0, 0, 0, 60));
   shade.setColorAt(1, QColor(0, 0, 0, 0));
   painter.setBrush(shade);
-  painter.drawRoundedRect(rect, 3, 3);
+  painter.drawRoundedRect(rect, 1, 1);
 }
 
 void PaintShape(const Easel& easel, const Placed& placed) {

@@ -1,0 +1,476 @@
+// Looks at every window as a player does: nothing cut off, nothing on top of something else, letters that can
+// be read on whatever lies behind them.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <algorithm>
+#include <set>
+#include <tuple>
+
+#include "games/spirehold/custom.h"
+#include "games/sumfall/dialogs.h"
+#include "suite/catalogue.h"
+#include "suite/dialogs.h"
+#include "tests/harness.h"
+#include "window/desktop/canvas.h"
+#include "window/desktop/contrast.h"
+#include "window/desktop/desktop.h"
+#include "window/desktop/form_window.h"
+#include "window/desktop/lettering.h"
+#include "window/desktop/style.h"
+#include "window/player.h"
+
+namespace {
+
+bool OpenScreen() {
+  static int count = 1;
+  static char program[] = "desktop_tests";
+  static char* arguments[] = {program, nullptr};
+  static QApplication* application = nullptr;
+  if (application) return true;
+  setenv("QT_QPA_PLATFORM", "offscreen", 0);
+  setenv("SDL_AUDIODRIVER", "dummy", 0);
+  application = new QApplication(count, arguments);
+  style::Apply(*application);
+  return true;
+}
+
+// Waits for nothing: each pause is a moment to look at what the player would see meanwhile.
+class Screen : public DesktopFrontEnd {
+ public:
+  using DesktopFrontEnd::DesktopFrontEnd;
+  std::function<void()> onPause;
+  std::vector<std::string> told;  // by message boxes; questions are answered with Yes
+
+  void Sleep(int) override {
+    if (onPause) onPause();
+  }
+  Answer RunBox(const MessageBox& box) override {
+    told.push_back(box.text);
+    return box.buttons == Buttons::YesNo ? Answer::Yes : Answer::OK;
+  }
+  // Whoever has a great score closes the window that asks for the name.
+  void RunModal(Form& form) override {
+    if (onPause) onPause();
+    form.Unload();
+  }
+  void PlayWave(const std::string&) override {}
+  void MediaCommand(const std::string&) override {}
+};
+
+// Where the text of a visible label stands.
+struct Text {
+  const Label* label;
+  size_t place;  // in the scene
+  QRectF letters;
+  QRectF whole;  // with the plate or outline
+};
+
+class Look : public testing::Test {
+ protected:
+  void SetUp() override {
+    suite.Start();
+    Settle();
+  }
+
+  GameWindow& Open(const GameEntry& game) {
+    Form& selector = *front.platform.FindForm("frmSelect");
+    player::Click(*selector.find(game.button));
+    Settle();
+    return *suite.common.window;
+  }
+  void Settle() {
+    for (int i = 0; i < 3; ++i) QApplication::processEvents();
+  }
+  void Resize(Form& form, QSize size) {
+    player::Resize(form, size.width() * 15, size.height() * 15);
+    Settle();
+  }
+  static void Play(GameWindow& game) { player::Click(game.cmdPlay); }
+
+  std::vector<Text> Texts(const Form& form, const Scene& scene) {
+    std::vector<Text> texts;
+    for (size_t i = 0; i < scene.size(); ++i) {
+      if (scene[i].control->kind != Control::Kind::Label) continue;
+      const auto& label = static_cast<const Label&>(*scene[i].control);
+      const TextBlock block = LayOut(label, scene[i].rect);
+      const QRectF letters = block.bounds;
+      if (letters.isEmpty() || IsHidden(scene, i, letters)) continue;
+      for (const TextLine& line : block.lines)
+        if (line.text.contains(QChar(0x2026)) && label.Caption.get().size() < 50)
+          Fault(form, label.NameInForm() + " \"" + label.Caption.get() + "\" is shortened");
+      const bool plain = !IsBoard(form) || label.parent != &form ||
+                         (BoxOf(scene, i) && Contrast(ToColour(label.ForeColor), style::kIvory) >= kReadable);
+      const double aside = plain ? 0 : label.FontSize < 14 ? 5 : 2;
+      texts.push_back({&label, i, letters, letters.adjusted(-aside, 0, aside, 0)});
+    }
+    return texts;
+  }
+  // Whether a panel lies over all of it.
+  static bool IsHidden(const Scene& scene, size_t place, const QRectF& letters) {
+    return std::any_of(scene.begin() + place + 1, scene.end(), [&](const Placed& above) {
+      return above.control->kind == Control::Kind::Frame && QRectF(above.rect).contains(letters) &&
+             scene[place].control->parent != above.control;
+    });
+  }
+  // The box let into the board in which that label stands.
+  static const Placed* BoxOf(const Scene& scene, size_t place) {
+    const QPoint middle = scene[place].rect.center();
+    for (size_t i = place; i-- > 0;)
+      if (scene[i].control->kind == Control::Kind::Shape && static_cast<Shape*>(scene[i].control)->Sunken &&
+          scene[i].rect.contains(middle))
+        return &scene[i];
+    return nullptr;
+  }
+
+  // Each fault is told once.
+  void Fault(const Form& form, const std::string& what) {
+    const std::string text = std::string(form.name) + ": " + what;
+    if (faults.insert(text).second)
+      ADD_FAILURE() << text << " at " << form.Width / 15 << "x" << form.Height / 15 << where;
+  }
+
+  void Check(const Form& form) {
+    FormWindow& window = *front.WindowOf(form);
+    const Scene scene = Arrange(form, front.pictures);
+    const QRectF canvas = window.Board().rect();
+    const std::vector<Text> texts = Texts(form, scene);
+    ++looks;
+    for (const Text& text : texts) {
+      const Placed& placed = scene[text.place];
+      const std::string says = text.label->NameInForm() + " \"" + text.label->Caption.get() + "\"";
+      if (!canvas.contains(text.whole)) Fault(form, says + " leaves the window");
+      if (!QRectF(placed.clip).contains(text.letters)) Fault(form, says + " leaves its frame");
+      if (!text.label->AutoSize && !(QRectF(placed.rect) + QMarginsF(1, 1, 1, 1)).contains(text.letters))
+        Fault(form, says + " leaves its place");
+      if (const Placed* box = BoxOf(scene, text.place); box && !QRectF(box->rect).contains(text.whole))
+        Fault(form, says + " leaves its box");
+      for (const Text& other : texts)
+        if (other.place > text.place && other.whole.intersects(text.whole))
+          Fault(form, says + " and " + other.label->NameInForm() + " \"" + other.label->Caption.get() +
+                          "\" lie on each other");
+      // Only messages, big ones and a tower's own, come over the cards.
+      const bool message = text.label->FontSize >= 10 && !BoxOf(scene, text.place);
+      for (size_t i = 0; i < text.place && !message; ++i)
+        if (scene[i].control->kind == Control::Kind::Image && scene[i].control->parent == &form &&
+            static_cast<const Image*>(scene[i].control)->Picture != 0 &&
+            QRectF(scene[i].rect).intersects(text.whole))
+          Fault(form, says + " lies on " + scene[i].control->NameInForm());
+      for (size_t i = text.place + 1; i < scene.size(); ++i) {
+        const Visual& above = *scene[i].control;
+        const bool hides =
+            above.kind == Control::Kind::Frame || above.kind == Control::Kind::PictureBox ||
+            (above.kind == Control::Kind::Image && static_cast<const Image&>(above).Picture != 0);
+        // The card total stands there again when a game is over, whatever stands before it.
+        const bool may = above.name == "frmSplash" &&
+                         (text.label->name == "lblTotal" || text.label->name == "lblCurrentTotal");
+        if (hides && !may && QRectF(scene[i].rect).intersects(text.whole))
+          Fault(form, says + " lies under " + above.NameInForm());
+      }
+      for (const Control* control : form.Controls()) {
+        const QWidget* widget = window.WidgetOf(*control);
+        if (widget && widget->parent() == &window.Board() && widget->isVisible() &&
+            QRectF(widget->geometry()).intersects(text.whole))
+          Fault(form, says + " lies under " + control->NameInForm());
+      }
+    }
+    CheckWidgets(form, window);
+  }
+
+  void CheckWidgets(const Form& form, FormWindow& window) {
+    std::vector<const QWidget*> widgets;
+    for (const Control* control : form.Controls()) {
+      const QWidget* widget = window.WidgetOf(*control);
+      if (!widget || !widget->isVisible() || widget->parent() != &window.Board()) continue;
+      const std::string name = control->NameInForm();
+      if (!window.Board().rect().contains(widget->geometry())) Fault(form, name + " leaves the window");
+      for (const QWidget* other : widgets)
+        if (other->geometry().intersects(widget->geometry()))
+          Fault(form, name + " and " + other->objectName().toStdString() + " lie on each other");
+      widgets.push_back(widget);
+      const auto* button = qobject_cast<const QAbstractButton*>(widget);
+      if (!button) continue;
+      const std::string caption = WithoutAccessKey(button->text().toStdString());
+      const QFontMetrics metrics = button->fontMetrics();
+      const bool fits =
+          qobject_cast<const QPushButton*>(widget)
+              ? metrics.horizontalAdvance(QString::fromStdString(caption)) <= button->width() - 8 &&
+                    metrics.height() <= button->height() - 4
+              : button->sizeHint().width() <= button->width() && metrics.height() <= button->height();
+      if (!fits) Fault(form, name + " \"" + caption + "\" is too narrow for its caption");
+      if (metrics.ascent() < 8) Fault(form, name + " \"" + caption + "\" has tiny letters");
+    }
+    for (const QLabel* panel : window.findChildren<QLabel*>()) {
+      QString text = panel->text();
+      while (text.endsWith(' ')) text.chop(1);
+      const int room = panel->contentsRect().width() - panel->indent();
+      if (panel->isVisible() && panel->fontMetrics().horizontalAdvance(text) > room)
+        Fault(form, panel->objectName().toStdString() + " \"" + text.toStdString() + "\" is cut off");
+      if (!window.rect().contains(QRect(panel->mapTo(&window, QPoint()), panel->size())))
+        Fault(form, panel->objectName().toStdString() + " leaves the window");
+    }
+  }
+
+  const bool open = OpenScreen();
+  TestFolder folder;
+  Screen front{{folder.Path(), CARDHAVEN_TEST_DATA}, Catalogue()};
+  Suite suite{front.platform, {folder.Path()}, AllGames()};
+  std::set<std::string> faults;
+  std::string where;
+  int looks = 0;
+};
+
+// The longest texts that the windows come to show.
+struct Longest {
+  const char* control;
+  const char* text;
+  const char* window = nullptr;  // null for every game
+};
+constexpr Longest kMessages[] = {
+    {"lblMessage", "Completion Bonus! 5000000", "frmSumfall"},
+    {"lblMessage", "30 Thirteens! Bonus = 150000000", "frmSumfall"},
+    {"lblMessage", "Speed Bonus! 900000000"},
+    {"lblMessage", "Select your options and play again!", "frmSumfall"},
+    {"lblMessage", "Prepare for Bonus Round!"},
+    {"lblMessage", "Sorry, you must complete at least\r\none tower to receive the time bonus!",
+     "frmSpirehold"},
+    {"lblMessage", "Highest Run Bonus!", "frmSpirehold"},
+    {"lblMessage", "Tower Bonus!!", "frmSpirehold"},
+    {"lblMessage", "Times Up!"},
+    {"lblMessage", "Game Over"},
+};
+constexpr Longest kTexts[] = {
+    {"lblScoring", "2,147,483,647"},
+    {"lblCurrentScore", "-2,147,483,648"},
+    {"lblCurrentScore", "2,147,483,647"},
+    {"lblCurrentRound", "Bonus"},
+    {"lblTime", "Time: 180"},
+    {"lblElevens", "Fourteens:", "frmSumfall"},
+    {"lblCardCount", "Cards: 42", "frmSumfall"},
+    {"lblCurrentElevens", "31", "frmSumfall"},
+    {"lblCurrentTotal", "15", "frmSumfall"},
+    {"lblCurrentRun", "Current Run: 32767", "frmSpirehold"},
+    {"lblHighRun", "Highest Run: 32767", "frmSpirehold"},
+    {"lblNextCard", "Next card worth: 3276800 points", "frmSpirehold"},
+    {"StatusBar1.Panels(1)", "Make 5,000,000 for Bonus Round!   "},
+    {"StatusBar1.Panels(2)", "Click on exposed cards to total 15!   ", "frmSumfall"},
+    {"StatusBar1.Panels(2)", "Create runs by clicking on exposed cards!   ", "frmSpirehold"},
+    {"StatusBar1.Panels(2)", "Times running out!"},
+    {"StatusBar1.Panels(3)", "12:59 PM"},
+};
+
+constexpr QSize kSizes[] = {{640, 480}, {1024, 768}, {1920, 1080}, {2560, 1440}, {640, 900}, {1300, 480}};
+
+bool IsOf(const Longest& longest, const Form& form) { return !longest.window || form.name == longest.window; }
+
+// Writes the text; false if the window has no such control.
+bool Write(Form& form, const Longest& longest) {
+  if (!IsOf(longest, form)) return false;
+  const std::string name = longest.control;
+  if (name.starts_with("StatusBar1.Panels(")) {
+    static_cast<GameWindow&>(form).StatusBar1.Panels(name[name.size() - 2] - '0').Text = longest.text;
+    return true;
+  }
+  auto* label = static_cast<Label*>(form.find(name));
+  if (!label) return false;
+  label->Caption = longest.text;
+  return true;
+}
+
+}  // namespace
+
+TEST_F(Look, GamesStandAtEverySize) {
+  for (const GameEntry& entry : AllGames()) {
+    if (!entry.create) continue;
+    GameWindow& game = Open(entry);
+    for (const QSize size : kSizes) {
+      Resize(game, size);
+      where = ", idle";
+      Check(game);
+      // What is told while a round begins, is paid and ends, each at the moments when the game says
+      // something.
+      std::set<std::string> said;
+      front.onPause = [&] {
+        const std::string caption = game.lblMessage.Caption;
+        where = " while it says \"" + caption + "\"";
+        Check(game);
+        const bool again = !said.insert(caption.substr(0, caption.find_first_of("0123456789"))).second;
+        if (again || !game.lblMessage.Visible || caption == "Times Up!") return;
+        const int left = game.lblMessage.Left, top = game.lblMessage.Top;
+        for (const Longest& longest : kMessages)
+          if (Write(game, longest)) Check(game);
+        game.lblMessage.Caption = caption;
+        game.lblMessage.Left = left;
+        game.lblMessage.Top = top;
+      };
+      Play(game);
+      where = " in play";
+      Check(game);
+      for (const Longest& longest : kTexts)
+        if (Write(game, longest)) Check(game);
+      for (const char* name : {"lblTower1", "lblTower2", "lblTower3"})
+        if (auto* tower = static_cast<Label*>(game.find(name))) tower->Visible = true;
+      Check(game);
+      where = ", paused";
+      game.Pause();
+      Check(game);
+      game.Pause();
+      suite.common.CurrentScore = 1'000'000'000;
+      if (auto* sumfall = dynamic_cast<frmSumfall*>(&game)) {
+        sumfall->CombinationCount = 30;
+        sumfall->CompletionBonus = sumfall->CombinationBonus = 5'000'000;
+      }
+      if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) {
+        spirehold->TowersCompleted = 3;
+        spirehold->NewHighRun = true;
+        spirehold->HighestRun = 1;
+      }
+      player::Click(game.cmdTakeScore);
+      suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
+      front.platform.Dispatch(game.Timer1.OnTimer);  // time is up
+      player::Click(game.cmdTakeScore);              // the bonus round
+      front.onPause = nullptr;
+      EXPECT_FALSE(suite.common.GameInProgress);
+      EXPECT_GE(said.size(), 5u);
+      where = " after a game";
+      Check(game);
+    }
+    player::Close(game);
+    Settle();
+  }
+  EXPECT_GT(looks, 500);
+}
+
+TEST_F(Look, DialogsHoldTheirTexts) {
+  const auto look = [&](Form&& dialog) {
+    dialog.Show(false);
+    Settle();
+    Check(dialog);
+    if (auto* table = dynamic_cast<frmHighScores*>(&dialog)) {
+      for (int i = 0; i < table->ScoreList.size(); ++i)
+        table->ScoreList(i).Caption = i % 2 == 0 ? "Wilhelmina Montgomery-Wu*" : "2,147,483,647";
+      Check(dialog);
+      for (int i = 0; i < table->ScoreList.size(); i += 2)  // the longest that the program keeps
+        table->ScoreList(i).Caption = std::string(60, 'W') + " " + std::string(39, 'm') + "*";
+      Check(dialog);
+      const QString shown = LayOut(table->ScoreList(0), ModelRect(table->ScoreList(0))).lines.at(0).text;
+      EXPECT_TRUE(shown.startsWith("WWW") && shown.endsWith("*")) << shown.toStdString();
+    }
+    dialog.Discard();
+    Settle();
+  };
+  Check(*front.platform.FindForm("frmSelect"));
+  for (const GameEntry& entry : AllGames()) {
+    if (!entry.create) continue;
+    GameWindow& game = Open(entry);
+    for (const GameEntry& each : AllGames()) {
+      game.lblProductName.Caption = each.title;
+      Check(game);
+    }
+    look(frmHighScores(suite.common, game));
+    look(frmHiScoreName(suite.common));
+    look(frmRules(suite.common, game));
+    look(frmAbout(suite.common));
+    if (auto* sumfall = dynamic_cast<frmSumfall*>(&game)) {
+      for (int goal : {10, 11, 12, 13, 14, 15}) {
+        sumfall->CardGoal = goal;
+        look(frmSumfallCustomScoring(*sumfall));
+      }
+      look(frmSave(*sumfall));
+      look(frmOpen(*sumfall));
+    }
+    if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) look(frmSpireholdCustom(*spirehold));
+    player::Close(game);
+    Settle();
+  }
+  EXPECT_GT(looks, 30);
+}
+
+namespace {
+
+// How well each stretch of a label's letters stands out from what is right around them, in the picture
+// itself: the worst of all stretches.
+struct Seen {
+  double worst = 21;
+  int stretches = 0;
+  bool inColour = true;
+};
+
+Seen LookAt(const QImage& picture, const TextBlock& block, const QColor& colour) {
+  // Where the letters are: full ink, and the pixels two and three away from any ink.
+  QImage ink(picture.size(), QImage::Format_Grayscale8);
+  ink.fill(0);
+  QPainter painter(&ink);
+  painter.setFont(block.font);
+  painter.setPen(Qt::white);
+  for (const TextLine& line : block.lines) painter.drawText(line.baseline, line.text);
+  painter.end();
+  const QRect area = block.bounds.toAlignedRect().adjusted(-3, -3, 3, 3) & picture.rect();
+  const auto isNear = [&](int x, int y, int reach) {
+    for (int dy = -reach; dy <= reach; ++dy)
+      for (int dx = -reach; dx <= reach; ++dx)
+        if (picture.rect().contains(x + dx, y + dy) && ink.constScanLine(y + dy)[x + dx] > 20) return true;
+    return false;
+  };
+  Seen seen;
+  constexpr int kStretch = 30;
+  for (int left = area.left(); left < area.right(); left += kStretch) {
+    std::vector<double> ring, strange;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+      for (int x = left; x < std::min(left + kStretch, area.right()); ++x) {
+        const QColor pixel = picture.pixelColor(x, y);
+        if (ink.constScanLine(y)[x] > 240)
+          strange.push_back(std::abs(pixel.red() - colour.red()) + std::abs(pixel.green() - colour.green()) +
+                            std::abs(pixel.blue() - colour.blue()));
+        else if (!isNear(x, y, 1) && isNear(x, y, 2))
+          ring.push_back(Contrast(colour, pixel));
+      }
+    if (ring.size() < 30 || strange.empty()) continue;
+    ++seen.stretches;
+    std::ranges::nth_element(ring, ring.begin() + ring.size() / 2);
+    seen.worst = std::min(seen.worst, ring[ring.size() / 2]);
+    std::ranges::nth_element(strange, strange.begin() + strange.size() / 2);
+    seen.inColour = seen.inColour && strange[strange.size() / 2] < 60;
+  }
+  return seen;
+}
+
+}  // namespace
+
+TEST_F(Look, LettersStandOutFromTheirGround) {
+  constexpr int kColours[] = {kRed, kBlack, kBlue, kCyan, 49152};
+  for (const GameEntry& entry : AllGames()) {
+    if (!entry.create) continue;
+    GameWindow& game = Open(entry);
+    Play(game);
+    game.lblScoring.Caption = "12,345";
+    game.lblScoring.Visible = true;
+    game.PlaceScoring();
+    game.lblMessage.Caption = "Completion Bonus! 5000000";  // across the cards
+    game.lblMessage.Visible = true;
+    game.lblCurrentScore.Caption = "-2,147,483,648";
+    game.lblCurrentRound.Caption = "Bonus";
+    for (const int colour : kColours) {
+      Label* const labels[] = {&game.lblMessage,      &game.lblScoring, &game.lblCurrentScore,
+                               &game.lblCurrentRound, &game.lblTime,    &game.lblHighScore};
+      for (Label* label : labels) label->ForeColor = colour;
+      Settle();
+      const QImage picture = front.WindowOf(game)->Board().grab().toImage();
+      for (const Label* label : labels) {
+        const Seen seen =
+            LookAt(picture, LayOut(*label, DrawnRect(*label, front.pictures)), ToColour(colour));
+        const std::string which = label->FullName() + " in colour " + std::to_string(colour);
+        EXPECT_GE(seen.worst, kReadable) << which;
+        EXPECT_TRUE(seen.inColour) << which;
+        EXPECT_GE(seen.stretches, 1) << which;
+      }
+    }
+    player::Close(game);
+    Settle();
+  }
+}
