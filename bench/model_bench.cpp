@@ -5,33 +5,12 @@
 #include <filesystem>
 #include <optional>
 
+#include "bench/null_front_end.h"
 #include "games/games.h"
 #include "games/sumfall/sumfall.h"
 #include "suite/suite.h"
-#include "window/player.h"
 
 namespace {
-
-// A front end that shows nothing, sleeps no time and says Yes to everything.
-class NullFrontEnd : public FrontEnd {
- public:
-  long long Milliseconds() override { return now_; }
-  DateTime Now() override { return {}; }
-  Extent ScreenExtent() override { return {1024 * 15, 768 * 15}; }
-  Extent TextExtent(const Label& label) override {
-    return {static_cast<int>(label.Caption.get().size()) * label.FontSize * 10, label.FontSize * 30};
-  }
-  void Sleep(int milliseconds) override { now_ += milliseconds; }
-  Answer RunBox(const MessageBox&) override { return Answer::Yes; }
-  void RunModal(Form& form) override { player::Close(form); }
-  void PlayWave(const std::string&) override {}
-  void MediaCommand(const std::string&) override {}
-  std::string FindBrowser() override { return ""; }
-  bool OpenPage(const std::string&, const std::string&) override { return false; }
-
- private:
-  long long now_ = 0;
-};
 
 // A suite in a folder of its own, in memory where there is such a place.
 class Bench {

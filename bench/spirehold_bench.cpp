@@ -1,35 +1,12 @@
 // How fast Spirehold is without a screen: what a bot that plays it waits for.
 #include <benchmark/benchmark.h>
 
-#include <chrono>
-
+#include "bench/null_front_end.h"
 #include "games/games.h"
 #include "games/spirehold/spirehold.h"
 #include "suite/suite.h"
-#include "window/player.h"
 
 namespace {
-
-// Shows nothing, waits for nobody: boxes are answered by their first button, modal windows go at once.
-class NoFrontEnd : public FrontEnd {
- public:
-  long long Milliseconds() override { return now_; }
-  DateTime Now() override { return {}; }
-  Extent ScreenExtent() override { return {1024 * 15, 768 * 15}; }
-  Extent TextExtent(const Label& label) override {
-    return {static_cast<int>(label.Caption.get().size()) * 120, 240};
-  }
-  void Sleep(int milliseconds) override { now_ += milliseconds; }
-  Answer RunBox(const MessageBox& box) override { return AnswersOf(box.buttons).front(); }
-  void RunModal(Form& form) override { form.Unload(); }
-  void PlayWave(const std::string&) override {}
-  void MediaCommand(const std::string&) override {}
-  std::string FindBrowser() override { return ""; }
-  bool OpenPage(const std::string&, const std::string&) override { return false; }
-
- private:
-  long long now_ = 0;
-};
 
 // A suite with Spirehold open. Its folder can't be written, so that the tables are kept in memory.
 struct Table {
@@ -40,7 +17,7 @@ struct Table {
     game = static_cast<frmSpirehold*>(suite.common.window);
   }
 
-  NoFrontEnd front;
+  NullFrontEnd front;
   Platform platform{front};
   Suite suite{platform, {"/nowhere/to/be/found"}, AllGames()};
   frmSpirehold* game;

@@ -84,6 +84,12 @@ class Look : public testing::Test {
     Settle();
     return *suite.common.window;
   }
+  void Close(Form& game) {
+    player::Close(game);
+    Settle();
+    for (const std::string& text : front.told) EXPECT_TRUE(text.ends_with('?')) << text;  // no failures
+    front.told.clear();
+  }
   void Settle() {
     for (int i = 0; i < 3; ++i) QApplication::processEvents();
   }
@@ -91,7 +97,6 @@ class Look : public testing::Test {
     player::Resize(form, size.width() * 15, size.height() * 15);
     Settle();
   }
-  static void Play(GameWindow& game) { player::Click(game.cmdPlay); }
 
   std::vector<Text> Texts(const Form& form, const Scene& scene) {
     std::vector<Text> texts;
@@ -308,7 +313,7 @@ TEST_F(Look, GamesStandAtEverySize) {
         game.lblMessage.Left = left;
         game.lblMessage.Top = top;
       };
-      Play(game);
+      player::Click(game.cmdPlay);
       where = " in play";
       Check(game);
       for (const Longest& longest : kTexts)
@@ -340,8 +345,7 @@ TEST_F(Look, GamesStandAtEverySize) {
       where = " after a game";
       Check(game);
     }
-    player::Close(game);
-    Settle();
+    Close(game);
   }
   EXPECT_GT(looks, 500);
 }
@@ -385,8 +389,7 @@ TEST_F(Look, DialogsHoldTheirTexts) {
       look(frmOpen(*sumfall));
     }
     if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) look(frmSpireholdCustom(*spirehold));
-    player::Close(game);
-    Settle();
+    Close(game);
   }
   EXPECT_GT(looks, 30);
 }
@@ -447,7 +450,7 @@ TEST_F(Look, LettersStandOutFromTheirGround) {
   for (const GameEntry& entry : AllGames()) {
     if (!entry.create) continue;
     GameWindow& game = Open(entry);
-    Play(game);
+    player::Click(game.cmdPlay);
     game.lblScoring.Caption = "12,345";
     game.lblScoring.Visible = true;
     game.PlaceScoring();
@@ -470,7 +473,6 @@ TEST_F(Look, LettersStandOutFromTheirGround) {
         EXPECT_GE(seen.stretches, 1) << which;
       }
     }
-    player::Close(game);
-    Settle();
+    Close(game);
   }
 }
