@@ -269,7 +269,8 @@ constexpr Longest kTexts[] = {
     {"StatusBar1.Panels(3)", "12:59 PM"},
 };
 
-constexpr QSize kSizes[] = {{640, 480}, {1024, 768}, {1920, 1080}, {2560, 1440}, {640, 900}, {1300, 480}};
+// The first is too small: the games make it their smallest.
+constexpr QSize kSizes[] = {{1, 1}, {1024, 768}, {1920, 1080}, {2560, 1440}, {640, 900}, {1300, 480}};
 
 bool IsOf(const Longest& longest, const Form& form) { return !longest.window || form.name == longest.window; }
 
@@ -316,6 +317,7 @@ TEST_F(Look, GamesStandAtEverySize) {
       player::Click(game.cmdPlay);
       where = " in play";
       Check(game);
+      game.lblHighScore.Caption = game.HighScorePrefix() + "2,147,483,647";
       for (const Longest& longest : kTexts)
         if (Write(game, longest)) Check(game);
       for (const char* name : {"lblTower1", "lblTower2", "lblTower3"})
