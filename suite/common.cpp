@@ -7,10 +7,27 @@ modCommon::modCommon(Platform& platform, std::filesystem::path folder)
     : platform(platform), files(std::move(folder)), AppTitle(kSuiteTitle) {}
 
 void modCommon::TellWhatCantBeKept() {
-  if (!files.TakeRefusal()) return;
-  MsgBox("Settings and high scores can't be kept, since the folder " + files.Folder().string() +
-             " can't be written.\n\nYou may play on; they last until you close the program.",
-         Icon::Exclamation);
+  const auto text = [](const FileRefusal& refusal) {
+    const std::string path = refusal.path.string();
+    switch (refusal.what) {
+      case FileRefusal::What::Read:
+        return "The file " + path +
+               " can't be read now. It stays as it is.\n\nYou may play on; the file is tried again, and scores "
+               "are added to it when it can be read.";
+      case FileRefusal::What::Lock:
+        return "The file " + path +
+               " is in use by another copy of the program.\n\nYou may play on; what belongs into it is written "
+               "later.";
+      case FileRefusal::What::ReplaceFile:
+        return "The file " + path +
+               " can't be replaced, so it can't be kept.\n\nYou may play on; what belongs into it lasts until you "
+               "close the program.";
+      default:
+        return "Settings and high scores can't be kept, since the folder " + path +
+               " can't be written.\n\nYou may play on; they last until you close the program.";
+    }
+  };
+  for (const FileRefusal& refusal : files.TakeRefusals()) MsgBox(text(refusal), Icon::Exclamation);
 }
 
 int modCommon::RandomInteger(int lower, int upper) {

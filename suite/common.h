@@ -59,8 +59,11 @@ class modCommon {
   // Asks Yes or No with the question icon; true for Yes.
   bool Ask(const std::string& question);
 
-  // Says once, after the disk has refused a file, that nothing is kept.
+  // Says what the disk has refused, each thing once.
   void TellWhatCantBeKept();
+  // Enters the score that waits for its name, under the name that the closed window would give it; empty if
+  // there is none.
+  std::function<void()> EnterWaitingScore;
 
   // Whole minutes since the game window was loaded.
   int MinutesPlayed();

@@ -30,19 +30,6 @@ constexpr Design kAboutDesign[] = {
     {"cmdCoolDude", 2130, 2400, 1440, 420, "&Cool Dude"},
 };
 
-// What a name may not hold, since the table keeps one entry a line.
-std::string OnOneLine(std::string text) {
-  for (char& letter : text)
-    if (static_cast<unsigned char>(letter) < ' ') letter = ' ';
-  constexpr size_t kLongestName = 100;
-  if (text.size() > kLongestName) {
-    size_t end = kLongestName;
-    while (end > 0 && (text[end] & 0xC0) == 0x80) --end;  // not within a letter
-    text.resize(end);
-  }
-  return text;
-}
-
 }  // namespace
 
 frmHighScores::frmHighScores(modCommon& common, GameWindow& game)
@@ -81,11 +68,7 @@ void frmHighScores::Form_Load() {
 
 void frmHighScores::ReadHighScoreTable() {
   const HighScoreTable& table = game_.plan.tables.shown;
-  HighScores scores;
-  {
-    const Files::Lock lock(common_.files);
-    scores = ReadHighScores(game_, table.name, table.defaultScore);
-  }
+  const HighScores scores = ReadHighScores(game_, table.name, table.defaultScore);
   for (size_t place = 0; place < kTablePlaces; ++place) {
     const bool taken = place < scores.size();
     ScoreList(2 * place).Caption = taken ? scores[place].name : "";
@@ -102,7 +85,7 @@ frmHiScoreName::frmHiScoreName(modCommon& common) : Form(common.platform, "frmHi
       common_.MsgBox("Sorry, you may not use commas in your name.", Icon::Critical);
       return;
     }
-    if (!lblPlayerName.Text.get().empty()) common_.PlayerName = OnOneLine(lblPlayerName.Text);
+    if (!lblPlayerName.Text.get().empty()) common_.PlayerName = NameOnOneLine(lblPlayerName.Text.get());
     Unload();
   };
 }

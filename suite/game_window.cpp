@@ -274,6 +274,7 @@ void GameWindow::Form_Unload() {
   MousePointer = kHourglass;
   Timer1.Enabled = false;
   SaveSettings();
+  common.files.TryAgain();
   common.GameInProgress = false;
   StopMusic();
   common.window = nullptr;

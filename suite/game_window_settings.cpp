@@ -30,8 +30,6 @@ void GameWindow::ReadSettingsINI() {
   std::string text;
   const ReadOutcome outcome = common.files.Read(path, text);
   if (outcome == ReadOutcome::Read && ReadSettings(text, apply) > 0) return;
-  const bool makesNoSense = outcome == ReadOutcome::Unusable || !Trim(text).empty();
-  if (makesNoSense) common.files.PutAside(path);
   // The defaults are written, and read like any other settings, so that ticks and labels follow.
   ReadSettings(SaveSettings(), apply);
 }
@@ -115,9 +113,16 @@ std::string GameWindow::SettingText(std::string_view section) const {
 std::string GameWindow::SaveSettings() {
   SettingsWriter writer;
   for (const char* section : plan.sections) writer.Add(section, SettingText(section));
-  common.files.Keep(common.files.PathOf(plan.names.settingsFile), writer.Text());
+  const std::string text = writer.Text();
+  const auto makesSense = [sections = plan.sections](const std::string& old) {
+    return Trim(old).empty() || ReadSettings(old, [&](std::string_view line, std::string_view) {
+                                  return std::ranges::count(sections, line) > 0;
+                                }) > 0;
+  };
+  common.files.Keep(common.files.PathOf(plan.names.settingsFile),
+                    {[text](const std::string&) { return text; }, makesSense, true});
   common.TellWhatCantBeKept();
-  return writer.Text();
+  return text;
 }
 
 std::string GameWindow::TableFile(const std::string& tableName) const {

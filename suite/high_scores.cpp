@@ -16,7 +16,7 @@ HighScores ParseHighScores(std::string_view text, bool& damaged) {
       damaged = true;
       break;
     }
-    scores.push_back({std::string(Trim(line.substr(0, comma))), score});
+    scores.push_back({NameOnOneLine(Trim(line.substr(0, comma))), score});
   }
   return scores;
 }
@@ -50,70 +50,83 @@ HighScores WithEntry(const HighScores& scores, const HighScore& entry) {
   return result;
 }
 
+namespace {
+
+// What can be read of a table, or the fresh one.
+HighScores Readable(std::string_view text, const std::string& defaultScore) {
+  bool damaged = false;
+  HighScores scores = ParseHighScores(text, damaged);
+  return scores.empty() ? FreshHighScores(defaultScore) : scores;
+}
+
+// What can still be read of a damaged table is kept in the new one; the damaged one stays beside it.
+void KeepTable(GameWindow& window, const std::string& tableName, std::function<HighScores(HighScores)> change,
+               const std::string& defaultScore, bool replaces = false) {
+  Files& files = window.common.files;
+  files.Keep(files.PathOf(window.TableFile(tableName)),
+             {[change = std::move(change), defaultScore](const std::string& old) {
+                return FormatHighScores(change(Readable(old, defaultScore)));
+              },
+              [](const std::string& old) {
+                bool damaged = false;
+                ParseHighScores(old, damaged);
+                return !damaged;
+              },
+              replaces});
+}
+
+}  // namespace
+
 HighScores ReadHighScores(GameWindow& window, const std::string& tableName, const std::string& defaultScore) {
   Files& files = window.common.files;
-  const auto path = files.PathOf(window.TableFile(tableName));
   std::string text;
+  const ReadOutcome outcome = files.Read(files.PathOf(window.TableFile(tableName)), text);
   bool damaged = false;
-  HighScores scores;
-  switch (files.Read(path, text)) {
-    case ReadOutcome::Read:
-      scores = ParseHighScores(text, damaged);
-      break;
-    case ReadOutcome::Unusable:
-      damaged = true;
-      break;
-    case ReadOutcome::Missing:
-      break;
-  }
-  // What can still be read is kept in the new table; the damaged one stays beside it.
-  if (!damaged && !scores.empty()) return scores;
-  if (damaged) files.PutAside(path);
-  if (scores.empty()) scores = FreshHighScores(defaultScore);
-  files.Keep(path, FormatHighScores(scores));
-  return scores;
+  const bool isWhole = outcome == ReadOutcome::Read && !ParseHighScores(text, damaged).empty() && !damaged;
+  // Another copy may have made the table meanwhile: then it stays as it is.
+  if (!isWhole && outcome != ReadOutcome::Refused)
+    KeepTable(
+        window, tableName, [](HighScores scores) { return scores; }, defaultScore);
+  return Readable(text, defaultScore);
 }
 
 void ShowHighScore(const std::string& tableName, GameWindow& window, const std::string& defaultScore) {
-  HighScores scores;
-  {
-    const Files::Lock lock(window.common.files);
-    scores = ReadHighScores(window, tableName, defaultScore);
-  }
+  const HighScores scores = ReadHighScores(window, tableName, defaultScore);
   window.lblHighScore.Caption = window.HighScorePrefix() + FormatNumber(scores.front().score);
   window.common.TellWhatCantBeKept();
 }
 
 void CreateHighScoreFile(const std::string& tableName, GameWindow& window, const std::string& defaultScore) {
-  Files& files = window.common.files;
-  {
-    const Files::Lock lock(files);
-    files.Keep(files.PathOf(window.TableFile(tableName)), FormatHighScores(FreshHighScores(defaultScore)));
-  }
+  KeepTable(
+      window, tableName, [=](const HighScores&) { return FreshHighScores(defaultScore); }, defaultScore,
+      true);
   window.common.TellWhatCantBeKept();
 }
 
 void UpdateHighScoreTable(const std::string& tableName, GameWindow& window, const std::string& defaultScore) {
   modCommon& common = window.common;
-  HighScore entry{"", common.CurrentScore};
-  bool placed = false;
-  {
-    const Files::Lock lock(common.files);
-    placed = PlaceOf(ReadHighScores(window, tableName, defaultScore), entry.score).has_value();
-  }
+  const Long score = common.CurrentScore;
+  // Another copy of the program may enter a score while the player writes: the table is read again then.
+  const auto enter = [&window, &common, tableName, defaultScore, score](bool placed) {
+    const std::string name = placed ? common.PlayerName + (common.CustomScoringInUse ? "*" : "") : "";
+    KeepTable(
+        window, tableName,
+        [entry = HighScore{name, score}](const HighScores& scores) { return WithEntry(scores, entry); },
+        defaultScore);
+  };
+  const bool placed = PlaceOf(ReadHighScores(window, tableName, defaultScore), score).has_value();
   if (placed) {
     if (common.PlaySounds) common.PlayWaveFile("\\HighScore.wav");
     frmHiScoreName dialog(common);
+    // Should the program have to leave, the score is entered as if the window had been closed.
+    common.EnterWaitingScore = [&] { enter(true); };
+    struct Guard {
+      std::function<void()>& waiting;
+      ~Guard() { waiting = nullptr; }
+    } guard{common.EnterWaitingScore};
     dialog.Show(true);
-    entry.name = common.PlayerName + (common.CustomScoringInUse ? "*" : "");
   }
-  {
-    // Another copy of the program may have entered a score while the player wrote: the table is read again.
-    const Files::Lock lock(common.files);
-    const HighScores scores = ReadHighScores(window, tableName, defaultScore);
-    common.files.Keep(common.files.PathOf(window.TableFile(tableName)),
-                      FormatHighScores(WithEntry(scores, entry)));
-  }
+  enter(placed);
   common.TellWhatCantBeKept();
   if (placed) {
     frmHighScores dialog(common, window);

@@ -1,6 +1,8 @@
 // Settings files good and bad, and that no file is ever half written.
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/file.h>
 #include <sys/wait.h>
 
 #include "tests/sumfall_cards.h"
@@ -181,6 +183,43 @@ TEST(Settings, AFolderThatCantBeWrittenIsToldOnce) {
       kOpenSumfall);
   EXPECT_EQ(BoxesOf(said).size(), 1u) << "only the closing question";
   EXPECT_EQ(driver.Get("frmSumfall.mnu30.Checked"), true);
+}
+
+TEST(Settings, AFileThatCantBeReadNowStays) {
+  TestFolder folder;
+  const auto path = folder.Path() / kIni;
+  std::filesystem::create_symlink("/proc/self/mem", path);  // a plain file of which every read fails
+  Driver driver(folder.Path());
+  EXPECT_EQ(BoxesOf(driver.Do(kOpenSumfall + "answer \"OK\"")).size(), 1u);
+  driver.Do("click frmSumfall.mnu30\n" + kClose);
+  EXPECT_TRUE(std::filesystem::is_symlink(path));
+  EXPECT_TRUE(BoxesOf(driver.Do(kOpenSumfall)).empty()) << "told once";
+  EXPECT_EQ(driver.Get("frmSumfall.mnu30.Checked"), true) << "kept until the program ends";
+  std::filesystem::remove(path);
+  folder.Write(kIni, IniText({{"Time", "60"}}));
+  driver.Do(kClose);
+  EXPECT_EQ(folder.Read(kIni), IniText({{"Time", "60"}})) << "not overwritten before anybody saw it";
+  driver.Do(kOpenSumfall);
+  EXPECT_EQ(driver.Get("frmSumfall.mnu60.Checked"), true);
+}
+
+TEST(Files, WhatAKilledCopyLeftIsSwept) {
+  TestFolder folder;
+  const std::vector<std::string> gone = {"Sumfall.Ini.new-0123456789abcdef", "HiScores90_11.Txt.new-4194399"};
+  const std::vector<std::string> stay = {"letter.new-0123456789abcdef", "x.Txt.new-", "x.Txt.new-draft",
+                                         "HiScores90_11.Txt.new-" + std::to_string(getpid())};
+  for (const auto& name : gone) folder.Write(name, "half");
+  for (const auto& name : stay) folder.Write(name, "mine");
+  folder.Write("Busy.Ini.new-0123456789abcdef", "half");
+  {
+    const FolderLock writing(folder.Path(), 0, nullptr);
+    const int writer = open((folder.Path() / "Busy.Ini.new-0123456789abcdef").c_str(), O_RDONLY);
+    ASSERT_EQ(flock(writer, LOCK_EX), 0);
+  }
+  Driver(folder.Path()).Do(kOpenSumfall);
+  for (const auto& name : gone) EXPECT_FALSE(folder.Has(name)) << name;
+  for (const auto& name : stay) EXPECT_TRUE(folder.Has(name)) << name;
+  EXPECT_TRUE(folder.Has("Busy.Ini.new-0123456789abcdef")) << "its writer lives";
 }
 
 TEST(Files, AreOldOrNewAtAnyMoment) {

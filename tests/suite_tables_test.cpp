@@ -182,6 +182,90 @@ TEST(Tables, ADamagedOneIsKeptBesideTheNew) {
   EXPECT_TRUE(folder.Has(kTable + ".bad/inner"));
 }
 
+TEST(Tables, AReadThatFailsIsNoEmptyTable) {
+  TestFolder folder;
+  const auto path = folder.Path() / kTable;
+  std::filesystem::create_symlink("/proc/self/mem", path);  // a plain file of which every read fails
+  Driver driver(folder.Path());
+  std::string said = driver.Do(kOpenSumfall + "answer \"OK\"");
+  ASSERT_EQ(BoxesOf(said).size(), 1u);
+  EXPECT_TRUE(Contains(BoxesOf(said)[0], kTable + " can't be read now. It stays as it is."));
+  EXPECT_EQ(driver.Text("frmSumfall.lblHighScore.Caption"), "High Score: 50,000");
+  said = FinishWith(driver, 60000, Enter("First"));
+  EXPECT_TRUE(BoxesOf(said).empty()) << "told once";
+  EXPECT_EQ(driver.Text("frmSumfall.lblHighScore.Caption"), "High Score: 60,000") << "the suite plays on";
+  EXPECT_TRUE(std::filesystem::is_symlink(path));
+  EXPECT_FALSE(folder.Has(kTable + ".bad"));
+
+  std::filesystem::remove(path);
+  folder.Write(kTable, "A, 90000\r\nB, 55000\r\n\r\n");
+  FinishWith(driver, 70000, Enter("Second"));
+  EXPECT_EQ(folder.Read(kTable), "A, 90000\r\nSecond, 70000\r\nFirst, 60000\r\nB, 55000\r\n\r\n");
+}
+
+TEST(Tables, OlderOnesPutAsideStayAndWhatCantBePutAsideToo) {
+  TestFolder folder;
+  folder.Write(kTable + ".bad", "older");
+  folder.Write(kTable + ".bad-2", "old");
+  folder.Write(kTable, "rubbish");
+  Driver(folder.Path()).Do(kOpenSumfall);
+  EXPECT_EQ(folder.Read(kTable + ".bad") + folder.Read(kTable + ".bad-2") + folder.Read(kTable + ".bad-3"),
+            "olderoldrubbish");
+  EXPECT_EQ(folder.Read(kTable), kFresh);
+  // A kill between the two steps has left one file under both names.
+  folder.Write("HiScores30_11.Txt", "rubbish");
+  std::filesystem::create_hard_link(folder.Path() / "HiScores30_11.Txt",
+                                    folder.Path() / "HiScores30_11.Txt.bad");
+  Driver(folder.Path()).Do(kOpenSumfall + "click frmSumfall.mnu30");
+  EXPECT_EQ(folder.Read("HiScores30_11.Txt"), kFresh);
+  EXPECT_FALSE(folder.Has("HiScores30_11.Txt.bad-2"));
+}
+
+TEST(Tables, ALinkStaysOneAndItsTargetIsReplaced) {
+  TestFolder folder, elsewhere;
+  elsewhere.Write("shared.Txt", "A, 70000\r\n\r\n");
+  std::filesystem::create_symlink(elsewhere.Path() / "shared.Txt", folder.Path() / kTable);
+  Driver driver(folder.Path());
+  driver.Do(kOpenSumfall);
+  FinishWith(driver, 75000, Enter("Me"));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.Path() / kTable));
+  EXPECT_EQ(elsewhere.Read("shared.Txt"), "Me, 75000\r\nA, 70000\r\n\r\n");
+}
+
+TEST(Tables, WithoutTheLockAnEntryWaits) {
+  TestFolder folder;
+  Driver driver(folder.Path());
+  driver.Do(kOpenSumfall);
+  driver.common().files.patience = 30;
+  {
+    const FolderLock other(folder.Path(), 1000, nullptr);
+    ASSERT_TRUE(other.Held());
+    const std::string said =
+        FinishWith(driver, 60000,
+                   "type frmHiScoreName.lblPlayerName \"Me\"\nclick frmHiScoreName.cmdOK\n"
+                   "answer \"OK\"\nclick frmHighScores.cmdDone\n");
+    ASSERT_EQ(BoxesOf(said).size(), 1u);
+    EXPECT_TRUE(Contains(BoxesOf(said)[0], "in use by another copy"));
+    EXPECT_EQ(driver.Text("frmSumfall.lblHighScore.Caption"), "High Score: 60,000");
+    EXPECT_EQ(folder.Read(kTable), kFresh);
+    folder.Write(kTable, "Other, 80000\r\nQuillmark, 50000\r\n\r\n");
+  }
+  driver.Do("close frmSumfall\nanswer \"Yes\"");
+  EXPECT_EQ(folder.Read(kTable), "Other, 80000\r\nMe, 60000\r\nQuillmark, 50000\r\n\r\n");
+}
+
+TEST(Tables, NamesFromElsewhereAreCut) {
+  bool damaged = false;
+  std::string umlauts, cut;
+  for (int i = 0; i < 150; ++i) (i < 100 ? cut : umlauts) += "\xc3\xbc";
+  const HighScores scores =
+      ParseHighScores(cut + umlauts + ", 5\r\nA\tB, 4\r\n" + std::string(9000, '\x80') + ", 3\r\n", damaged);
+  ASSERT_EQ(scores.size(), 3u);
+  EXPECT_EQ(scores[0].name, cut);
+  EXPECT_EQ(scores[1].name, "A B");
+  EXPECT_LE(scores[2].name.size(), 400u);
+}
+
 TEST(Tables, TwoCopiesThatAskAtOnceKeepBothNames) {
   TestFolder folder;
   Driver first(folder.Path()), second(folder.Path());

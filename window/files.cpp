@@ -1,32 +1,175 @@
 #include "window/files.h"
 
+#include <dirent.h>
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/file.h>
+#include <sys/random.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <charconv>
+#include <chrono>
+#include <cstdio>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-constexpr uintmax_t kLargestFile = 1 << 20;
+constexpr off_t kLargestFile = 1 << 20;
+constexpr char kTemporary[] = ".new-";
+constexpr size_t kSuffixLetters = 16;
+
+// Goes on with a call that a signal has interrupted.
+template <class Call>
+auto Insist(Call call) {
+  auto result = call();
+  while (result < 0 && errno == EINTR) result = call();
+  return result;
+}
+
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  ~Descriptor() { Close(); }
+  Descriptor(const Descriptor&) = delete;
+  operator int() const { return number_; }
+  // False if what was written may not have reached the disk. An interrupted close has closed.
+  bool Close() {
+    const int number = std::exchange(number_, -1);
+    return number < 0 || close(number) == 0 || errno == EINTR;
+  }
+
+ private:
+  int number_;
+};
 
 bool WriteAll(int descriptor, const std::string& text) {
   size_t written = 0;
   while (written < text.size()) {
-    const ssize_t count = write(descriptor, text.data() + written, text.size() - written);
+    const ssize_t count =
+        Insist([&] { return write(descriptor, text.data() + written, text.size() - written); });
     if (count < 0) return false;
     written += static_cast<size_t>(count);
   }
-  return fsync(descriptor) == 0;
+  return Insist([&] { return fsync(descriptor); }) == 0;
 }
 
 void SyncFolder(const fs::path& folder) {
-  const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descriptor < 0) return;
-  fsync(descriptor);
-  close(descriptor);
+  const Descriptor descriptor(
+      Insist([&] { return open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
+  if (descriptor >= 0) Insist([&] { return fsync(descriptor); });
+}
+
+// The file that a path means: a symbolic link stays one, and what it names is replaced.
+fs::path TargetOf(fs::path path) {
+  constexpr int kMostLinks = 40;
+  for (int i = 0; i < kMostLinks; ++i) {
+    std::error_code error;
+    const fs::path next = fs::read_symlink(path, error);
+    if (error) return path;
+    path = next.is_absolute() ? next : path.parent_path() / next;
+  }
+  return path;
+}
+
+// Unguessable, and so not the same on two machines that share a folder.
+std::string RandomSuffix() {
+  unsigned char bytes[kSuffixLetters / 2] = {};
+  if (getrandom(bytes, sizeof bytes, 0) != sizeof bytes) {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch().count() ^ (long(getpid()) << 40);
+    for (size_t i = 0; i < sizeof bytes; ++i) bytes[i] = static_cast<unsigned char>(now >> (8 * i));
+  }
+  std::string suffix;
+  for (unsigned char byte : bytes) {
+    char digits[3];
+    std::snprintf(digits, sizeof digits, "%02x", byte);
+    suffix += digits;
+  }
+  return suffix;
+}
+
+enum class Written { Yes, NotBeside, NotOver };
+
+Written Replace(const fs::path& path, const std::string& text) {
+  const fs::path target = TargetOf(path);
+  struct stat old = {};
+  const bool exists = lstat(target.c_str(), &old) == 0;
+  if (exists && !S_ISREG(old.st_mode)) return Written::NotOver;
+  constexpr int kTries = 3;
+  for (int i = 0; i < kTries; ++i) {
+    const fs::path beside = target.string() + kTemporary + RandomSuffix();
+    Descriptor descriptor(Insist(
+        [&] { return open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644); }));
+    if (descriptor < 0 && errno == EEXIST) continue;
+    if (descriptor < 0) return Written::NotBeside;
+    flock(descriptor, LOCK_EX | LOCK_NB);  // tells those who sweep that its writer lives
+    if (exists) fchmod(descriptor, old.st_mode & 0777);
+    const bool written = WriteAll(descriptor, text);
+    bool renamed = false;
+    // Closed behind the renaming, so that the lock lasts; what the disk refuses it has told by then.
+    if (written) renamed = Insist([&] { return rename(beside.c_str(), target.c_str()); }) == 0;
+    const int why = errno;
+    if (renamed) {
+      SyncFolder(target.parent_path());
+      return Written::Yes;
+    }
+    unlink(beside.c_str());
+    if (!written) return Written::NotBeside;
+    if (why != ENOENT) return Written::NotOver;  // else somebody has swept it away
+  }
+  return Written::NotBeside;
+}
+
+// Puts a file that nobody can make sense of aside: it has ".bad" behind its name, or ".bad-2" and so on where
+// older ones lie. A plain file stays, under two names, until the new one is renamed over it.
+bool PutAside(const fs::path& path) {
+  const fs::path target = TargetOf(path);
+  struct stat bad = {};
+  if (lstat(target.c_str(), &bad) != 0) return errno == ENOENT;
+  constexpr int kMostAside = 1000;
+  for (int number = 1; number <= kMostAside; ++number) {
+    const fs::path aside = target.string() + ".bad" + (number == 1 ? "" : "-" + std::to_string(number));
+    struct stat other = {};
+    if (lstat(aside.c_str(), &other) == 0) {
+      // Put aside by an earlier try, which didn't come to the new file.
+      if (other.st_ino == bad.st_ino && other.st_dev == bad.st_dev) return true;
+      continue;
+    }
+    if (S_ISREG(bad.st_mode)) {
+      if (Insist([&] { return link(target.c_str(), aside.c_str()); }) == 0) return true;
+      if (errno == EEXIST) continue;
+      const bool knowsNoLinks =
+          errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS || errno == EMLINK || errno == EXDEV;
+      if (!knowsNoLinks) return false;
+    }
+    if (Insist([&] {
+          return renameat2(AT_FDCWD, target.c_str(), AT_FDCWD, aside.c_str(), RENAME_NOREPLACE);
+        }) == 0)
+      return true;
+    if (errno != EEXIST) return false;
+  }
+  return false;
+}
+
+// The name of a temporary file of this suite, whose writer is gone.
+bool IsLeftover(const fs::path& folder, const std::string& name) {
+  const size_t at = name.rfind(kTemporary);
+  if (at == std::string::npos || at < 4) return false;
+  const std::string kind = name.substr(at - 4, 4), suffix = name.substr(at + sizeof kTemporary - 1);
+  if (kind != ".Ini" && kind != ".Txt" && kind != ".sfl") return false;
+  if (suffix.empty() || suffix.find_first_not_of("0123456789abcdef") != std::string::npos) return false;
+  if (suffix.size() == kSuffixLetters) {
+    const Descriptor descriptor(
+        open((folder / name).c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    return descriptor >= 0 && flock(descriptor, LOCK_EX | LOCK_NB) == 0;
+  }
+  // Older versions wrote the number of their process there.
+  pid_t writer = 0;
+  const auto [end, error] = std::from_chars(suffix.data(), suffix.data() + suffix.size(), writer);
+  return error == std::errc() && *end == '\0' && writer > 0 && kill(writer, 0) != 0 && errno == ESRCH;
 }
 
 }  // namespace
@@ -37,74 +180,156 @@ fs::path Files::PathOf(std::string_view name) const {
   return folder_ / relative.substr(std::min(relative.find_first_not_of('/'), relative.size()));
 }
 
-ReadOutcome Files::Read(const fs::path& path, std::string& text) const {
-  if (const auto kept = unwritten_.find(path); kept != unwritten_.end()) {
-    text = kept->second;
-    return ReadOutcome::Read;
-  }
-  std::error_code error;
-  const fs::file_status status = fs::status(path, error);
-  if (status.type() == fs::file_type::not_found) return ReadOutcome::Missing;
+// Only what isn't there is missing, and only what was read can make no sense: everything else may be well
+// again a moment later.
+ReadOutcome Files::ReadDisk(const fs::path& path, std::string& text) {
+  text.clear();
   // Nothing but a plain file is opened: a pipe would hang, a device would never end.
-  if (error || status.type() != fs::file_type::regular) return ReadOutcome::Unusable;
-  const uintmax_t size = fs::file_size(path, error);
-  if (error || size > kLargestFile) return ReadOutcome::Unusable;
-  const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (descriptor < 0) return ReadOutcome::Unusable;
-  text.resize(size);
-  size_t got = 0;
-  while (got < size) {
-    const ssize_t count = read(descriptor, text.data() + got, size - got);
-    if (count <= 0) break;
-    got += static_cast<size_t>(count);
+  struct stat status = {};
+  if (Insist([&] { return stat(path.c_str(), &status); }) != 0)
+    return errno == ENOENT || errno == ENOTDIR ? ReadOutcome::Missing : ReadOutcome::Refused;
+  if (!S_ISREG(status.st_mode) || status.st_size > kLargestFile) return ReadOutcome::Unusable;
+  const Descriptor descriptor(
+      Insist([&] { return open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); }));
+  if (descriptor < 0) return errno == ENOENT ? ReadOutcome::Missing : ReadOutcome::Refused;
+  if (fstat(descriptor, &status) != 0) return ReadOutcome::Refused;
+  if (!S_ISREG(status.st_mode) || status.st_size > kLargestFile) return ReadOutcome::Unusable;
+  std::string read_so_far;
+  char chunk[16384];
+  while (true) {
+    const ssize_t count = Insist([&] { return read(descriptor, chunk, sizeof chunk); });
+    if (count < 0) return ReadOutcome::Refused;
+    if (count == 0) break;
+    read_so_far.append(chunk, static_cast<size_t>(count));
+    if (read_so_far.size() > static_cast<size_t>(kLargestFile)) return ReadOutcome::Unusable;
   }
-  close(descriptor);
-  text.resize(got);
+  if (read_so_far.size() < static_cast<size_t>(status.st_size)) return ReadOutcome::Refused;
+  text = std::move(read_so_far);
   return ReadOutcome::Read;
 }
 
+ReadOutcome Files::Read(const fs::path& path, std::string& text) {
+  const ReadOutcome outcome = ReadDisk(path, text);
+  if (outcome == ReadOutcome::Refused) Refuse(FileRefusal::What::Read, path);
+  const bool wasUnread = unread_.contains(path);
+  if (outcome == ReadOutcome::Read) {
+    known_[path] = text;
+    unread_.erase(path);
+  }
+  if (const auto waits = waiting_.find(path); waits != waiting_.end()) {
+    if (outcome == ReadOutcome::Read && wasUnread && waits->second.front().replaces) {
+      waiting_.erase(waits);  // made without knowing what it would replace
+      return outcome;
+    }
+    if (outcome == ReadOutcome::Refused) text = known_[path];
+    if (outcome == ReadOutcome::Unusable) text.clear();
+    for (const FileChange& change : waits->second) text = change.apply(text);
+    return ReadOutcome::Read;
+  }
+  if (outcome != ReadOutcome::Refused) return outcome;
+  if (const auto last = known_.find(path); last != known_.end()) {
+    text = last->second;
+    return ReadOutcome::Read;
+  }
+  unread_.insert(path);
+  return outcome;
+}
+
 bool Files::Write(const fs::path& path, const std::string& text) {
-  const fs::path beside = path.string() + ".new-" + std::to_string(getpid());
-  const int descriptor = open(beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-  if (descriptor < 0) return false;
-  const bool written = WriteAll(descriptor, text);
-  close(descriptor);
-  std::error_code error;
-  if (written) fs::rename(beside, path, error);
-  if (!written || error) {
-    fs::remove(beside, error);
-    return false;
+  return Replace(path, text) == Written::Yes;
+}
+
+void Files::Keep(const fs::path& path, FileChange change) {
+  auto& changes = waiting_[path];
+  if (change.replaces) changes.clear();
+  changes.push_back(std::move(change));
+  Settle(path);
+}
+
+void Files::TryAgain() {
+  std::vector<fs::path> paths;
+  for (const auto& [path, changes] : waiting_) paths.push_back(path);
+  for (const fs::path& path : paths) Settle(path);
+}
+
+void Files::Settle(const fs::path& path) {
+  auto& changes = waiting_[path];
+  if (unread_.contains(path) && changes.front().replaces) return;
+  const auto refusal = Change(path, changes);
+  if (refusal)
+    Refuse(*refusal, path);
+  else
+    waiting_.erase(path);
+}
+
+// Makes the changes to what the file holds now, or tells what stands against it.
+std::optional<FileRefusal::What> Files::Change(const fs::path& path, std::vector<FileChange>& changes) {
+  using What = FileRefusal::What;
+  const fs::path folder = TargetOf(path).parent_path();
+  constexpr int kShortWait = 100;
+  const FolderLock lock(folder, stuck_ ? std::min(patience, kShortWait) : patience, mustHurry);
+  if (!lock.FolderIsThere()) return What::WriteFolder;
+  stuck_ = !lock.Held();
+  if (stuck_) return What::Lock;
+  Sweep(folder);
+  std::string old;
+  const ReadOutcome outcome = ReadDisk(path, old);
+  if (outcome == ReadOutcome::Refused) return What::Read;
+  unread_.erase(path);
+  const bool nonsense =
+      outcome == ReadOutcome::Unusable || (outcome == ReadOutcome::Read && !changes.front().makesSense(old));
+  if (nonsense && !PutAside(path)) return What::ReplaceFile;
+  std::string text = old;
+  for (const FileChange& change : changes) text = change.apply(text);
+  if (outcome != ReadOutcome::Read || text != old) {
+    const Written written = Replace(path, text);
+    if (written == Written::NotBeside && folder == folder_) return What::WriteFolder;
+    if (written != Written::Yes) return What::ReplaceFile;
   }
-  SyncFolder(path.parent_path());
-  return true;
+  known_[path] = text;
+  return std::nullopt;
 }
 
-void Files::Keep(const fs::path& path, const std::string& text) {
-  if (Write(path, text)) {
-    unwritten_.erase(path);
-    return;
-  }
-  unwritten_[path] = text;
-  if (refusal_ == Refusal::None) refusal_ = Refusal::Fresh;
+// Takes away what copies of the program that were killed while they wrote have left; once a folder.
+void Files::Sweep(const fs::path& folder) {
+  if (!swept_.insert(folder).second) return;
+  DIR* const entries = opendir(folder.c_str());
+  if (!entries) return;
+  std::vector<std::string> leftovers;
+  while (const dirent* entry = readdir(entries))
+    if (IsLeftover(folder, entry->d_name)) leftovers.emplace_back(entry->d_name);
+  closedir(entries);
+  for (const std::string& name : leftovers) unlink((folder / name).c_str());
 }
 
-bool Files::TakeRefusal() {
-  if (refusal_ != Refusal::Fresh) return false;
-  refusal_ = Refusal::Told;
-  return true;
+void Files::Refuse(FileRefusal::What what, const fs::path& path) {
+  const fs::path& about = what == FileRefusal::What::WriteFolder ? folder_ : path;
+  if (told_.emplace(what, about).second) refusals_.push_back({what, about});
 }
 
-void Files::PutAside(const fs::path& path) {
-  std::error_code error;
-  fs::rename(path, path.string() + ".bad", error);
-}
+std::vector<FileRefusal> Files::TakeRefusals() { return std::exchange(refusals_, {}); }
 
-Files::Lock::Lock(const Files& files)
-    : descriptor_(open(files.Folder().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+FolderLock::FolderLock(const fs::path& folder, int patience, const std::function<bool()>& mustHurry)
+    : descriptor_(Insist([&] { return open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); })) {
   if (descriptor_ < 0) return;
-  for (int tries = 0; flock(descriptor_, LOCK_EX | LOCK_NB) != 0 && tries < 200; ++tries) usleep(10'000);
+  using namespace std::chrono;
+  const auto start = steady_clock::now();
+  while (true) {
+    if (Insist([&] { return flock(descriptor_, LOCK_EX | LOCK_NB); }) == 0) {
+      held_ = true;
+      return;
+    }
+    if (errno != EWOULDBLOCK) {
+      held_ = errno == ENOLCK || errno == EOPNOTSUPP || errno == ENOSYS || errno == EINVAL || errno == EBADF;
+      return;
+    }
+    const auto waited = duration_cast<milliseconds>(steady_clock::now() - start).count();
+    if (waited >= patience || (mustHurry && mustHurry())) return;
+    constexpr int kLongestPause = 64;  // milliseconds, halved for each second waited
+    usleep(1000 * std::max<useconds_t>(1, kLongestPause >> std::min<long long>(waited / 1000, 6)));
+  }
 }
 
-Files::Lock::~Lock() {
+FolderLock::~FolderLock() {
   if (descriptor_ >= 0) close(descriptor_);
 }

@@ -2,14 +2,37 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <map>
+#include <optional>
+#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 enum class ReadOutcome {
   Read,
   Missing,
-  Unusable  // there is something, but no text file of a sane size that may be read
+  Unusable,  // there is something, but no text file of a sane size
+  Refused    // it can't be read now, and nobody knows what is in it
+};
+
+// A change to a file that is kept: made to what the file holds at that moment, which another copy of the
+// program may have written.
+struct FileChange {
+  // The new text from the old one, "" if the file is missing or was put aside.
+  std::function<std::string(const std::string& old)> apply;
+  // Whether a text may be changed. One that makes no sense is put aside first.
+  std::function<bool(const std::string& old)> makesSense;
+  // Takes nothing over from the old text. Not made to a file whose old text nobody could read.
+  bool replaces = false;
+};
+
+// What the disk refused, for the player.
+struct FileRefusal {
+  enum class What { Read, Lock, ReplaceFile, WriteFolder } what;
+  std::filesystem::path path;
 };
 
 class Files {
@@ -21,32 +44,58 @@ class Files {
   // The file that the suite calls "\Name", in `AppPath`.
   std::filesystem::path PathOf(std::string_view name) const;
 
-  ReadOutcome Read(const std::filesystem::path& path, std::string& text) const;
-  // Replaces the file, which is the old one or the new one whole at any moment. False if that can't be done.
+  // What the file holds, and what waits to be written to it. Where it can't be read now, what it held when it
+  // was read last.
+  ReadOutcome Read(const std::filesystem::path& path, std::string& text);
+  // Replaces the file, which is the old one or the new one whole at any moment; where it is a symbolic link,
+  // what that names. False if that can't be done.
   static bool Write(const std::filesystem::path& path, const std::string& text);
-  // The same for what the suite keeps by itself: where the disk refuses, the text is kept until the program
-  // ends.
-  void Keep(const std::filesystem::path& path, const std::string& text);
-  // True once, after the first time that the disk refused.
-  bool TakeRefusal();
-  // Puts a file that nobody can make sense of aside, with ".bad" behind its name.
-  void PutAside(const std::filesystem::path& path);
+  // Changes a file that the suite keeps by itself, while no other copy of the program does. Where the disk
+  // refuses, the change waits for the next try, until the program ends.
+  void Keep(const std::filesystem::path& path, FileChange change);
+  // Tries again to make the changes that wait.
+  void TryAgain();
+  // What the disk has refused since the last call; each thing once.
+  std::vector<FileRefusal> TakeRefusals();
 
-  // While one stands, no other copy of the program holds one for the same folder. Not to be nested, and not
-  // to be held while the player is asked. A copy that holds it for seconds is stuck: then the lock is done
-  // without.
-  class Lock {
-   public:
-    explicit Lock(const Files& files);
-    ~Lock();
-    Lock(const Lock&) = delete;
-
-   private:
-    int descriptor_;
-  };
+  // How long another copy of the program is waited for, in milliseconds. A longer wait has no better chances:
+  // what holds a lock that long is stuck.
+  int patience = 30'000;
+  // Asked during that wait: whether there is no time for it any more.
+  std::function<bool()> mustHurry;
 
  private:
+  ReadOutcome ReadDisk(const std::filesystem::path& path, std::string& text);
+  void Settle(const std::filesystem::path& path);
+  std::optional<FileRefusal::What> Change(const std::filesystem::path& path,
+                                          std::vector<FileChange>& changes);
+  void Sweep(const std::filesystem::path& folder);
+  void Refuse(FileRefusal::What what, const std::filesystem::path& path);
+
   std::filesystem::path folder_;
-  std::map<std::filesystem::path, std::string> unwritten_;
-  enum class Refusal { None, Fresh, Told } refusal_ = Refusal::None;
+  std::map<std::filesystem::path, std::string> known_;  // as read or written last
+  std::map<std::filesystem::path, std::vector<FileChange>> waiting_;
+  std::set<std::filesystem::path> unread_;  // never read, since the disk refused
+  std::set<std::filesystem::path> swept_;   // folders
+  std::set<std::pair<FileRefusal::What, std::filesystem::path>> told_;
+  std::vector<FileRefusal> refusals_;
+  bool stuck_ = false;  // the last wait for a lock was in vain
+};
+
+// While one stands, no other copy of the program holds one for the same folder. Not to be nested, and not to
+// be held while the player is asked.
+class FolderLock {
+ public:
+  // Waits up to `patience` milliseconds; those who have waited longer ask more often, and so come first.
+  FolderLock(const std::filesystem::path& folder, int patience, const std::function<bool()>& mustHurry);
+  ~FolderLock();
+  FolderLock(const FolderLock&) = delete;
+
+  // Whether nobody else holds it; true as well where the file system knows no locks.
+  bool Held() const { return held_; }
+  bool FolderIsThere() const { return descriptor_ >= 0; }
+
+ private:
+  int descriptor_;
+  bool held_ = false;
 };

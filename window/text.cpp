@@ -33,3 +33,15 @@ bool ParseLong(std::string_view text, int& value) {
   auto [stop, error] = std::from_chars(text.data(), end, value);
   return error == std::errc() && stop == end;
 }
+
+std::string NameOnOneLine(std::string_view text) {
+  constexpr int kMostLetters = 100;
+  constexpr size_t kMostBytes = 4 * kMostLetters;  // where there are no letters at all
+  std::string name;
+  int letters = 0;
+  for (char byte : text.substr(0, kMostBytes)) {
+    if ((byte & 0xC0) != 0x80 && ++letters > kMostLetters) break;
+    name += static_cast<unsigned char>(byte) < ' ' ? ' ' : byte;
+  }
+  return name;
+}

@@ -16,3 +16,6 @@ std::string_view Trim(std::string_view text);
 
 // A whole text as one number without blanks or rest; false if it is none or doesn't fit 32 bits.
 bool ParseLong(std::string_view text, int& value);
+
+// A name from a player or a file, as tables can hold it: on one line, cut to a hundred letters.
+std::string NameOnOneLine(std::string_view text);

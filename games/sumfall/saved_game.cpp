@@ -75,7 +75,7 @@ SavedGame ParseSavedGame(std::string_view text) {
       game.timeLimit = fields.TakeNumber();
       if (game.timeLimit < 1 || game.timeLimit > kLongestTimeLimit) RaiseDamaged();
     } else if (section == "[UserName]") {
-      game.userName = fields.Take();
+      game.userName = NameOnOneLine(fields.Take());
     } else if (section == "[Score]") {
       game.score = fields.TakeNumber();
     } else if (section == "[Custom]") {
