@@ -1,5 +1,8 @@
 #include "app/options.h"
 
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <charconv>
@@ -59,11 +62,45 @@ fs::path ProgramFolder() {
 }
 
 // A folder that can't be made is as one that can't be written: the suite plays on, and says what it can't
-// keep.
+// keep. A new one is the player's alone.
 fs::path Made(const fs::path& folder) {
   std::error_code error;
-  fs::create_directories(folder, error);
+  fs::create_directories(folder.parent_path(), error);
+  mkdir(folder.c_str(), 0700);
   return folder;
+}
+
+fs::path HomeFolder() {
+  if (const char* home = std::getenv("HOME"); home && home[0] == '/') return home;
+  const passwd* user = getpwuid(getuid());
+  return user && user->pw_dir && user->pw_dir[0] == '/' ? user->pw_dir : "";
+}
+
+bool IsKeptFile(const std::string& name) {
+  const std::string known = name.substr(0, name.find(".bad"));
+  return known.ends_with(".Ini") || known.ends_with(".sfl") ||
+         (known.ends_with(".Txt") && known.find("Scores") != std::string::npos);
+}
+
+// Earlier versions kept files beside the program. They move to where they are kept now; what is there already
+// goes before them.
+void CarryOver(const fs::path& from, const fs::path& to) {
+  std::error_code error;
+  if (fs::equivalent(from, to, error)) return;
+  std::vector<fs::path> files;
+  for (fs::directory_iterator entry(from, error), end; !error && entry != end; entry.increment(error))
+    if (std::error_code ignored; entry->is_regular_file(ignored) && IsKeptFile(entry->path().filename()))
+      files.push_back(entry->path());
+  for (const fs::path& file : files) {
+    const fs::path place = to / file.filename();
+    if (fs::exists(fs::symlink_status(place, error))) continue;
+    // A copy first, which becomes the file only when it is whole; nobody's file is written over.
+    const fs::path beside = place.string() + ".carried-" + std::to_string(getpid());
+    const bool moved = fs::copy_file(file, beside, error) &&
+                       renameat2(AT_FDCWD, beside.c_str(), AT_FDCWD, place.c_str(), RENAME_NOREPLACE) == 0;
+    fs::remove(beside, error);
+    if (moved) fs::remove(file, error);
+  }
 }
 
 void ApplyValue(const std::string& option, const std::string& value, Options& options) {
@@ -152,7 +189,10 @@ std::string Usage(Program program) {
     usage += "  --screen WxH    the size of the screen in pixels, as 1024x768\n";
   return usage +
          "  --help          show this text\n"
-         "  --version       show the version\n";
+         "  --version       show the version\n\n"
+         "Without --folder, settings, high scores and saved games are kept in the program's own folder if it\n"
+         "holds a file named \"portable\", else in $XDG_DATA_HOME/card-haven, which is\n"
+         "~/.local/share/card-haven where that isn't set.\n";
 }
 
 std::optional<int> ReadCommandLine(Program program, int argc, char** argv, Options& options) {
@@ -179,12 +219,15 @@ fs::path FindAppPath(const Options& options) {
     return Made(fs::absolute(options.folder, error).lexically_normal());
   }
   const fs::path own = ProgramFolder();
-  if (access(own.c_str(), W_OK) == 0) return own;
-  const char* data = std::getenv("XDG_DATA_HOME");
-  const char* home = std::getenv("HOME");
-  if (data && data[0] == '/') return Made(fs::path(data) / "card-haven");
-  if (home && home[0] == '/') return Made(fs::path(home) / ".local/share/card-haven");
-  return own;
+  std::error_code error;
+  if (fs::exists(own / "portable", error)) return own;
+  const char* const data = std::getenv("XDG_DATA_HOME");
+  const fs::path home = HomeFolder();
+  if (!(data && data[0] == '/') && home.empty())
+    throw std::runtime_error("there is no home folder to keep files in; name a folder with --folder");
+  const fs::path kept = (data && data[0] == '/' ? fs::path(data) : home / ".local/share") / "card-haven";
+  CarryOver(own, Made(kept));
+  return kept;
 }
 
 fs::path FindDataFolder() {

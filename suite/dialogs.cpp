@@ -1,5 +1,7 @@
 #include "suite/dialogs.h"
 
+#include <cstdlib>
+
 #include "suite/high_scores.h"
 #include "window/text.h"
 
@@ -25,8 +27,9 @@ constexpr Design kRulesDesign[] = {
 };
 
 constexpr Design kAboutDesign[] = {
-    {"lblInfo", 300, 300, 5100, 1080},
-    {"lblStats", 300, 1500, 5100, 720},
+    {"lblInfo", 300, 240, 5100, 1080},
+    {"lblStats", 300, 1380, 5100, 540},
+    {"lblFolder", 150, 1980, 5400, 300},
     {"cmdCoolDude", 2130, 2400, 1440, 420, "&Cool Dude"},
 };
 
@@ -122,6 +125,12 @@ frmAbout::frmAbout(modCommon& common) : Form(common.platform, "frmAbout"), commo
   ApplyDesign(*this, kAboutDesign);
   lblInfo.Alignment = 2;
   lblStats.Alignment = 2;
+  const std::string folder = common.files.Folder().string();
+  const char* const home = std::getenv("HOME");
+  const bool isAtHome = home && *home && folder.starts_with(std::string(home) + "/");
+  lblFolder.Alignment = 2;
+  lblFolder.Caption = "Kept in " + (isAtHome ? "~" + folder.substr(std::string(home).size()) : folder);
+  lblFolder.ToolTipText = "Settings, high scores and saved games are kept in " + folder;
   cmdCoolDude.Default = cmdCoolDude.Cancel = true;
   cmdCoolDude.OnClick = [this] { Unload(); };
 }

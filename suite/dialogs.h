@@ -53,7 +53,7 @@ class frmAbout : public Form {
   explicit frmAbout(modCommon& common);
   void Form_Load() override;
 
-  Label lblInfo{*this, "lblInfo"}, lblStats{*this, "lblStats"};
+  Label lblInfo{*this, "lblInfo"}, lblStats{*this, "lblStats"}, lblFolder{*this, "lblFolder"};
   CommandButton cmdCoolDude{*this, "cmdCoolDude"};
 
  private:
