@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <iostream>
 #include <memory>
+#include <stdexcept>
 
 #include "app/options.h"
 #include "games/games.h"
@@ -38,6 +39,7 @@ int main(int argc, char** argv) {
     } catch (const std::exception& error) {
       platform.End(error.what());
     }
+    if (!std::cout.flush()) throw std::runtime_error("the output can't be written");
     return console.failed ? EXIT_FAILURE : EXIT_SUCCESS;
   } catch (const std::exception& error) {
     std::cerr << "cardhaven-console: " << error.what() << std::endl;

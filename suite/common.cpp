@@ -4,7 +4,9 @@
 #include <cstdio>
 
 modCommon::modCommon(Platform& platform, std::filesystem::path folder)
-    : platform(platform), files(std::move(folder)), AppTitle(kSuiteTitle) {}
+    : platform(platform), files(std::move(folder)), AppTitle(kSuiteTitle) {
+  files.mustHurry = [&platform] { return platform.front.MustLeave(); };
+}
 
 void modCommon::TellWhatCantBeKept() {
   const auto text = [](const FileRefusal& refusal) {

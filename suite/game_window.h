@@ -256,6 +256,9 @@ class GameWindow : public Form {
     if (ParseLong(value, read) && std::in_range<Rep>(read)) number = read;
   }
 
+  // Writes the settings file; the text that it holds now.
+  std::string KeepSettings();
+
   // === The standing controls =======================================================================
 
   PictureBox Surface{*this, "Surface"};
@@ -298,7 +301,7 @@ class GameWindow : public Form {
   bool ApplySetting(std::string_view section, std::string_view value);
   bool ApplyOwnSetting(std::string_view section, std::string_view value);
   void ApplySize(std::string_view section, int value);
-  // Writes the settings file; the text that it holds now.
+  // The same, and tells what can't be kept.
   std::string SaveSettings();
   void SetPauseCaptions(bool paused);
   void Timer4_Timer();

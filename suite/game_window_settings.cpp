@@ -110,7 +110,7 @@ std::string GameWindow::SettingText(std::string_view section) const {
   throw std::logic_error("nobody knows what stands under " + std::string(section));
 }
 
-std::string GameWindow::SaveSettings() {
+std::string GameWindow::KeepSettings() {
   SettingsWriter writer;
   for (const char* section : plan.sections) writer.Add(section, SettingText(section));
   const std::string text = writer.Text();
@@ -121,6 +121,11 @@ std::string GameWindow::SaveSettings() {
   };
   common.files.Keep(common.files.PathOf(plan.names.settingsFile),
                     {[text](const std::string&) { return text; }, makesSense, true});
+  return text;
+}
+
+std::string GameWindow::SaveSettings() {
+  const std::string text = KeepSettings();
   common.TellWhatCantBeKept();
   return text;
 }

@@ -5,16 +5,27 @@
 Suite::Suite(Platform& platform, const SuiteOptions& options, std::vector<GameEntry> games)
     : common(platform, options.AppPath), games_(std::move(games)), selector_(common, games_) {
   platform.OnFailure = [this](const std::string& description) { Fail(description); };
+  platform.OnLeave = [this] { Leave(); };
   platform.AfterHandler = [this] { KeepAWindow(); };
 }
 
 Suite::~Suite() {
   common.platform.OnFailure = nullptr;
+  common.platform.OnLeave = nullptr;
   common.platform.AfterHandler = nullptr;
 }
 
 void Suite::Start() {
   common.platform.Dispatch([this] { selector_.Show(); });
+}
+
+// What closing the windows would have kept is kept; the round in progress is given up.
+void Suite::Leave() {
+  constexpr int kPatience = 50;
+  common.files.patience = kPatience;
+  if (common.EnterWaitingScore) common.EnterWaitingScore();
+  if (common.window) common.window->KeepSettings();
+  common.files.TryAgain();
 }
 
 // The player is told, the game in progress is over, and the suite goes on.

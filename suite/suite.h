@@ -22,6 +22,7 @@ class Suite {
   modCommon common;
 
  private:
+  void Leave();
   void Fail(const std::string& description);
   void KeepAWindow();
 

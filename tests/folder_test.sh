@@ -47,3 +47,8 @@ run
 [ -f "$folder/app/Sumfall.Ini" ] || fail "a portable program keeps its files elsewhere"
 run --folder "$folder/named"
 [ -f "$folder/named/Sumfall.Ini" ] || fail "the named folder isn't used"
+
+# Output that nobody gets is a failure.
+status=0
+echo "get frmSelect.Caption" | "$folder/app/program" --folder "$folder/named" >/dev/full 2>"$folder/said" || status=$?
+[ "$status" = 1 ] && grep -q "output can't be written" "$folder/said" || fail "a full disk ended with $status"

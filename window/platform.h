@@ -80,6 +80,8 @@ class FrontEnd : public Observer {
   // The program that opens web pages, "" if there is none; and opening one. False on failure.
   virtual std::string FindBrowser() = 0;
   virtual bool OpenPage(const std::string& browser, const std::string& url) = 0;
+  // Whether the program has been told to go, and has no time for long waits.
+  virtual bool MustLeave() const { return false; }
 };
 
 class Platform : public Observer {
@@ -94,6 +96,8 @@ class Platform : public Observer {
   std::string CommandLine;  // a saved game's file name, or ""
   // Told of a failure that no handler caught, with its description.
   std::function<void(const std::string&)> OnFailure;
+  // Called when the program has to go at once, also in the middle of a handler: nobody is asked or told.
+  std::function<void()> OnLeave;
   // Called behind each handler that wasn't started within another, unless the program has ended.
   std::function<void()> AfterHandler;
 

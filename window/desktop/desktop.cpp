@@ -14,6 +14,7 @@
 #include <iostream>
 
 #include "window/desktop/form_window.h"
+#include "window/desktop/leaving.h"
 #include "window/desktop/lettering.h"
 
 namespace fs = std::filesystem;
@@ -182,6 +183,8 @@ std::string DesktopFrontEnd::FindBrowser() {
 bool DesktopFrontEnd::OpenPage(const std::string& browser, const std::string& url) {
   return QProcess::startDetached(QString::fromStdString(browser), {QString::fromStdString(url)});
 }
+
+bool DesktopFrontEnd::MustLeave() const { return leaving::IsWanted(); }
 
 void DesktopFrontEnd::Painted() {
   if (painted_) return;

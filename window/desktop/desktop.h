@@ -62,6 +62,8 @@ class DesktopFrontEnd : public FrontEnd {
   std::string FindBrowser() override;
   bool OpenPage(const std::string& browser, const std::string& url) override;
 
+  bool MustLeave() const override;
+
   void FormLoaded(Form& form) override;
   void FormShown(Form& form) override;
   void FormHidden(Form& form) override;

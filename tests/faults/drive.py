@@ -1,0 +1,204 @@
+#!/usr/bin/env python3
+"""Breaks the suite at every file call, and looks whether anything was lost.
+
+Each scenario is played once to count its file calls; then again for each call and each kind of fault. After a run every
+file must be whole, what was there before or what the run has made of it; what was earned must be in the table unless the
+program was killed or has said that it can't be kept; and a start without faults must be clean.
+
+  drive.py CONSOLE SHIM [--sample SECONDS] [--jobs N] [--copies N]
+"""
+import argparse
+import concurrent.futures
+import errno
+import json
+import os
+import random
+import subprocess
+import sys
+import tempfile
+import time
+
+TABLE, INI = "HiScores90_11.Txt", "Sumfall.Ini"
+FRESH = "Quillmark, 50000\r\n" * 10 + "\r\n"
+LOW = "".join(f"P{n}, {n}\r\n" for n in range(10, 0, -1)) + "\r\n"  # any score has a place in it
+OPEN = ["click frmSelect.cmdSumfall"]
+# A box, where one stands, is answered; elsewhere the line is refused.
+OK = ['answer "OK"'] * 3
+CLOSE = ["close frmSumfall", 'answer "Yes"'] + OK
+GAME = ["click frmSumfall.cmdPlay", "click frmSumfall.cmdTakeScore", "click frmSumfall.cmdTakeScore",
+        "get frmSumfall.lblCurrentScore.Caption"] + OK
+ENTER = ['type frmHiScoreName.lblPlayerName "Me"', "click frmHiScoreName.cmdOK"] + OK + ["click frmHighScores.cmdDone"]
+
+SCENARIOS = {
+    "first start": ({}, OPEN + OK),
+    "settings at closing": ({TABLE: LOW}, OPEN + OK + ["click frmSumfall.mnuHot"] + CLOSE),
+    "table entry": ({TABLE: LOW}, OPEN + OK + GAME + ENTER + CLOSE),
+    "damaged table": ({TABLE: "P10, 10\r\nrubbish\r\n"}, OPEN + OK + GAME + ENTER + CLOSE),
+    "damaged settings": ({INI: "rubbish", TABLE: LOW}, OPEN + OK + CLOSE),
+}
+KINDS = {"kill": "kill", "killed after": "killed-after", "short": "short", "EINTR": str(errno.EINTR),
+         "EIO": str(errno.EIO), "ENOSPC": str(errno.ENOSPC), "EACCES": str(errno.EACCES), "EMFILE": str(errno.EMFILE)}
+
+
+def read(folder, name):
+    try:
+        with open(os.path.join(folder, name), newline="", encoding="utf-8") as file:
+            return file.read()
+    except FileNotFoundError:
+        return None
+
+
+def entries(text):
+    """The entries of a whole table; None for anything else."""
+    if not text or not text.endswith("\r\n\r\n"):
+        return None
+    found = []
+    for line in text[:-4].split("\r\n"):
+        name, comma, score = line.partition(", ")
+        if not comma or not score.lstrip("-").isdigit():
+            return None
+        found.append((name, int(score)))
+    return found
+
+
+def play(options, folder, lines, **environment):
+    # In the sanitized build the address sanitizer wants to come first in the list of libraries.
+    env = dict(os.environ, LD_PRELOAD=options.shim, FAULT_FOLDER=folder, ASAN_OPTIONS="verify_asan_link_order=0",
+               **environment)
+    return subprocess.run([options.console, "--seed", "1", "--folder", folder], input="\n".join(lines) + "\n", text=True,
+                          capture_output=True, env=env, timeout=120, check=False)
+
+
+def prepare(folder, files):
+    for name, text in files.items():
+        with open(os.path.join(folder, name), "w", newline="", encoding="utf-8") as file:
+            file.write(text)
+
+
+def whole_settings(text):
+    return text is not None and all(f"[{name}]\r\n" in text for name in ("Color", "Time", "Deck", "Height"))
+
+
+def findings(options, folder, scenario, kind, ran):
+    files, lines = SCENARIOS[scenario]
+    killed = kind.startswith("kill")
+    if ran.returncode != (-9 if killed else 0):
+        yield f"ended with {ran.returncode}: {ran.stderr[-300:]}"
+    told = "can't be" in ran.stdout or "in use by" in ran.stdout
+    table, settings = read(folder, TABLE), read(folder, INI)
+    for name, text, is_whole in ((TABLE, table, entries(table) is not None), (INI, settings, whole_settings(settings))):
+        if text is None and name in files:
+            yield f"{name} is gone"
+        if text is not None and text != files.get(name) and not is_whole:
+            yield f"{name} is neither old nor new: {text[:60]!r}"
+    if not killed and not told:
+        if "click frmHiScoreName.cmdOK" in lines and not any(name == "Me" for name, _ in entries(table) or []):
+            yield "the score is lost, and nobody was told"
+        if "click frmSumfall.mnuHot" in lines and (settings is None or "[Deck]\r\n4" not in settings):
+            yield "the settings are lost, and nobody was told"
+    for name, text in files.items():
+        new = read(folder, name)
+        beside = [read(folder, each) for each in os.listdir(folder) if each.startswith(name + ".bad")]
+        if "rubbish" in text and new != text and text not in beside:
+            yield f"what stood in {name} is lost"
+    if table is not None and TABLE in files and (read_table := entries(table)) is not None:
+        kept = sum(name.startswith("P") for name, _ in read_table)
+        if kept < min(9, files[TABLE].count(", ")):
+            yield f"{TABLE} has lost entries: {table!r}"
+    clean = play(options, folder, OPEN)
+    left = [name for name in os.listdir(folder) if ".new-" in name]
+    if clean.returncode != 0 or "msgbox" in clean.stdout:
+        yield f"the next start isn't clean: {clean.stdout[-200:]}"
+    if left and any(name.startswith(INI) or name.startswith(TABLE) for name in left):
+        # Nothing had to be written, so nothing was swept; a start that writes does it.
+        play(options, folder, OPEN + CLOSE + OPEN + ["click frmSumfall.mnu30"])
+        if any(".new-" in name for name in os.listdir(folder)):
+            yield f"leftovers: {left}"
+
+
+def point(options, scenario, kind, at):
+    with tempfile.TemporaryDirectory(prefix="cardhaven-fault-") as folder:
+        prepare(folder, SCENARIOS[scenario][0])
+        try:
+            ran = play(options, folder, SCENARIOS[scenario][1], FAULT_AT=str(at), FAULT_KIND=KINDS[kind])
+            return [f"{scenario}, {kind} at call {at}: {what}" for what in findings(options, folder, scenario, kind, ran)]
+        except subprocess.TimeoutExpired:
+            return [f"{scenario}, {kind} at call {at}: hangs"]
+
+
+def count(options, scenario):
+    with tempfile.TemporaryDirectory(prefix="cardhaven-fault-") as folder:
+        prepare(folder, SCENARIOS[scenario][0])
+        counter = folder + ".count"
+        ran = play(options, folder, SCENARIOS[scenario][1], FAULT_COUNT=counter)
+        with open(counter, encoding="utf-8") as file:
+            calls = int(file.read())
+        os.remove(counter)
+        wrong = list(findings(options, folder, scenario, "none", ran))
+        return calls, [f"{scenario}, without a fault: {what}" for what in wrong]
+
+
+def copies(options, number, each):
+    """So many copies enter so many scores each, in one folder on a slow disk."""
+    # The best entries stay in ten places: each copy makes room for all of them to be seen at some time.
+    lines = OPEN + OK
+    for _ in range(each):
+        lines = lines + GAME + ENTER
+    with tempfile.TemporaryDirectory(prefix="cardhaven-fault-") as folder:
+        prepare(folder, {TABLE: LOW})
+        def run(copy):
+            mine = [line.replace('"Me"', f'"C{copy}"') for line in lines + CLOSE]
+            return play(options, folder, mine, FAULT_SYNC="400")
+        with concurrent.futures.ThreadPoolExecutor(number) as pool:
+            ran = list(pool.map(run, range(number)))
+        found = entries(read(folder, TABLE)) or []
+        names = sorted(name for name, _ in found if name.startswith("C"))
+        wrong = [f"copy {copy} ended with {each_ran.returncode}" for copy, each_ran in enumerate(ran) if each_ran.returncode]
+        expected = min(10, number * each)
+        if len(names) < expected:
+            wrong.append(f"{number} copies on a slow disk kept {len(names)} of {expected} entries: {names}")
+        return wrong
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("console")
+    parser.add_argument("shim")
+    parser.add_argument("--sample", type=float, help="stop after so many seconds; points by chance, always the same")
+    parser.add_argument("--jobs", type=int, default=os.cpu_count())
+    parser.add_argument("--copies", type=int, default=0, help="so many copies at once on a slow disk")
+    options = parser.parse_args()
+    options.console, options.shim = os.path.abspath(options.console), os.path.abspath(options.shim)
+    started = time.monotonic()
+    wrong, points = [], []
+    for scenario in SCENARIOS:
+        calls, bad = count(options, scenario)
+        wrong += bad
+        points += [(scenario, kind, at) for kind in KINDS for at in range(1, calls + 1)]
+        if not calls:
+            wrong.append(f"{scenario}: no calls were seen")
+    if options.sample:
+        random.Random(1).shuffle(points)
+    ran = {kind: 0 for kind in KINDS}
+    def one(each):
+        if options.sample and time.monotonic() - started > options.sample:
+            return None
+        return point(options, *each)
+    with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
+        for each, bad in zip(points, pool.map(one, points)):
+            if bad is None:
+                continue
+            ran[each[1]] += 1
+            wrong += bad
+    if options.copies:
+        wrong += copies(options, options.copies, 1)
+        print(f"{options.copies} copies on a disk that takes 400 ms")
+    print(f"{sum(ran.values())} of {len(points)} points: {json.dumps(ran)}; {len(wrong)} findings; "
+          f"{time.monotonic() - started:.0f} s")
+    for what in wrong:
+        print(what)
+    return 1 if wrong else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
