@@ -1,5 +1,6 @@
 #include "window/desktop/media.h"
 
+#include "window/desktop/screening.h"
 #include "window/desktop/sound.h"
 
 namespace fs = std::filesystem;
@@ -14,7 +15,13 @@ void Media::Start() { player_->Start(); }
 fs::path Media::Find(const std::string& name, const char* folder) const {
   const fs::path file = fs::path(name.substr(name.find_last_of("\\/") + 1));
   std::error_code error;
-  if (fs::path mine = own_ / file; fs::is_regular_file(mine, error)) return mine;
+  const fs::path mine = own_ / file;
+  if (fs::exists(mine, error)) {
+    const std::string why =
+        WhyNotUse(mine, std::string_view(folder) == "music" ? kLargestTune : kLargestWave);
+    if (why.empty()) return mine;
+    TellRefused(mine, why);
+  }
   return installed_ / folder / file;
 }
 

@@ -5,6 +5,8 @@
 #include <QSvgRenderer>
 #include <cmath>
 
+#include "window/desktop/leaving.h"
+#include "window/desktop/screening.h"
 #include "window/desktop/style.h"
 
 namespace fs = std::filesystem;
@@ -13,14 +15,20 @@ namespace {
 
 constexpr double kCorner = 4;  // radius of a framed card's corners
 
+// What is refused is told in one line; nothing is said of a file that isn't there.
 bool Render(const fs::path& path, QPainter& painter, const QRectF& rect) {
-  std::error_code error;
-  // Asking first keeps the library from complaining about a file that isn't there.
-  if (!fs::is_regular_file(path, error)) return false;
-  QSvgRenderer renderer(QString::fromStdString(path.string()));
-  if (!renderer.isValid()) return false;
-  renderer.render(&painter, rect);
-  return true;
+  std::string text, why;
+  if (!ReadMediaFile(path, kLargestPicture, text, why)) return false;
+  const leaving::Drawing drawing;
+  QSvgRenderer renderer;
+  if (why.empty()) why = WhyNotDraw(text);
+  if (why.empty() && !renderer.load(QByteArray::fromStdString(text))) why = "it is no picture";
+  if (why.empty()) {
+    renderer.render(&painter, rect);
+    return true;
+  }
+  TellRefused(path, why);
+  return false;
 }
 
 void DrawSubstitute(QPainter& painter, const QRectF& rect, const QString& name) {

@@ -12,12 +12,13 @@ namespace {
 
 bool screenIsOpen = false;
 
-// Until the screen is open the toolkit's messages are about nothing else: one line says it all. Later ones go
-// their way.
+// Until the screen is open the toolkit's messages are about nothing else: one line says it all. Later on what
+// it warns of (plugins, sizes of icons) is nothing that a player could mend.
 void Message(QtMsgType type, const QMessageLogContext&, const QString& text) {
   if (screenIsOpen) {
-    std::fprintf(stderr, "%s\n", qPrintable(text));
-    if (type == QtFatalMsg || text.contains("connection broke")) leaving::Now(EXIT_FAILURE);
+    const bool lost = type == QtFatalMsg || text.contains("connection broke");
+    if (lost || type == QtCriticalMsg) std::fprintf(stderr, "%s\n", qPrintable(text));
+    if (lost) leaving::Now(EXIT_FAILURE);
   } else if (type == QtFatalMsg) {
     std::fputs("cardhaven: there is no screen to open windows on (is DISPLAY or WAYLAND_DISPLAY set?)\n",
                stderr);
