@@ -1,5 +1,6 @@
 #include "games/games.h"
 
+#include "games/fivestack/fivestack.h"
 #include "games/spirehold/spirehold.h"
 #include "games/sumfall/sumfall.h"
 
@@ -7,7 +8,8 @@ std::vector<GameEntry> AllGames() {
   return {
       {"cmdSumfall", "&Sumfall!", "Sumfall!",
        [](modCommon& common) { return std::make_unique<frmSumfall>(common); }},
-      {"cmdFivestack", "&Fivestack ", "Fivestack!", nullptr},
+      {"cmdFivestack", "&Fivestack ", "Fivestack!",
+       [](modCommon& common) { return std::make_unique<frmFivestack>(common); }},
       {"cmdBlackrush", "&Blackrush", "Blackrush!", nullptr},
       {"cmdDuopick", "D&uopick", "Duopick!", nullptr},
       {"cmdSpirehold", "&Spirehold", "Spirehold!",
