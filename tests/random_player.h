@@ -52,7 +52,7 @@ class RandomPlayer {
       return;
     }
     ASSERT_FALSE(game.frmSplash.Visible);
-    ASSERT_NE(game.Timer1.Enabled, game.IsPaused());
+    if (game.WindowState != window_state::kMinimised) ASSERT_NE(game.Timer1.Enabled, game.IsPaused());
     ASSERT_EQ(game.cmdPlay.Enabled, !game.IsPaused());
     ASSERT_GE(common.ElapsedSeconds, 0);
     ASSERT_LE(common.ElapsedSeconds, common.TimeLimit);

@@ -40,7 +40,7 @@ void frmFivestack::cmdPass_Click() {
   DeckPosition += 1;
   ShowNextCard();
   PlaySound("\\Click.wav");
-  if (PassesLeft == 0) cmdPass.Enabled = false;
+  if (PassesLeft <= 0) cmdPass.Enabled = false;
 }
 
 void frmFivestack::CalculateColumnValue(int index) {
@@ -455,13 +455,9 @@ void frmFivestack::TellPause(bool paused) {
   GameWindow::TellPause(paused);
 }
 
-// A place that holds no card isn't shown again.
 void frmFivestack::CoverCards(bool covered) {
   ShowCards(!covered);
   ShowHitButtons(!covered);
-  for (int i = 0; i < kColumns; ++i)
-    for (int slot = 0; slot < kCardsOfColumn; ++slot)
-      if (ColumnImages(i)(slot).Picture == 0) ColumnImages(i)(slot).Visible = false;
 }
 
 // The clock of a minimised window stands still, also when a question over it has been answered.

@@ -111,6 +111,7 @@ void frmFivestack::SetUpBoard() {
     ColumnTotal(i).Alignment = 2;
     ColumnSoft(i).AutoSize = true;
     ColumnSoft(i).FontBold = true;
+    ColumnSoft(i).Visible = false;
     cmdHit(i).Visual::Move(0, 0, kCardWidth, kHitHeight);
     cmdHit(i).Caption = "Hit";
   }
@@ -256,9 +257,13 @@ void frmFivestack::PlaceInfo() {
 
 // --- Showing -------------------------------------------------------------------------------------
 
+// A place that holds no card has nothing to show.
 void frmFivestack::ShowCards(bool visible) {
   for (int i = 0; i < kColumns; ++i) {
-    for (int slot = 0; slot < kCardsOfColumn; ++slot) ColumnImages(i)(slot).Visible = visible;
+    for (int slot = 0; slot < kCardsOfColumn; ++slot) {
+      Image& image = ColumnImages(i)(slot);
+      image.Visible = visible && image.Picture != 0;
+    }
     if (columns[i].softAces > 0) ColumnSoft(i).Visible = visible;
   }
   SetVisible(
