@@ -10,9 +10,9 @@ TEST(FivestackRules, TheCardTotalHasItsValue) {
     long long total;
     int row, value;
     bool paid;
-  } cases[] = {{-1, 9, 0, false},   {0, 9, 0, false},      {96, 9, 0, false},    {97, 8, 50, true},
-               {98, 7, 100, true},  {99, 6, 150, true},    {100, 5, 200, true},  {101, 4, 250, true},
-               {102, 3, 300, true}, {103, 2, 400, true},   {104, 1, 500, true},  {105, 0, 1000, true},
+  } cases[] = {{-1, 9, 0, false},   {0, 9, 0, false},    {96, 9, 0, false},   {97, 8, 50, true},
+               {98, 7, 100, true},  {99, 6, 150, true},  {100, 5, 200, true}, {101, 4, 250, true},
+               {102, 3, 300, true}, {103, 2, 400, true}, {104, 1, 500, true}, {105, 0, 1000, true},
                {106, -1, 0, false}, {9999, -1, 0, false}};
   for (const auto& each : cases) {
     EXPECT_EQ(RowOf(each.total), each.row) << each.total;
@@ -35,9 +35,9 @@ TEST(FivestackRules, AcesCountElevenWhileTheyCan) {
     std::vector<const char*> cards;
     std::vector<int> totals;
     int soft;  // at the end
-  } cases[] = {{{"9S", "7S", "1S"}, {9, 16, 17}, 0},        {{"1S", "8S", "6S"}, {11, 19, 15}, 0},
-               {{"1S", "1H", "9S"}, {11, 12, 21}, 1},       {{"1S", "1H", "1C", "1D"}, {11, 12, 13, 14}, 1},
-               {{"10S", "1S", "5S"}, {10, 21, 16}, 0},      {{"11S", "12H", "1S"}, {10, 20, 21}, 0},
+  } cases[] = {{{"9S", "7S", "1S"}, {9, 16, 17}, 0},          {{"1S", "8S", "6S"}, {11, 19, 15}, 0},
+               {{"1S", "1H", "9S"}, {11, 12, 21}, 1},         {{"1S", "1H", "1C", "1D"}, {11, 12, 13, 14}, 1},
+               {{"10S", "1S", "5S"}, {10, 21, 16}, 0},        {{"11S", "12H", "1S"}, {10, 20, 21}, 0},
                {{"5S", "5H", "1S", "1H"}, {5, 10, 21, 12}, 0}};
   for (const auto& each : cases) {
     Column21 column;
@@ -58,9 +58,9 @@ TEST(FivestackRules, AcesCountElevenWhileTheyCan) {
 TEST(FivestackRules, TheTimeBonusFallsFromMaximumToMinimum) {
   const struct {
     int max, min, limit, seconds, bonus;
-  } cases[] = {{300, 100, 60, 0, 300},  {300, 100, 60, 1, 297},  {300, 100, 60, 2, 293},
-               {300, 100, 60, 3, 290},  {300, 100, 60, 59, 103}, {300, 100, 60, 60, 100},
-               {300, 100, 15, 1, 287},  {300, 100, 75, 75, 100}, {2, 1, 45, 45, 1},
+  } cases[] = {{300, 100, 60, 0, 300},  {300, 100, 60, 1, 297},      {300, 100, 60, 2, 293},
+               {300, 100, 60, 3, 290},  {300, 100, 60, 59, 103},     {300, 100, 60, 60, 100},
+               {300, 100, 15, 1, 287},  {300, 100, 75, 75, 100},     {2, 1, 45, 45, 1},
                {110, 100, 60, 3, 110},  {110, 100, 60, 9, 108},  // halves go to the even number
                {10000, 1, 75, 75, 1},   {10000, 9999, 15, 1, 10000}, {32767, 32766, 75, 75, 32766},
                {100, 300, 60, 60, 300}, {-100, -300, 60, 30, -200}};

@@ -48,12 +48,9 @@ inline std::string HitAll(size_t last) { return Hit("0001112223334" + std::strin
 inline void StartFivestack(Driver& driver, const std::vector<std::string>& cards) {
   driver.Do(kOpenFivestack + LayRound(cards) + kPlayFivestack);
 }
-// A round of that card total is played, up to its score. 105 is taken by itself.
-inline std::string PlayRound(int total) {
-  if (total == 105) return HitAll(2);
-  return HitAll(1);
-}
+// The cards for a round of that total, 97 to 105, and its clicks; 105 is scored by the last of them.
+inline std::string PlayRound(int total) { return HitAll(total == 105 ? 2 : 1); }
 inline std::vector<std::string> CardsFor(int total) {
   if (total == 105) return FourColumnsAnd({"6S", "5S"});
-  return FourColumnsAnd({std::to_string(total - 94) + "S"});
+  return FourColumnsAnd({total == 104 ? "12H" : std::to_string(total - 94) + "S"});
 }

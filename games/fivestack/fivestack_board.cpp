@@ -51,20 +51,20 @@ constexpr Design kDesign[] = {
     {"PlayCardPicture", 420, 120, kCardWidth, kCardHeight},
     {"NextCardPicture", 1875, 105, kCardWidth, kCardHeight},
     {"cmdPass", 3330, 150, 1065, 510, "&Pass"},
-    {"lblRound", 3330, 900, 1065, 285, "Round: 1"},
-    {"TimerRectangle", 4785, 75, 3045, 870},
-    {"lblTime", 4860, 315, 1140, 255, "Time Bonus:"},
-    {"Surface", 6930, 105, 810, 810},
-    {"lblScore", 4785, 1095, 600, 255, "Score"},
-    {"ScoreRectangle", 5490, 1020, 2340, 420},
+    {"lblRound", 3120, 900, 1485, 285, "Round: 1"},
+    {"TimerRectangle", 4560, 75, 2790, 870},
+    {"lblTime", 4635, 195, 750, 480, "Time Bonus:"},
+    {"Surface", 6375, 105, 810, 810},
+    {"lblScore", 4560, 1125, 600, 255, "Score"},
+    {"ScoreRectangle", 5205, 1035, 2145, 420},
     {"lblCurrentRoundScore", 7590, 1530, 1575, 255, "Card Total"},
     {"CurrentTotalGround", 8002, 1815, 750, 360},
     {"lblCurrentTotal", 8002, 1815, 750, 360, "0"},
-    {"frmScore", 7470, 2250, 1815, 3345, "Card Total Value"},
+    {"frmScore", 7395, 2265, 1965, 3330, "Card Total Value"},
     {"cmdGiveUp", 7860, 5670, 1035, 555, "&Give Up"},
     {"ScoringLabelOutline", 420, 2850, 6855, 1620},
 };
-constexpr int kTableTop = 300, kTablePitch = 300, kHighScoreGap = 60;
+constexpr int kTableTop = 315, kTablePitch = 294, kHighScoreGap = 45;
 
 // The buttons' place across the window is the frame's.
 constexpr Design kButtonDesign[] = {
@@ -105,6 +105,8 @@ void frmFivestack::SetUpBoard() {
       ColumnImages(i)(slot).Visual::Move(0, 0, kCardWidth, kCardHeight);
     ColumnLine(i).BorderColor = kWhite;
     ColumnTotalGround(i).Visual::Move(0, 0, kTotalWidth, kTotalHeight);
+    ColumnTotalGround(i).Filled = true;
+    ColumnTotalGround(i).FillColor = kWhite;
     ColumnTotal(i).Visual::Move(0, 0, kTotalWidth, kTotalHeight);
     ColumnTotal(i).FontSize = 14;
     ColumnTotal(i).Caption = "0";
@@ -115,15 +117,13 @@ void frmFivestack::SetUpBoard() {
     cmdHit(i).Visual::Move(0, 0, kCardWidth, kHitHeight);
     cmdHit(i).Caption = "Hit";
   }
-  for (Shape* ground : {&ColumnTotalGround(0), &ColumnTotalGround(1), &ColumnTotalGround(2),
-                        &ColumnTotalGround(3), &ColumnTotalGround(4), &CurrentTotalGround}) {
-    ground->Filled = true;
-    ground->FillColor = kWhite;
-  }
+  // Black lets red and green be read.
+  CurrentTotalGround.Filled = true;
+  CurrentTotalGround.FillColor = kBlack;
   ScoringLabelOutline.Sunken = true;
   for (Label* label : {&lblTime, &lblScore, &lblCurrentRoundScore, &lblHighScore}) label->FontBold = true;
   for (Label* label : {&lblRound, &lblCurrentRoundScore, &lblCurrentTotal}) label->Alignment = 2;
-  for (Label* label : {&lblRound, &lblTimeBonus, &ScoringLabelInfo}) label->FontSize = 12;
+  for (Label* label : {&lblRound, &ScoringLabelInfo}) label->FontSize = 10;
   for (Label* label : {&lblRound, &lblTimeBonus, &ScoringLabelInfo, &ScoringLabelRoundTotal})
     label->FontBold = true;
   for (Label* label : {&lblTimeBonus, &lblHighScore, &ScoringLabelRoundTotal, &ScoringLabelInfo})
@@ -132,6 +132,7 @@ void frmFivestack::SetUpBoard() {
   lblCurrentTotal.FontSize = 14;
   lblCurrentTotal.FontBold = true;
   lblCurrentTotal.ForeColor = kRed;
+  lblTimeBonus.FontSize = 11;
   lblTimeBonus.ForeColor = kBlue;
   lblTotalScore.Fit();
   RefreshPlayCard();
@@ -145,13 +146,15 @@ void frmFivestack::SetUpBoard() {
 }
 
 void frmFivestack::SetUpTable() {
+  TableGround.Sunken = true;
+  TableGround.Visual::Move(150, kTableTop - 30, frmScore.Width - 300, kRows * kTablePitch + 30);
   for (const TotalRow& row : kTotals) {
     auto labels = std::make_unique<TableRow>(frmScore, row);
     const int top = kTableTop + static_cast<int>(tableRows.size()) * kTablePitch;
     labels->total.Caption = row.caption;
-    labels->total.Move(270, top, 525, 255);
+    labels->total.Move(270, top, 585, 255);
     labels->value.Caption = std::to_string(row.value);
-    labels->value.Move(930, top, 615, 255);
+    labels->value.Move(960, top, 735, 255);
     for (Label* label : {&labels->total, &labels->value}) {
       label->FontSize = 10;
       label->Alignment = 1;
