@@ -8,7 +8,16 @@
 namespace {
 
 constexpr TimeLimitEntry kLimits[] = {{5, "mnu5", "&5 seconds"}, {10, "mnu10", "&10 seconds"}};
-constexpr GamePlan kPlan{"frmEighth", "\\Eighth.Ini", "EighthHiScores", "1000", 9540, 7200, kLimits, 5};
+constexpr const char* kSections[] = {"[Time]", "[State]", "[Width]", "[Height]", "[Deck]"};
+constexpr GamePlan kPlan{.names = {.window = "frmEighth", .settingsFile = "\\Eighth.Ini"},
+                         .tables = OneTable("EighthHiScores", "1000"),
+                         .width = 9540,
+                         .height = 7200,
+                         .limits = kLimits,
+                         .timeLimit = 5,
+                         .sections = kSections,
+                         .rounds = 1};
+constexpr RulesParagraph kRules[] = {{"There are none."}, {"Good luck and have fun!"}};
 
 // Where the standing controls are. A real game adds its board.
 constexpr Design kDesign[] = {
@@ -22,45 +31,27 @@ class frmEighth : public GameWindow {
   explicit frmEighth(modCommon& common) : GameWindow(common, kPlan) { ApplyDesign(*this, kDesign); }
 
   void Play() override {
+    if (!dealt) return;
     common.GameInProgress = true;
-    common.TakingScore = false;
+    CurrentRound = 1;
     common.CurrentScore = 0;
-    common.ElapsedSeconds = 0;
     ShowScore();
-    ShowControls(true);
-    InitClock();
-  }
-  void TakeScore() override {
-    common.TakingScore = true;
-    AddToScore(1500);
-    FinishGame(plan.tableName, plan.defaultScore);
-    ShowMessage("Game Over");
-    platform.Sleep(2000);
-    lblMessage.Visible = false;
-    ShowSplash(true);
-    cmdPlay.Enabled = cmdExit.Enabled = true;
-  }
-  void EndGame() override {
-    FinishGame(plan.tableName, plan.defaultScore);
-    ShowSplash(true);
-  }
-  void GameFailed() override { EndGame(); }
-  void ShowCards(bool) override {}
-  void CoverCards(bool) override {}
-  void RefreshPlayCard() override {}
-  void RefreshFieldCards() override {}
-  void ShowCustomScoring() override {}
-  RulesPage Rules() const override { return {30, {"There are none.", "Good luck and have fun!"}}; }
-  void WriteSettings(SettingsWriter& writer) const override {
-    writer.Add(plan.timeSection, common.TimeLimit);
-    WriteWindowSettings(writer);
-  }
-
- private:
-  void InitClock() {
-    cmdPause.Enabled = cmdTakeScore.Enabled = true;
+    ResetDial();
     Timer1.Enabled = true;
+    OpenRound();
   }
+  void PayAwards() override { AddToScore(1500); }
+  bool EarnsBonusRound() const override { return false; }
+  void EndGame() override {
+    FinishGame();
+    ShowSplash(true);
+  }
+  void ShowCards(bool) override {}
+  void RefreshPlayCard() override {}
+  void ShowCustomScoring() override {}
+  RulesText Rules() const override { return {30, kRules, {}}; }
+
+  bool dealt = true;
 };
 
 std::string RunEighth(const TestFolder& folder, const std::string& commands) {

@@ -73,12 +73,21 @@ void Platform::End(const std::string& failure) {
 }
 
 void Platform::Dispatch(const std::function<void()>& handler) {
+  struct Depth {
+    int& depth;
+    explicit Depth(int& depth) : depth(++depth) {}
+    ~Depth() { --depth; }
+  };
   timers.now = front.Milliseconds();
-  try {
-    handler();
-  } catch (const std::exception& error) {
-    if (OnFailure) OnFailure(error.what());
+  {
+    const Depth within(handlers_);
+    try {
+      handler();
+    } catch (const std::exception& error) {
+      if (OnFailure) OnFailure(error.what());
+    }
   }
+  if (handlers_ == 0 && AfterHandler && !ended_) AfterHandler();
 }
 
 bool Platform::ServeTimer() {

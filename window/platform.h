@@ -91,6 +91,8 @@ class Platform : public Observer {
   std::string CommandLine;  // a saved game's file name, or ""
   // Told of a failure that no handler caught, with its description.
   std::function<void(const std::string&)> OnFailure;
+  // Called behind each handler that wasn't started within another, unless the program has ended.
+  std::function<void()> AfterHandler;
 
   void Sleep(int milliseconds);
   // Lets pending events through: each timer with a waiting tick ticks once.
@@ -143,4 +145,5 @@ class Platform : public Observer {
   };
   std::vector<Standing> boxes_;
   bool ended_ = false;
+  int handlers_ = 0;  // under way, one within the other
 };

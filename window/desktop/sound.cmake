@@ -11,8 +11,6 @@ add_library(cardhaven_soundplayer STATIC
   ${CMAKE_CURRENT_LIST_DIR}/sound.cpp
   ${CMAKE_CURRENT_LIST_DIR}/sound_soundfont.cpp)
 target_include_directories(cardhaven_soundplayer PUBLIC ${CMAKE_CURRENT_LIST_DIR}/../..)
-target_compile_features(cardhaven_soundplayer PUBLIC cxx_std_20)
-target_compile_options(cardhaven_soundplayer PRIVATE -Wall -Wextra -Werror)
 target_compile_definitions(cardhaven_soundplayer PRIVATE
   CARDHAVEN_SOUND_MODULE_DIR="${CARDHAVEN_SOUND_MODULE_DIR}")
 target_link_libraries(cardhaven_soundplayer PUBLIC Threads::Threads ${CMAKE_DL_LIBS})
@@ -22,8 +20,6 @@ add_library(cardhaven-sound MODULE ${CMAKE_CURRENT_LIST_DIR}/sound_sdl.cpp)
 set_target_properties(cardhaven-sound PROPERTIES
   PREFIX "" SUFFIX ".so" CXX_VISIBILITY_PRESET hidden LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/app")
 target_include_directories(cardhaven-sound PRIVATE ${CMAKE_CURRENT_LIST_DIR}/../..)
-target_compile_features(cardhaven-sound PRIVATE cxx_std_20)
-target_compile_options(cardhaven-sound PRIVATE -Wall -Wextra -Werror)
 target_link_libraries(cardhaven-sound PRIVATE PkgConfig::CARDHAVEN_SDL)
 # The program needs the module only while it runs.
 add_dependencies(cardhaven_soundplayer cardhaven-sound)
