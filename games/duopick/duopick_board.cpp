@@ -7,15 +7,15 @@ using namespace modDuopick;
 
 namespace {
 
-constexpr TimeLimitEntry kLimits[] = {
-    {30, "mnu30", "&30 seconds"},   {45, "mnu45", "&45 seconds (default)"}, {60, "mnu60", "&60 seconds"},
-    {75, "mnu75", "&75 seconds"},   {90, "mnu90", "&90 seconds"},           {105, "mnu105", "&105 seconds"},
-    {120, "mnu120", "1&20 seconds"}};
+constexpr TimeLimitEntry kLimits[] = {{30, "mnu30", "&30 seconds"},   {45, "mnu45", "&45 seconds (default)"},
+                                      {60, "mnu60", "&60 seconds"},   {75, "mnu75", "&75 seconds"},
+                                      {90, "mnu90", "&90 seconds"},   {105, "mnu105", "&105 seconds"},
+                                      {120, "mnu120", "1&20 seconds"}};
 
 // The music stands there twice.
 constexpr const char* kSections[] = {
-    "[Play Music]",  "[Time]",       "[Play Sounds]", "[Play Music]",       "[Count Down Score]",
-    "[Pairs Bonus]", "[Runs Bonus]", "[Time Bonus]",  "[Bonus Score]",      "[Completion Bonus]",
+    "[Play Music]",  "[Time]",       "[Play Sounds]", "[Play Music]",  "[Count Down Score]",
+    "[Pairs Bonus]", "[Runs Bonus]", "[Time Bonus]",  "[Bonus Score]", "[Completion Bonus]",
     "[State]",       "[Width]",      "[Height]",      "[Deck]"};
 
 // The menu clears a table of another name than the one that is played into.

@@ -22,10 +22,24 @@ struct Pair {
 // The two cards that cover a card, down to the fourth row: its neighbours in the next row. At either end of
 // a row of five there is one neighbour only, and the card straight below, two rows down, counts as well.
 constexpr std::array<Pair, 18> kCoveredBy = {{
-    {5, 9},   {5, 6},   {6, 7},   {7, 8},   {8, 13},   //
-    {9, 10},  {10, 11}, {11, 12}, {12, 13},            //
-    {14, 18}, {14, 15}, {15, 16}, {16, 17}, {17, 22},  //
-    {18, 19}, {19, 20}, {20, 21}, {21, 22},            //
+    {5, 9},
+    {5, 6},
+    {6, 7},
+    {7, 8},
+    {8, 13},  //
+    {9, 10},
+    {10, 11},
+    {11, 12},
+    {12, 13},  //
+    {14, 18},
+    {14, 15},
+    {15, 16},
+    {16, 17},
+    {17, 22},  //
+    {18, 19},
+    {19, 20},
+    {20, 21},
+    {21, 22},  //
 }};
 
 }  // namespace
