@@ -13,40 +13,14 @@ const std::array<Place, kCards> kTable = {{
     {3150, 4260},                                                          // the up card
 }};
 
-namespace {
-
-struct Pair {
-  int left, right;
-};
-
-// The two cards that cover a card, down to the fourth row: its neighbours in the next row. At either end of
-// a row of five there is one neighbour only, and the card straight below, two rows down, counts as well.
-constexpr std::array<Pair, 18> kCoveredBy = {{
-    {5, 9},
-    {5, 6},
-    {6, 7},
-    {7, 8},
-    {8, 13},  //
-    {9, 10},
-    {10, 11},
-    {11, 12},
-    {12, 13},  //
-    {14, 18},
-    {14, 15},
-    {15, 16},
-    {16, 17},
-    {17, 22},  //
-    {18, 19},
-    {19, 20},
-    {20, 21},
-    {21, 22},  //
-}};
-
-}  // namespace
-
+// A card is covered by its two neighbours in the next row. At either end of the two rows of five that others
+// cover there is one neighbour only, and the card straight below, two rows down, counts as well.
 bool IsExposed(int card, const std::bitset<kField>& lying) {
-  if (card >= static_cast<int>(kCoveredBy.size())) return true;
-  return !lying[kCoveredBy[card].left] && !lying[kCoveredBy[card].right];
+  constexpr int kLowestRow = 18;
+  if (card >= kLowestRow) return true;
+  const bool leftEnd = card == 0 || card == 9, rightEnd = card == 4 || card == 13;
+  const int left = leftEnd ? card + 9 : card + 4, right = rightEnd ? card + 9 : card + 5;
+  return !lying[left] && !lying[right];
 }
 
 Match MatchOf(long long first, long long second) {
