@@ -128,17 +128,19 @@ TEST_F(Duopick, IsPlayedThroughToTheTable) {
 
   // The second, with pairs alone, leads to the bonus round.
   driver.Do(ClickTwoByTwo(0, 23));
-  EXPECT_EQ(Story(Click({4})),
+  EXPECT_EQ(Story(LayTwelvePairs() + Click({4})),
             "TwentyOne, \"Completion Bonus!\", 1000, Snap 75 x20, \"Speed Bonus!\", 2000, Snap 75 x45, "
             "\"Pairs Bonus!\", 1000, Snap 75 x20, \"Prepare for Bonus Round!\", Applause, 250 x11, \"\"");
-  EXPECT_EQ(Score(), 37200 + 10000 + 4500 + 36000);
+  EXPECT_EQ(Score(), 37200 + 50500);
   EXPECT_EQ(Text("lblCurrentRound.Caption"), "3");
 
-  // The game ends with the bonus round, whatever its score.
-  EXPECT_EQ(Story(kTakeScoreDuopick + kEnterName),
-            "\"Speed Bonus!\", 2000, Snap 75 x45, HighScore, \"Game Over\", 2000");
-  EXPECT_EQ(folder.Read("DuopickHighScores45.Txt").substr(0, 12), "Ann, 92200\r\n");
-  EXPECT_EQ(Text("lblHighScore.Caption"), "High Score: 92,200");
+  // The game ends with the bonus round, inside a click on a card.
+  driver.Do(ClickTwoByTwo(0, 23));
+  EXPECT_EQ(Story(Click({4}) + kEnterName),
+            "TwentyOne, \"Completion Bonus!\", 1000, Snap 75 x20, \"Speed Bonus!\", 2000, Snap 75 x45, "
+            "\"Pairs Bonus!\", 1000, Snap 75 x20, HighScore, \"Game Over\", 2000");
+  EXPECT_EQ(folder.Read("DuopickHighScores45.Txt").substr(0, 13), "Ann, 138200\r\n");
+  EXPECT_EQ(Text("lblHighScore.Caption"), "High Score: 138,200");
   EXPECT_EQ(Panel(2), "Game Over");
   EXPECT_EQ(Text("cmdPlay.Caption") + Text("cmdPlay.ToolTipText"), "&PlayStarts a new game");
   for (const char* shown : {"frmSplash.Visible", "lblCurrentScore.Visible", "Timer4.Enabled",

@@ -200,6 +200,11 @@ void frmDuopick::AnnounceRound(bool bonus) {
   GameWindow::AnnounceRound(bonus);
 }
 
+void frmDuopick::GameFinished() {
+  cmdPlay.Enabled = true;
+  cmdExit.Enabled = true;
+}
+
 // Given up: no score is entered.
 void frmDuopick::EndGame() {
   mnuTime.Enabled = true;

@@ -41,6 +41,7 @@ class frmDuopick : public GameWindow {
   void HideBoard() override;
   void PayAwards() override;
   void AnnounceRound(bool bonus) override;
+  void GameFinished() override;
   void EndGame() override;
   void ShowCards(bool visible) override;
   void CoverCards(bool covered) override;

@@ -39,10 +39,10 @@ constexpr Design kDesign[] = {
     {"lblTime", 270, 4215, 1260, 255, "Time:"},
     {"TimerRectangle", 270, 4485, 1260, 1260},
     {"Surface", 330, 4545, 1140, 1140},
-    {"lblHighScore", 270, 6120, 3600, 255},
+    {"lblHighScore", 345, 6120, 3600, 255},
     {"CardStackPicture", 1950, 4245, 1035, 1455},
-    {"lblCardCount", 1950, 5775, 1650, 255, "Cards remaining:"},
-    {"lblCards", 3630, 5775, 555, 255},
+    {"lblCardCount", 2025, 5805, 1650, 255, "Cards remaining:"},
+    {"lblCards", 3675, 5805, 435, 255},
     {"lblScore", 4530, 4215, 2340, 255, "Score"},
     {"ScoreRectangle", 4530, 4485, 2340, 510},
     {"lblCurrentScore", 4530, 4560, 0, 0, "0"},
@@ -53,6 +53,14 @@ constexpr Design kDesign[] = {
     {"lblScorePairs", 7020, 5205, 1080, 255, "0"},
     {"lblRuns", 4605, 5505, 2340, 255},
     {"lblScoreRuns", 7020, 5505, 1080, 255, "0"},
+};
+
+// Beside the field; their place across the window is the frame's.
+constexpr Design kButtonDesign[] = {
+    {"cmdPlay", 8250, 540, 1200, 420},
+    {"cmdTakeScore", 8250, 1050, 1200, 420, nullptr, "End current round and take score"},
+    {"cmdPause", 8250, 1560, 1200, 420},
+    {"cmdExit", 8250, 2070, 1200, 420},
 };
 
 }  // namespace
@@ -70,7 +78,7 @@ frmDuopick::frmDuopick(modCommon& common) : GameWindow(common, kPlan) {
 
 void frmDuopick::SetUpBoard() {
   ApplyDesign(*this, kDesign);
-  cmdTakeScore.ToolTipText = "End current round and take score";
+  ApplyDesign(*this, kButtonDesign);
   for (int i = 0; i < kCards; ++i) {
     PlayCard(i).Move(kTable[i].left, kTable[i].top, kCardWidth, kCardHeight);
     PlayCard(i).MousePointer = kCustomPointer;
@@ -84,8 +92,8 @@ void frmDuopick::SetUpBoard() {
   for (Label* label : {&lblTime, &lblScore, &lblRound, &lblHighScore, &lblCardCount, &lblCards, &lblPairs,
                        &lblScorePairs, &lblRuns, &lblScoreRuns})
     label->FontBold = true;
-  for (Label* label : {&lblTime, &lblScore, &lblRound}) label->Alignment = 2;
-  for (Label* label : {&lblCards, &lblScorePairs, &lblScoreRuns}) label->Alignment = 1;
+  for (Label* label : {&lblTime, &lblScore, &lblRound, &lblScorePairs, &lblScoreRuns}) label->Alignment = 2;
+  lblCards.Alignment = 1;
   lblMessage.Alignment = 2;
   for (Label* label : {&lblCurrentScore, &lblCurrentRound}) label->Fit();
   ShowCards(false);  // nothing is dealt yet
@@ -110,6 +118,7 @@ void frmDuopick::PlaceBoard() {
       each->Top = kTable[i].top + down;
     }
   }
+  for (const Design& row : kButtonDesign) static_cast<Visual&>(*find(row.name)).Top = row.top + down;
   for (Label* label : {&lblCurrentScore, &lblCurrentRound})
     label->Top = ScoreRectangle.Top + (ScoreRectangle.Height - label->Height) / 2;
   CenterIn(lblCurrentScore, ScoreRectangle);
