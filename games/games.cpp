@@ -1,5 +1,6 @@
 #include "games/games.h"
 
+#include "games/duopick/duopick.h"
 #include "games/spirehold/spirehold.h"
 #include "games/sumfall/sumfall.h"
 
@@ -9,7 +10,8 @@ std::vector<GameEntry> AllGames() {
        [](modCommon& common) { return std::make_unique<frmSumfall>(common); }},
       {"cmdFivestack", "&Fivestack ", "Fivestack!", nullptr},
       {"cmdBlackrush", "&Blackrush", "Blackrush!", nullptr},
-      {"cmdDuopick", "D&uopick", "Duopick!", nullptr},
+      {"cmdDuopick", "D&uopick", "Duopick!",
+       [](modCommon& common) { return std::make_unique<frmDuopick>(common); }},
       {"cmdSpirehold", "&Spirehold", "Spirehold!",
        [](modCommon& common) { return std::make_unique<frmSpirehold>(common); }},
       {"cmdHandgrid", "&Handgrid", "Handgrid!", nullptr},
