@@ -1,5 +1,6 @@
 #include "games/games.h"
 
+#include "games/handgrid/handgrid.h"
 #include "games/spirehold/spirehold.h"
 #include "games/sumfall/sumfall.h"
 
@@ -12,7 +13,8 @@ std::vector<GameEntry> AllGames() {
       {"cmdDuopick", "D&uopick", "Duopick!", nullptr},
       {"cmdSpirehold", "&Spirehold", "Spirehold!",
        [](modCommon& common) { return std::make_unique<frmSpirehold>(common); }},
-      {"cmdHandgrid", "&Handgrid", "Handgrid!", nullptr},
+      {"cmdHandgrid", "&Handgrid", "Handgrid!",
+       [](modCommon& common) { return std::make_unique<frmHandgrid>(common); }},
       {"cmdTreyshift", "Trey&shift", "Treyshift!", nullptr},
   };
 }
