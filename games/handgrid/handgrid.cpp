@@ -100,7 +100,7 @@ void frmHandgrid::EvaluateGrid() {
 }
 
 void frmHandgrid::EvaluateLines(bool isRows) {
-  const Hands hands = modHandgrid::EvaluateLines(PlayedCards);
+  const LineHands hands = modHandgrid::EvaluateLines(PlayedCards);
   for (int line = 1; line <= kSide; ++line) {
     const Hand hand = hands[line - 1];
     RoundPoints += Scores.Of(hand);
@@ -141,6 +141,11 @@ void frmHandgrid::Tick() {
 void frmHandgrid::ShowTimeLeft() {
   lblTimeBonus.Caption = std::to_string(common.TimeLimit - common.ElapsedSeconds);
   lblTime.Caption = "Time:";
+}
+
+void frmHandgrid::TimeIsUp() {
+  ScoringLabel.Caption = "Times Up!";
+  NextRound(RoundEnd::TimesUp);
 }
 
 // A full dial would switch `Timer2` off.
@@ -191,7 +196,6 @@ void frmHandgrid::NextRound(RoundEnd end) {
   MousePointer = kHourglass;
   StopMusic();
   CurrentRound += 1;
-  if (end == RoundEnd::TimesUp) ScoringLabel.Caption = "Times Up!";
   ShowCards(false);
   ShowControls(false, true);
   ScoringLabel.ForeColor = kRed;

@@ -24,10 +24,10 @@ class frmHandgrid : public GameWindow {
   modHandgrid::Grid PlayedCards;
   modHandgrid::Slots RoundDeck, HoleCards;  // slot 0 of `RoundDeck` is never used
   Integer DeckPosition, HoleCount;          // the next card to draw; cards in the hole
-  Integer CardsRemaining, OverWritesUsed;   //
-  Long RoundPoints;                         // of all ten hands
-  bool HandSoundPlayed = false;             // a hand was named: the next card comes without a click
-  const char* StackPicture = "FULL";        // the key of what the stack shows
+  Integer CardsRemaining, OverWritesUsed;
+  Long RoundPoints;                   // of all ten hands
+  bool HandSoundPlayed = false;       // a hand was named: the next card comes without a click
+  const char* StackPicture = "FULL";  // the key of what the stack shows
   // Settings.
   modHandgrid::HandScores Scores;
   Integer OverWritesAllowed;
@@ -62,7 +62,7 @@ class frmHandgrid : public GameWindow {
   bool TakesCommand() const override { return !common.TakingScore; }
   void Tick() override;
   void ShowTimeLeft() override;
-  void TimeIsUp() override { NextRound(RoundEnd::TimesUp); }
+  void TimeIsUp() override;
   // The dial is drawn at all times.
   void ResetDial() override;
   void BeforeEndQuestion() override;

@@ -100,8 +100,8 @@ Hand EvaluateHand(const Line& line) {
   return hand;
 }
 
-Hands EvaluateLines(const Grid& grid) {
-  Hands hands;
+LineHands EvaluateLines(const Grid& grid) {
+  LineHands hands;
   for (int row = 0; row < kSide; ++row) {
     Line line;
     for (int column = 0; column < kSide; ++column) line[column] = CardKey(grid[row * kSide + column]);

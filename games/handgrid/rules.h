@@ -48,12 +48,12 @@ struct HandScores {
 // Card codes row by row; an empty cell holds the empty text.
 using Grid = std::array<std::string, kCells>;
 using Line = std::array<std::string_view, kSide>;
-using Hands = std::array<Hand, kSide>;
+using LineHands = std::array<Hand, kSide>;
 
 // Names one line, empty cells and all.
 Hand EvaluateHand(const Line& line);
 // Names the five rows.
-Hands EvaluateLines(const Grid& grid);
+LineHands EvaluateLines(const Grid& grid);
 // Turns rows into columns.
 void TransposeCards(Grid& grid);
 
