@@ -33,7 +33,7 @@ inline CardNames PoorGrid() {
   for (int row = 0; row < 5; ++row)
     for (int column = 0; column < 5; ++column) {
       const int step = 2 * row + column;
-      cards.push_back(std::to_string(5 * step % 13 + 1) + "SHCD"[(seen[step]++ + column) % 4]);
+      cards.push_back(std::to_string(5 * step % 13 + 1) + "SHCD"[(seen[step]++ + column + 2 * row) % 4]);
     }
   return cards;
 }

@@ -50,6 +50,7 @@ void frmHandgrid::Reset(bool endOfGame) {
   for (int i = 0; i < kCells; ++i) {
     PlayedCards[i].clear();
     PlayCards(i).Picture = common.ImageList2("EMPTY");
+    PlayCards(i).ZOrder(0);
   }
   if (!endOfGame) return;
   SetPlayCaption("&Play");
@@ -75,6 +76,7 @@ void frmHandgrid::PlayCards_Click(int index) {
     PlayCards(index).Picture = HoleCard.Picture;
     PlayedCards[index] = HoleCards(HoleCount);
     HoleCount -= 1;
+    if (!filled) BringToFront(index);
     EvaluateGrid();
     if (HoleCount > 0) {
       ShowFace(HoleCard, HoleCards(HoleCount));

@@ -55,23 +55,23 @@ constexpr GamePlan kPlan{
 constexpr int kCardWidth = 1035, kCardHeight = 1455;
 constexpr int kColumnLeft[kSide] = {210, 1320, 2415, 3525, 4635};
 constexpr int kRowTop[kSide] = {204, 1260, 2310, 3345, 4410};
-constexpr int kRowLabelLeft = 5895, kColumnLabelTop = 5895;
+constexpr int kRowLabelLeft = 5820, kColumnLabelTop = 5895;
 constexpr int kRowLabelTop[kSide] = {645, 1770, 2850, 3990, 4965};
 
 constexpr Design kDesign[] = {
     {"CardStackPicture", 7110, 4395, kCardWidth, kCardHeight},
     {"HoleCard", 8310, 4395, kCardWidth, kCardHeight},
-    {"lblTime", 7035, 75, 1140, 255, "Time:"},
-    {"TimerRectangle", 7035, 345, 1140, 1140},
-    {"Surface", 7095, 405, 1020, 1020},
-    {"lblRound", 7095, 1530, 0, 0, "Round: 1"},
+    {"lblTime", 7140, 75, 1080, 255, "Time:"},
+    {"TimerRectangle", 7140, 345, 1080, 1080},
+    {"Surface", 7200, 405, 960, 960},
+    {"lblRound", 7200, 1545, 0, 0, "Round: 1"},
     {"lblScore", 7110, 1980, 2235, 255, "Score"},
     {"ScoreRectangle", 7110, 2250, 2235, 510},
     {"lblCurrentScore", 7110, 2325, 0, 0, "0"},
-    {"lblOverwrites", 7110, 2895, 0, 0, "Over Writes Remaining: 3"},
-    {"lblCards", 7110, 4095, 2235, 255, "Cards remaining: 52"},
-    {"lblPointsEarned", 7110, 5895, 2235, 255, "Points Earned: 0"},
-    {"lblHighScore", 7110, 6165, 2235, 255},
+    {"lblOverwrites", 7110, 3210, 0, 0, "Over Writes Remaining: 3"},
+    {"lblCards", 7110, 4080, 2235, 255, "Cards remaining: 52"},
+    {"lblPointsEarned", 6990, 5895, 2475, 255, "Points Earned: 0"},
+    {"lblHighScore", 6990, 6165, 2475, 255},
     {"ScoringLabelOutline", 270, 2100, 5400, 1800},
 };
 
@@ -242,6 +242,12 @@ void frmHandgrid::ShowCards(bool visible) {
   }
   CardStackPicture.Visible = visible;
   HoleCard.Visible = visible;
+}
+
+// The rows overlap. Seen from above, each card lies over the row before it, and over empty places.
+void frmHandgrid::BringToFront(int index) {
+  for (int i = index; i < kCells; i += kSide)
+    if (i == index || !PlayedCards[i].empty()) PlayCards(i).ZOrder(0);
 }
 
 void frmHandgrid::ShowControls(bool roundControls, bool frameControls) {
