@@ -191,6 +191,7 @@ const QColor* GroundBeneath(const Easel& easel, size_t place, const QPointF& poi
   for (size_t i = place + 1; i-- > 0;) {
     const Placed& below = easel.scene[i];
     if (!below.rect.contains(point.toPoint())) continue;
+    if (below.control->kind == Control::Kind::PictureBox) return nullptr;  // anything may be drawn there
     if (below.control->kind == Control::Kind::Frame)
       return static_cast<Frame*>(below.control)->Panel || !easel.board ? &colour : nullptr;
     if (below.control->kind == Control::Kind::Label && IsOpaque(*below.control)) {
