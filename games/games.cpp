@@ -1,6 +1,7 @@
 #include "games/games.h"
 
 #include "games/duopick/duopick.h"
+#include "games/fivestack/fivestack.h"
 #include "games/handgrid/handgrid.h"
 #include "games/spirehold/spirehold.h"
 #include "games/sumfall/sumfall.h"
@@ -17,7 +18,7 @@ std::unique_ptr<GameWindow> Make(modCommon& common) {
 std::vector<GameEntry> AllGames() {
   return {
       {"cmdSumfall", "&Sumfall!", "Sumfall!", Make<frmSumfall>},
-      {"cmdFivestack", "&Fivestack ", "Fivestack!", nullptr},
+      {"cmdFivestack", "&Fivestack ", "Fivestack!", Make<frmFivestack>},
       {"cmdBlackrush", "&Blackrush", "Blackrush!", nullptr},
       {"cmdDuopick", "D&uopick", "Duopick!", Make<frmDuopick>},
       {"cmdSpirehold", "&Spirehold", "Spirehold!", Make<frmSpirehold>},
