@@ -2,6 +2,7 @@
 
 #include "games/spirehold/spirehold.h"
 #include "games/sumfall/sumfall.h"
+#include "games/treyshift/treyshift.h"
 
 std::vector<GameEntry> AllGames() {
   return {
@@ -13,6 +14,7 @@ std::vector<GameEntry> AllGames() {
       {"cmdSpirehold", "&Spirehold", "Spirehold!",
        [](modCommon& common) { return std::make_unique<frmSpirehold>(common); }},
       {"cmdHandgrid", "&Handgrid", "Handgrid!", nullptr},
-      {"cmdTreyshift", "Trey&shift", "Treyshift!", nullptr},
+      {"cmdTreyshift", "Trey&shift", "Treyshift!",
+       [](modCommon& common) { return std::make_unique<frmTreyshift>(common); }},
   };
 }
