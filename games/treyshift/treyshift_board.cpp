@@ -172,6 +172,10 @@ void frmTreyshift::PlaceBoard() {
   for (const Design& row : kButtonDesign) static_cast<Visual&>(*find(row.name)).Top = row.top + down;
   CenterIn(lblFieldCards, FieldRect);
   CenterFigures();
+  // The hint of this game is a long one.
+  StatusBar1.Panels(1).Width = Width * 35 / 100;
+  StatusBar1.Panels(2).Width = Width * 52 / 100;
+  StatusBar1.Panels(3).Width = Width * 13 / 100;
 }
 
 void frmTreyshift::CenterFigures() {
