@@ -46,8 +46,7 @@ class TreyshiftPlayer : public RandomPlayer {
                 middle = CardValue(game.FieldCards[column + kSecondRow]);
       const bool isFull = !game.FieldCards[column + kThirdRow].empty();
       if (isFull || top == 0) continue;
-      const bool fits =
-          middle == 0 ? std::abs(rank - top) < 2 : Judge(top, middle, rank) != Column::Worthless;
+      const bool fits = middle == 0 ? std::abs(rank - top) < 2 : Judge(top, middle, rank) != Worth::Nothing;
       if (fits) return Click(game.PlayCard(column));
     }
     return Chance(30) ? Click(game.TempCard(Draw(kTempSlots))) : Click(game.PlayCard(Draw(kColumns)));

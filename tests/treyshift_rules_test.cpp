@@ -10,17 +10,17 @@ using namespace modTreyshift;
 TEST(TreyshiftRules, TheOrderOfThreeCardsDecides) {
   const struct {
     int top, middle, bottom;
-    Column worth;
+    Worth worth;
   } columns[] = {
-      {3, 3, 3, Column::Trip},        {13, 13, 13, Column::Trip},     {4, 5, 6, Column::Run},
-      {6, 5, 4, Column::Run},         {1, 2, 3, Column::Run},         {3, 2, 1, Column::Run},
-      {11, 12, 13, Column::Run},      {13, 12, 11, Column::Run},      {12, 13, 1, Column::Run},
-      {1, 13, 12, Column::Run},       {13, 1, 2, Column::Worthless},  {2, 1, 13, Column::Worthless},
-      {13, 12, 1, Column::Worthless}, {1, 12, 13, Column::Worthless}, {12, 1, 13, Column::Worthless},
-      {13, 1, 12, Column::Worthless}, {5, 7, 6, Column::Worthless},   {6, 5, 7, Column::Worthless},
-      {3, 3, 4, Column::Worthless},   {3, 4, 4, Column::Worthless},   {4, 3, 4, Column::Worthless},
-      {2, 4, 6, Column::Worthless},   {2, 1, 0, Column::Run},         {1, 2, 0, Column::Worthless},
-      {12, 13, 0, Column::Worthless},
+      {3, 3, 3, Worth::Trip},      {13, 13, 13, Worth::Trip},   {4, 5, 6, Worth::Run},
+      {6, 5, 4, Worth::Run},       {1, 2, 3, Worth::Run},       {3, 2, 1, Worth::Run},
+      {11, 12, 13, Worth::Run},    {13, 12, 11, Worth::Run},    {12, 13, 1, Worth::Run},
+      {1, 13, 12, Worth::Run},     {13, 1, 2, Worth::Nothing},  {2, 1, 13, Worth::Nothing},
+      {13, 12, 1, Worth::Nothing}, {1, 12, 13, Worth::Nothing}, {12, 1, 13, Worth::Nothing},
+      {13, 1, 12, Worth::Nothing}, {5, 7, 6, Worth::Nothing},   {6, 5, 7, Worth::Nothing},
+      {3, 3, 4, Worth::Nothing},   {3, 4, 4, Worth::Nothing},   {4, 3, 4, Worth::Nothing},
+      {2, 4, 6, Worth::Nothing},   {2, 1, 0, Worth::Run},       {1, 2, 0, Worth::Nothing},
+      {12, 13, 0, Worth::Nothing},
   };
   for (const auto& each : columns)
     EXPECT_EQ(Judge(each.top, each.middle, each.bottom), each.worth)
@@ -40,9 +40,9 @@ TEST(TreyshiftRules, OfAllColumnsThirteenAreTripsAndTwentyFourAreRuns) {
   for (int top = 1; top <= 13; ++top)
     for (int middle = 1; middle <= 13; ++middle)
       for (int bottom = 1; bottom <= 13; ++bottom) {
-        const Column worth = Judge(top, middle, bottom);
-        EXPECT_EQ(worth == Column::Trip, top == middle && middle == bottom);
-        EXPECT_EQ(worth == Column::Run, runs.contains({top, middle, bottom}))
+        const Worth worth = Judge(top, middle, bottom);
+        EXPECT_EQ(worth == Worth::Trip, top == middle && middle == bottom);
+        EXPECT_EQ(worth == Worth::Run, runs.contains({top, middle, bottom}))
             << top << ", " << middle << ", " << bottom;
       }
 }

@@ -11,12 +11,12 @@ std::string_view SuitOf(std::string_view code) { return code.substr(code.empty()
 }  // namespace
 
 // The ace is low, but for the two runs that end in it or begin with it as the highest card.
-Column Judge(int top, int middle, int bottom) {
-  if (middle == top && bottom == top) return Column::Trip;
+Worth Judge(int top, int middle, int bottom) {
+  if (middle == top && bottom == top) return Worth::Trip;
   const bool rises = middle == top + 1 && bottom == top + 2, falls = middle == top - 1 && bottom == top - 2;
   const bool fromAce = top == kAce && middle == kKing && bottom == kQueen,
              toAce = top == kQueen && middle == kKing && bottom == kAce;
-  return rises || falls || fromAce || toAce ? Column::Run : Column::Worthless;
+  return rises || falls || fromAce || toAce ? Worth::Run : Worth::Nothing;
 }
 
 bool OfOneSuit(std::string_view top, std::string_view middle, std::string_view bottom) {

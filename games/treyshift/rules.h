@@ -24,9 +24,9 @@ inline constexpr int kBeyondDeck = 56;  // from here on no card moves
 inline constexpr int kTripValue = 6000, kRunValue = 300, kFlushValue = 5000, kDeckValue = 15000,
                      kPenaltyValue = 250, kTimeBonus = 200, kBonusScore = 100000;
 
-enum class Column { Worthless, Trip, Run };
+enum class Worth { Nothing, Trip, Run };
 // What the ranks of a full column make, from the top to the bottom.
-Column Judge(int top, int middle, int bottom);
+Worth Judge(int top, int middle, int bottom);
 
 // Whether three codes end in the same suit.
 bool OfOneSuit(std::string_view top, std::string_view middle, std::string_view bottom);

@@ -222,15 +222,15 @@ void frmTreyshift::NoMovesLeft() {
 void frmTreyshift::CheckColumn(int column) {
   switch (Judge(CardValue(FieldCards[column]), CardValue(FieldCards[column + kSecondRow]),
                 CardValue(FieldCards[column + kThirdRow]))) {
-    case Column::Worthless:
+    case Worth::Nothing:
       return;
-    case Column::Trip:
+    case Worth::Trip:
       ClearColumn(column);
       TripCount += 1;
       lblScoreTrips.Caption = std::to_string(TripCount);
       AddToScore(TripValue);
       return PlaySound("\\TwentyOne.wav");
-    case Column::Run:
+    case Worth::Run:
       break;
   }
   const bool isFlush = CheckFlush(column);
