@@ -441,11 +441,20 @@ TEST_F(Treyshift, LeftOverCardsCostOnlyWhenTheDeckIsUsedUp) {
   EXPECT_EQ(Text("lblFlush.Caption"), "Flush!");
   EXPECT_EQ(driver.Get(kWin + "lblFlush.FontSize"), 8);
 
-  driver.Do(kPlayTreyshift + "answer \"Yes\"\n" + InOrder(StuckBoard()) + kPlayTreyshift + Lay(0));
-  Game().ShowEmpty(Game().UpCard(kInPlay));
-  Game().PenaltyValue = 0;
-  EXPECT_TRUE(Contains(Heard("advance 120000"), "\"-0\", 1000, Click, 500, \"Speed Bonus!\""));
-  EXPECT_EQ(Score(), 15000);
+  const struct {
+    int deck, penalty, score;
+    const char* told;
+  } cases[] = {{15000, 0, 15000, "\"-0\""}, {0, 250, -250, "\"-250\""}};
+  for (const auto& each : cases) {
+    driver.Do(kPlayTreyshift + "answer \"Yes\"\n" + InOrder(StuckBoard()) + kPlayTreyshift + Lay(0));
+    Game().ShowEmpty(Game().UpCard(kInPlay));
+    Game().DeckValue = each.deck;
+    Game().PenaltyValue = each.penalty;
+    EXPECT_TRUE(
+        Contains(Heard("advance 120000"), each.told + std::string(", 1000, Click, 500, \"Speed Bonus!\"")));
+    EXPECT_EQ(Score(), each.score);
+    EXPECT_EQ(Text("lblCurrentScore.Caption"), FormatNumber(each.score));
+  }
 }
 
 TEST_F(Treyshift, WarnsOfTheTimeAndPaysWithoutCountingIfSoWished) {
