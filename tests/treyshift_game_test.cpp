@@ -15,6 +15,13 @@ class Treyshift : public ::testing::Test {
   std::string Text(const std::string& property) { return driver.Text(kWin + property); }
   std::string Panel(int number) { return Text("StatusBar1.Panels(" + std::to_string(number) + ").Text"); }
   bool Is(const std::string& property) { return driver.Get(kWin + property) == true; }
+  // Those of the properties that aren't so.
+  std::string Not(bool so, std::initializer_list<const char*> properties) {
+    std::vector<std::string> others;
+    for (const char* property : properties)
+      if (Is(property) != so) others.emplace_back(property);
+    return Joined(others);
+  }
   std::string Heard(const std::string& commands) { return TreyshiftStory(driver.Trace(commands)); }
   frmTreyshift& Game() { return TreyshiftOf(driver); }
   long long Score() { return driver.common().CurrentScore; }
@@ -60,37 +67,29 @@ class Treyshift : public ::testing::Test {
 
 TEST_F(Treyshift, OpensWithItsOwnNames) {
   driver.Do(kOpenTreyshift);
-  const std::pair<const char*, const char*> captions[] = {{"mnuFile", "&File"},
-                                                          {"mnuPlay", "&Play"},
-                                                          {"mnuClear", "&Clear High Scores..."},
-                                                          {"mnuCustom", "&User Options..."},
-                                                          {"cmdTakeScore", "&Take Score"},
-                                                          {"cmdQuit", "E&xit"},
-                                                          {"mnu60", "&60 seconds"},
-                                                          {"mnu75", "&75 seconds"},
-                                                          {"mnu90", "&90 seconds"},
-                                                          {"mnu105", "&105 seconds"},
-                                                          {"mnu120", "1&20 seconds (default)"},
-                                                          {"mnu135", "1&35 seconds"},
-                                                          {"mnu150", "1&50 seconds"},
-                                                          {"mnu180", "1&80 seconds"},
-                                                          {"lblTemp", "Temporary Storage"},
-                                                          {"lblFieldCards", "   Playing Field   "},
-                                                          {"lblFlush", "Flush!"},
-                                                          {"lblScoreTrips", "0"},
-                                                          {"lblScoreRuns", "0"},
-                                                          {"lblHighScore", "High Score: 30,000"}};
-  for (const auto& [name, caption] : captions) EXPECT_EQ(Text(std::string(name) + ".Caption"), caption);
+  std::vector<std::string> captions;
+  for (const char* name :
+       {"mnuFile", "mnuPlay", "mnuClear", "mnuCustom", "cmdTakeScore", "cmdQuit", "lblTemp", "lblFieldCards",
+        "lblFlush", "lblScoreTrips", "lblScoreRuns", "lblHighScore"})
+    captions.push_back(Text(std::string(name) + ".Caption"));
+  EXPECT_EQ(Joined(captions),
+            "&File|&Play|&Clear High Scores...|&User Options...|&Take Score|E&xit|Temporary Storage|"
+            "   Playing Field   |Flush!|0|0|High Score: 30,000");
+  captions.clear();
+  for (const auto& entry : Game().timeLimitEntries) captions.push_back(entry->Caption);
+  EXPECT_EQ(Joined(captions),
+            "&60 seconds|&75 seconds|&90 seconds|&105 seconds|1&20 seconds (default)|1&35 seconds|"
+            "1&50 seconds|1&80 seconds");
   EXPECT_EQ(Text("cmdTakeScore.ToolTipText"), "Ends the round and awards points");
   EXPECT_EQ(driver.Get(kWin + "mnuTakeScore.Caption"), nullptr);
   EXPECT_EQ(Panel(1), "Welcome to Treyshift!  ");
-  for (const char* on :
-       {"mnu120.Checked", "Timer2.Enabled", "Timer3.Enabled", "Timer4.Enabled", "lblHighScore.Visible"})
-    EXPECT_TRUE(Is(on)) << on;
-  for (const char* off :
-       {"FieldRect.Visible", "UpCard(2).Visible", "TempCard(0).Visible", "PlayCard(0).Visible",
-        "lblFlush.Visible", "ScoringLabelOutline.Visible", "Timer1.Enabled"})
-    EXPECT_FALSE(Is(off)) << off;
+  EXPECT_EQ(Not(true, {"mnu120.Checked", "Timer2.Enabled", "Timer3.Enabled", "Timer4.Enabled",
+                       "lblHighScore.Visible"}),
+            "");
+  EXPECT_EQ(
+      Not(false, {"FieldRect.Visible", "UpCard(2).Visible", "TempCard(0).Visible", "PlayCard(0).Visible",
+                  "lblFlush.Visible", "ScoringLabelOutline.Visible", "Timer1.Enabled"}),
+      "");
   driver.Do("click frmTreyshift.mnu75\nclose frmTreyshift\nanswer \"Yes\"");
   EXPECT_TRUE(folder.Read("TreyshiftHiScores75.Txt").starts_with("Quillmark, 30000\r\n"));
   EXPECT_EQ(
@@ -159,9 +158,9 @@ TEST_F(Treyshift, IsDealtFromTheEndOfTheFan) {
   EXPECT_EQ(Text("lblRound.Caption"), "Round: 1");
   EXPECT_EQ(Text("lblTime.Caption"), "Time: 120");
   EXPECT_EQ(Open(), "0 1 2 3");
-  for (const char* closed : {"mnuCustom", "mnuTime"}) EXPECT_FALSE(Is(std::string(closed) + ".Enabled"));
-  for (const char* open : {"cmdTakeScore", "cmdPause", "mnuPause", "mnuDeck"})
-    EXPECT_TRUE(Is(std::string(open) + ".Enabled")) << open;
+  EXPECT_EQ(Not(false, {"mnuCustom.Enabled", "mnuTime.Enabled"}), "");
+  EXPECT_EQ(Not(true, {"cmdTakeScore.Enabled", "cmdPause.Enabled", "mnuPause.Enabled", "mnuDeck.Enabled"}),
+            "");
   driver.Do(Lay(0) + Lay(1) + Lay(2) + Lay(3));
   EXPECT_EQ(Table(), "- - - 5H - - 9C - - 2S - - 13D - -");
 }
@@ -358,8 +357,9 @@ TEST_F(Treyshift, IsPlayedThroughToTheTable) {
   driver.Do(Lay(0));
   EXPECT_EQ(Text("lblCardCount.Caption"), "Cards remaining: 51");
   EXPECT_EQ(driver.Get(kWin + "lblCurrentScore.ForeColor"), kBlue);
-  for (const char* gone : {"lblScoring", "lblMessage", "ScoringLabelOutline", "lblFlush"})
-    EXPECT_FALSE(Is(std::string(gone) + ".Visible")) << gone;
+  EXPECT_EQ(Not(false, {"lblScoring.Visible", "lblMessage.Visible", "ScoringLabelOutline.Visible",
+                        "lblFlush.Visible"}),
+            "");
 
   // Four full columns and a full storage: the board is stuck. One tick has waited.
   driver.Do(Lay(0, 2) + Lay(1, 3) + Lay(2, 3) + Lay(3, 3) + Store(0) + Store(1) + "advance 10000\n");
@@ -381,15 +381,14 @@ TEST_F(Treyshift, IsPlayedThroughToTheTable) {
   EXPECT_EQ(Panel(2), "Game Over");
   EXPECT_EQ(Text("cmdPlay.ToolTipText"), "Starts a new game");
   EXPECT_EQ(Text("cmdPlay.Caption") + Text("mnuPlay.Caption"), "&Play&Play");
-  for (const char* shown : {"frmSplash.Visible", "Timer4.Enabled", "cmdPlay.Enabled", "cmdQuit.Enabled",
-                            "mnuCustom.Enabled", "mnuTime.Enabled"})
-    EXPECT_TRUE(Is(shown)) << shown;
-  for (const char* hidden :
-       {"lblMessage.Visible", "lblScoring.Visible", "ScoringLabelOutline.Visible", "lblHighScore.Visible",
-        "lblCurrentScore.Visible", "FieldRect.Visible", "UpCard(2).Visible", "CardStackPicture.Visible",
-        "PlayCard(0).Visible", "cmdPause.Enabled", "cmdTakeScore.Enabled", "mnuPause.Enabled",
-        "Timer1.Enabled"})
-    EXPECT_FALSE(Is(hidden)) << hidden;
+  EXPECT_EQ(Not(true, {"frmSplash.Visible", "Timer4.Enabled", "cmdPlay.Enabled", "cmdQuit.Enabled",
+                       "mnuCustom.Enabled", "mnuTime.Enabled"}),
+            "");
+  EXPECT_EQ(Not(false, {"lblMessage.Visible", "lblScoring.Visible", "ScoringLabelOutline.Visible",
+                        "lblHighScore.Visible", "lblCurrentScore.Visible", "FieldRect.Visible",
+                        "UpCard(2).Visible", "CardStackPicture.Visible", "PlayCard(0).Visible",
+                        "cmdPause.Enabled", "cmdTakeScore.Enabled", "mnuPause.Enabled", "Timer1.Enabled"}),
+            "");
   EXPECT_EQ(driver.common().DialSeconds, 0);
 }
 
@@ -533,8 +532,7 @@ TEST_F(Treyshift, APauseHidesTheCardsAndKeepsTheSelection) {
   EXPECT_EQ(Heard("click frmTreyshift.cmdPause"), "\"Game Paused\", silence");
   EXPECT_EQ(Open(), "4");  // what shows nothing stays, and is refused
   EXPECT_EQ(Marked(), "");
-  for (const char* hidden : {"TempCard(0)", "UpCard(2)", "CardStackPicture"})
-    EXPECT_FALSE(Is(std::string(hidden) + ".Visible")) << hidden;
+  EXPECT_EQ(Not(false, {"TempCard(0).Visible", "UpCard(2).Visible", "CardStackPicture.Visible"}), "");
   EXPECT_TRUE(Is("lblCardCount.Visible"));
   EXPECT_EQ(Heard("click frmTreyshift.PlayCard(4)\nadvance 60000"), "Chord");
   EXPECT_EQ(Heard("click frmTreyshift.mnuPause"), "\"\", open, music");
@@ -567,14 +565,14 @@ TEST_F(Treyshift, EndGameStopsTheMusicFirstAndEntersNothing) {
   EXPECT_TRUE(folder.Read("TreyshiftHiScores120.Txt").starts_with("Quillmark, 30000\r\n"));
   EXPECT_EQ(Text("cmdPlay.Caption") + Text("mnuPlay.Caption"), "&Play&Play");
   EXPECT_EQ(Text("cmdPlay.ToolTipText"), "Starts a new game");
-  for (const char* shown : {"frmSplash.Visible", "Timer4.Enabled", "cmdPlay.Enabled", "cmdQuit.Enabled",
-                            "mnuCustom.Enabled", "mnuTime.Enabled", "mnuDeck.Enabled", "Timer2.Enabled"})
-    EXPECT_TRUE(Is(shown)) << shown;
-  for (const char* hidden :
-       {"lblMessage.Visible", "lblHighScore.Visible", "lblCurrentScore.Visible", "TimerRectangle.Visible",
-        "UpCard(2).Visible", "PlayCard(4).Visible", "CardStackPicture.Visible", "cmdPause.Enabled",
-        "cmdTakeScore.Enabled", "mnuPause.Enabled", "Timer1.Enabled"})
-    EXPECT_FALSE(Is(hidden)) << hidden;
+  EXPECT_EQ(Not(true, {"frmSplash.Visible", "Timer4.Enabled", "cmdPlay.Enabled", "cmdQuit.Enabled",
+                       "mnuCustom.Enabled", "mnuTime.Enabled", "mnuDeck.Enabled", "Timer2.Enabled"}),
+            "");
+  EXPECT_EQ(Not(false, {"lblMessage.Visible", "lblHighScore.Visible", "lblCurrentScore.Visible",
+                        "TimerRectangle.Visible", "UpCard(2).Visible", "PlayCard(4).Visible",
+                        "CardStackPicture.Visible", "cmdPause.Enabled", "cmdTakeScore.Enabled",
+                        "mnuPause.Enabled", "Timer1.Enabled"}),
+            "");
   // A place that shows nothing is still there, under the splash panel; a click on it does nothing.
   EXPECT_EQ(Heard("click frmTreyshift.PlayCard(8)"), "");
 }

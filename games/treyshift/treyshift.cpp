@@ -2,6 +2,7 @@
 #include "games/treyshift/treyshift.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace modTreyshift;
 
