@@ -101,6 +101,7 @@ TEST_F(TreyshiftCustom, EachFieldHasItsBoundsAndWords) {
 }
 
 TEST_F(TreyshiftCustom, AFailedOkKeepsWhatItTookAndTheLastFieldDecidesTheRest) {
+  EXPECT_EQ(Asked(kOptions + "get frmTreyshiftCustom.txtPenaltyValue.ForeColor\n" + kCancel), "255");
   EXPECT_EQ(
       Asked(kOptions + "get frmTreyshiftCustom.Caption\nget frmTreyshiftCustom.frmScoringOptions.Caption\n" +
             kCancel),

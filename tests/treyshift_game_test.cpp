@@ -438,7 +438,7 @@ TEST_F(Treyshift, LeftOverCardsCostOnlyWhenTheDeckIsUsedUp) {
   EXPECT_EQ(marks.front() + " " + marks[11] + " " + marks.back(),
             "PlayCardSelection(11) PlayCardSelection(0) TempCardSelection(2)");
   EXPECT_EQ(Text("lblFlush.Caption"), "Flush!");
-  EXPECT_EQ(driver.Get(kWin + "lblFlush.FontSize"), 8);
+  EXPECT_EQ(Text("lblFlush.FontSize") + Text("lblFlush.BackStyle"), "81");
 
   const struct {
     int deck, penalty, score;

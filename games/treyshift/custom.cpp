@@ -74,7 +74,9 @@ constexpr ScoringNames kNames{.window = "frmTreyshiftCustom"};
 }  // namespace
 
 frmTreyshiftCustom::frmTreyshiftCustom(frmTreyshift& game)
-    : ScoringDialog(game, kNames, kFields), game_(game) {}
+    : ScoringDialog(game, kNames, kFields), game_(game) {
+  rows[kPenalty]->box.ForeColor = kRed;
+}
 
 ScoringDialog::Number frmTreyshiftCustom::Setting(size_t field) {
   const Number settings[] = {&game_.TripValue,       &game_.RunValue,   &game_.DeckValue,

@@ -194,6 +194,7 @@ void frmTreyshift::RemoveLeftOvers() {
   lblMessage.Caption = penalty;
   ShowInDeckPlace(1000);
   lblFlush.Caption = penalty;
+  lblFlush.BackStyle = 0;
   lblFlush.FontSize = 10;
   lblFlush.Top = PlayCardSelection(0).Top - 250;
   for (int i = kFieldSlots - 1; i >= 0; --i) {
@@ -227,6 +228,7 @@ void frmTreyshift::RemoveCard(Image& card, Shape& selection) {
 
 void frmTreyshift::RestoreFlush() {
   lblFlush.Caption = "Flush!";
+  lblFlush.BackStyle = 1;
   lblFlush.FontSize = 8;
   lblFlush.Visible = false;
 }
