@@ -5,6 +5,7 @@
 #include "games/handgrid/handgrid.h"
 #include "games/spirehold/spirehold.h"
 #include "games/sumfall/sumfall.h"
+#include "games/treyshift/treyshift.h"
 
 namespace {
 
@@ -23,6 +24,6 @@ std::vector<GameEntry> AllGames() {
       {"cmdDuopick", "D&uopick", "Duopick!", Make<frmDuopick>},
       {"cmdSpirehold", "&Spirehold", "Spirehold!", Make<frmSpirehold>},
       {"cmdHandgrid", "&Handgrid", "Handgrid!", Make<frmHandgrid>},
-      {"cmdTreyshift", "Trey&shift", "Treyshift!", nullptr},
+      {"cmdTreyshift", "Trey&shift", "Treyshift!", Make<frmTreyshift>},
   };
 }
