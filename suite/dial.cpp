@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "suite/game_window.h"
-#include "window/text.h"
 
 namespace {
 
@@ -43,16 +42,6 @@ void Face(GameWindow& window) {
   window.Surface.Draw(rim);
 }
 
-// One step of a counter: `amount` goes from what is left to the score.
-void CountStep(GameWindow& window, long long amount, long long& left) {
-  window.AddToScore(amount);
-  left -= amount;
-  window.lblScoring.ForeColor = kBlack;
-  window.lblScoring.Caption = FormatNumber(left);
-  window.PlaySound("\\Snap.wav");
-  window.common.platform.Sleep(75);
-}
-
 }  // namespace
 
 void InitTimeDial(GameWindow& window) {
@@ -63,7 +52,6 @@ void InitTimeDial(GameWindow& window) {
       std::min(window.Surface.Width, window.Surface.Height) / 2.0 - 30;  // keeps the rim on the surface
   dial.DialLastColor = 0xFFFFFF;
   window.common.DialSeconds = 0;
-  window.Timer2.Enabled = false;
   DrawTimeDial(0, window);
 }
 
@@ -87,58 +75,4 @@ long long DialAngle(const GameWindow& window, long long seconds) {
   const long long limit = window.common.TimeLimit;
   if (limit == 0) RaiseDivisionByZero();
   return RoundHalfEven(360.0 / static_cast<double>(limit) * static_cast<double>(seconds));
-}
-
-void CountTimeBonus(GameWindow& window, long long bonusPerSecond) {
-  modCommon& common = window.common;
-  if (common.ElapsedSeconds >= common.TimeLimit) return;
-  const Long total = (common.TimeLimit - common.ElapsedSeconds) * bonusPerSecond;
-  long long left = total;
-  ShowAmount(window, "Speed Bonus!", left, 2000);
-  if (common.CountDownScore) {
-    const long long limit = common.TimeLimit;
-    for (long long second = common.ElapsedSeconds + 1; second <= limit; ++second) {
-      DrawTimeDial(DialAngle(window, common.ElapsedSeconds), window);
-      common.DialSeconds = second;
-      common.ElapsedSeconds += 1;
-      CountStep(window, bonusPerSecond, left);
-    }
-  }
-  window.AddToScore(left);
-  window.lblScoring.Visible = false;
-  window.lblCurrentScore.ForeColor = kBlue;
-}
-
-void AwardBonus(GameWindow& window, const std::string& title, long long count, long long value) {
-  const Long total = count * value;
-  ShowAmount(window, title + "!", total, 1000);
-  if (window.common.CountDownScore)
-    CountAmount(window, total);
-  else
-    window.AddToScore(total);
-  HideAmount(window);
-}
-
-void ShowAmount(GameWindow& window, const std::string& message, long long amount, int milliseconds) {
-  window.lblMessage.Caption = message;
-  window.lblMessage.Visible = true;
-  window.lblCurrentScore.ForeColor = kCyan;
-  window.lblScoring.Caption = FormatNumber(amount);
-  window.lblScoring.ForeColor = kRed;
-  window.PlaceScoring();
-  window.lblScoring.Visible = true;
-  window.common.platform.Sleep(milliseconds);
-}
-
-void CountAmount(GameWindow& window, long long total) {
-  const long long step = RoundHalfEven(static_cast<double>(total) / 20);
-  // A step of nothing would never end: the whole is paid at once.
-  if (step == 0) return window.AddToScore(total);
-  long long left = total;
-  for (long long i = 1; step > 0 ? i <= total : i >= total; i += step) CountStep(window, step, left);
-}
-
-void HideAmount(GameWindow& window) {
-  window.lblCurrentScore.ForeColor = kBlue;
-  window.lblScoring.Visible = false;
 }

@@ -64,9 +64,10 @@ frmHighScores::frmHighScores(modCommon& common, GameWindow& game)
   cmdDone.OnClick = [this] { Unload(); };
   cmdClear.OnClick = [this] {
     if (!common_.Ask("This will clear all High Scores. Are You Sure?")) return;
-    CreateHighScoreFile(game_.plan.tableName, game_, game_.plan.defaultScore);
+    const HighScoreTable& table = game_.plan.tables.shown;
+    CreateHighScoreFile(table.name, game_, table.defaultScore);
     ReadHighScoreTable();
-    ShowHighScore(game_.plan.tableName, game_, game_.plan.defaultScore);
+    ShowHighScore(table.name, game_, table.defaultScore);
   };
 }
 
@@ -79,10 +80,11 @@ void frmHighScores::Form_Load() {
 }
 
 void frmHighScores::ReadHighScoreTable() {
+  const HighScoreTable& table = game_.plan.tables.shown;
   HighScores scores;
   {
     const Files::Lock lock(common_.files);
-    scores = ReadHighScores(game_, game_.plan.tableName, game_.plan.defaultScore);
+    scores = ReadHighScores(game_, table.name, table.defaultScore);
   }
   for (size_t place = 0; place < kTablePlaces; ++place) {
     const bool taken = place < scores.size();
@@ -125,19 +127,11 @@ frmRules::frmRules(modCommon& common, const GameWindow& game)
 }
 
 void frmRules::Form_Load() {
-  const std::string lineBreak = "\r\n";
   CenterOnScreen();
   Caption = common_.AppTitle + " Rules, Notes and Strategy";
   CenterAcross(cmdOK);
   cmdOK.SetFocus();
-  const RulesPage page = game_.Rules();
-  std::string text = lineBreak + std::string(page.blanks, ' ') + common_.AppTitle +
-                     " Rules, Notes and Strategy" + lineBreak + lineBreak;
-  for (size_t i = 0; i < page.paragraphs.size(); ++i) {
-    if (i > 0) text += lineBreak + lineBreak;
-    text += page.paragraphs[i];
-  }
-  lblRules.Text = text;
+  lblRules.Text = ComposeRules(common_.AppTitle, game_.Rules());
 }
 
 frmAbout::frmAbout(modCommon& common) : Form(common.platform, "frmAbout"), common_(common) {

@@ -1,69 +1,39 @@
-// The plan to which every game window is built: splash, play, pause, round clock, end of game, menus,
-// settings, closing. A game is a `GamePlan`, the handful of functions that it must give, and those in which
-// it departs from the plan.
+// The plan to which every game window is built: splash, play, pause, round clock, end of round and game,
+// menus, settings, closing. A game is a `GamePlan` (its names and numbers), the few functions that it must
+// give, and the steps that it takes in another way: each step below says when it comes, and does what most
+// games do. No step asks which game it serves.
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <optional>
-#include <span>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "suite/common.h"
+#include "suite/game_plan.h"
+#include "suite/rules_text.h"
 #include "suite/settings_file.h"
 #include "window/text.h"
 
-// One entry of the time limit menu.
-struct TimeLimitEntry {
-  int seconds;
-  const char* menu;
-  const char* caption;
-};
-
-// What tells one game from another without any code. Names of controls that the game doesn't have are "".
-struct GamePlan {
-  const char* window;        // the form's name
-  const char* settingsFile;  // "\\Name.Ini"
-  const char* tableName;     // of its high score tables
-  const char* defaultScore;  // in a fresh table
-  int width, height;         // smallest size, twips; written for a maximised window
-  std::span<const TimeLimitEntry> limits;
-  int timeLimit;  // the default, seconds
-  // The back designs that "[Deck]" 1 to 4 stand for, and the default number.
-  BackDesign designs[4] = {kPalmTree, kMagicHands, kNightCastle, kHotCards};
-  int deckDesign = 1;
-  int splashInterval = 200;  // milliseconds
-  const char* timeSection = "[Time]";
-  const char* fileMenu = "mnuFile";
-  const char* fileCaption = "&File";
-  const char* viewMenu = "mnuView";
-  const char* clearCaption = "&Clear High Scores...";
-  const char* customMenu = "mnuCustom";
-  const char* customCaption = "&User Options...";
-  const char* exitButton = "cmdExit";
-  const char* takeScoreButton = "cmdTakeScore";
-  const char* takeScoreMenu = "mnuTakeScore";
-  const char* clockTimer = "Timer3";  // refreshes the time of day
-  // False if the game starts the music itself, with each round.
-  bool playStartsMusic = true;
-  // True if cards lie face down during play, so that a change of the back design is to be seen on them.
-  bool backsInPlay = false;
-};
-
 // What the menu bar and the status bar take off a window's height, at most.
 inline constexpr int kBars = 750;
+
+// Where a window stands. Captions follow it; nothing is decided by them.
+enum class Phase {
+  Idle,     // the splash panel
+  Playing,  // a round runs
+  Paused,
+  Scoring,  // a round is being paid, or the next one announced
+  Over      // the game has ended, and no other has begun
+};
 
 // A box let into the board, with the lines that light its edges.
 struct ScoreBox {
   Shape& box;
   Shape& side;
   Shape& bottom;
-};
-
-// What the rules window shows: the blanks before the heading, and the paragraphs.
-struct RulesPage {
-  int blanks;
-  std::vector<std::string> paragraphs;
 };
 
 class GameWindow : public Form {
@@ -74,101 +44,209 @@ class GameWindow : public Form {
   modCommon& common;
   const GamePlan& plan;
 
-  // --- What a game must give ---------------------------------------------------------------------
+  Phase phase = Phase::Idle;
+  Integer CurrentRound;
+  Long BonusScore;  // for the bonus round
+  // The game's own values, named in its constructor; see `GameSetting`.
+  std::vector<GameSetting> settings;
 
-  // Starts a game: `cmdPlay` reads "&End Game" already, the splash panel is hidden.
+  // === What a game must give =======================================================================
+
+  // Starts a game: sets `GameInProgress`, deals, starts the clock. The captions of Play have changed already,
+  // and the splash panel is hidden.
   virtual void Play() = 0;
-  // Ends the round: pays, then starts the next round or ends the game.
-  virtual void TakeScore() = 0;
   // The player has confirmed End Game.
   virtual void EndGame() = 0;
-  // A failure has ended the game in progress; the player has been told.
-  virtual void GameFailed() = 0;
   // All card images.
   virtual void ShowCards(bool visible) = 0;
-  // Hides the cards of a paused game, or turns them down; or shows them again.
-  virtual void CoverCards(bool covered) = 0;
-  // Shows the stock in the back design in force; and the same for cards that lie face down.
+  // Shows the stock in the back design in force.
   virtual void RefreshPlayCard() = 0;
-  virtual void RefreshFieldCards() = 0;
   // The customised scoring dialog.
   virtual void ShowCustomScoring() = 0;
-  virtual RulesPage Rules() const = 0;
-  // The whole settings file.
-  virtual void WriteSettings(SettingsWriter& writer) const = 0;
+  virtual RulesText Rules() const = 0;
 
-  // --- What a game may say differently -----------------------------------------------------------
+  // === Steps, by when they come ====================================================================
 
-  // The game's own defaults, set before the settings are read.
+  // --- Loading -------------------------------------------------------------------------------------
+  // Defaults beyond those of `settings`, set before the file is read.
   virtual void SetDefaults() {}
-  // Applies one setting of the game's own. False if it isn't a section of this game.
+  // Panel 1 of the status bar.
+  virtual std::string Welcome() const { return "Welcome to " + common.AppTitle + "  "; }
+  // A section that the game reads in its own way; asked before all others. False for the common way.
   virtual bool ApplyGameSetting(std::string_view /*section*/, std::string_view /*value*/) { return false; }
-  // Called when all settings are read.
+  // Whether a time limit is taken from the settings file.
+  virtual bool AcceptsLimit(int /*seconds*/) const { return true; }
+  // All settings are read; and the same after the scoring dialog.
   virtual void SettingsRead() {}
+  // Sets `CustomScoringInUse`; by the table of settings.
+  virtual void CheckForCustom();
+  // What stands under a section when the file is written.
+  virtual std::string SettingText(std::string_view section) const;
   // The name of a table's file for the present settings.
   virtual std::string TableFile(const std::string& tableName) const;
   virtual std::string HighScorePrefix() const { return "High Score: "; }
   // The line under the Hall of Fame.
   virtual std::string HighScoreInfo() const { return "* denotes customized scoring was used"; }
-  // The next picture of the splash panel when it doesn't show a back.
+  // The menu entry Clear.
+  virtual void mnuClear_Click();
+
+  // --- The splash panel ----------------------------------------------------------------------------
   virtual void ShowSplashFace(Image& image);
   virtual void ShowSplashBack(Image& image);
-  // The game's own labels in the group that `ShowControls` shows and hides.
-  virtual void ShowGameControls(bool /*visible*/) {}
-  // Hides the cards when the time is up, as far as the game does so.
-  virtual void HideCardsAtTimeUp() { ShowCards(false); }
-  // The button and the menu entry Play; "&Play" starts a game, "&End Game" asks and ends it.
+
+  // --- Play ----------------------------------------------------------------------------------------
+  // Whether a click on Play, Pause or Exit is taken now.
+  virtual bool TakesCommand() const { return true; }
   virtual void cmdPlay_Click();
   virtual void mnuPlay_Click() { cmdPlay_Click(); }
-  // The button and the menu entry Take Score.
+  // Play was pressed: tool tip and captions, the splash panel goes.
+  virtual void LeaveIdle();
+  // An error ended `Play`: the player is told, and the program ends. Called while the error is being handled.
+  virtual void PlayFailed(const std::string& description);
+  // No game came of it: the window is as before a game.
+  virtual void BackToIdle();
+  // Deals round `CurrentRound` and starts its clock. For a game that ends its rounds by the common
+  // `TakeScore`.
+  virtual void InitRound() {}
+  // The captions of the button and the menu entry Play at once.
+  virtual void SetPlayCaption(const char* caption);
+
+  // --- The round clock -----------------------------------------------------------------------------
+  // A second has passed.
+  virtual void Tick();
+  // Writes the time that is left, and what follows from it.
+  virtual void ShowTimeLeft();
+  // The round's time is used up.
+  virtual void TimeIsUp();
+  virtual void HideCardsAtTimeUp() { ShowCards(false); }
+  // The dial of a round that begins, or of no round; nothing blinks.
+  virtual void ResetDial();
+
+  // --- Pausing -------------------------------------------------------------------------------------
+  virtual void PauseGame();
+  // Only a game in progress goes on.
+  virtual void ResumeGame();
+  // "Game Paused", and its end.
+  virtual void TellPause(bool paused);
+  // Hides the cards of a paused game, or turns them down; or shows them again.
+  virtual void CoverCards(bool covered) { ShowCards(!covered); }
+  // Whether cards lie face down, so that a change of the back design is to be seen on them; and the change.
+  virtual bool BacksAreShown() const { return phase == Phase::Paused; }
+  virtual void RefreshFieldCards() {}
+
+  // --- Minimised and restored ----------------------------------------------------------------------
+  virtual void Minimised() {}
+  virtual void Restored() {}
+
+  // --- The end of a round --------------------------------------------------------------------------
   virtual void cmdTakeScore_Click();
   virtual void mnuTakeScore_Click() { cmdTakeScore_Click(); }
-  // Whether the game stands still while the player is asked about closing.
-  virtual bool PausesBeforeClosing() const { return false; }
+  // Pays the round, then begins the next one or ends the game. The common way is the steps that follow.
+  virtual void TakeScore();
+  // Takes the board away while the round is paid.
+  virtual void HideBoard() { ShowCards(false); }
+  // The awards in the game's order.
+  virtual void PayAwards() {}
+  virtual bool EarnsBonusRound() const { return common.CurrentScore >= BonusScore; }
+  virtual void AnnounceRound(bool bonus);
+  virtual void EndScoring();
+
+  // --- The end of a game ---------------------------------------------------------------------------
+  // The game is played out: its score goes to the table, "Game Over" stands, the splash panel is back.
+  virtual void GameOver();
+  // What else a finished game shows, hides, enables.
+  virtual void GameFinished() {}
+  // A failure has ended the game in progress; the player has been told.
+  virtual void GameFailed();
+
+  // --- End Game ------------------------------------------------------------------------------------
+  virtual std::string EndGameQuestion() const {
+    return "You have a game in progress, are you sure you want to quit?";
+  }
+  // Around the question: the game stands still meanwhile.
+  virtual void BeforeEndQuestion() { PauseGame(); }
+  virtual void AfterEndQuestion(bool /*ends*/) { ResumeGame(); }
+
+  // --- Closing the window --------------------------------------------------------------------------
+  virtual void BeforeClosingQuestion() {}
+  virtual void AfterClosingQuestion(bool /*closes*/) {}
+
+  // --- What is shown, and where --------------------------------------------------------------------
+  // The round's labels and boxes; and those of the score.
+  virtual void ShowControls(bool visible, bool scoreVisible);
+  void ShowControls(bool visible) { ShowControls(visible, visible); }
+  // The game's own part of the first group.
+  virtual void ShowGameControls(bool /*visible*/) {}
   // Places `lblMessage` and `lblScoring` for their present texts.
   virtual void PlaceMessage();
   virtual void PlaceScoring();
-  // Captions of the button and the menu entry Play at once.
-  virtual void SetPlayCaption(const char* caption);
+  virtual void PlaceButtons();
   // Places the board; the splash panel, the buttons and the status bar are placed already.
   virtual void PlaceBoard() {}
-  // What else a finished game enables again.
-  virtual void GameFinished() {}
 
-  // --- What the frame offers ---------------------------------------------------------------------
+  // === What the frame offers =======================================================================
 
-  // Stops the clock, puts the commands back, enters the score in the table, leaves only the score in view.
-  void FinishGame(const std::string& tableName, const std::string& defaultScore);
-  void ShowControls(bool visible, std::optional<bool> scoreVisible = std::nullopt);
-  // Pauses the game, or resumes it, as a click on `cmdPause`.
-  void Pause();
-  // Asks whether the game in progress is to end, with the clock standing still, and ends it on Yes.
+  // A game has begun and hasn't ended.
+  bool InGame() const { return phase != Phase::Idle && phase != Phase::Over; }
+  bool IsPaused() const { return phase == Phase::Paused; }
+  // A card may not be touched now: the game is paused or over.
+  bool BoardIsClosed() const { return phase == Phase::Paused || phase == Phase::Over; }
+
+  // Runs `Play`, as `LeaveIdle` has left the window. If no game comes of it the window is idle again.
+  void StartGame();
   void AskToEndGame(const std::string& question);
-  bool IsPaused() const { return lblMessage.Caption == "Game Paused"; }
+  // A click on Pause: pauses the game, or resumes it.
+  void Pause();
   // Pauses a running game, runs `action`, resumes it.
   void PauseAround(const std::function<void()>& action);
+
+  // A round begins: nothing is being scored, the message is gone, the commands of a running game are there.
+  void OpenRound();
+  // A round ends: `TakingScore`, no clock, no commands, no music, the hourglass.
+  void BeginScoring();
+  // Announces the next round: the message blinks, and is gone. A wave is named by `wave`.
+  void Announce(const std::string& text, const char* wave = nullptr);
+  // Stops the clock, puts the commands back, enters the score in the table, leaves only the score in view.
+  void FinishGame();
+  // Enters the score in the final table, and shows its leader.
+  void EnterHighScore();
+  // Shows the leader of the window's table.
+  void ShowTableLeader();
+  // "Game Over" on that label, for so long.
+  void TellGameOver(Label& label, int milliseconds = 2000);
+
+  // The four command buttons; their four menu entries.
+  void EnableButtons(bool enable);
+  void EnableEntries(bool enable);
   void ShowSplash(bool visible);
-  // A card may not be touched now: the game is paused or over.
-  bool BoardIsClosed() const { return IsPaused() || lblMessage.Caption == "Game Over"; }
-  // Plays a wave if the player wants sounds.
-  void PlaySound(const char* path);
+  void ShowMessage(const std::string& text);
+  void HideMessage();  // and empties it
+  // Swaps a label's colour between red and black that many times.
+  void Blink(Label& label, int times, int milliseconds = 250);
   void AddToScore(long long amount);
   void ShowScore();
-  // Swaps the colour of `lblMessage` between red and black that many times, a quarter of a second each.
-  void BlinkMessage(int times);
-  void ShowMessage(const std::string& text);
-  // Announces the next round, with a wave if one is named: the message blinks, and is gone.
-  void Announce(const std::string& text, const char* wave = nullptr);
-  // "Game Over" for two seconds; then the splash panel is back.
-  void ShowGameOver();
+  // "Time: n" for a round that begins.
+  void ShowRoundTime();
+  // "Make n" and that ending in panel 1.
+  void ShowBonusGoal(const char* ending = " for Bonus Round!   ");
+  // Shows a card, the back of one, or the place of none.
+  void ShowFace(Image& image, std::string_view code);
+  void ShowBack(Image& image);
+  void ShowEmpty(Image& image);
+
+  // If the player wants them.
+  void PlaySound(const char* path);
+  void StartMusic();
+  void StopMusic();
+
   // Places controls as in their design, but in the middle of the present window.
   void PlaceInMiddle(std::span<const Design> rows);
+  // The boxes of the board; a game adds its own. Their edges follow them.
+  void AddScoreBox(Shape& box, Shape& side, Shape& bottom);
   void ChooseTimeLimit(int seconds);
   void ChooseDeck(int number);
   // Ticks `entry` and no other entry of its menu.
   void TickOnly(Menu& entry);
-  // The last sections of every settings file: "[State]", "[Width]", "[Height]", "[Deck]".
-  void WriteWindowSettings(SettingsWriter& writer) const;
   // Applies "True" or "False" to a flag; other values change nothing.
   static void ApplyFlag(std::string_view value, bool& flag);
   // Applies a whole number; what is none, or doesn't fit, changes nothing.
@@ -178,18 +256,16 @@ class GameWindow : public Form {
     if (ParseLong(value, read) && std::in_range<Rep>(read)) number = read;
   }
 
-  // --- The standing controls ---------------------------------------------------------------------
+  // === The standing controls =======================================================================
 
   PictureBox Surface{*this, "Surface"};
   Shape TimerRectangle{*this, "TimerRectangle"}, TimerBevelSide{*this, "TimerBevelSide"},
       TimerBevelBottom{*this, "TimerBevelBottom"};
   Shape ScoreRectangle{*this, "ScoreRectangle"}, ScoreBevelSide{*this, "ScoreBevelSide"},
       ScoreBevelBottom{*this, "ScoreBevelBottom"};
-  Shape RoundRectangle{*this, "RoundRectangle"}, RoundBevelSide{*this, "RoundBevelSide"},
-      RoundBevelBottom{*this, "RoundBevelBottom"};
-  Label lblTime{*this, "lblTime"}, lblScore{*this, "lblScore"}, lblCurrentScore{*this, "lblCurrentScore"},
-      lblRound{*this, "lblRound"}, lblCurrentRound{*this, "lblCurrentRound"},
-      lblHighScore{*this, "lblHighScore"}, lblMessage{*this, "lblMessage"}, lblScoring{*this, "lblScoring"};
+  Shape RoundRectangle, RoundBevelSide, RoundBevelBottom;
+  Label lblTime{*this, "lblTime"}, lblScore{*this, "lblScore"}, lblCurrentScore, lblRound{*this, "lblRound"},
+      lblCurrentRound, lblHighScore{*this, "lblHighScore"}, lblMessage, lblScoring;
   Frame frmSplash{*this, "frmSplash"};
   ControlArray<Image, 4> imgSplashImage{frmSplash, "imgSplashImage"};
   Label lblCompanyProduct{frmSplash, "lblCompanyProduct"}, lblProductName{frmSplash, "lblProductName"},
@@ -204,14 +280,13 @@ class GameWindow : public Form {
   Menu mnuDeck, mnuPalm, mnuMagic, mnuNight, mnuHot;
   Menu mnuHelp, mnuRules, mnuAbout;
 
-  // The boxes of the board; a game adds its own. Their edges follow them.
   std::vector<ScoreBox> scoreBoxes;
-  void AddScoreBox(Shape& box, Shape& side, Shape& bottom);
 
-  // --- Events ------------------------------------------------------------------------------------
+  // === Events ======================================================================================
 
   void Form_Load() override;
   void Form_Resize() override;
+  void Form_StateChange(int before) override;
   void Form_QueryUnload(bool& cancel) override;
   void Form_Unload() override;
 
@@ -221,16 +296,14 @@ class GameWindow : public Form {
   void BindEvents();
   void ReadSettingsINI();
   bool ApplySetting(std::string_view section, std::string_view value);
+  bool ApplyOwnSetting(std::string_view section, std::string_view value);
   void ApplySize(std::string_view section, int value);
   // Writes the settings file; the text that it holds now.
   std::string SaveSettings();
-  void ShowTimeLeft();
-  void Timer1_Timer();
+  void SetPauseCaptions(bool paused);
   void Timer4_Timer();
-  void TimeIsUp();
   void ToggleSounds();
   void ToggleMusic();
-  void ClearHighScores();
 
   int SplashPosition_ = 0;
   bool SplashForward_ = false, SplashShowBack_ = false;

@@ -16,7 +16,7 @@ constexpr Design kSplashDesign[] = {
 
 constexpr Design kButtonDesign[] = {
     {"cmdPlay", 8220, 90, 1200, 420, "&Play", "Starts a new game"},
-    {"cmdPause", 8220, 1110, 1200, 420, "Pau&se", "Pauses the current game"},
+    {"cmdPause", 8220, 1110, 1200, 420},
     {"StatusBar1", 0, 6840, 9540, 360},
 };
 
@@ -31,6 +31,55 @@ void SetEntry(Menu& entry, const char* caption, int rank) {
 }
 
 }  // namespace
+
+GameWindow::GameWindow(modCommon& common, const GamePlan& plan)
+    : Form(common.platform, plan.names.window),
+      common(common),
+      plan(plan),
+      RoundRectangle(*this, plan.names.roundBox.box),
+      RoundBevelSide(*this, plan.names.roundBox.side),
+      RoundBevelBottom(*this, plan.names.roundBox.bottom),
+      lblCurrentScore(*this, plan.names.score),
+      lblCurrentRound(*this, plan.names.roundNumber),
+      lblMessage(*this, plan.names.message),
+      lblScoring(*this, plan.names.scoring),
+      cmdTakeScore(*this, plan.names.takeScoreButton),
+      cmdExit(*this, plan.names.exitButton),
+      ClockTimer(*this, plan.names.clockTimer),
+      mnuFile(*this, plan.names.fileMenu),
+      mnuPlay(mnuFile, "mnuPlay"),
+      mnuTakeScore(mnuFile, plan.names.takeScoreEntry),
+      mnuPause(mnuFile, "mnuPause"),
+      mnuFileLine(mnuFile, "mnuFileLine"),
+      mnuExit(mnuFile, "mnuExit"),
+      mnuOptions(*this, "mnuOptions"),
+      mnuView(mnuOptions, plan.names.viewEntry),
+      mnuClear(mnuOptions, "mnuClear"),
+      mnuOptionsLine(mnuOptions, "mnuOptionsLine"),
+      mnuMusic(mnuOptions, "mnuMusic"),
+      mnuSounds(mnuOptions, "mnuSounds"),
+      mnuCustom(mnuOptions, plan.names.customEntry),
+      mnuTime(mnuOptions, plan.names.timeMenu),
+      mnuDeck(mnuOptions, "mnuDeck"),
+      mnuPalm(mnuDeck, kPalmTree.menu),
+      mnuMagic(mnuDeck, kMagicHands.menu),
+      mnuNight(mnuDeck, kNightCastle.menu),
+      mnuHot(mnuDeck, kHotCards.menu),
+      mnuHelp(*this, "mnuHelp"),
+      mnuRules(mnuHelp, "mnuRules"),
+      mnuAbout(mnuHelp, "mnuAbout") {
+  common.window = this;
+  Sizable = true;
+  MinWidth = plan.width;
+  MinHeight = plan.height;
+  SetUpControls();
+  SetUpMenus();
+  BindEvents();
+}
+
+GameWindow::~GameWindow() {
+  if (common.window == this) common.window = nullptr;
+}
 
 void GameWindow::SetUpControls() {
   ApplyDesign(*this, kSplashDesign);
@@ -54,6 +103,8 @@ void GameWindow::SetUpControls() {
   cmdExit.Caption = "E&xit";
   cmdExit.ToolTipText = "Exits the game";
   cmdExit.Move(8220, 1620, 1200, 420);
+  cmdPause.Caption = plan.names.pause;
+  cmdPause.ToolTipText = plan.names.pauseTip;
   cmdTakeScore.Enabled = false;
   cmdPause.Enabled = false;
 
@@ -78,17 +129,11 @@ void GameWindow::SetUpControls() {
   Timer4.Interval = plan.splashInterval;
 }
 
-void GameWindow::AddScoreBox(Shape& box, Shape& side, Shape& bottom) {
-  box.Sunken = true;
-  side.BorderColor = bottom.BorderColor = kWhite;
-  scoreBoxes.push_back({box, side, bottom});
-}
-
 void GameWindow::SetUpMenus() {
-  SetEntry(mnuFile, plan.fileCaption, 10);
+  SetEntry(mnuFile, plan.names.fileCaption, 10);
   SetEntry(mnuPlay, "&Play", 10);
   SetEntry(mnuTakeScore, "&Take Score", 20);
-  SetEntry(mnuPause, "Pau&se", 30);
+  SetEntry(mnuPause, plan.names.pause, 30);
   SetEntry(mnuFileLine, "-", 80);
   SetEntry(mnuExit, "E&xit", 90);
   mnuTakeScore.Enabled = false;
@@ -96,11 +141,11 @@ void GameWindow::SetUpMenus() {
 
   SetEntry(mnuOptions, "&Options", 20);
   SetEntry(mnuView, "&View High Scores...", 10);
-  SetEntry(mnuClear, plan.clearCaption, 20);
+  SetEntry(mnuClear, plan.names.clearCaption, 20);
   SetEntry(mnuOptionsLine, "-", 30);
   SetEntry(mnuMusic, "Play &Music (plays during game)", 40);
   SetEntry(mnuSounds, "&Play Sounds", 45);
-  SetEntry(mnuCustom, plan.customCaption, 60);
+  SetEntry(mnuCustom, plan.names.customCaption, 60);
   SetEntry(mnuTime, "&Time Limit", 70);
   mnuSounds.Checked = true;
   for (const TimeLimitEntry& limit : plan.limits) {
@@ -125,22 +170,27 @@ void GameWindow::SetUpMenus() {
 }
 
 void GameWindow::BindEvents() {
-  Timer1.OnTimer = [this] { Timer1_Timer(); };
+  Timer1.OnTimer = [this] { Tick(); };
   Timer2.OnTimer = [this] { DrawTimeDial(DialAngle(*this, common.DialSeconds), *this); };
   ClockTimer.OnTimer = [this] { StatusBar1.Panels(3).Text = common.TimeOfDay(); };
   Timer4.OnTimer = [this] { Timer4_Timer(); };
 
-  cmdPlay.OnClick = [this] { cmdPlay_Click(); };
-  mnuPlay.OnClick = [this] { mnuPlay_Click(); };
+  const auto command = [this](auto deed) {
+    return [this, deed] {
+      if (TakesCommand()) deed();
+    };
+  };
+  cmdPlay.OnClick = command([this] { cmdPlay_Click(); });
+  mnuPlay.OnClick = command([this] { mnuPlay_Click(); });
   cmdTakeScore.OnClick = [this] { cmdTakeScore_Click(); };
   mnuTakeScore.OnClick = [this] { mnuTakeScore_Click(); };
-  cmdPause.OnClick = mnuPause.OnClick = [this] { Pause(); };
-  cmdExit.OnClick = mnuExit.OnClick = [this] { Unload(); };
+  cmdPause.OnClick = mnuPause.OnClick = command([this] { Pause(); });
+  cmdExit.OnClick = mnuExit.OnClick = command([this] { Unload(); });
 
   mnuView.OnClick = [this] { PauseAround([this] { frmHighScores(common, *this).Show(true); }); };
   mnuRules.OnClick = [this] { PauseAround([this] { frmRules(common, *this).Show(true); }); };
   mnuAbout.OnClick = [this] { PauseAround([this] { frmAbout(common).Show(true); }); };
-  mnuClear.OnClick = [this] { ClearHighScores(); };
+  mnuClear.OnClick = [this] { mnuClear_Click(); };
   mnuMusic.OnClick = [this] { ToggleMusic(); };
   mnuSounds.OnClick = [this] { ToggleSounds(); };
   mnuCustom.OnClick = [this] { ShowCustomScoring(); };

@@ -1,6 +1,7 @@
 #include "suite/scoring_dialog.h"
 
-#include "window/text.h"
+#include <cmath>
+#include <cstdio>
 
 namespace {
 
@@ -8,31 +9,43 @@ constexpr int kWidth = 8400, kRowHeight = 465;
 
 }  // namespace
 
-std::vector<std::unique_ptr<ScoringDialog::Row>> ScoringDialog::MakeRows(
-    Control& parent, std::span<const ScoringField> fields) {
-  std::vector<std::unique_ptr<Row>> rows;
-  for (const ScoringField& field : fields) rows.push_back(std::make_unique<Row>(parent, field));
+// The boxes take the focus in the order in which they stand.
+std::vector<std::unique_ptr<ScoringDialog::Row>> ScoringDialog::MakeRows(Control& parent,
+                                                                         std::span<const ScoringField> fields,
+                                                                         std::span<const int> order) {
+  std::vector<std::unique_ptr<Row>> rows(fields.size());
+  for (size_t i = 0; i < fields.size(); ++i) {
+    const size_t field = order.empty() ? i : order[i];
+    rows[field] = std::make_unique<Row>(parent, fields[field]);
+  }
   return rows;
 }
 
-ScoringDialog::ScoringDialog(GameWindow& game, std::string_view name, std::span<const ScoringField> fields)
-    : Form(game.platform, name), fields_(fields), rows(MakeRows(frmScoringOptions, fields)), window_(game) {
+ScoringDialog::ScoringDialog(GameWindow& game, const ScoringNames& names,
+                             std::span<const ScoringField> fields)
+    : Form(game.platform, names.window),
+      fields_(fields),
+      frmScoringOptions(*this, names.frame),
+      rows(MakeRows(frmScoringOptions, fields, names.order)),
+      chkCountDown(frmScoringOptions, names.countDown),
+      window(game) {
   int top = 360;
   for (size_t i = 0; i < rows.size(); ++i, top += kRowHeight) {
-    rows[i]->label.Caption = fields[i].caption;
-    rows[i]->label.Move(240, top + 60, 5940, 285);
-    TextBox& box = rows[i]->box;
+    const size_t field = names.order.empty() ? i : names.order[i];
+    rows[field]->label.Caption = fields[field].caption;
+    rows[field]->label.Move(240, top + 60, 5940, 285);
+    TextBox& box = rows[field]->box;
     box.Move(6240, top, 1440, 345);
     box.OnGotFocus = [&box] { box.SelectAll(); };
   }
-  chkCountDown.Caption = "&Count Down when taking score";
+  chkCountDown.Caption = names.countDownCaption;
   chkCountDown.Move(240, top, 5940, 285);
-  frmScoringOptions.Caption = "AppTitle Scoring Options";
+  freeRowsTop_ = top + kRowHeight;
+  top += names.moreRows * kRowHeight;
+  frmScoringOptions.Caption = names.frameCaption;
   frmScoringOptions.Move(240, 180, kWidth - 480, top + 420);
   top += 720;
-  lblInfo.Caption =
-      "Note: Changing any of the Scoring Options will cause your high scores to be marked with an * "
-      "indicating custom scoring was in use.";
+  lblInfo.Caption = names.info;
   lblInfo.Move(240, top, kWidth - 480, 540);
   top += 660;
   int left = (kWidth - 3 * 1320 - 2 * 240) / 2;
@@ -52,47 +65,89 @@ ScoringDialog::ScoringDialog(GameWindow& game, std::string_view name, std::span<
   cmdDefault.OnClick = [this] {
     for (size_t i = 0; i < rows.size(); ++i) rows[i]->box.Text = std::to_string(fields_[i].standard);
     chkCountDown.Value = 1;
+    DefaultsShown();
   };
 }
 
 void ScoringDialog::Form_Load() {
-  CenterOnScreen();
-  Caption = window_.common.AppTitle + " User Options";
-  for (size_t i = 0; i < rows.size(); ++i) rows[i]->box.Text = std::to_string(Setting(i));
-  chkCountDown.Value = window_.common.CountDownScore ? 1 : 0;
-  rows.front()->box.SetFocus();
+  PlaceDialog();
+  Caption = window.common.AppTitle + " User Options";
+  for (size_t i = 0; i < rows.size(); ++i) rows[i]->box.Text = Shown(i);
+  chkCountDown.Value = window.common.CountDownScore ? 1 : 0;
+  if (Visual* first = ActiveControl()) first->SetFocus();
 }
 
-bool ScoringDialog::TakeField(size_t field) {
+int ScoringDialog::FreeRowTop(int row) const { return freeRowsTop_ + row * kRowHeight; }
+
+std::string ScoringDialog::Shown(size_t field) {
+  const double kept = std::visit([](auto* number) { return static_cast<double>(*number); }, Setting(field));
+  return Plain(kept / fields_[field].unit);
+}
+
+void ScoringDialog::SetNumber(size_t field, long long value) {
+  std::visit([&](auto* number) { *number = value; }, Setting(field));
+}
+
+std::string ScoringDialog::Plain(double number) {
+  char text[64];
+  std::snprintf(text, sizeof text, "%.15g", number);
+  return text;
+}
+
+double ScoringDialog::NumberIn(size_t field) const { return Val(rows[field]->box.Text.get()); }
+
+std::optional<ScoringDialog::Refusal> ScoringDialog::Judge(size_t field, double value) {
   const ScoringField& rule = fields_[field];
-  TextBox& box = rows[field]->box;
-  const double value = Val(box.Text.get());
-  if (value >= rule.lowest && value <= rule.highest) {
-    SetSetting(field, RoundHalfEven(value));
+  if (value >= rule.lowest && value <= rule.highest) return std::nullopt;
+  const OutOfBounds& wrong = value < rule.lowest ? rule.below : rule.above;
+  return Refusal{wrong.message, &rows[field]->box, std::to_string(wrong.text), wrong.setting};
+}
+
+void ScoringDialog::Take(size_t field, double value) {
+  SetNumber(field, RoundHalfEven(value * fields_[field].unit));
+}
+
+void ScoringDialog::TakeRefused(size_t field, long long setting) { SetNumber(field, setting); }
+
+bool ScoringDialog::TakeField(size_t field) {
+  const double value = NumberIn(field);
+  const auto refusal = Judge(field, value);
+  if (!refusal) {
+    Take(field, value);
+    FieldPassed(field);
     return true;
   }
-  const OutOfBounds& wrong = value < rule.lowest ? rule.below : rule.above;
-  SetSetting(field, wrong.setting);
-  window_.common.MsgBox(wrong.message, Icon::Information);
-  box.Text = std::to_string(wrong.text);
-  box.SetFocus();
+  if (refusal->setting) TakeRefused(field, *refusal->setting);
+  window.common.MsgBox(refusal->message, Icon::Information);
+  refusal->box->Text = refusal->text;
+  refusal->box->SetFocus();
   return false;
+}
+
+void ScoringDialog::TakeRest() {
+  window.common.CountDownScore = chkCountDown.Value == 1;
+  window.CheckForCustom();
+  window.SettingsRead();
+  window.ShowBonusGoal(" for bonus round.  ");
+}
+
+void ScoringDialog::FieldsChecked(bool lastPassed) {
+  if (lastPassed) TakeRest();
 }
 
 // Every field is looked at, also after one that had to be put right.
 void ScoringDialog::cmdOK_Click() {
   bool allPassed = true, passed = true;
   try {
+    BeforeFields();
     for (size_t i = 0; i < fields_.size(); ++i) {
       passed = TakeField(i);
       allPassed = allPassed && passed;
     }
-    if (passed) {
-      window_.common.CountDownScore = chkCountDown.Value == 1;
-      LastFieldPassed();
-    }
+    FieldsChecked(passed);
   } catch (const RuntimeError& error) {
-    window_.common.MsgBox(error.what(), Icon::Exclamation);
+    window.common.MsgBox(error.what(), Icon::Exclamation);
+    allPassed = false;
   }
   if (allPassed) Unload();
 }

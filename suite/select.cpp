@@ -69,7 +69,7 @@ void frmSelect::Open(const GameEntry& game) {
   window_ = game.create(common_);
   window_->Show();
   MousePointer = kDefaultPointer;
-  Hide();
+  if (window_->Visible) Hide();  // a saved game that can't be played has closed it again
 }
 
 void frmSelect::Timer1_Timer() {

@@ -23,6 +23,7 @@ class Suite {
 
  private:
   void Fail(const std::string& description);
+  void KeepAWindow();
 
   std::vector<GameEntry> games_;
   frmSelect selector_;

@@ -93,3 +93,32 @@ inline std::string Joined(const std::vector<std::string>& parts, const std::stri
   for (const std::string& part : parts) all += (all.empty() ? "" : between) + part;
   return all;
 }
+
+// What a player hears, reads in a label ("frmSpirehold.lblMessage") and waits for, in the order in which it
+// comes; "x20" for what comes twenty times in a row. A count's sound stands with the wait behind it.
+inline std::string StoryOf(const std::string& trace, const std::string& label) {
+  std::vector<std::string> told;
+  std::istringstream lines(trace);
+  for (std::string line; std::getline(lines, line);) {
+    const std::string sound = "* sound \"\\\\", message = "* set " + label + ".Caption ";
+    if (line.starts_with(sound))
+      told.push_back(line.substr(sound.size(), line.find('.') - sound.size()));
+    else if (line.starts_with("* sleep ") && !told.empty() && told.back() == "Snap")
+      told.back() += " " + line.substr(8);
+    else if (line.starts_with("* sleep "))
+      told.push_back(line.substr(8));
+    else if (line.starts_with(message))
+      told.push_back(line.substr(message.size()));
+    else if (line.starts_with("* mci "))
+      told.push_back(Contains(line, "play") ? "music" : Contains(line, "close") ? "silence" : "open");
+    else if (line.starts_with("* msgbox "))
+      told.push_back("box");
+  }
+  std::string all;
+  for (size_t i = 0, next; i < told.size(); i = next) {
+    for (next = i + 1; next < told.size() && told[next] == told[i];) ++next;
+    all += (all.empty() ? "" : ", ") + told[i];
+    if (next - i > 1) all += " x" + std::to_string(next - i);
+  }
+  return all;
+}

@@ -7,33 +7,7 @@ namespace {
 
 const std::string kWin = "frmSpirehold.";
 
-// What a player hears, reads in the big label and waits for, in order; "x20" for what comes twenty times.
-std::string Story(const std::string& trace) {
-  std::vector<std::string> told;
-  std::istringstream lines(trace);
-  for (std::string line; std::getline(lines, line);) {
-    const std::string sound = "* sound \"\\\\", message = "* set frmSpirehold.lblMessage.Caption ";
-    if (line.starts_with(sound))
-      told.push_back(line.substr(sound.size(), line.find('.') - sound.size()));
-    else if (line.starts_with("* sleep ") && !told.empty() && told.back() == "Snap")
-      told.back() += " " + line.substr(8);
-    else if (line.starts_with("* sleep "))
-      told.push_back(line.substr(8));
-    else if (line.starts_with(message))
-      told.push_back(line.substr(message.size()));
-    else if (line.starts_with("* mci "))
-      told.push_back(Contains(line, "play") ? "music" : Contains(line, "close") ? "silence" : "open");
-    else if (line.starts_with("* msgbox "))
-      told.push_back("box");
-  }
-  std::string all;
-  for (size_t i = 0, next; i < told.size(); i = next) {
-    for (next = i + 1; next < told.size() && told[next] == told[i];) ++next;
-    all += (all.empty() ? "" : ", ") + told[i];
-    if (next - i > 1) all += " x" + std::to_string(next - i);
-  }
-  return all;
-}
+std::string Story(const std::string& trace) { return StoryOf(trace, kWin + "lblMessage"); }
 
 class Spirehold : public ::testing::Test {
  protected:

@@ -112,10 +112,10 @@ TEST(SumfallRules, PointerShowsWhatCanBePlayed) {
   EXPECT_EQ(icon("PlayCardPicture"), 66);
   SumfallOf(driver).FieldCardPicture(21).Visible = false;
   EXPECT_EQ(icon("FieldCardPicture(19)"), 66);
-  SumfallOf(driver).lblMessage.Caption = "Game Over";
+  SumfallOf(driver).phase = Phase::Over;
   for (const char* control : {"FieldCardPicture(19)", "UpCardPicture", "PlayCardPicture"})
     EXPECT_EQ(icon(control), 0);
-  SumfallOf(driver).lblMessage.Caption = "";
+  SumfallOf(driver).phase = Phase::Playing;
   SumfallOf(driver).PlayCardPicture.Picture = 13;
   EXPECT_EQ(icon("PlayCardPicture"), 0);
 }

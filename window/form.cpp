@@ -149,7 +149,11 @@ void Form::SurfaceDrawn(PictureBox& surface, const Stroke& stroke) {
 }
 
 void Form::AfterChange(Prop prop) {
-  if (prop == Prop::WindowState) ApplyWindowState();
+  if (prop == Prop::WindowState) {
+    const int before = shownState_;
+    ApplyWindowState();
+    if (loaded_) Form_StateChange(before);
+  }
   if ((prop == Prop::Width || prop == Prop::Height) && loaded_ && !moving_) Form_Resize();
 }
 

@@ -59,6 +59,7 @@ class Form : public Visual {
   virtual void Form_Load() {}
   virtual void Form_Activate() {}
   virtual void Form_Resize() {}
+  virtual void Form_StateChange(int /*before*/) {}  // `WindowState` was `before`; the new size is there
   virtual void Form_QueryUnload(bool& /*cancel*/) {}
   virtual void Form_Unload() {}     // before the form is gone
   virtual void Form_Terminate() {}  // after it

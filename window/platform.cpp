@@ -32,6 +32,7 @@ void Platform::Sleep(int milliseconds) {
 void Platform::DoEvents() {
   if (trace) trace->EventsLetThrough();
   front.Sleep(0);  // shows what has changed
+  front.ServeInput();
   timers.now = front.Milliseconds();
   for (Timer* timer : timers.Waiting(timers.now))
     if (timers.Take(*timer, timers.now)) Tick(*timer);
@@ -73,12 +74,21 @@ void Platform::End(const std::string& failure) {
 }
 
 void Platform::Dispatch(const std::function<void()>& handler) {
+  struct Depth {
+    int& depth;
+    explicit Depth(int& depth) : depth(++depth) {}
+    ~Depth() { --depth; }
+  };
   timers.now = front.Milliseconds();
-  try {
-    handler();
-  } catch (const std::exception& error) {
-    if (OnFailure) OnFailure(error.what());
+  {
+    const Depth within(handlers_);
+    try {
+      handler();
+    } catch (const std::exception& error) {
+      if (OnFailure) OnFailure(error.what());
+    }
   }
+  if (handlers_ == 0 && AfterHandler && !ended_) AfterHandler();
 }
 
 bool Platform::ServeTimer() {

@@ -66,6 +66,9 @@ class FrontEnd : public Observer {
   virtual Extent TextExtent(const Label& label) = 0;
   // Shows what has changed, then lets the time pass. Serves no input and no timer.
   virtual void Sleep(int milliseconds) = 0;
+  // Lets the input through that has waited while a handler ran: each deed as a handler of its own, in order.
+  // Serves no timer. Does nothing where no input comes meanwhile.
+  virtual void ServeInput() {}
   // Shows the box and serves timers until it is answered.
   virtual Answer RunBox(const MessageBox& box) = 0;
   // Serves events until the form is hidden or gone.
@@ -91,9 +94,11 @@ class Platform : public Observer {
   std::string CommandLine;  // a saved game's file name, or ""
   // Told of a failure that no handler caught, with its description.
   std::function<void(const std::string&)> OnFailure;
+  // Called behind each handler that wasn't started within another, unless the program has ended.
+  std::function<void()> AfterHandler;
 
   void Sleep(int milliseconds);
-  // Lets pending events through: each timer with a waiting tick ticks once.
+  // Lets pending events through: the input that has waited, then each timer with a waiting tick, once.
   void DoEvents();
   Answer MsgBox(const std::string& text, const std::string& title, Icon icon = Icon::None,
                 Buttons buttons = Buttons::OK);
@@ -143,4 +148,5 @@ class Platform : public Observer {
   };
   std::vector<Standing> boxes_;
   bool ended_ = false;
+  int handlers_ = 0;  // under way, one within the other
 };

@@ -48,27 +48,15 @@ constexpr ScoringField kFields[] = {
      {"Sorry, you cannot set the Time Bonus value to greater than 32767 points", kLargest, kLargest}},
 };
 
+constexpr ScoringNames kNames{.window = "frmSpireholdCustom"};
+
 }  // namespace
 
 frmSpireholdCustom::frmSpireholdCustom(frmSpirehold& game)
-    : ScoringDialog(game, "frmSpireholdCustom", kFields), game_(game) {}
+    : ScoringDialog(game, kNames, kFields), game_(game) {}
 
-long long frmSpireholdCustom::Setting(size_t field) const {
-  const long long settings[] = {game_.CardValue, game_.BonusScore, game_.HighRunBonus, game_.TowerBonus,
-                                game_.common.TimeBonus};
+ScoringDialog::Number frmSpireholdCustom::Setting(size_t field) {
+  const Number settings[] = {&game_.CardValue, &game_.BonusScore, &game_.HighRunBonus, &game_.TowerBonus,
+                             &game_.common.TimeBonus};
   return settings[field];
-}
-
-void frmSpireholdCustom::SetSetting(size_t field, long long value) {
-  Long* const settings[] = {nullptr, &game_.BonusScore, &game_.HighRunBonus, &game_.TowerBonus,
-                            &game_.common.TimeBonus};
-  if (settings[field])
-    *settings[field] = value;
-  else
-    game_.CardValue = value;
-}
-
-void frmSpireholdCustom::LastFieldPassed() {
-  game_.CheckForCustom();
-  game_.StatusBar1.Panels(1).Text = "Make " + FormatNumber(game_.BonusScore) + " for bonus round.  ";
 }

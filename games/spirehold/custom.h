@@ -9,9 +9,7 @@ class frmSpireholdCustom : public ScoringDialog {
   explicit frmSpireholdCustom(frmSpirehold& game);
 
  protected:
-  long long Setting(size_t field) const override;
-  void SetSetting(size_t field, long long value) override;
-  void LastFieldPassed() override;
+  Number Setting(size_t field) override;
 
  private:
   frmSpirehold& game_;

@@ -1,6 +1,6 @@
 #include "games/spirehold/spirehold.h"
 
-#include "suite/dial.h"
+#include "suite/score_counter.h"
 #include "window/text.h"
 
 using namespace modSpirehold;
@@ -12,43 +12,34 @@ void frmSpirehold::InitRound() {
   common.CreateStandardDeck();
   common.ShuffleDeck();
   Deal();
-  common.TakingScore = false;
-  common.ElapsedSeconds = 0;
   CurrentRun = 0;
-  lblMessage.Caption = "";
-  lblMessage.Visible = false;
   ShowRun();
   ShowHighRun();
-  lblTime.Caption = "Time: " + std::to_string(common.TimeLimit);
   lblCurrentRound.Caption = CurrentRound == 3 ? "Bonus" : std::to_string(CurrentRound);
-  SetPlayCaption("&End Game");
-  for (Menu* entry : {&mnuCustom, &mnuTime, &mnuClearHighRun}) entry->Enabled = false;
-  for (CommandButton* button : {&cmdPause, &cmdTakeScore, &cmdPlay, &cmdExit}) button->Enabled = true;
-  for (Menu* entry : {&mnuPause, &mnuTakeScore}) entry->Enabled = true;
-  ShowControls(true);
-  if (common.PlayMusic) common.StartMusic();
+  mnuClearHighRun.Enabled = false;
+  OpenRound();
 }
 
 void frmSpirehold::Deal() {
   for (int i = 0; i <= kFirstUpCard; ++i) DeckCards[i] = common.Deck.at(i + 1);
-  for (int i = 0; i < kCovered; ++i) ShowBack(UpCardImage(i));
+  for (int i = 0; i < kCovered; ++i) CoverCard(UpCardImage(i));
   for (int i = kCovered; i < kCards; ++i) {
-    ShowFace(UpCardImage(i), DeckCards[i]);
+    ShowCard(UpCardImage(i), DeckCards[i]);
     UpCardImage(i).Enabled = true;
     UpCardImage(i).Visible = true;
   }
   StackIndex = kFirstOfStack;
   UpCardCode = DeckCards[kFirstUpCard];
-  ShowFace(UpCardPicture, UpCardCode);
+  ShowCard(UpCardPicture, UpCardCode);
   UpCardPicture.Enabled = true;
   UpCardValue = ::CardValue(UpCardCode);
   ShowCards(true);
   CardStackPicture.Picture = common.ImageList2("FULL");
   CardsRemaining = kFirstUpCard + 1 - kFirstOfStack;
   lblCards.Caption = std::to_string(CardsRemaining);
-  InitTimeDial(*this);
+  ResetDial();
   Timer1.Enabled = true;
-  StatusBar1.Panels(1).Text = "Make " + FormatNumber(BonusScore) + " for Bonus Round!   ";
+  ShowBonusGoal();
   StatusBar1.Panels(2).Text = "Create runs by clicking on exposed cards!   ";
   HideTowerLabels();
   NewHighRun = false;
@@ -91,7 +82,7 @@ void frmSpirehold::Uncover(int index) {
   for (int covered = 0; covered < kCovered; ++covered) {
     const Pair& pair = kCoveredBy[covered];
     if (!pair.Has(index) || UpCardImage(pair.OtherThan(index)).Visible) continue;
-    ShowFace(UpCardImage(covered), DeckCards[covered]);
+    ShowCard(UpCardImage(covered), DeckCards[covered]);
     UpCardImage(covered).Enabled = true;
   }
 }
@@ -117,7 +108,7 @@ void frmSpirehold::CardStackPicture_Click() {
   CardsRemaining = std::max(0ll, CardsRemaining - 1);
   lblCards.Caption = std::to_string(CardsRemaining);
   PlaySound("\\Click.wav");
-  GoOnAfterError([&] { ShowFace(UpCardPicture, common.Deck.at(StackIndex + 1)); });
+  GoOnAfterError([&] { ShowCard(UpCardPicture, common.Deck.at(StackIndex + 1)); });
   GoOnAfterError([&] { StackIndex += 1; });
   GoOnAfterError([&] { UpCardValue = ::CardValue(DeckCards.at(StackIndex - 1)); });
   if (StackStage(StackIndex))
@@ -131,47 +122,24 @@ void frmSpirehold::UpCardPicture_Click() { PlaySound("\\Chord.wav"); }
 
 // --- Rounds --------------------------------------------------------------------------------------
 
-// An error on the way into a game ends the program.
 void frmSpirehold::Play() {
-  try {
-    common.GameInProgress = true;
-    CurrentRound = 1;
-    TowersCompleted = 0;
-    common.CurrentScore = 0;
-    ShowScore();
-    InitRound();
-    cmdPlay.ToolTipText = "Ends the current game";
-  } catch (const std::exception& error) {
-    common.MsgBox(error.what());
-    platform.End(error.what());
-  }
+  common.GameInProgress = true;
+  CurrentRound = 1;
+  TowersCompleted = 0;
+  common.CurrentScore = 0;
+  ShowScore();
+  InitRound();
+  cmdPlay.ToolTipText = "Ends the current game";
 }
 
-void frmSpirehold::TakeScore() {
-  common.TakingScore = true;
-  Timer1.Enabled = false;
-  for (CommandButton* button : {&cmdTakeScore, &cmdPlay, &cmdPause, &cmdExit}) button->Enabled = false;
-  MousePointer = kHourglass;
-  ShowCards(false, false);
-  if (common.PlayMusic) common.StopMusic();
-  CurrentRound += 1;
+void frmSpirehold::PayAwards() {
   lblMessage.ForeColor = kRed;
   lblMessage.Visible = true;
   if (common.TimeLimit - common.ElapsedSeconds > 0)
     TowersCompleted != 0 ? CountTimeBonus(*this, common.TimeBonus) : RefuseTimeBonus();
   TowerScore();
   HighRunScore();
-  if (CurrentRound == 2) {
-    lblMessage.ForeColor = kRed;
-    Announce("Prepare for Round Two!");
-    InitRound();
-  } else if (CurrentRound == 3 && common.CurrentScore >= BonusScore) {
-    Announce("Prepare for Bonus Round!", "\\Applause.wav");
-    InitRound();
-  } else {
-    GameOver();
-  }
-  EndScoring();
+  lblMessage.ForeColor = kRed;
 }
 
 void frmSpirehold::RefuseTimeBonus() {
@@ -203,30 +171,14 @@ void frmSpirehold::HighRunScore() {
   HideAmount(*this);
 }
 
-void frmSpirehold::GameOver() {
-  MousePointer = kHourglass;
-  FinishGame(plan.tableName, plan.defaultScore);
+void frmSpirehold::GameFinished() {
+  mnuClearHighRun.Enabled = true;
   HideTowerLabels();
-  cmdPlay.ToolTipText = "Starts a new game";
-  ShowGameOver();
-  cmdPlay.Enabled = true;
-  cmdExit.Enabled = true;
-}
-
-void frmSpirehold::EndScoring() {
-  lblScoring.Visible = false;
-  MousePointer = kDefaultPointer;
 }
 
 void frmSpirehold::EndGame() {
-  FinishGame(plan.tableName, plan.defaultScore);
+  FinishGame();
+  GameFinished();
   ShowSplash(true);
-  HideTowerLabels();
-  if (common.PlayMusic) common.StopMusic();
-}
-
-void frmSpirehold::GameFailed() {
-  if (common.PlayMusic) common.StopMusic();
-  HideAmount(*this);
-  GameOver();
+  StopMusic();
 }

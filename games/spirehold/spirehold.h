@@ -20,16 +20,15 @@ class frmSpirehold : public GameWindow {
   // --- State -------------------------------------------------------------------------------------
   modSpirehold::Cards DeckCards;
   std::string UpCardCode;
-  Integer StackIndex, UpCardValue = modSpirehold::kNoRank, CardsRemaining, CurrentRound;
+  Integer StackIndex, UpCardValue = modSpirehold::kNoRank, CardsRemaining;
   Integer CurrentRun, HighestRun, RunValue;  // `RunValue` lives on until a card is turned
   Long TowersCompleted;
   bool NewHighRun = false;
   // Settings.
   Integer CardValue;
-  Long BonusScore, HighRunBonus, TowerBonus;
+  Long HighRunBonus, TowerBonus;
 
   // --- Play --------------------------------------------------------------------------------------
-  void InitRound();
   void Deal();
   // Whether the card may be taken; if so it counts as the up card from now on.
   bool CheckForLegalMove(int index);
@@ -38,37 +37,34 @@ class frmSpirehold : public GameWindow {
   void UpCardPicture_Click();
   void lblCurrentRun_Change();
   void ShowCards(bool visible, bool disable);
-  // Sets `CustomScoringInUse`.
-  void CheckForCustom();
 
   // --- The frame's plan --------------------------------------------------------------------------
   void Play() override;
-  void TakeScore() override;
+  void InitRound() override;
+  void HideBoard() override { ShowCards(false, false); }
+  void PayAwards() override;
   void EndGame() override;
-  void GameFailed() override;
+  void GameFinished() override;
   void ShowCards(bool visible) override { ShowCards(visible, true); }
   void CoverCards(bool covered) override;
   void RefreshPlayCard() override;
   void RefreshFieldCards() override;
+  // Covered cards lie face down in play, too.
+  bool BacksAreShown() const override { return true; }
   void ShowCustomScoring() override;
-  RulesPage Rules() const override;
-  void WriteSettings(SettingsWriter& writer) const override;
-  void SetDefaults() override;
-  bool ApplyGameSetting(std::string_view section, std::string_view value) override;
-  void SettingsRead() override { CheckForCustom(); }
+  RulesText Rules() const override;
   std::string HighScorePrefix() const override { return "Current High Score: "; }
   void ShowGameControls(bool visible) override;
   void HideCardsAtTimeUp() override { ShowCards(false, false); }
   // The menu entry reads "&Play" at all times.
   void SetPlayCaption(const char* caption) override { cmdPlay.Caption = caption; }
   void PlaceBoard() override;
-  void GameFinished() override { mnuClearHighRun.Enabled = true; }
 
  private:
   void SetUpBoard();
   void BindBoardEvents();
-  void ShowFace(Image& image, std::string_view code);
-  void ShowBack(Image& image);
+  void ShowCard(Image& image, std::string_view code);
+  void CoverCard(Image& image);
   void ShowRun();
   void ShowHighRun();
   void HideTowerLabels();
@@ -77,6 +73,4 @@ class frmSpirehold : public GameWindow {
   void TowerScore();
   void HighRunScore();
   void RefuseTimeBonus();
-  void GameOver();
-  void EndScoring();
 };

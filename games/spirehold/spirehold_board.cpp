@@ -14,14 +14,24 @@ constexpr TimeLimitEntry kLimits[] = {
     {90, "mnu90", "&90 seconds "},
 };
 
-constexpr GamePlan kPlan = [] {
-  GamePlan plan{"frmSpirehold", "\\Spirehold.Ini", "SpireholdHiScores", "30000", 9570, 7200, kLimits, 45};
-  plan.fileMenu = "mnuGame";
-  plan.fileCaption = "&Game";
-  plan.playStartsMusic = false;
-  plan.backsInPlay = true;
-  return plan;
-}();
+constexpr const char* kSections[] = {
+    "[Play Music]",       "[Time]",        "[Play Sounds]", "[Hi Run]",
+    "[Card Bonus]",       "[Bonus Score]", "[Tower Bonus]", "[High Run Bonus]",
+    "[Count Down Score]", "[Time Bonus]",  "[State]",       "[Width]",
+    "[Height]",           "[Deck]"};
+
+constexpr GamePlan kPlan{
+    .names = {.window = "frmSpirehold",
+              .settingsFile = "\\Spirehold.Ini",
+              .fileMenu = "mnuGame",
+              .fileCaption = "&Game"},
+    .tables = OneTable("SpireholdHiScores", "30000"),
+    .width = 9570,
+    .height = 7200,
+    .limits = kLimits,
+    .timeLimit = 45,
+    .sections = kSections,
+};
 
 // Everything but the towers. The cards take the upper part, across the whole width; the rest stands below.
 constexpr Design kDesign[] = {
@@ -61,6 +71,13 @@ constexpr Design kButtonDesign[] = {
 }  // namespace
 
 frmSpirehold::frmSpirehold(modCommon& common) : GameWindow(common, kPlan) {
+  settings = {{"[Card Bonus]", &CardValue, kCardValue},
+              {"[Bonus Score]", &BonusScore, kBonusScore},
+              {"[High Run Bonus]", &HighRunBonus, kHighRunBonus},
+              {"[Tower Bonus]", &TowerBonus, kTowerBonus},
+              {"[Time Bonus]", &common.TimeBonus, kTimeBonus},
+              {"[Hi Run]", &HighestRun, 0, Customises::No},
+              {"[Count Down Score]", &common.CountDownScore, true, Customises::No}};
   SetUpBoard();
   BindBoardEvents();
 }
@@ -125,15 +142,13 @@ void frmSpirehold::PlaceBoard() {
 
 // --- Showing -------------------------------------------------------------------------------------
 
-void frmSpirehold::ShowFace(Image& image, std::string_view code) {
-  image.Picture = common.ImageList2(CardKey(code));
-  image.BorderStyle = 1;
+void frmSpirehold::ShowCard(Image& image, std::string_view code) {
+  ShowFace(image, code);
   image.MouseIcon = common.ImageList2("POINTER");
 }
 
-void frmSpirehold::ShowBack(Image& image) {
-  image.Picture = common.ImageList2("BACK");
-  image.BorderStyle = 0;
+void frmSpirehold::CoverCard(Image& image) {
+  ShowBack(image);
   image.MouseIcon = 0;
 }
 
@@ -160,7 +175,7 @@ void frmSpirehold::RefreshPlayCard() {
 
 void frmSpirehold::RefreshFieldCards() {
   for (int i = 0; i < kCards; ++i)
-    if (UpCardImage(i).Visible && !UpCardImage(i).Enabled) ShowBack(UpCardImage(i));
+    if (UpCardImage(i).Visible && !UpCardImage(i).Enabled) CoverCard(UpCardImage(i));
 }
 
 void frmSpirehold::ShowRun() { lblCurrentRun.Caption = "Current Run: " + std::to_string(CurrentRun); }
@@ -173,95 +188,4 @@ void frmSpirehold::ShowGameControls(bool visible) {
   SetVisible({&lblCurrentRun, &lblHighRun, &lblHighScore, &lblCardCount, &lblCards, &lblNextCard}, visible);
 }
 
-// --- Settings and texts --------------------------------------------------------------------------
-
-void frmSpirehold::SetDefaults() {
-  CardValue = kCardValue;
-  BonusScore = kBonusScore;
-  HighRunBonus = kHighRunBonus;
-  TowerBonus = kTowerBonus;
-  common.TimeBonus = kTimeBonus;
-}
-
-void frmSpirehold::CheckForCustom() {
-  common.CustomScoringInUse = CardValue != kCardValue || BonusScore != kBonusScore ||
-                              HighRunBonus != kHighRunBonus || TowerBonus != kTowerBonus ||
-                              common.TimeBonus != kTimeBonus;
-}
-
-bool frmSpirehold::ApplyGameSetting(std::string_view section, std::string_view value) {
-  if (section == "[Hi Run]")
-    ApplyNumber(value, HighestRun);
-  else if (section == "[Card Bonus]")
-    ApplyNumber(value, CardValue);
-  else if (section == "[Bonus Score]")
-    ApplyNumber(value, BonusScore);
-  else if (section == "[Tower Bonus]")
-    ApplyNumber(value, TowerBonus);
-  else if (section == "[High Run Bonus]")
-    ApplyNumber(value, HighRunBonus);
-  else if (section == "[Time Bonus]")
-    ApplyNumber(value, common.TimeBonus);
-  else if (section == "[Count Down Score]")
-    ApplyFlag(value, common.CountDownScore);
-  else
-    return false;
-  return true;
-}
-
-void frmSpirehold::WriteSettings(SettingsWriter& writer) const {
-  writer.AddFlag("[Play Music]", common.PlayMusic);
-  writer.Add(plan.timeSection, common.TimeLimit);
-  writer.AddFlag("[Play Sounds]", common.PlaySounds);
-  writer.Add("[Hi Run]", HighestRun);
-  writer.Add("[Card Bonus]", CardValue);
-  writer.Add("[Bonus Score]", BonusScore);
-  writer.Add("[Tower Bonus]", TowerBonus);
-  writer.Add("[High Run Bonus]", HighRunBonus);
-  writer.AddFlag("[Count Down Score]", common.CountDownScore);
-  writer.Add("[Time Bonus]", common.TimeBonus);
-  WriteWindowSettings(writer);
-}
-
 void frmSpirehold::ShowCustomScoring() { frmSpireholdCustom(*this).Show(true); }
-
-RulesPage frmSpirehold::Rules() const {
-  const std::string& title = common.AppTitle;
-  const auto number = [](long long value) { return FormatNumber(value); };
-  return {
-      33,
-      {"Requirements: To run " + title +
-           " you need Windows 95 or above "
-           "and a mouse. "
-           " Recommended: Soundcard.",
-       "As with most games, the object of " + title +
-           " is to attain the highest number of points "
-           "possible. The game consists of two rounds, each lasting " +
-           number(common.TimeLimit) + " seconds. If you earn more than " + number(BonusScore) +
-           " points in these rounds you are awarded an additional bonus round.",
-       "You earn points in a number ways:",
-       "1. Clicking on exposed cards to create runs. For example, Ace-2-3 or 9-8-7-6-5. A run may span from "
-       "a "
-       "King "
-       "to an Ace and vice versa. For example Queen-King-Ace-2 and 3-2-Ace-King are both valid runs. The "
-       "longer the "
-       "run the more points you earn. Each time a new card is added to a run, the selected card's value "
-       "increases by " +
-           number(CardValue) + " points.",
-       "2. Creating the longest run. " + title +
-           " keeps a record of the longest run attained. "
-           "When you exceed the longest run you receive an additional " +
-           number(HighRunBonus) + " points for each card in the run.",
-       "3. Clearing Towers. The upper card area is layed out in a manner that represents three 'Towers'. You "
-       "can earn an additional "
-       "bonus by clearing these Towers. This bonus is equal to the number of Towers cleared multiplied by " +
-           number(TowerBonus) + " points.",
-       "4. Time Bonus. If you have no playable cards remaining, clicking the 'Take Score' button will end "
-       "the "
-       "current round"
-       " and award you " +
-           number(common.TimeBonus) +
-           " points for each second remaining on the clock. "
-           "You do not get the Time Bonus if you have not cleared at least one tower.",
-       "Good luck and have fun!"}};
-}

@@ -51,10 +51,10 @@ frmSumfallCustomScoring::frmSumfallCustomScoring(frmSumfall& game)
   cmdOK.OnClick = [this] { cmdOK_Click(); };
   cmdCancel.OnClick = [this] { Unload(); };
   cmdDefault.OnClick = [this] {
-    txtBonus.Text = "80000";
-    txtCompletion.Text = "10000";
-    txtElevensBonus.Text = "1500";
-    txtTimeBonus.Text = "100";
+    txtBonus.Text = std::to_string(modSumfall::kBonusRoundScore);
+    txtCompletion.Text = std::to_string(modSumfall::kCompletionBonus);
+    txtElevensBonus.Text = std::to_string(modSumfall::kCombinationBonus);
+    txtTimeBonus.Text = std::to_string(modSumfall::kTimeBonus);
   };
 }
 
@@ -97,9 +97,8 @@ void frmSumfallCustomScoring::cmdOK_Click() {
     return;
   }
   for (const auto& field : fields) field.value = NumberIn(field.box);
-  game_.ShowBonusRoundGoal();
-  game_.common.CustomScoringInUse = game_.BonusRoundScore != 80000 || game_.CompletionBonus != 10000 ||
-                                    game_.CombinationBonus != 1500 || game_.common.TimeBonus != 100;
+  game_.ShowBonusGoal();
+  game_.CheckForCustom();
   Unload();
 }
 

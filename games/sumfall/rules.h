@@ -15,6 +15,10 @@ namespace modSumfall {
 
 inline constexpr int kPlaces = 22;
 inline constexpr int kUpCards = 32;  // indices 1 to 31 hold cards
+inline constexpr int kBonusRound = 3;
+// What a game pays when nobody has changed it.
+inline constexpr int kBonusRoundScore = 80000, kCompletionBonus = 10000, kCombinationBonus = 1500,
+                     kTimeBonus = 100;
 inline constexpr int kLowestGoal = 10, kHighestGoal = 15, kDefaultGoal = 11;
 
 // One place of the field, relative to place 0, in twips.

@@ -1,7 +1,6 @@
 #include "games/sumfall/sumfall.h"
 
 #include "suite/dial.h"
-#include "suite/high_scores.h"
 #include "window/text.h"
 
 using namespace modSumfall;
@@ -35,13 +34,12 @@ bool frmSumfall::Deal(bool newGame) {
     UpCardSelectionRectangle.Visible = false;
     UpCardPicture.BorderStyle = 1;
     PlayCardPicture.Visible = false;
-    lblMessage.Caption = "";
-    lblMessage.Visible = false;
+    HideMessage();
     for (int i = 1; i < kPlaces; ++i) {
       FieldCardPicture(i).Visible = false;
       FieldSelectionRectangle(i).Visible = false;
     }
-    ShowBonusRoundGoal();
+    ShowBonusGoal();
     StatusBar1.Panels(2).Text = "Click on exposed cards to total " + std::to_string(CardGoal) + "!   ";
     CardTotalVisible(true);
     lblCardCount.Caption = "Cards: " + std::to_string(stockBound);
@@ -65,7 +63,7 @@ bool frmSumfall::Deal(bool newGame) {
     CurrentTotal = 0;
     ShowTotal();
     lblCurrentTotal.Visible = true;
-    lblTime.Caption = "Time: " + std::to_string(common.TimeLimit);
+    ShowRoundTime();
     lblTime.Visible = true;
     Timer1.Enabled = true;
     common.ElapsedSeconds = 0;
@@ -81,7 +79,7 @@ bool frmSumfall::Deal(bool newGame) {
     lblCurrentElevens.Caption = "0";
     ShowControls(true);
     StoreRoundDeck();
-    InitTimeDial(*this);
+    ResetDial();
     ShowTimerRect();
     return true;
   } catch (const RuntimeError&) {
@@ -234,12 +232,7 @@ void frmSumfall::Play() {
   }
   if (!ready || !Deal(true)) {
     common.MsgBox("Unknown Error! Unable to play " + common.AppTitle, Icon::Critical, Buttons::OKCancel);
-    Unload();
-    if (!Loaded()) return;
-    SetPlayCaption("&Play");
-    EndGame();
-    MousePointer = kDefaultPointer;
-    return;
+    return Unload();
   }
   common.GameInProgress = true;
   common.TakingScore = false;
@@ -255,32 +248,31 @@ void frmSumfall::Play() {
   MousePointer = kDefaultPointer;
 }
 
-void frmSumfall::TakeScore() {
-  common.TakingScore = true;
-  Timer1.Enabled = false;
-  MousePointer = kHourglass;
-  if (common.PlayMusic) common.StopMusic();
+// Told like any other failure: there is no game yet that could be lost.
+void frmSumfall::PlayFailed(const std::string&) { throw; }
+
+void frmSumfall::BackToIdle() {
+  GameWindow::BackToIdle();
+  EndGame();
+}
+
+void frmSumfall::HideBoard() {
   DisableCommandButtons(true);
   SelRectangle(false);
-  const bool completed = CheckForCompletion();
+  completed_ = CheckForCompletion();
   FieldCardDisplay(false);
   CardTotalVisible(false);
   ShowLowerCards(false);
-  if (completed) PayCompletionBonus();
+}
+
+// What was clicked during the count meets `TakingScore` in the pending events.
+void frmSumfall::PayAwards() {
+  if (completed_) PayCompletionBonus();
   if (CombinationCount != 0) PayCombinationBonus();
   lblCurrentElevens.ForeColor = kBlue;
   if (common.TimeLimit - common.ElapsedSeconds >= 1) PayTimeBonus();
   platform.DoEvents();
   common.TakingScore = false;
-  if (CurrentRound == 1) {
-    StartRound(2, "Prepare for Round Two!");
-  } else if (CurrentRound == 2 && common.CurrentScore >= BonusRoundScore) {
-    PlaySound("\\HighScore.wav");
-    StartRound(3, "Bonus Round!");
-  } else {
-    GameOver();
-  }
-  EndScoring();
 }
 
 void frmSumfall::PayCompletionBonus() {
@@ -351,33 +343,34 @@ void frmSumfall::PayTimeBonus() {
   }
 }
 
-void frmSumfall::StartRound(int round, const char* announcement) {
-  Announce(announcement);
-  CurrentRound = round;
+void frmSumfall::AnnounceRound(bool bonus) {
+  if (!bonus) return Announce("Prepare for Round Two!");
+  PlaySound("\\HighScore.wav");
+  Announce("Bonus Round!");
+}
+
+void frmSumfall::InitRound() {
   lblCurrentRound.Caption = std::to_string(CurrentRound);
-  const CardCodes& stored = RoundDeck(round);
+  const CardCodes& stored = RoundDeck(CurrentRound);
   if (ReplayPending && stored.size() > 1 && !stored[1].empty()) {
     common.Deck = stored;
   } else {
     common.ShuffleDeck();
   }
-  if (!Deal()) {  // only the cards of a damaged saved game can't be dealt
-    SetPlayCaption("&Play");
-    cmdPlay.ToolTipText = "Starts a new game";
-    DisableCommandButtons(false);
-    return EndGame();
-  }
-  lblMessage.Visible = false;
+  phase = Phase::Playing;
   DisableCommandButtons(false);
-  if (round == 3) {
+  if (!Deal()) return BackToIdle();  // only the cards of a damaged saved game can't be dealt
+  lblMessage.Visible = false;
+  if (CurrentRound == kBonusRound) {
     lblCurrentRound.Caption = "Bonus";
-    if (common.PlayMusic) common.StartMusic();
+    StartMusic();
     ReplayPending = false;
   }
   FieldCardDisplay(true);
 }
 
 void frmSumfall::GameOver() {
+  Timer1.Enabled = false;
   for (int i = 0; i < kPlaces; ++i) {
     FieldCardPicture(i).Visible = false;
     FieldSelectionRectangle(i).Visible = false;
@@ -390,10 +383,10 @@ void frmSumfall::GameOver() {
   mnuOpen.Enabled = true;
   StatusBar1.Panels(2).Text = "Game over";
   lblCurrentTotal.Caption = "0";
-  UpdateHighScoreTable(plan.tableName, *this, plan.defaultScore);
-  ShowHighScore(plan.tableName, *this, plan.defaultScore);
+  EnterHighScore();
   lblMessage.Top = Height / 2;
-  ShowGameOver();
+  TellGameOver(lblMessage);
+  ShowSplash(true);
   cmdExit.Enabled = true;
   cmdPlay.Enabled = true;
   cmdPlay.ToolTipText = "Starts a new game";
@@ -407,8 +400,7 @@ void frmSumfall::GameOver() {
   cmdPause.Enabled = false;
   mnuPause.Enabled = false;
   common.ElapsedSeconds = common.TimeLimit;
-  Timer2.Enabled = false;
-  DrawTimeDial(0, *this);
+  ResetDial();
   ReplayPending = false;
 }
 
@@ -419,13 +411,6 @@ void frmSumfall::EndScoring() {
   SelRectangle(false);
   CardTotalVisible(true);
   MousePointer = kDefaultPointer;
-}
-
-void frmSumfall::GameFailed() {
-  Timer1.Enabled = false;
-  FieldCardDisplay(false);
-  GameOver();
-  EndScoring();
 }
 
 void frmSumfall::EndGame() {
@@ -456,26 +441,29 @@ void frmSumfall::EndGame() {
   for (Menu* entry : {&mnuTime, &mnuGoal, &mnuCustom, &mnuSave, &mnuOpen, &mnuPlay}) entry->Enabled = true;
   mnuPause.Enabled = false;
   ShowSplash(true);
-  if (common.PlayMusic) common.StopMusic();
+  StopMusic();
 }
 
 // --- Commands ------------------------------------------------------------------------------------
 
 void frmSumfall::cmdPlay_Click() {
-  if (cmdPlay.Caption != "&Play") {
-    return AskToEndGame("You have a game in progress, are you sure you want to quit now?");
-  }
+  if (InGame()) return GameWindow::cmdPlay_Click();
   mnuSave.Enabled = false;
   GameWindow::cmdPlay_Click();
+  if (common.GameInProgress) StartMusic();
+}
+
+std::string frmSumfall::EndGameQuestion() const {
+  return "You have a game in progress, are you sure you want to quit now?";
 }
 
 // Unlike the button, the entry leaves the splash timer and `mnuSave` alone and starts no music.
 void frmSumfall::mnuPlay_Click() {
-  if (mnuPlay.Caption == "&Play") {
+  if (!InGame()) {
     cmdPlay.ToolTipText = "Ends the game in progress";
     SetPlayCaption("&End Game");
     frmSplash.Visible = false;
-    Play();
+    StartGame();
   } else if (common.GameInProgress) {
     AskToEndGame("You have a game in progress, are you sure you want to restart now?");
   } else {
@@ -484,18 +472,27 @@ void frmSumfall::mnuPlay_Click() {
   }
 }
 
+void frmSumfall::BeforeClosingQuestion() {
+  pausedForClosing_ = phase == Phase::Playing;
+  if (pausedForClosing_) PauseGame();
+}
+
+void frmSumfall::AfterClosingQuestion(bool closes) {
+  if (pausedForClosing_ && !closes) ResumeGame();
+}
+
 void frmSumfall::cmdTakeScore_Click() { ReplayOrTakeScore(true); }
 
 void frmSumfall::mnuTakeScore_Click() { ReplayOrTakeScore(false); }
 
 void frmSumfall::ReplayOrTakeScore(bool fromButton) {
-  if (cmdTakeScore.Caption == "&Replay") {
+  if (!InGame()) {
     ReplayPending = true;
     cmdPlay_Click();
   } else if (!common.TakingScore) {
     TakeScore();
     // The bonus round has started its music by itself.
-    if (fromButton && common.PlayMusic && common.GameInProgress && CurrentRound != 3) common.StartMusic();
+    if (fromButton && common.GameInProgress && CurrentRound != kBonusRound) StartMusic();
   }
 }
 
@@ -503,7 +500,7 @@ void frmSumfall::ChooseGoal(int goal) {
   TickOnly(*goalEntries[goal - kLowestGoal]);
   lblElevens.Caption = GoalWord(goal);
   CardGoal = goal;
-  ShowHighScore(plan.tableName, *this, plan.defaultScore);
+  ShowTableLeader();
   StatusBar1.Panels(2).Text = "Click on exposed cards to total " + std::to_string(CardGoal) + "!   ";
 }
 

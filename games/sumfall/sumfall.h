@@ -32,10 +32,11 @@ class frmSumfall : public GameWindow {
   std::array<std::string, modSumfall::kPlaces> FieldCards;
   std::array<std::string, modSumfall::kUpCards> UpCards;  // index 0 stays empty
   std::vector<std::string> StockCards;
-  Integer UpCardIndex, StockIndex, CardGoal, CurrentTotal, CurrentRound, SelectionColorIndex;
+  Integer UpCardIndex, StockIndex, CardGoal, CurrentTotal, SelectionColorIndex;
   int DeckGoal = modSumfall::kDefaultGoal;  // the card goal that the decks were made for
   Long CombinationCount;
-  Long BonusRoundScore, CompletionBonus, CombinationBonus;
+  Long& BonusRoundScore = BonusScore;
+  Long CompletionBonus, CombinationBonus;
   bool CountDownScore = true;  // of this game alone
   bool ReplayPending = false, UpCardUsed = false;
 
@@ -56,24 +57,28 @@ class frmSumfall : public GameWindow {
   bool LoadSavedGame(const std::filesystem::path& path);
   // The last game, as `frmSave` writes it.
   modSumfall::SavedGame LastGame(const std::string& userName) const;
-  // "Make n for Bonus Round!" in panel 1.
-  void ShowBonusRoundGoal();
 
   // --- The frame's plan --------------------------------------------------------------------------
   void Form_Activate() override;
   void Play() override;
-  void TakeScore() override;
+  void PlayFailed(const std::string& description) override;
+  void BackToIdle() override;
+  void HideBoard() override;
+  void PayAwards() override;
+  void AnnounceRound(bool bonus) override;
+  void InitRound() override;
+  void EndScoring() override;
+  void GameOver() override;
   void EndGame() override;
-  void GameFailed() override;
   void ShowCards(bool visible) override;
   void CoverCards(bool covered) override;
   void RefreshPlayCard() override;
   void RefreshFieldCards() override;
   void ShowCustomScoring() override;
-  RulesPage Rules() const override;
-  void WriteSettings(SettingsWriter& writer) const override;
+  RulesText Rules() const override;
   void SetDefaults() override;
   bool ApplyGameSetting(std::string_view section, std::string_view value) override;
+  void SettingsRead() override { mnuDrawTimer.Checked = CountDownScore; }
   std::string TableFile(const std::string& tableName) const override;
   std::string HighScoreInfo() const override;
   void ShowSplashFace(Image& image) override;
@@ -84,7 +89,9 @@ class frmSumfall : public GameWindow {
   void mnuPlay_Click() override;
   void cmdTakeScore_Click() override;
   void mnuTakeScore_Click() override;
-  bool PausesBeforeClosing() const override { return true; }
+  std::string EndGameQuestion() const override;
+  void BeforeClosingQuestion() override;
+  void AfterClosingQuestion(bool closes) override;
   void PlaceMessage() override;
   void PlaceBoard() override;
 
@@ -108,10 +115,8 @@ class frmSumfall : public GameWindow {
   void PayCompletionBonus();
   void PayCombinationBonus();
   void PayTimeBonus();
-  void StartRound(int round, const char* announcement);
-  void GameOver();
-  void EndScoring();
   void ReplayOrTakeScore(bool fromButton);
 
-  bool commandLineTaken_ = false;
+  bool commandLineTaken_ = false, pausedForClosing_ = false;
+  bool completed_ = false;  // the field, in the round that is being paid
 };

@@ -13,16 +13,26 @@ constexpr TimeLimitEntry kLimits[] = {
     {120, "mnu120", "&120 seconds"}, {150, "mnu150", "1&50 seconds"}, {180, "mnu180", "1&80 seconds"},
 };
 
-constexpr GamePlan kPlan = [] {
-  GamePlan plan{"frmSumfall", "\\Sumfall.Ini", "HiScores", "50000", 9540, 7200, kLimits, 90};
-  plan.splashInterval = 250;
-  plan.fileCaption = "&Game";
-  plan.viewMenu = "mnuViewHiScore";
-  plan.clearCaption = "&Cear High Scores...";
-  plan.customMenu = "mnuScoring";
-  plan.customCaption = "C&ustomize Scoring...";
-  return plan;
-}();
+constexpr const char* kSections[] = {"[Color]",    "[Play Music]", "[Time]",  "[DrawTimer]", "[Play Sounds]",
+                                     "[CardGoal]", "[State]",      "[Width]", "[Height]",    "[Deck]"};
+
+constexpr GamePlan kPlan{
+    .names = {.window = "frmSumfall",
+              .settingsFile = "\\Sumfall.Ini",
+              .scoring = "",
+              .viewEntry = "mnuViewHiScore",
+              .customEntry = "mnuScoring",
+              .fileCaption = "&Game",
+              .clearCaption = "&Cear High Scores...",
+              .customCaption = "C&ustomize Scoring..."},
+    .tables = OneTable("HiScores", "50000"),
+    .width = 9540,
+    .height = 7200,
+    .limits = kLimits,
+    .timeLimit = 90,
+    .sections = kSections,
+    .splashInterval = 250,
+};
 
 constexpr Design kDesign[] = {
     {"lblTime", 150, 120, 1500, 255, "Time:"},
@@ -52,6 +62,13 @@ constexpr Design kDesign[] = {
 }  // namespace
 
 frmSumfall::frmSumfall(modCommon& common) : GameWindow(common, kPlan) {
+  settings = {{"", &BonusRoundScore, kBonusRoundScore},
+              {"", &CompletionBonus, kCompletionBonus},
+              {"", &CombinationBonus, kCombinationBonus},
+              {"", &common.TimeBonus, kTimeBonus},
+              {"[Color]", &SelectionColorIndex, kDefaultColour, Customises::No},
+              {"[CardGoal]", &CardGoal, kDefaultGoal, Customises::No},
+              {"[DrawTimer]", &CountDownScore, true, Customises::No}};
   SetUpBoard();
   SetUpGameMenus();
   BindBoardEvents();
@@ -128,14 +145,14 @@ void frmSumfall::SetUpGameMenus() {
 void frmSumfall::BindBoardEvents() {
   FieldCardPicture.OnClick([this](int index) { FieldCardPicture_Click(index); });
   FieldCardPicture.OnMouseMove([this](int index) {
-    const bool playable = lblMessage.Caption != "Game Over" && CheckLegalFieldCardMove(index);
+    const bool playable = phase != Phase::Over && CheckLegalFieldCardMove(index);
     FieldCardPicture(index).MouseIcon = playable ? common.ImageList2("POINTER") : 0;
   });
   UpCardPicture.OnClick = [this] { UpCardPicture_Click(); };
   PlayCardPicture.OnClick = [this] { PlayCardPicture_Click(); };
   for (Image* image : {&UpCardPicture, &PlayCardPicture})
     image->OnMouseMove = [this, image] {
-      const bool playable = image->Picture != common.ImageList2("EMPTY") && lblMessage.Caption != "Game Over";
+      const bool playable = image->Picture != common.ImageList2("EMPTY") && phase != Phase::Over;
       image->MouseIcon = playable ? common.ImageList2("POINTER") : 0;
     };
   lblCurrentScore.OnChange = [this] {
@@ -240,12 +257,9 @@ void frmSumfall::CoverCards(bool covered) {
   }
   for (int i = 0; i < kPlaces; ++i) {
     if (!FieldCardPicture(i).Visible) continue;
-    FieldCardPicture(i).Picture = common.ImageList2(CardKey(FieldCards[i]));
-    FieldCardPicture(i).BorderStyle = 1;
+    ShowFace(FieldCardPicture(i), FieldCards[i]);
   }
-  if (UpCardIndex == 0) return;
-  UpCardPicture.Picture = common.ImageList2(CardKey(UpCards[UpCardIndex]));
-  UpCardPicture.BorderStyle = 1;
+  if (UpCardIndex != 0) ShowFace(UpCardPicture, UpCards[UpCardIndex]);
 }
 
 void frmSumfall::RefreshPlayCard() {
@@ -253,15 +267,9 @@ void frmSumfall::RefreshPlayCard() {
 }
 
 void frmSumfall::RefreshFieldCards() {
-  const int back = common.ImageList2("BACK");
-  for (int i = 0; i < kPlaces; ++i) {
-    if (!FieldCardPicture(i).Visible) continue;
-    FieldCardPicture(i).Picture = back;
-    FieldCardPicture(i).BorderStyle = 0;
-  }
-  if (UpCardIndex == 0) return;
-  UpCardPicture.Picture = back;
-  UpCardPicture.BorderStyle = 0;
+  for (int i = 0; i < kPlaces; ++i)
+    if (FieldCardPicture(i).Visible) ShowBack(FieldCardPicture(i));
+  if (UpCardIndex != 0) ShowBack(UpCardPicture);
 }
 
 // The splash panel shows the game's own card, and leaves the frame of the pictures alone.
@@ -269,18 +277,9 @@ void frmSumfall::ShowSplashFace(Image& image) { image.Picture = common.ImageList
 
 void frmSumfall::ShowSplashBack(Image& image) { image.Picture = common.ImageList2("BACK"); }
 
-void frmSumfall::ShowBonusRoundGoal() {
-  StatusBar1.Panels(1).Text = "Make " + FormatNumber(BonusRoundScore) + " for Bonus Round!   ";
-}
-
 // --- Settings and texts --------------------------------------------------------------------------
 
 void frmSumfall::SetDefaults() {
-  BonusRoundScore = 80000;
-  CompletionBonus = 10000;
-  CombinationBonus = 1500;
-  common.TimeBonus = 100;
-  CardGoal = kDefaultGoal;
   CurrentRound = 1;
   StockIndex = -1;
   SelectionColor(kDefaultColour);
@@ -292,9 +291,6 @@ bool frmSumfall::ApplyGameSetting(std::string_view section, std::string_view val
   if (section == "[Color]") {
     if (isNumber && number >= 0 && number < static_cast<int>(kSelectionColours.size()))
       SelectionColor(number);
-  } else if (section == "[DrawTimer]") {
-    ApplyFlag(value, CountDownScore);
-    mnuDrawTimer.Checked = CountDownScore;
   } else if (section == "[CardGoal]") {
     if (!isNumber || number < INT16_MIN || number > INT16_MAX) return true;
     for (const auto& entry : goalEntries) entry->Checked = false;
@@ -308,16 +304,6 @@ bool frmSumfall::ApplyGameSetting(std::string_view section, std::string_view val
   return true;
 }
 
-void frmSumfall::WriteSettings(SettingsWriter& writer) const {
-  writer.Add("[Color]", SelectionColorIndex);
-  writer.AddFlag("[Play Music]", common.PlayMusic);
-  writer.Add(plan.timeSection, common.TimeLimit);
-  writer.AddFlag("[DrawTimer]", CountDownScore);
-  writer.AddFlag("[Play Sounds]", common.PlaySounds);
-  writer.Add("[CardGoal]", CardGoal);
-  WriteWindowSettings(writer);
-}
-
 std::string frmSumfall::TableFile(const std::string& tableName) const {
   return "\\" + tableName + std::to_string(common.TimeLimit) + "_" + std::to_string(CardGoal) + ".Txt";
 }
@@ -327,69 +313,3 @@ std::string frmSumfall::HighScoreInfo() const {
 }
 
 void frmSumfall::ShowCustomScoring() { frmSumfallCustomScoring(*this).Show(true); }
-
-RulesPage frmSumfall::Rules() const {
-  const std::string& title = common.AppTitle;
-  const std::string limit = std::to_string(common.TimeLimit), quarter = std::to_string(common.TimeLimit / 4);
-  const std::string& takeScore = cmdTakeScore.Caption;
-  return {
-      30,
-      {"Requirements: To run " + title +
-           " you need Windows 95 or above "
-           "and a mouse. "
-           " Recommended: Soundcard.",
-       "As with most games, the object of " + title +
-           " is to attain the highest number of points "
-           "possible. The game consists of two rounds, each lasting " +
-           limit +
-           " seconds. If "
-           "you earn more than " +
-           std::to_string(BonusRoundScore) +
-           " points in these rounds you are awarded an "
-           "additional bonus round. You earn points in several ways:",
-       "1. Elevens: Selecting "
-       "exposed cards that total eleven (the card goal). You are awarded " +
-           std::to_string(CombinationBonus) +
-           " points for each "
-           "combination of 11's you select. These points are awarded at the end of each round. When "
-           "selecting "
-           "cards (to reach the card goal), each card is worth it's face value, aces are worth 1. The deck "
-           "consists of "
-           "52 "
-           "cards; 16 Aces, 4 of each card 2 thru 10 and no face cards.",
-       " you have the ability to change the card goal from 11 "
-       "to any number between 10 and 15. When your card goal is set to 12, 4 Jacks (each with a value of 11) "
-       "are added "
-       "to the deck. When your card goal is 13, 4 Jacks and 4 Queens are added (Queens have a value of 12). "
-       "When your "
-       "card "
-       "goal is 14 or 15, 4 Jacks, 4 Queens and 4 Kings are added to the deck. Kings have a value of 13 "
-       "each. "
-       "All face cards are in addition to the standard deck described above.",
-       "2. "
-       "Completion Bonus: If you clear all of the exposed cards (upper deck) you are awarded an additional " +
-           std::to_string(CompletionBonus) +
-           " points. Exposed cards are those in "
-           "the upper playing area. You do not need to use all cards in the deck to earn the completion "
-           "bonus.",
-       "3. Time Bonus: You are awarded " + std::to_string(common.TimeBonus) +
-           " points for each second "
-           "remaining in the round after selecting the '" +
-           takeScore.substr(1) + "' command button.",
-       "4. Creating Eleven Combinations: When you are selecting cards to create an '11' combination, the "
-       "location "
-       "of the cards determines points awarded when 11 is reached. The 'Field cards' (upper deck) are "
-       "displayed in 6 "
-       "tiers. "
-       "Selected cards in tier one (the bottom one) are worth 200 points, cards in tier two are worth 300 "
-       "and so "
-       "on to tier six which are worth 700 points. Cards selected from the deck are worth 100 points.",
-       "Note: Each time you select a new card from the deck your "
-       "score is decreased by 100 points.",
-       "Strategy: On the average, you earn a larger number "
-       "of points by creating eleven combinations as opposed to clearing the upper deck. If possible, clear "
-       "the lower "
-       "tiers and then sumfall. Try to clear the upper deck in the last " +
-           quarter + " seconds of play. ",
-       "Good luck and have fun!"}};
-}

@@ -1,0 +1,125 @@
+// How a game window reads and writes its settings file.
+#include <algorithm>
+
+#include "suite/game_window.h"
+
+namespace {
+
+template <class... Way>
+struct Ways : Way... {
+  using Way::operator()...;
+};
+template <class... Way>
+Ways(Way...) -> Ways<Way...>;
+
+bool IsStandard(const GameSetting& setting) {
+  return std::visit(Ways{[&](const bool* flag) { return *flag == (setting.standard != 0); },
+                         [&](const auto* number) { return *number == setting.standard; }},
+                    setting.value);
+}
+
+std::string FlagText(bool flag) { return flag ? "True" : "False"; }
+
+}  // namespace
+
+void GameWindow::ReadSettingsINI() {
+  const auto apply = [this](std::string_view section, std::string_view value) {
+    return ApplySetting(section, value);
+  };
+  const auto path = common.files.PathOf(plan.names.settingsFile);
+  std::string text;
+  const ReadOutcome outcome = common.files.Read(path, text);
+  if (outcome == ReadOutcome::Read && ReadSettings(text, apply) > 0) return;
+  const bool makesNoSense = outcome == ReadOutcome::Unusable || !Trim(text).empty();
+  if (makesNoSense) common.files.PutAside(path);
+  // The defaults are written, and read like any other settings, so that ticks and labels follow.
+  ReadSettings(SaveSettings(), apply);
+}
+
+bool GameWindow::ApplySetting(std::string_view section, std::string_view value) {
+  if (ApplyGameSetting(section, value) || ApplyOwnSetting(section, value)) return true;
+  int number = 0;
+  const bool isNumber = ParseLong(value, number);
+  if (section == plan.names.timeSection) {
+    const bool isLimit = std::ranges::count(plan.limits, number, &TimeLimitEntry::seconds) > 0;
+    if (isNumber && isLimit && AcceptsLimit(number)) ChooseTimeLimit(number);
+  } else if (section == "[Play Sounds]") {
+    ApplyFlag(value, common.PlaySounds);
+    mnuSounds.Checked = common.PlaySounds;
+  } else if (section == "[Play Music]") {
+    ApplyFlag(value, common.PlayMusic);
+    mnuMusic.Checked = common.PlayMusic;
+  } else if (section == "[Deck]") {
+    if (isNumber && number >= 1 && number <= 4) ChooseDeck(number);
+  } else if (section == "[State]") {
+    if (isNumber && number >= window_state::kNormal && number <= window_state::kMaximised)
+      WindowState = number;
+  } else if (section == "[Width]" || section == "[Height]") {
+    if (isNumber) ApplySize(section, number);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool GameWindow::ApplyOwnSetting(std::string_view section, std::string_view value) {
+  if (section.empty()) return false;
+  const auto setting = std::ranges::find(settings, section, &GameSetting::section);
+  if (setting == settings.end()) return false;
+  std::visit(
+      Ways{[&](bool* flag) { ApplyFlag(value, *flag); }, [&](auto* number) { ApplyNumber(value, *number); }},
+      setting->value);
+  return true;
+}
+
+// A window larger than the screen couldn't be handled: it may have been kept on a larger one.
+void GameWindow::ApplySize(std::string_view section, int value) {
+  if (WindowState == window_state::kMaximised) return;
+  // One that is too small is left to the resize event, which a minimised window doesn't have.
+  const bool resizes = WindowState == window_state::kNormal;
+  const Extent screen = platform.ScreenExtent();
+  if (section == "[Width]")
+    Width = std::clamp(value, resizes ? 1 : plan.width, std::max(plan.width, screen.width));
+  else
+    Height = std::clamp(value, resizes ? 1 : plan.height, std::max(plan.height, screen.height));
+}
+
+void GameWindow::ApplyFlag(std::string_view value, bool& flag) {
+  if (value == "True") flag = true;
+  if (value == "False") flag = false;
+}
+
+void GameWindow::CheckForCustom() {
+  common.CustomScoringInUse = std::ranges::any_of(settings, [](const GameSetting& setting) {
+    return setting.customises == Customises::Yes && !IsStandard(setting);
+  });
+}
+
+std::string GameWindow::SettingText(std::string_view section) const {
+  const auto setting = std::ranges::find(settings, section, &GameSetting::section);
+  if (setting != settings.end())
+    return std::visit(Ways{[](const bool* flag) { return FlagText(*flag); },
+                           [](const auto* number) { return std::to_string(*number); }},
+                      setting->value);
+  const bool maximised = WindowState == window_state::kMaximised;
+  if (section == plan.names.timeSection) return std::to_string(common.TimeLimit);
+  if (section == "[Play Sounds]") return FlagText(common.PlaySounds);
+  if (section == "[Play Music]") return FlagText(common.PlayMusic);
+  if (section == "[Deck]") return std::to_string(common.DeckDesign);
+  if (section == "[State]") return std::to_string(WindowState);
+  if (section == "[Width]") return std::to_string(maximised ? plan.width : Width.get());
+  if (section == "[Height]") return std::to_string(maximised ? plan.height : Height.get());
+  throw std::logic_error("nobody knows what stands under " + std::string(section));
+}
+
+std::string GameWindow::SaveSettings() {
+  SettingsWriter writer;
+  for (const char* section : plan.sections) writer.Add(section, SettingText(section));
+  common.files.Keep(common.files.PathOf(plan.names.settingsFile), writer.Text());
+  common.TellWhatCantBeKept();
+  return writer.Text();
+}
+
+std::string GameWindow::TableFile(const std::string& tableName) const {
+  return "\\" + tableName + std::to_string(common.TimeLimit) + ".Txt";
+}

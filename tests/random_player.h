@@ -1,0 +1,157 @@
+// A player who clicks anywhere, whatever stands before him: boxes, dialogs, menus, the board. A game says how
+// its board is played, and what must be true between two commands.
+#pragma once
+
+#include <chrono>
+#include <iostream>
+#include <random>
+
+#include "tests/driver.h"
+#include "window/player.h"
+
+class RandomPlayer {
+ public:
+  // `button` opens the game in the selector.
+  RandomPlayer(const std::filesystem::path& folder, std::string button, unsigned seed)
+      : button_(std::move(button)), chance_(seed), suite_(console_.platform, {folder}, AllGames()) {
+    console_.platform.random.Seed(seed);
+    suite_.Start();
+  }
+  virtual ~RandomPlayer() = default;
+
+  // Goes on until that many commands have been obeyed, and tells how it went.
+  void Play(int commands) {
+    const auto start = std::chrono::steady_clock::now();
+    left_ = commands;
+    console_.Run();
+    const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
+    std::cout << commands << " commands in " << passed.count() << " s: " << games << " games, " << rounds
+              << " moments between rounds, " << dialogs << " commands in dialogs, " << overflows
+              << " overflows\n";
+    EXPECT_FALSE(Contains(end, "* end")) << end;
+    EXPECT_GT(games, 50);
+  }
+
+  int games = 0, rounds = 0, overflows = 0, dialogs = 0;
+  std::string end;  // what the last command led to
+
+ protected:
+  // A command for the board of a game in progress, "click frmX.y".
+  virtual std::string AtTheTable(GameWindow& game) = 0;
+  // What must be true while no handler is under way.
+  virtual void Check(GameWindow& game) = 0;
+
+  // True for every game: nothing is left of a count, the clock runs when a game does, the captions agree.
+  void CheckFrame(const GameWindow& game) {
+    const modCommon& common = suite_.common;
+    ASSERT_NE(game.phase, Phase::Scoring);
+    if (!common.GameInProgress) {
+      ASSERT_TRUE(game.frmSplash.Visible);
+      ASSERT_FALSE(game.Timer1.Enabled || game.lblScoring.Visible);
+      ASSERT_TRUE(game.IsPaused() || game.cmdPlay.Enabled);
+      return;
+    }
+    ASSERT_FALSE(game.frmSplash.Visible);
+    const bool minimised = game.WindowState == window_state::kMinimised;  // may stop the clock
+    ASSERT_TRUE(minimised || game.Timer1.Enabled != game.IsPaused());
+    ASSERT_EQ(game.cmdPlay.Enabled, !game.IsPaused());
+    ASSERT_GE(common.ElapsedSeconds, 0);
+    ASSERT_LE(common.ElapsedSeconds, common.TimeLimit);
+  }
+
+  int Draw(int below) { return std::uniform_int_distribution<int>(0, below - 1)(chance_); }
+  bool Chance(int percent) { return Draw(100) < percent; }
+  template <class T>
+  T Pick(const std::vector<T>& from) {
+    return from[Draw(static_cast<int>(from.size()))];
+  }
+
+ private:
+  std::optional<std::string> Next() {
+    const std::string said = out_.str();
+    out_.str("");
+    if (!said.starts_with("error")) --left_;
+    if (Contains(said, "* end") || left_ < 0 || ::testing::Test::HasFatalFailure()) {
+      end = said;
+      return std::nullopt;
+    }
+    if (Contains(said, "Overflow")) ++overflows;
+    const Platform& platform = console_.platform;
+    if (const MessageBox* box = platform.StandingBox())
+      return "answer \"" + std::string(AnswerName(Pick(AnswersOf(box->buttons)))) + "\"";
+    if (const Form* modal = platform.ModalForm()) return InDialog(*modal);
+    if (!suite_.common.window) return "click frmSelect." + button_;
+    GameWindow& game = *suite_.common.window;
+    CheckFrame(game);
+    Check(game);
+    return InWindow(game);
+  }
+
+  std::string InDialog(const Form& dialog) {
+    const std::string name(dialog.name);
+    if (Chance(10)) return "close " + name;
+    if (name == "frmHiScoreName" && Chance(50)) return "type frmHiScoreName.lblPlayerName \"Bob, or so\"";
+    ++dialogs;
+    std::vector<std::string> ways;
+    for (const Control* control : dialog.Controls()) {
+      if (control->kind == Control::Kind::CommandButton || control->kind == Control::Kind::CheckBox ||
+          control->kind == Control::Kind::OptionButton)
+        ways.push_back("click " + control->FullName());
+      if (control->kind == Control::Kind::TextBox && name != "frmRules")
+        ways.push_back("type " + control->FullName() + " \"" + Pick(kTyped) + "\"");
+    }
+    return Pick(ways);
+  }
+
+  // Menu entries that lead to no other menu, by what they do least: nothing is spared.
+  std::string AnyEntry(const GameWindow& game) {
+    std::vector<std::string> entries;
+    for (const Control* control : game.Controls())
+      if (control->kind == Control::Kind::Menu && static_cast<const Menu*>(control)->OnClick)
+        entries.push_back("click " + control->FullName());
+    return Pick(entries);
+  }
+
+  std::string InWindow(GameWindow& game) {
+    const std::string window(game.name);
+    const std::string play = "click " + game.cmdPlay.FullName(), pause = "click " + game.cmdPause.FullName();
+    if (!suite_.common.GameInProgress) {
+      if (game.IsPaused()) return "click " + game.mnuPause.FullName();
+      if (suite_.common.TakingScore) return "advance 250";  // the selector ends it
+      if (Chance(25)) {
+        ++games;
+        return play;
+      }
+      return Chance(25) ? "click " + game.mnuCustom.FullName() : AnyEntry(game);
+    }
+    if (game.IsPaused() && Chance(70)) return pause;
+    const int what = Draw(1000);
+    if (what < 10) return pause;
+    if (what < 14) return AnyEntry(game);
+    if (what < 16) return play;
+    if (what < 18) return "resize " + window + " " + std::to_string(6000 + Draw(9000)) + " 9000";
+    if (what < 20) return "state " + window + " " + std::to_string(Draw(3));
+    if (what < 22) return "close " + window;
+    if (what < 60) {
+      ++rounds;
+      return "advance " + std::to_string(Draw(9000));
+    }
+    return AtTheTable(game);
+  }
+
+  const std::vector<std::string> kTyped{
+      "0",     "1",   "1000",  "1001", "32767", "900000", "900001",
+      "-3",    "abc", "12abc", "",     "0.5",   "1e9",    "999999999999999999999",
+      "20000", "100", "1",     "26",   "45",    "-20001"};
+
+  const std::string button_;
+  std::mt19937 chance_;
+  int left_ = 0;
+  LiveInput input_{[this] { return Next(); }};
+  std::istream in_{&input_};
+  std::ostringstream out_;
+  ConsoleFrontEnd console_{{}, in_, out_};
+
+ protected:
+  Suite suite_;
+};
