@@ -306,7 +306,7 @@ TEST_F(Look, GamesStandAtEverySize) {
         };
         const bool again = !said.insert(wording(caption) + "|" + wording(amount)).second;
         // Where both stand side by side, the message is always the same.
-        const bool aside = game.lblScoring.Visible && game.lblScoring.Top == game.lblMessage.Top;
+        const bool aside = game.lblScoring.Visible && game.lblScoring.Top == int(game.lblMessage.Top);
         if (again || aside || !game.lblMessage.Visible || caption == "Times Up!") return;
         const int left = game.lblMessage.Left, top = game.lblMessage.Top;
         for (const Longest& longest : kMessages)
