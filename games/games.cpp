@@ -1,5 +1,6 @@
 #include "games/games.h"
 
+#include "games/blackrush/blackrush.h"
 #include "games/spirehold/spirehold.h"
 #include "games/sumfall/sumfall.h"
 
@@ -8,7 +9,8 @@ std::vector<GameEntry> AllGames() {
       {"cmdSumfall", "&Sumfall!", "Sumfall!",
        [](modCommon& common) { return std::make_unique<frmSumfall>(common); }},
       {"cmdFivestack", "&Fivestack ", "Fivestack!", nullptr},
-      {"cmdBlackrush", "&Blackrush", "Blackrush!", nullptr},
+      {"cmdBlackrush", "&Blackrush", "Blackrush!",
+       [](modCommon& common) { return std::make_unique<frmBlackrush>(common); }},
       {"cmdDuopick", "D&uopick", "Duopick!", nullptr},
       {"cmdSpirehold", "&Spirehold", "Spirehold!",
        [](modCommon& common) { return std::make_unique<frmSpirehold>(common); }},

@@ -65,7 +65,8 @@ class Shape : public Visual {
 
 class CommandButton : public Visual {
  public:
-  CommandButton(Control& parent, std::string_view name) : Visual(Kind::CommandButton, parent, name) {}
+  CommandButton(Control& parent, std::string_view name, int index = -1)
+      : Visual(Kind::CommandButton, parent, name, index) {}
 
   Property<std::string> Caption{*this, Prop::Caption, ""};
   bool Default = false;  // pressed by Return
