@@ -102,6 +102,7 @@ class frmBlackrush : public GameWindow {
   void ShowCustomScoring() override;
   RulesText Rules() const override;
   void PlaceMessage() override;
+  void PlacePanels() override;
   void PlaceBoard() override;
 
  private:

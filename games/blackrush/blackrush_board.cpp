@@ -78,8 +78,8 @@ constexpr Design kDesign[] = {
     {"ScoreRectangle", 5760, 330, 1860, 510},
     {"lblTotalScore", 5760, 405, 0, 0, "0"},
     {"lblRound", 5760, 1050, 1860, 255, "Round: 1"},
-    {"frameScoreInfo", 5760, 2250, 3180, 2535, "Twenty One Scoring Status"},
-    {"lblHighScore", 5760, 4980, 3180, 255},
+    {"frameScoreInfo", 5700, 2250, 3285, 2535, "Twenty One Scoring Status"},
+    {"lblHighScore", 5700, 4980, 3285, 255},
     {"cmdPass", 6012, 5520, 1035, 570, "&Pass"},
 };
 constexpr Design kButtonDesign[] = {
@@ -90,16 +90,16 @@ constexpr Design kButtonDesign[] = {
 };
 // Within their frame. The round's count takes the place of the counter.
 constexpr Design kStatusDesign[] = {
-    {"lblTwentyOnes", 240, 405, 1500, 255, "21's earned:"},
-    {"lbl21s", 1800, 405, 1140, 255, "0"},
-    {"lbl21Bonus", 240, 795, 1500, 255, "Bonus:"},
-    {"lblBonus", 1800, 795, 1140, 255, "0"},
-    {"lblCardsUsed", 240, 1185, 1500, 255, "Cards used:"},
-    {"lblCardsUsedCount", 1800, 1185, 1140, 255, "0"},
-    {"lblTwentyoneTime", 240, 1665, 2700, 255, "21 Counter:"},
-    {"ProgressBar1", 240, 1980, 2700, 270},
-    {"lblRoundScore", 240, 1665, 0, 0},
-    {"lblRoundScoreCount", 240, 2025, 2700, 255},
+    {"lblTwentyOnes", 300, 405, 1500, 255, "21's earned:"},
+    {"lbl21s", 1890, 405, 1140, 255, "0"},
+    {"lbl21Bonus", 300, 795, 1500, 255, "Bonus:"},
+    {"lblBonus", 1890, 795, 1140, 255, "0"},
+    {"lblCardsUsed", 300, 1185, 1500, 255, "Cards used:"},
+    {"lblCardsUsedCount", 1890, 1185, 1140, 255, "0"},
+    {"lblTwentyoneTime", 300, 1665, 2730, 255, "21 Counter:"},
+    {"ProgressBar1", 300, 1980, 2730, 270},
+    {"lblRoundScore", 300, 1665, 0, 0},
+    {"lblRoundScoreCount", 300, 2025, 2730, 255},
     {"lblFiveCards", 0, 3570, 1335, 600, "Five Card Gimme"},
 };
 
@@ -140,7 +140,8 @@ void frmBlackrush::SetUpBoard() {
   }
   for (Shape* line : {&Column1Line, &Column2Line, &Column3Line}) line->BorderColor = kWhite;
   ScoringLabelOutline.Filled = true;
-  ScoringLabelOutline.FillColor = 0xE8F6FB;
+  ScoringLabelOutline.FillColor = 0x101212;
+  ScoringLabelOutline.BorderColor = 0x4EA9D4;
   ProgressBar1.Max = kCounterEnd;
   Timer3.Interval = kNormalSpeed;
   Timer5.Interval = 250;
@@ -229,6 +230,13 @@ void frmBlackrush::PlaceBoard() {
   lblTotalScore.Top = ScoreRectangle.Top + (ScoreRectangle.Height - lblTotalScore.Height) / 2;
   CenterIn(lblTotalScore, ScoreRectangle);
   CenterIn(lblTime, Column4(0));
+}
+
+// The hint is long and the window narrow.
+void frmBlackrush::PlacePanels() {
+  StatusBar1.Panels(1).Width = Width * 9 / 25;
+  StatusBar1.Panels(2).Width = Width * 13 / 25;
+  StatusBar1.Panels(3).Width = Width * 3 / 25;
 }
 
 void frmBlackrush::PlaceMessage() {
