@@ -16,6 +16,7 @@
 #include "games/sumfall/dialogs.h"
 #include "suite/catalogue.h"
 #include "suite/dialogs.h"
+#include "tests/desktop_screen.h"
 #include "tests/harness.h"
 #include "window/desktop/canvas.h"
 #include "window/desktop/contrast.h"
@@ -26,19 +27,6 @@
 #include "window/player.h"
 
 namespace {
-
-bool OpenScreen() {
-  static int count = 1;
-  static char program[] = "desktop_tests";
-  static char* arguments[] = {program, nullptr};
-  static QApplication* application = nullptr;
-  if (application) return true;
-  setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  setenv("SDL_AUDIODRIVER", "dummy", 0);
-  application = new QApplication(count, arguments);
-  style::Apply(*application);
-  return true;
-}
 
 // Waits for nothing: each pause is a moment to look at what the player would see meanwhile.
 class Screen : public DesktopFrontEnd {
