@@ -485,6 +485,21 @@ TEST_F(Blackrush, ALateExpiryDoesntReachTheNextRound) {
   driver.Do(Hits("0") + Hits("0"));
 }
 
+TEST_F(Blackrush, ARoundThatIsntOpenCantRunOut) {
+  driver.Do(kOpenBlackrush + "click frmBlackrush.mnu15\n" + kPlayBlackrush + Hit(0));
+  Game().Timer4.OnTimer = [this] {  // something modal comes in while events are let through
+    Game().Timer4.Enabled = false;
+    common().Ask("Well?");
+  };
+  Game().Timer4.Enabled = true;
+  driver.Do("click frmBlackrush.cmdPlay\nadvance 150\nanswer \"No\"\n" + kTake +
+            "advance 60000\nanswer \"Yes\"");
+  EXPECT_EQ(Text("lblRound.Caption"), "Round: 2");
+  EXPECT_EQ(common().ElapsedSeconds, 14);
+  EXPECT_TRUE(Is("Timer1.Enabled"));
+  EXPECT_EQ(Tell("advance 1000"), "\"Times Up!\", 250 x10, \"Prepare for Round 3\", 2000");
+}
+
 TEST_F(Blackrush, WithoutCountingDownThePointsJump) {
   folder.Write("Blackrush.Ini", "[Count Down Score]\r\nFalse\r\n\r\n[Wait Period]\r\n0\r\n\r\n");
   StartBlackrush(driver, {"10S", "1S"});

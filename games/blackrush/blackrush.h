@@ -81,6 +81,7 @@ class frmBlackrush : public GameWindow {
   void GameOver() override;
   void GameFailed() override;
   void BackToIdle() override;
+  void Tick() override;
   void TimeIsUp() override;
   bool TakesCommand() const override { return !common.TakingScore; }
   bool EarnsBonusRound() const override { return common.CurrentScore > BonusScore; }

@@ -6,6 +6,13 @@ using namespace modBlackrush;
 
 // --- The end of a round --------------------------------------------------------------------------
 
+// The clock runs while a round is being paid, and more than a tick may come where events are let through: a
+// round that isn't open yet keeps its last second.
+void frmBlackrush::Tick() {
+  if (phase == Phase::Scoring && common.ElapsedSeconds + 1 >= common.TimeLimit) return;
+  GameWindow::Tick();
+}
+
 void frmBlackrush::TimeIsUp() {
   Timer1.Enabled = false;
   Timer3.Enabled = false;
