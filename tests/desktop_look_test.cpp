@@ -12,6 +12,7 @@
 #include <set>
 #include <tuple>
 
+#include "games/blackrush/custom.h"
 #include "games/spirehold/custom.h"
 #include "games/sumfall/dialogs.h"
 #include "games/treyshift/custom.h"
@@ -236,6 +237,9 @@ constexpr Longest kMessages[] = {
      "frmSpirehold"},
     {"lblMessage", "Highest Run Bonus!", "frmSpirehold"},
     {"lblMessage", "Tower Bonus!!", "frmSpirehold"},
+    {"ScoringLabelInfo", "Prepare for Bonus Round", "frmBlackrush"},
+    {"ScoringLabelInfo", "Awesome score!", "frmBlackrush"},
+    {"ScoringLabelInfo", "Times Up!", "frmBlackrush"},
     {"lblMessage", "Times Up!"},
     {"lblMessage", "Game Over"},
 };
@@ -257,6 +261,11 @@ constexpr Longest kTexts[] = {
     {"lblScoreRuns", "17", "frmTreyshift"},
     {"lblCardCount", "Cards remaining: 52", "frmTreyshift"},
     {"lblRound", "Round: 3", "frmTreyshift"},
+    {"lblTotalScore", "-2,147,483,648", "frmBlackrush"},
+    {"lblBonus", "130000", "frmBlackrush"},
+    {"lblCardsUsedCount", "52", "frmBlackrush"},
+    {"StatusBar1.Panels(1)", "Click on Play to start a new game  ", "frmBlackrush"},
+    {"StatusBar1.Panels(2)", "Create columns of 21 to increase bonus score!   ", "frmBlackrush"},
     {"StatusBar1.Panels(1)", "Make 5,000,000 for Bonus Round!   "},
     {"StatusBar1.Panels(2)", "Click on exposed cards to total 15!   ", "frmSumfall"},
     {"StatusBar1.Panels(2)", "Create runs by clicking on exposed cards!   ", "frmSpirehold"},
@@ -338,10 +347,23 @@ TEST_F(Look, GamesStandAtEverySize) {
         spirehold->NewHighRun = true;
         spirehold->HighestRun = 1;
       }
+      if (auto* blackrush = dynamic_cast<frmBlackrush*>(&game)) {
+        blackrush->TwentyOnes = 26;
+        blackrush->Bonus = 130000;
+        blackrush->ColumnSoft(1).Caption = "Soft";
+        blackrush->ColumnSoft(1).Visible = true;
+        blackrush->lblBust.Visible = true;
+        Check(game);
+        blackrush->lblBust.Visible = false;
+        for (int card = 0; card < kCardsOfColumn; ++card) {  // a Five Card Gimme
+          suite.common.Deck[blackrush->DeckPosition] = "2S";
+          player::Click(blackrush->cmdHit(0));
+        }
+      }
       player::Click(game.cmdTakeScore);
       suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
-      front.platform.Dispatch(game.Timer1.OnTimer);  // time is up
-      player::Click(game.cmdTakeScore);              // the bonus round
+      front.platform.Dispatch(game.Timer1.OnTimer);                          // time is up
+      while (suite.common.GameInProgress) player::Click(game.cmdTakeScore);  // the rest, and the bonus round
       front.onPause = nullptr;
       EXPECT_FALSE(suite.common.GameInProgress);
       EXPECT_GE(said.size(), 5u);
@@ -443,6 +465,7 @@ TEST_F(Look, DialogsHoldTheirTexts) {
     }
     if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) look(frmSpireholdCustom(*spirehold));
     if (auto* treyshift = dynamic_cast<frmTreyshift*>(&game)) look(frmTreyshiftCustom(*treyshift));
+    if (auto* blackrush = dynamic_cast<frmBlackrush*>(&game)) look(frmBlackrushCustomScoring(*blackrush));
     Close(game);
   }
   EXPECT_GT(looks, 30);
@@ -519,6 +542,7 @@ TEST_F(Look, LettersStandOutFromTheirGround) {
       Settle();
       const QImage picture = front.WindowOf(game)->Board().grab().toImage();
       for (const Label* label : labels) {
+        if (!label->Exists()) continue;
         const Seen seen =
             LookAt(picture, LayOut(*label, DrawnRect(*label, front.pictures)), ToColour(colour));
         const std::string which = label->FullName() + " in colour " + std::to_string(colour);
