@@ -12,6 +12,7 @@
 #include <set>
 #include <tuple>
 
+#include "games/duopick/custom.h"
 #include "games/spirehold/custom.h"
 #include "games/sumfall/dialogs.h"
 #include "suite/catalogue.h"
@@ -234,6 +235,7 @@ constexpr Longest kMessages[] = {
      "frmSpirehold"},
     {"lblMessage", "Highest Run Bonus!", "frmSpirehold"},
     {"lblMessage", "Tower Bonus!!", "frmSpirehold"},
+    {"lblMessage", "Completion Bonus!", "frmDuopick"},
     {"lblMessage", "Times Up!"},
     {"lblMessage", "Game Over"},
 };
@@ -253,6 +255,11 @@ constexpr Longest kTexts[] = {
     {"StatusBar1.Panels(1)", "Make 5,000,000 for Bonus Round!   "},
     {"StatusBar1.Panels(2)", "Click on exposed cards to total 15!   ", "frmSumfall"},
     {"StatusBar1.Panels(2)", "Create runs by clicking on exposed cards!   ", "frmSpirehold"},
+    {"lblPairs", "Pairs x -2147483648", "frmDuopick"},
+    {"lblRuns", "Runs x -2147483648", "frmDuopick"},
+    {"lblScorePairs", "26", "frmDuopick"},
+    {"lblScoreRuns", "26", "frmDuopick"},
+    {"StatusBar1.Panels(2)", "Create runs by clicking on exposed cards!   ", "frmDuopick"},
     {"StatusBar1.Panels(2)", "Times running out!"},
     {"StatusBar1.Panels(3)", "12:59 PM"},
 };
@@ -325,6 +332,7 @@ TEST_F(Look, GamesStandAtEverySize) {
         spirehold->NewHighRun = true;
         spirehold->HighestRun = 1;
       }
+      if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) duopick->PairsCount = duopick->RunsCount = 26;
       player::Click(game.cmdTakeScore);
       suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
       front.platform.Dispatch(game.Timer1.OnTimer);  // time is up
@@ -379,6 +387,7 @@ TEST_F(Look, DialogsHoldTheirTexts) {
       look(frmOpen(*sumfall));
     }
     if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) look(frmSpireholdCustom(*spirehold));
+    if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) look(frmDuopickCustomScoring(*duopick));
     Close(game);
   }
   EXPECT_GT(looks, 30);
