@@ -13,6 +13,7 @@
 #include <tuple>
 
 #include "games/blackrush/custom.h"
+#include "games/duopick/custom.h"
 #include "games/spirehold/custom.h"
 #include "games/sumfall/dialogs.h"
 #include "games/treyshift/custom.h"
@@ -240,6 +241,7 @@ constexpr Longest kMessages[] = {
     {"ScoringLabelInfo", "Prepare for Bonus Round", "frmBlackrush"},
     {"ScoringLabelInfo", "Awesome score!", "frmBlackrush"},
     {"ScoringLabelInfo", "Times Up!", "frmBlackrush"},
+    {"lblMessage", "Completion Bonus!", "frmDuopick"},
     {"lblMessage", "Times Up!"},
     {"lblMessage", "Game Over"},
 };
@@ -269,6 +271,11 @@ constexpr Longest kTexts[] = {
     {"StatusBar1.Panels(1)", "Make 5,000,000 for Bonus Round!   "},
     {"StatusBar1.Panels(2)", "Click on exposed cards to total 15!   ", "frmSumfall"},
     {"StatusBar1.Panels(2)", "Create runs by clicking on exposed cards!   ", "frmSpirehold"},
+    {"lblPairs", "Pairs x -2147483648", "frmDuopick"},
+    {"lblRuns", "Runs x -2147483648", "frmDuopick"},
+    {"lblScorePairs", "26", "frmDuopick"},
+    {"lblScoreRuns", "26", "frmDuopick"},
+    {"StatusBar1.Panels(2)", "Create runs by clicking on exposed cards!   ", "frmDuopick"},
     {"StatusBar1.Panels(2)", "Create runs and triples by moving available cards!   ", "frmTreyshift"},
     {"StatusBar1.Panels(2)", "Times running out!"},
     {"StatusBar1.Panels(3)", "12:59 PM"},
@@ -360,6 +367,7 @@ TEST_F(Look, GamesStandAtEverySize) {
           player::Click(blackrush->cmdHit(0));
         }
       }
+      if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) duopick->PairsCount = duopick->RunsCount = 26;
       player::Click(game.cmdTakeScore);
       suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
       front.platform.Dispatch(game.Timer1.OnTimer);                          // time is up
@@ -464,6 +472,7 @@ TEST_F(Look, DialogsHoldTheirTexts) {
       look(frmOpen(*sumfall));
     }
     if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) look(frmSpireholdCustom(*spirehold));
+    if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) look(frmDuopickCustomScoring(*duopick));
     if (auto* treyshift = dynamic_cast<frmTreyshift*>(&game)) look(frmTreyshiftCustom(*treyshift));
     if (auto* blackrush = dynamic_cast<frmBlackrush*>(&game)) look(frmBlackrushCustomScoring(*blackrush));
     Close(game);
