@@ -72,7 +72,7 @@ constexpr Design kDesign[] = {
     {"lblCards", 7110, 4080, 2235, 255, "Cards remaining: 52"},
     {"lblPointsEarned", 6990, 5895, 2475, 255, "Points Earned: 0"},
     {"lblHighScore", 6990, 6165, 2475, 255},
-    {"ScoringLabelOutline", 270, 2100, 5400, 1800},
+    {"ScoringLabelOutline", 210, 2100, 6420, 1800},
 };
 
 // The buttons' place across the window is the frame's.
