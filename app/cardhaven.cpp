@@ -1,5 +1,6 @@
 // The desktop program.
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 
@@ -8,6 +9,23 @@
 #include "suite/catalogue.h"
 #include "suite/suite.h"
 #include "window/desktop/program.h"
+
+namespace {
+
+// A suite without its pictures can be played, but nobody should have to guess why it looks so bare.
+void TellOfMissingData(Platform& platform, const DesktopOptions& options) {
+  std::error_code error;
+  const std::filesystem::path& data = options.folders.installed;
+  if (std::filesystem::is_directory(data / "pictures", error) ||
+      std::filesystem::exists(options.folders.own / Catalogue().front().file, error))
+    return;
+  const std::string text = "The pictures and sounds are missing: they should be in " + data.string() + ".";
+  std::cerr << "cardhaven: " << text << std::endl;
+  if (!options.script)
+    platform.MsgBox(text + " Please install Card Haven again.", "Card Haven", Icon::Exclamation);
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   Options options;
@@ -21,6 +39,7 @@ int main(int argc, char** argv) {
       platform.CommandLine = options.savedGame;
       auto suite = std::make_shared<Suite>(platform, SuiteOptions{desktop.folders.own}, AllGames());
       suite->Start();
+      TellOfMissingData(platform, desktop);
       return suite;
     });
   } catch (const std::exception& error) {

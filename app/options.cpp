@@ -188,12 +188,10 @@ fs::path FindAppPath(const Options& options) {
 }
 
 fs::path FindDataFolder() {
-  const fs::path own = ProgramFolder();
+  // A build folder has the installed layout too, by a link; so what is moved as a whole finds its data.
+  const fs::path beside = ProgramFolder().parent_path() / "share/card-haven";
   std::error_code error;
-  const fs::path installed = own.parent_path() / "share/card-haven";
-  if (fs::is_directory(installed / "pictures", error)) return installed;
-  for (fs::path folder = own;; folder = folder.parent_path()) {
-    if (fs::is_directory(folder / "data/pictures", error)) return folder / "data";
-    if (folder == folder.parent_path()) return installed;
-  }
+  for (const fs::path& folder : {beside, fs::path(CARDHAVEN_DATA_DIR)})
+    if (fs::is_directory(folder / "pictures", error)) return folder;
+  return beside;
 }

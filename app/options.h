@@ -39,5 +39,5 @@ std::optional<int> ReadCommandLine(Program program, int argc, char** argv, Optio
 
 // The folder for settings, tables and saved games. Throws std::runtime_error if there is none to be had.
 std::filesystem::path FindAppPath(const Options& options);
-// The folder with pictures, sounds and music.
+// The folder with pictures, sounds and music; where it should be if there is none.
 std::filesystem::path FindDataFolder();

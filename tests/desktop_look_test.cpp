@@ -14,8 +14,10 @@
 
 #include "games/spirehold/custom.h"
 #include "games/sumfall/dialogs.h"
+#include "games/treyshift/custom.h"
 #include "suite/catalogue.h"
 #include "suite/dialogs.h"
+#include "tests/desktop_screen.h"
 #include "tests/harness.h"
 #include "window/desktop/canvas.h"
 #include "window/desktop/contrast.h"
@@ -26,19 +28,6 @@
 #include "window/player.h"
 
 namespace {
-
-bool OpenScreen() {
-  static int count = 1;
-  static char program[] = "desktop_tests";
-  static char* arguments[] = {program, nullptr};
-  static QApplication* application = nullptr;
-  if (application) return true;
-  setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  setenv("SDL_AUDIODRIVER", "dummy", 0);
-  application = new QApplication(count, arguments);
-  style::Apply(*application);
-  return true;
-}
 
 // Waits for nothing: each pause is a moment to look at what the player would see meanwhile.
 class Screen : public DesktopFrontEnd {
@@ -159,8 +148,9 @@ class Look : public testing::Test {
         if (other.place > text.place && other.whole.intersects(text.whole))
           Fault(form, says + " and " + other.label->NameInForm() + " \"" + other.label->Caption.get() +
                           "\" lie on each other");
-      // Only messages, big ones and a tower's own, come over the cards.
-      const bool message = text.label->FontSize >= 10 && !BoxOf(scene, text.place);
+      // Only messages, big ones and a tower's or a column's own, come over the cards.
+      const bool message =
+          (text.label->FontSize >= 10 && !BoxOf(scene, text.place)) || text.label->name == "lblFlush";
       for (size_t i = 0; i < text.place && !message; ++i)
         if (scene[i].control->kind == Control::Kind::Image && scene[i].control->parent == &form &&
             static_cast<const Image*>(scene[i].control)->Picture != 0 &&
@@ -262,9 +252,15 @@ constexpr Longest kTexts[] = {
     {"lblCurrentRun", "Current Run: 32767", "frmSpirehold"},
     {"lblHighRun", "Highest Run: 32767", "frmSpirehold"},
     {"lblNextCard", "Next card worth: 3276800 points", "frmSpirehold"},
+    {"lblTrips", "Trips (20000):", "frmTreyshift"},
+    {"lblRuns", "Runs (2147483647):", "frmTreyshift"},
+    {"lblScoreRuns", "17", "frmTreyshift"},
+    {"lblCardCount", "Cards remaining: 52", "frmTreyshift"},
+    {"lblRound", "Round: 3", "frmTreyshift"},
     {"StatusBar1.Panels(1)", "Make 5,000,000 for Bonus Round!   "},
     {"StatusBar1.Panels(2)", "Click on exposed cards to total 15!   ", "frmSumfall"},
     {"StatusBar1.Panels(2)", "Create runs by clicking on exposed cards!   ", "frmSpirehold"},
+    {"StatusBar1.Panels(2)", "Create runs and triples by moving available cards!   ", "frmTreyshift"},
     {"StatusBar1.Panels(2)", "Times running out!"},
     {"StatusBar1.Panels(3)", "12:59 PM"},
 };
@@ -302,11 +298,16 @@ TEST_F(Look, GamesStandAtEverySize) {
       // something.
       std::set<std::string> said;
       front.onPause = [&] {
-        const std::string caption = game.lblMessage.Caption;
-        where = " while it says \"" + caption + "\"";
+        const std::string caption = game.lblMessage.Caption, amount = game.lblScoring.Caption;
+        where = " while it says \"" + caption + "\", \"" + amount + "\"";
         Check(game);
-        const bool again = !said.insert(caption.substr(0, caption.find_first_of("0123456789"))).second;
-        if (again || !game.lblMessage.Visible || caption == "Times Up!") return;
+        const auto wording = [](const std::string& text) {
+          return text.substr(0, text.find_first_of("0123456789"));
+        };
+        const bool again = !said.insert(wording(caption) + "|" + wording(amount)).second;
+        // Where both stand side by side, the message is always the same.
+        const bool aside = game.lblScoring.Visible && game.lblScoring.Top == game.lblMessage.Top;
+        if (again || aside || !game.lblMessage.Visible || caption == "Times Up!") return;
         const int left = game.lblMessage.Left, top = game.lblMessage.Top;
         for (const Longest& longest : kMessages)
           if (Write(game, longest)) Check(game);
@@ -352,6 +353,56 @@ TEST_F(Look, GamesStandAtEverySize) {
   EXPECT_GT(looks, 500);
 }
 
+// A flush, a deck that is used up, what is left over, a board that is stuck.
+TEST_F(Look, TreyshiftTellsWhatColumnsAndDecksBring) {
+  using namespace modTreyshift;
+  for (const GameEntry& entry : AllGames()) {
+    if (std::string(entry.button) != "cmdTreyshift") continue;
+    auto& game = static_cast<frmTreyshift&>(Open(entry));
+    const auto lay = [&](int column) {
+      player::Click(game.UpCard(kInPlay));
+      player::Click(game.PlayCard(column));
+    };
+    for (const QSize size : kSizes) {
+      Resize(game, size);
+      player::Click(game.mnuPlay);
+      std::set<std::string> said;
+      front.onPause = [&] {
+        for (const Label* label : {&game.lblScoring, &game.lblFlush})
+          if (label->Visible) said.insert(label->Caption);
+        where = " while it says \"" + game.lblScoring.Caption.get() + "\"";
+        Check(game);
+      };
+      CardCodes& deck = game.common.Deck;
+      deck = {"",   "3D", "2D", "1D", "1S", "3S", "5S",  "1H", "3H",
+              "5H", "1C", "3C", "5C", "7D", "9D", "11D", "8S"};
+      deck.resize(53, "12H");
+      game.Deal();
+      for (int i = 0; i < 3; ++i) lay(0);
+      for (int i = 0; i < 9; ++i) lay(i / 3);
+      player::Click(game.UpCard(kInPlay));
+      player::Click(game.TempCard(1));
+      game.ShowEmpty(game.UpCard(kInPlay));
+      game.PenaltyValue = 20000;
+      player::Click(game.cmdTakeScore);
+      deck = StandardDeck();
+      for (int i = 1; i <= 15; ++i) deck[i] = std::to_string(2 * i % 12 + 1) + "SH"[i % 2];
+      game.Deal();
+      for (int i = 0; i < 12; ++i) lay(i / 3);
+      for (int i = 0; i < 3; ++i) {
+        player::Click(game.UpCard(kInPlay));
+        player::Click(game.TempCard(i));
+      }
+      front.onPause = nullptr;
+      for (const char* text : {"Flush!", "Deck Completion Bonus!", "Removing left over cards", "-20000",
+                               "No more legal moves left!", "Game Over"})
+        EXPECT_TRUE(said.contains(text)) << text;
+      EXPECT_FALSE(suite.common.GameInProgress);
+    }
+    Close(game);
+  }
+}
+
 TEST_F(Look, DialogsHoldTheirTexts) {
   const auto look = [&](Form&& dialog) {
     dialog.Show(false);
@@ -391,6 +442,7 @@ TEST_F(Look, DialogsHoldTheirTexts) {
       look(frmOpen(*sumfall));
     }
     if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) look(frmSpireholdCustom(*spirehold));
+    if (auto* treyshift = dynamic_cast<frmTreyshift*>(&game)) look(frmTreyshiftCustom(*treyshift));
     Close(game);
   }
   EXPECT_GT(looks, 30);

@@ -23,7 +23,7 @@ constexpr RulesParagraph kRules[] = {{"There are none."}, {"Good luck and have f
 constexpr Design kDesign[] = {
     {"lblTime", 150, 120, 1500, 255},         {"Surface", 330, 480, 1140, 1140},
     {"ScoreRectangle", 1860, 420, 2040, 510}, {"RoundRectangle", 5640, 420, 1080, 510},
-    {"lblHighScore", 150, 6100, 2700, 255},
+    {"lblHighScore", 150, 6100, 2700, 255},   {"Card", 3000, 3000, 1065, 1455},
 };
 
 class frmEighth : public GameWindow {
@@ -51,17 +51,23 @@ class frmEighth : public GameWindow {
   void ShowCustomScoring() override {}
   RulesText Rules() const override { return {30, kRules, {}}; }
 
+  void PlaceBoard() override { PlaceInMiddle(kDesign); }
+
+  ControlArray<Image, 2> Card{*this, "Card"};
   bool dealt = true;
 };
 
-std::string RunEighth(const TestFolder& folder, const std::string& commands) {
+std::string RunEighth(const TestFolder& folder, const std::string& commands, bool dealt = true) {
   std::istringstream in(commands);
   std::ostringstream out;
   ConsoleFrontEnd console({}, in, out);
   console.platform.random.Seed(8);
-  Suite suite(console.platform, {folder.Path()}, {{"cmdEighth", "&Eighth", "Eighth!", [](modCommon& common) {
-                                                     return std::make_unique<frmEighth>(common);
-                                                   }}});
+  Suite suite(console.platform, {folder.Path()},
+              {{"cmdEighth", "&Eighth", "Eighth!", [dealt](modCommon& common) {
+                  auto game = std::make_unique<frmEighth>(common);
+                  game->dealt = dealt;
+                  return game;
+                }}});
   suite.Start();
   console.Run();
   return out.str();
@@ -138,4 +144,53 @@ ok
 )");
   EXPECT_EQ(folder.Read("EighthHiScores10.Txt").substr(0, 11), "Eve, 1500\r\n");
   EXPECT_EQ(folder.Read("Eighth.Ini").substr(0, 12), "[Time]\r\n10\r\n");
+}
+
+TEST(EighthGame, AStartThatComesToNothingLeavesTheWindowIdle) {
+  TestFolder folder;
+  EXPECT_EQ(RunEighth(folder, R"(click frmSelect.cmdEighth
+click frmEighth.cmdPlay
+get frmEighth.cmdPlay.Caption
+get frmEighth.cmdPlay.ToolTipText
+get frmEighth.frmSplash.Visible
+get frmEighth.Timer4.Enabled
+click frmEighth.cmdPlay
+click frmEighth.mnuPlay
+close frmEighth
+answer "Yes"
+close frmSelect
+)",
+                      false),
+            R"(* load frmSelect
+* show frmSelect
+ok
+* load frmEighth
+* show frmEighth
+* hide frmSelect
+ok
+ok
+ok "&Play"
+ok "Starts a new game"
+ok true
+ok true
+ok
+ok
+* msgbox {"text":"Giving up so soon?","title":"Eighth!","icon":"question","buttons":["Yes","No"]}
+ok
+* show frmSelect
+* unload frmEighth
+ok
+* unload frmSelect
+* end
+)");
+}
+
+TEST(EighthGame, ARowOfADesignMayNameAControlArray) {
+  TestFolder folder;
+  const std::string said = RunEighth(folder, R"(click frmSelect.cmdEighth
+resize frmEighth 10540 8200
+get frmEighth.Card(1).Left
+get frmEighth.Card(0).Top
+)");
+  EXPECT_NE(said.find("ok 3500\nok 3500\n"), std::string::npos) << said;
 }

@@ -302,4 +302,26 @@ TEST(SumfallSaved, TheCommandLineOpensAGame) {
   EXPECT_TRUE(other.common().GameInProgress);
 }
 
+// A game without cards closes the window that was just opening: the selector must not hide behind it.
+TEST(SumfallSaved, AGameWithoutCardsLeavesAWindow) {
+  TestFolder folder;
+  Driver(folder.Path()).Do(kOpenSumfall + SaveAs("empty", "Ann"));
+  RunOptions options;
+  options.savedGame = (folder.Path() / "empty.sfl").string();
+  for (const char* close : {"Yes", "No"}) {
+    Driver driver(folder.Path(), options);
+    const std::string said =
+        driver.Do(kOpenSumfall + "answer \"OK\"\nanswer \"OK\"\nanswer \"OK\"\nanswer \"" + close +
+                  "\"\nget frmSelect.Visible\nget frmSumfall.Visible");
+    EXPECT_EQ(BoxesOf(said).size(), 4u) << said;
+    const bool closed = std::string(close) == "Yes";
+    EXPECT_EQ(driver.Get("frmSelect.Visible"), closed);
+    if (closed) continue;
+    EXPECT_EQ(driver.Text("frmSumfall.cmdPlay.Caption"), "&Play");
+    EXPECT_TRUE(driver.Get("frmSumfall.frmSplash.Visible") == true);
+    driver.Do(kPlay);
+    EXPECT_TRUE(driver.common().GameInProgress);
+  }
+}
+
 }  // namespace

@@ -17,6 +17,7 @@ class Control;
 enum class Prop : uint8_t {
   Alignment,
   BackColor,
+  BackStyle,
   BorderColor,
   BorderStyle,
   Caption,

@@ -32,6 +32,7 @@ void Platform::Sleep(int milliseconds) {
 void Platform::DoEvents() {
   if (trace) trace->EventsLetThrough();
   front.Sleep(0);  // shows what has changed
+  front.ServeInput();
   timers.now = front.Milliseconds();
   for (Timer* timer : timers.Waiting(timers.now))
     if (timers.Take(*timer, timers.now)) Tick(*timer);

@@ -66,6 +66,9 @@ class FrontEnd : public Observer {
   virtual Extent TextExtent(const Label& label) = 0;
   // Shows what has changed, then lets the time pass. Serves no input and no timer.
   virtual void Sleep(int milliseconds) = 0;
+  // Lets the input through that has waited while a handler ran: each deed as a handler of its own, in order.
+  // Serves no timer. Does nothing where no input comes meanwhile.
+  virtual void ServeInput() {}
   // Shows the box and serves timers until it is answered.
   virtual Answer RunBox(const MessageBox& box) = 0;
   // Serves events until the form is hidden or gone.
@@ -95,7 +98,7 @@ class Platform : public Observer {
   std::function<void()> AfterHandler;
 
   void Sleep(int milliseconds);
-  // Lets pending events through: each timer with a waiting tick ticks once.
+  // Lets pending events through: the input that has waited, then each timer with a waiting tick, once.
   void DoEvents();
   Answer MsgBox(const std::string& text, const std::string& title, Icon icon = Icon::None,
                 Buttons buttons = Buttons::OK);

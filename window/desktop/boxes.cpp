@@ -1,6 +1,11 @@
 #include "window/desktop/boxes.h"
 
+#include <QPointer>
 #include <QPushButton>
+#include <QScreen>
+#include <QShowEvent>
+#include <QWindow>
+#include <algorithm>
 
 #include "window/desktop/desktop.h"
 #include "window/desktop/form_window.h"
@@ -22,14 +27,32 @@ QMessageBox::Icon IconOf(Icon icon) {
   }
 }
 
-// A box that hands the keyboard to the window behind it. Once it is hidden the screen would take it.
+// A box in the middle of the window behind it. It isn't that window's child: a timer may take the window away
+// while the box stands.
 class Box : public QMessageBox {
  public:
-  explicit Box(QWidget* behind) : QMessageBox(behind) {}
+  Box(DesktopFrontEnd& front, QWidget* behind) : front_(front), behind_(behind) {
+    create();
+    if (behind) windowHandle()->setTransientParent(behind->windowHandle());
+  }
   void setVisible(bool visible) override {
-    if (!visible && isActiveWindow() && parentWidget()) parentWidget()->activateWindow();
+    if (!visible && isVisible()) front_.LeaveActive(*this);
     QMessageBox::setVisible(visible);
   }
+
+ protected:
+  void showEvent(QShowEvent* event) override {
+    QMessageBox::showEvent(event);
+    if (!behind_ || event->spontaneous()) return;
+    const QRect room = behind_->screen()->availableGeometry();
+    const QPoint corner = behind_->geometry().center() - rect().center();
+    move(std::max(room.left(), std::min(corner.x(), room.right() + 1 - width())),
+         std::max(room.top(), std::min(corner.y(), room.bottom() + 1 - height())));
+  }
+
+ private:
+  DesktopFrontEnd& front_;
+  const QPointer<QWidget> behind_;
 };
 
 }  // namespace
@@ -52,7 +75,7 @@ Answer DesktopFrontEnd::RunBox(const MessageBox& box) {
   Answer answer = answers.back();  // what Escape and the close box mean
   bool answered = false;
 
-  Box dialog(FrontWindow());
+  Box dialog(*this, NextWindow(nullptr));
   dialog.setWindowTitle(QString::fromStdString(box.title));
   dialog.setTextFormat(Qt::PlainText);
   dialog.setText(QString::fromStdString(box.text));
@@ -69,10 +92,12 @@ Answer DesktopFrontEnd::RunBox(const MessageBox& box) {
     Wake();
   });
   boxes_.push_back(&dialog);
+  modals_.push_back(&dialog);
   dialog.show();
   dialog.raise();
   dialog.activateWindow();
   WaitFor([&] { return !answered; });
+  modals_.pop_back();
   boxes_.pop_back();
   return answer;
 }

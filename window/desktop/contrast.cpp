@@ -18,7 +18,7 @@ double Luminance(const QColor& colour) {
 }  // namespace
 
 QColor ToColour(int value) {
-  if (value < 0) return style::kInk;  // a colour of the system's: text on a button is the only one in use
+  if (value < 0) return style::kInk;  // a colour of the system's: that of letters is the only one in use
   return QColor(value & 0xff, (value >> 8) & 0xff, (value >> 16) & 0xff);
 }
 

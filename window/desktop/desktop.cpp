@@ -1,5 +1,6 @@
 #include "window/desktop/desktop.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QDateTime>
 #include <QEventLoop>
@@ -7,6 +8,7 @@
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QWindow>
 #include <algorithm>
 #include <cmath>
 #include <iostream>
@@ -71,14 +73,12 @@ void DesktopFrontEnd::Run(Form* form, const std::function<void()>& handler) {
 }
 
 void DesktopFrontEnd::Deliver(Form& form, std::function<void()> deed) {
-  if (busy_)
-    deeds_.push_back({&form, std::move(deed)});
-  else
-    Run(&form, deed);
+  deeds_.push_back({&form, std::move(deed)});
+  DeliverWaiting();
 }
 
 void DesktopFrontEnd::DeliverWaiting() {
-  while (!busy_ && !deeds_.empty()) {
+  while (!deeds_.empty() && MayRun()) {
     const Deed deed = std::move(deeds_.front());
     deeds_.pop_front();
     Run(deed.form, deed.run);
@@ -87,14 +87,24 @@ void DesktopFrontEnd::DeliverWaiting() {
 
 void DesktopFrontEnd::ArmTimer() {
   const auto due = platform.timers.NextDue();
-  if (!due || busy_) return timer_.stop();
+  if (!due || busy_ || ticks_ == Ticks::Held) return timer_.stop();
   timer_.start(static_cast<int>(std::clamp(*due - Milliseconds(), 0ll, 1000000000ll)));
 }
 
-// One tick at a time: what the player did comes in between when ticks are late.
+// One tick at a time, and what the player did goes before a late one.
 void DesktopFrontEnd::ServeTick() {
-  if (busy_) return;
-  Run(nullptr, [this] { platform.ServeTimer(); });
+  if (busy_ || ticks_ == Ticks::Held) return;
+  ServeInput();
+  if (MayRun()) Run(nullptr, [this] { platform.ServeTimer(); });
+}
+
+// First what the windows have told, then what Qt has kept back during pauses.
+void DesktopFrontEnd::ServeInput() {
+  constexpr int kRounds = 100;  // input that never ends isn't waited for
+  const Idle idle(*this, Ticks::Held);
+  DeliverWaiting();
+  QEventLoop loop;
+  for (int i = 0; i < kRounds && !platform.HasEnded() && loop.processEvents(); ++i) DeliverWaiting();
 }
 
 // --- Waiting -------------------------------------------------------------------------------------
@@ -102,6 +112,8 @@ void DesktopFrontEnd::ServeTick() {
 void DesktopFrontEnd::Wait(const std::function<bool()>& waiting) {
   const Idle idle(*this);
   QEventLoop* const outer = loop_;
+  const std::function<bool()>* const outerWaiting = waiting_;
+  waiting_ = &waiting;
   ArmTimer();
   if (!deeds_.empty()) QTimer::singleShot(0, &timer_, [this] { DeliverWaiting(); });
   while (waiting() && !platform.HasEnded()) {
@@ -110,6 +122,7 @@ void DesktopFrontEnd::Wait(const std::function<bool()>& waiting) {
     loop.exec();
   }
   loop_ = outer;
+  waiting_ = outerWaiting;
   timer_.stop();
   Wake();
 }
@@ -123,14 +136,18 @@ void DesktopFrontEnd::Pause(int milliseconds) {
   QEventLoop loop;
   if (milliseconds <= 0) {
     loop.processEvents(QEventLoop::ExcludeUserInputEvents);
-    return;
+  } else {
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
   }
-  QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-  loop.exec(QEventLoop::ExcludeUserInputEvents);
+  // Else the input that was held back might lie there until something else happens.
+  QAbstractEventDispatcher::instance()->wakeUp();
 }
 
 void DesktopFrontEnd::RunModal(Form& form) {
+  modals_.push_back(WindowOf(form));
   WaitFor([&form] { return form.Visible.get(); });
+  modals_.pop_back();
 }
 
 // --- The world -----------------------------------------------------------------------------------
@@ -205,19 +222,27 @@ FormWindow* DesktopFrontEnd::FrontWindow() const {
   return nullptr;
 }
 
-void DesktopFrontEnd::LeaveActive(const FormWindow& going) {
-  if (!going.isActiveWindow()) return;
-  if (FormWindow* window = FrontWindow()) window->activateWindow();
+QWidget* DesktopFrontEnd::NextWindow(const QWidget* going) const {
+  for (auto modal = modals_.rbegin(); modal != modals_.rend(); ++modal)
+    if (*modal && *modal != going && (*modal)->isVisible()) return *modal;
+  return FrontWindow();
+}
+
+void DesktopFrontEnd::LeaveActive(const QWidget& going) {
+  QWidget* below = FrontWindow();
+  for (QWidget* modal : modals_) {
+    if (!modal || modal == &going || !modal->isVisible()) continue;
+    if (modal->windowHandle()->transientParent() == going.windowHandle())
+      modal->windowHandle()->setTransientParent(below ? below->windowHandle() : nullptr);
+    below = modal;
+  }
+  if (below && going.isActiveWindow()) below->activateWindow();
 }
 
 void DesktopFrontEnd::FormLoaded(Form& form) { windows_[&form] = new FormWindow(form, *this); }
 
 void DesktopFrontEnd::FormShown(Form& form) {
-  FormWindow* behind = nullptr;
-  for (const Form* each : platform.forms)
-    if (FormWindow* window = WindowOf(*each); !behind && each != &form && window && window->isVisible())
-      behind = window;
-  if (FormWindow* window = WindowOf(form)) window->ShowForm(behind);
+  if (FormWindow* window = WindowOf(form)) window->ShowForm(NextWindow(window));
 }
 
 void DesktopFrontEnd::FormHidden(Form& form) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QTimer>
 #include <deque>
 #include <filesystem>
@@ -40,6 +41,9 @@ class DesktopFrontEnd : public FrontEnd {
   FormWindow* WindowOf(const Form& form) const;
   // A board has been painted.
   void Painted();
+  // A window or box that is about to be hidden hands the keyboard to the next one, as well as the boxes that
+  // belong to it: where no window manager runs nobody else does.
+  void LeaveActive(const QWidget& going);
 
   // Whether windows follow what the window manager does to them, and cards the real pointer.
   virtual bool HeedsWindowManager() const { return true; }
@@ -50,6 +54,7 @@ class DesktopFrontEnd : public FrontEnd {
   Extent ScreenExtent() override;
   Extent TextExtent(const Label& label) override;
   void Sleep(int milliseconds) override { Pause(milliseconds); }
+  void ServeInput() override;
   Answer RunBox(const MessageBox& box) override;
   void RunModal(Form& form) override;
   void PlayWave(const std::string& path) override { media_.PlayWave(path); }
@@ -84,16 +89,25 @@ class DesktopFrontEnd : public FrontEnd {
   void Wake();
   // Runs a handler, then sees to what it has left behind.
   void Run(Form* form, const std::function<void()>& handler);
+  enum class Ticks { Served, Held };
   // While one stands the handler under way waits, and others may run.
   class Idle {
    public:
-    explicit Idle(DesktopFrontEnd& front) : front_(front), wasBusy_(front.busy_) { front_.busy_ = false; }
-    ~Idle() { front_.busy_ = wasBusy_; }
+    explicit Idle(DesktopFrontEnd& front, Ticks ticks = Ticks::Served)
+        : front_(front), wasBusy_(front.busy_), ticksWere_(front.ticks_) {
+      front_.busy_ = false;
+      front_.ticks_ = ticks;
+    }
+    ~Idle() {
+      front_.busy_ = wasBusy_;
+      front_.ticks_ = ticksWere_;
+    }
     Idle(const Idle&) = delete;
 
    private:
     DesktopFrontEnd& front_;
     const bool wasBusy_;
+    const Ticks ticksWere_;
   };
   // For what is to be called later.
   QObject& Context() { return timer_; }
@@ -105,10 +119,11 @@ class DesktopFrontEnd : public FrontEnd {
  private:
   void ServeTick();
   void DeliverWaiting();
+  // Whether a handler may begin. Not once what the innermost wait waits for has come: its handler goes first.
+  bool MayRun() const { return !busy_ && (!waiting_ || (*waiting_)()); }
   FormWindow* FrontWindow() const;
-  // A window that is about to be hidden hands the keyboard to the next one: where no window manager runs
-  // nobody else does.
-  void LeaveActive(const FormWindow& going);
+  // The window that stands before all others once this one is gone; null if there is none.
+  QWidget* NextWindow(const QWidget* going) const;
   void ShowIcon();
   void Quit();
 
@@ -124,7 +139,10 @@ class DesktopFrontEnd : public FrontEnd {
   std::unordered_map<const Form*, FormWindow*> windows_;
   std::deque<Deed> deeds_;
   std::vector<class QMessageBox*> boxes_;
-  QEventLoop* loop_ = nullptr;  // of the innermost wait
+  std::vector<QPointer<QWidget>> modals_;  // the boxes and the modal windows that are waited for
+  QEventLoop* loop_ = nullptr;             // of the innermost wait
+  const std::function<bool()>* waiting_ = nullptr;
   bool busy_ = false, painted_ = false;
+  Ticks ticks_ = Ticks::Served;
   int status_ = 0;
 };

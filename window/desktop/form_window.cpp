@@ -86,7 +86,7 @@ void FormWindow::ApplyPanels() {
 
 // --- What the model tells ------------------------------------------------------------------------
 
-void FormWindow::ShowForm(FormWindow* behind) {
+void FormWindow::ShowForm(QWidget* behind) {
   if (!isVisible()) {
     const Qt::WindowFlags buttons = form.Sizable ? Qt::WindowMinMaxButtonsHint : Qt::WindowMinimizeButtonHint;
     setWindowFlags(form.Modal() ? Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -166,7 +166,8 @@ void FormWindow::ApplyForm(Prop prop) {
       return setWindowTitle(QString::fromStdString(form.Caption));
     case Prop::Left:
     case Prop::Top:
-      if (isVisible() && !isMaximized() && pos() != QPoint(Pixels(form.Left), Pixels(form.Top)))
+      if (isVisible() && !isMaximized() && !tellsPlace_ &&
+          pos() != QPoint(Pixels(form.Left), Pixels(form.Top)))
         move(Pixels(form.Left), Pixels(form.Top));
       return;
     case Prop::Width:
@@ -304,9 +305,15 @@ void FormWindow::TellSize() {
 
 void FormWindow::moveEvent(QMoveEvent*) {
   if (left_ || !isVisible() || isMaximized() || isMinimized() || !front_.HeedsWindowManager()) return;
-  const QPoint place = pos();
-  if (place.x() != Pixels(form.Left)) form.Left = place.x() * 15;
-  if (place.y() != Pixels(form.Top)) form.Top = place.y() * 15;
+  const auto differs = [this] { return pos() != QPoint(Pixels(form.Left), Pixels(form.Top)); };
+  if (!differs()) return;
+  front_.Deliver(form, [this, differs] {
+    if (!differs() || isMaximized() || isMinimized()) return;
+    tellsPlace_ = true;
+    if (x() != Pixels(form.Left)) form.Left = x() * 15;
+    if (y() != Pixels(form.Top)) form.Top = y() * 15;
+    tellsPlace_ = false;
+  });
 }
 
 void FormWindow::changeEvent(QEvent* event) {

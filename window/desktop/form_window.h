@@ -21,7 +21,7 @@ class FormWindow : public QWidget {
   Form& form;
 
   // Shows the form as it stands, before the window `behind` if it is modal.
-  void ShowForm(FormWindow* behind);
+  void ShowForm(QWidget* behind);
   // The form is gone: no event reaches it any more.
   void Leave();
 
@@ -64,5 +64,5 @@ class FormWindow : public QWidget {
   QWidget* statusBar_ = nullptr;
   std::vector<QLabel*> panels_;
   std::unordered_map<const Control*, QWidget*> widgets_;
-  bool left_ = false, sizeWaits_ = false;
+  bool left_ = false, sizeWaits_ = false, tellsPlace_ = false;
 };

@@ -22,6 +22,7 @@ class ScriptedDesktop : public DesktopFrontEnd, private DesktopHands {
   long long Milliseconds() override { return now_; }
   DateTime Now() override;
   void Sleep(int milliseconds) override;
+  void ServeInput() override {}  // the lines are all the input there is
   std::string FindBrowser() override { return "browser"; }
   bool OpenPage(const std::string&, const std::string&) override { return true; }
 

@@ -1,0 +1,417 @@
+// What a player does while handlers run, and what becomes of it.
+#include <gtest/gtest.h>
+
+#include <QMenu>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QPushButton>
+
+#include "games/games.h"
+#include "games/sumfall/sumfall.h"
+#include "suite/catalogue.h"
+#include "suite/suite.h"
+#include "tests/desktop_screen.h"
+#include "tests/harness.h"
+#include "window/desktop/media.h"
+#include "window/desktop/pictures.h"
+
+namespace {
+
+class frmTable : public Form {
+ public:
+  explicit frmTable(Platform& platform, const char* name = "frmTable") : Form(platform, name) {
+    Sizable = true;
+    Visual* const row[] = {&cmdA, &cmdB, &imgCard, &imgPair};
+    for (int i = 0; i < 4; ++i) row[i]->Move(1500 * i, 300, 1065, 1440);
+    Move(1500, 1500, 7500, 3000);
+    imgCard.Picture = imgPair.Picture = 20;
+    cmdA.Caption = "&Alpha";
+    cmdB.Caption = "&Beta";
+    mnuGame.Caption = "&Game";
+    mnuEntry.Caption = "&Entry";
+    Clock.Interval = 1;
+    cmdA.OnClick = [this] { Runs("A", onA); };
+    cmdB.OnClick = [this] { Runs("B", onB); };
+    imgCard.OnClick = [this] { Runs("card", nullptr); };
+    imgPair.OnClick = [this] { Runs("pair", nullptr); };
+    imgPair.OnDblClick = [this] { Runs("twice", nullptr); };
+    mnuEntry.OnClick = [this] { Runs("entry", nullptr); };
+    Clock.OnTimer = [this] {
+      if (!ticksOn) Clock.Enabled = false;
+      Runs("tick", onTick);
+    };
+  }
+  void Form_Unload() override { log += "gone "; }
+  void Runs(const std::string& name, std::function<void()> handler) {
+    log += name + (handler ? "( " : " ");
+    if (handler) handler();
+    if (handler) log += ") ";
+  }
+
+  CommandButton cmdA{*this, "cmdA"}, cmdB{*this, "cmdB"};
+  Image imgCard{*this, "imgCard"}, imgPair{*this, "imgPair"};
+  Timer Clock{*this, "Clock"};
+  Menu mnuGame{*this, "mnuGame"}, mnuEntry{mnuGame, "mnuEntry"};
+  std::function<void()> onA, onB, onTick;
+  std::string log;
+  bool ticksOn = false;
+};
+
+class Input : public testing::Test {
+ protected:
+  void SetUp() override {
+    table.Show();
+    input::Settle();
+  }
+  // What a handler leads to in which the screen does `meanwhile` while it sleeps.
+  std::string LogOf(const std::function<void()>& meanwhile, bool lets,
+                    const std::function<void()>& later = nullptr) {
+    table.log.clear();
+    front.onSleep = meanwhile;
+    table.onA = [this, lets, later] {
+      front.platform.Sleep(10);
+      table.log += "slept ";
+      if (lets) front.platform.DoEvents();
+      if (later) later();
+    };
+    input::Click(front, table.cmdA);
+    input::Settle();
+    input::Await([this] { return table.log.find(')') != std::string::npos && !table.Clock.Enabled; });
+    input::Settle();
+    table.onA = nullptr;
+    return table.log;
+  }
+  // Does something from a timer as soon as `ready()`. What never becomes ready fails, and closes all boxes.
+  static void When(const std::function<bool()>& ready, const std::function<void()>& deed,
+                   int patience = 2000) {
+    QTimer::singleShot(1, qApp, [=] {
+      if (ready()) return deed();
+      if (patience > 0) return When(ready, deed, patience - 1);
+      ADD_FAILURE() << "waited in vain";
+      while (QWidget* box = QApplication::activeModalWidget()) box->close();
+    });
+  }
+  static QMessageBox* Box() {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    return box && box->isVisible() ? box : nullptr;
+  }
+  static void AtNextBox(const std::function<void(QMessageBox&)>& deed) {
+    When([] { return Box() != nullptr; }, [deed] { deed(*Box()); });
+  }
+  void PressAtNextBox(QMessageBox::StandardButton button) {
+    AtNextBox([button](QMessageBox& box) { input::Press(*box.button(button), QPoint(5, 5)); });
+  }
+
+  const bool open = OpenScreen();
+  TestFolder folder;
+  QuickDesktop front{{folder.Path(), CARDHAVEN_TEST_DATA}, Catalogue()};
+  frmTable table{front.platform};
+};
+
+}  // namespace
+
+TEST_F(Input, IsKeptInOrderAndServedAtPendingEvents) {
+  const auto click = [this](const Visual& control) { input::Click(front, control); };
+  const auto post = [this](const Visual& control) {  // what Qt doesn't hold back
+    FormWindow& window = *front.WindowOf(table);
+    const QPoint point = window.Board().SpotOf(control).value();
+    QApplication::postEvent(&window.Board(), new QMouseEvent(QEvent::MouseButtonPress, point, point,
+                                                             Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+  };
+  struct Case {
+    const char* what;
+    std::function<void()> meanwhile;
+    std::string after, pending;  // what follows the sleep without and with pending events
+  };
+  const Case cases[] = {
+      {"nothing", [] {}, ") ", ") "},
+      {"two clicks", [&] { click(table.cmdB), click(table.imgCard); }, ") B card ", "B card ) "},
+      {"clicks and a tick, which comes last",
+       [&] { table.Clock.Enabled = true, click(table.imgCard), click(table.cmdB); }, ") card B tick ",
+       "card B tick ) "},
+      {"kept by the front end, then by Qt", [&] { click(table.imgCard), post(table.imgPair); },
+       ") pair card ", "pair card ) "},
+      {"a key", [&] { input::Key(*front.WindowOf(table), Qt::Key_Return, {}, "\r"); }, ") A ", "A ) "},
+  };
+  for (const Case& each : cases) {
+    EXPECT_EQ(LogOf([&] { table.onA = nullptr, each.meanwhile(); }, false), "A( slept " + each.after)
+        << each.what;
+    EXPECT_EQ(LogOf([&] { table.onA = nullptr, each.meanwhile(); }, true), "A( slept " + each.pending)
+        << each.what;
+  }
+  // What a handler has disabled by then answers no more.
+  EXPECT_EQ(LogOf([&] { table.cmdB.Enabled = false, click(table.cmdB), click(table.imgCard); }, true),
+            "A( slept card ) ");
+  table.cmdB.Enabled = true;
+}
+
+TEST_F(Input, HandlersLetThroughMayWaitThemselves) {
+  // A handler let through sleeps and lets through what came meanwhile; nothing runs inside a plain sleep.
+  table.onB = [this] {
+    front.onSleep = [this] { input::Click(front, table.imgCard); };
+    front.platform.Sleep(10);
+    table.log += "slept ";
+    front.platform.DoEvents();
+  };
+  EXPECT_EQ(LogOf([&] { input::Click(front, table.cmdB), input::Click(front, table.imgPair); }, true),
+            "A( slept B( slept pair card ) ) ");
+  // Under its message box timers tick, though they wait while input is let through; other input is swallowed.
+  table.onB = [this] {
+    table.Clock.Enabled = true;
+    table.onTick = [this] { PressAtNextBox(QMessageBox::Ok); };
+    AtNextBox([this](QMessageBox&) { input::Click(front, table.imgCard); });
+    front.platform.MsgBox("Wait", "Wait");
+    table.onTick = nullptr;
+  };
+  EXPECT_EQ(LogOf([&] { input::Click(front, table.cmdB); }, true), "A( slept B( tick( ) ) ) ");
+  // What follows the answer of a box waits for the handler that asked.
+  table.onB = [this] {
+    AtNextBox([this](QMessageBox& box) {
+      input::Press(*box.button(QMessageBox::Ok), QPoint(5, 5));
+      input::Click(front, table.imgCard);
+      table.Clock.Enabled = true;
+    });
+    front.platform.MsgBox("Wait", "Wait");
+    table.log += "asked ";
+  };
+  table.log.clear();
+  input::Click(front, table.cmdB);
+  ASSERT_TRUE(input::Await([this] { return table.log.ends_with("tick "); })) << table.log;
+  EXPECT_EQ(table.log, "B( asked ) card tick ");
+}
+
+TEST_F(Input, AWindowMayGoWhileItsHandlerLetsEventsThrough) {
+  auto other = std::make_unique<frmTable>(front.platform, "frmOther");
+  other->Left = 9000;
+  other->Show();
+  input::Settle();
+  const std::string log = LogOf(
+      [&] {
+        input::Click(front, table.imgCard);
+        front.WindowOf(table)->close();
+        front.WindowOf(table)->close();
+        input::Click(front, table.cmdB);
+        input::Click(front, other->imgCard);
+        table.Clock.Enabled = true;
+      },
+      true, [&] { table.cmdB.Caption = table.Loaded() ? "there" : "not there"; });
+  EXPECT_EQ(log, "A( slept gone ) ");
+  EXPECT_EQ(other->log, "card ");
+  EXPECT_EQ(table.cmdB.Caption.get(), "not there");
+  EXPECT_EQ(front.WindowOf(table), nullptr);
+}
+
+TEST_F(Input, MovingTheWindowIsInputToo) {
+  const int left = table.Left;
+  std::string seen;
+  const auto look = [&] { seen += table.Left == left ? "old " : "new "; };
+  for (const bool lets : {false, true}) {
+    table.Left = left;
+    seen.clear();
+    LogOf(
+        [&] {
+          front.WindowOf(table)->move(300, 200);
+          look();
+        },
+        lets, look);
+    look();
+    EXPECT_EQ(seen, lets ? "old new new " : "old old new ");
+    EXPECT_EQ(table.Left, 300 * 15);
+    EXPECT_EQ(table.Top, 200 * 15);
+  }
+}
+
+TEST_F(Input, TheSecondClickOfADoubleClickCounts) {
+  const struct {
+    Visual& control;
+    const char* log;
+  } cases[] = {{table.imgCard, "card card "}, {table.imgPair, "pair twice "}, {table.cmdB, "B B "}};
+  for (const auto& each : cases) {
+    table.log.clear();
+    input::Click(front, each.control);
+    input::Click(front, each.control, 20);
+    input::Settle();
+    EXPECT_EQ(table.log, each.log);
+  }
+}
+
+TEST_F(Input, AccessKeysPressButtonsAndOpenMenus) {
+  table.log.clear();
+  FormWindow& window = *front.WindowOf(table);
+  input::Key(window, Qt::Key_B, Qt::AltModifier, "b");
+  EXPECT_TRUE(input::Await([this] { return table.log == "B "; }));  // the button is seen to go down first
+  input::Key(window, Qt::Key_G, Qt::AltModifier, "g");
+  input::Settle();
+  QWidget* menu = QApplication::activePopupWidget();
+  ASSERT_NE(menu, nullptr);
+  EXPECT_EQ(menu->objectName(), "mnuGame");
+  input::Key(*menu, Qt::Key_E, {}, "e");
+  input::Settle();
+  EXPECT_EQ(table.log, "B entry ");
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(Input, EscapeAndTheCloseBoxAnswerBoxes) {
+  const struct {
+    Buttons buttons;
+    Answer escape, enter;
+  } cases[] = {{Buttons::OK, Answer::OK, Answer::OK},
+               {Buttons::OKCancel, Answer::Cancel, Answer::OK},
+               {Buttons::YesNo, Answer::No, Answer::Yes}};
+  for (const auto& each : cases) {
+    AtNextBox([](QMessageBox& box) { input::Key(box, Qt::Key_Escape); });
+    EXPECT_EQ(front.platform.MsgBox("Sure?", "Ask", Icon::Question, each.buttons), each.escape);
+    AtNextBox([](QMessageBox& box) { box.close(); });
+    EXPECT_EQ(front.platform.MsgBox("Sure?", "Ask", Icon::None, each.buttons), each.escape);
+    AtNextBox([](QMessageBox& box) { input::Key(box, Qt::Key_Return, {}, "\r"); });
+    EXPECT_EQ(front.platform.MsgBox("Sure?", "Ask", Icon::None, each.buttons), each.enter);
+    for (const Answer answer : AnswersOf(each.buttons)) {
+      PressAtNextBox(answer == Answer::OK       ? QMessageBox::Ok
+                     : answer == Answer::Cancel ? QMessageBox::Cancel
+                     : answer == Answer::Yes    ? QMessageBox::Yes
+                                                : QMessageBox::No);
+      EXPECT_EQ(front.platform.MsgBox("Sure?", "Ask", Icon::None, each.buttons), answer);
+    }
+  }
+  // A dialog is answered by the button that is its Cancel button, if it has one and that is enabled.
+  for (const bool enabled : {true, false}) {
+    for (const bool cancel : {true, false}) {
+      table.cmdB.Cancel = cancel;
+      table.cmdB.Enabled = enabled;
+      table.log.clear();
+      input::Key(*front.WindowOf(table), Qt::Key_Escape);
+      input::Settle();
+      EXPECT_EQ(table.log, cancel && enabled ? "B " : "");
+    }
+  }
+}
+
+TEST_F(Input, ABoxOutlivesTheWindowBehindIt) {
+  for (const bool hidden : {true, false}) {
+    auto game = std::make_unique<frmTable>(front.platform, "frmGame");
+    game->Show();
+    input::Settle();
+    EXPECT_EQ(QApplication::activeWindow(), front.WindowOf(*game));
+    game->Clock.Enabled = true;
+    const QPointer<QWidget> window = front.WindowOf(*game);
+    game->onTick = [&] { hidden ? game->Hide() : game->Unload(); };
+    const auto gone = [&] { return hidden ? !window->isVisible() : !window; };
+    When([&] { return Box() && gone(); },
+         [&] {
+           EXPECT_TRUE(Box()->isActiveWindow());
+           EXPECT_EQ(Box()->windowHandle()->transientParent(), front.WindowOf(table)->windowHandle());
+           input::Key(*Box(), Qt::Key_Return, {}, "\r");
+         });
+    EXPECT_EQ(front.platform.MsgBox("Sure?", "Ask", Icon::Question, Buttons::YesNo), Answer::Yes);
+    EXPECT_TRUE(input::Await([&] { return QApplication::activeWindow() == front.WindowOf(table); }));
+    game->Discard();
+    input::Settle();
+  }
+  // A box over a box hands the keyboard back to it.
+  QPointer<QWidget> first;
+  bool asked = false;
+  AtNextBox([&](QMessageBox& box) {
+    first = &box;
+    When([&] { return Box() && Box() != first; }, [&] { input::Key(*Box(), Qt::Key_Return, {}, "\r"); });
+    When([&] { return asked && Box() == first && QApplication::activeWindow() == first; },
+         [&] { input::Key(*first, Qt::Key_Escape); });
+    front.platform.MsgBox("Second", "Ask");
+    asked = true;
+  });
+  EXPECT_EQ(front.platform.MsgBox("First", "Ask", Icon::None, Buttons::OKCancel), Answer::Cancel);
+}
+
+// --- Whole games ---------------------------------------------------------------------------------
+
+namespace {
+
+class Playing : public testing::Test {
+ protected:
+  void SetUp() override {
+    suite.Start();
+    input::Settle();
+    input::Click(front, *static_cast<Visual*>(front.platform.FindForm("frmSelect")->find("cmdSumfall")));
+    input::Settle();
+    input::Click(front, Game().cmdPlay);
+    ASSERT_TRUE(input::Await([this] { return suite.common.GameInProgress; }));
+  }
+  GameWindow& Game() { return *suite.common.window; }
+  int Round() { return static_cast<frmSumfall&>(Game()).CurrentRound; }
+  // Takes the score; the player does `meanwhile` at the first pause.
+  void TakeScore(const std::function<void()>& meanwhile) {
+    front.onSleep = meanwhile;
+    input::Click(front, Game().cmdTakeScore);
+    input::Settle();
+    EXPECT_FALSE(front.onSleep) << "nothing was counted";
+  }
+
+  const bool open = OpenScreen();
+  TestFolder folder;
+  QuickDesktop front{{folder.Path(), CARDHAVEN_TEST_DATA}, Catalogue()};
+  Suite suite{front.platform, {folder.Path()}, AllGames()};
+};
+
+}  // namespace
+
+TEST_F(Playing, ASecondClickWhileTheRoundIsCountedPlaysNoRoundAway) {
+  ASSERT_EQ(Round(), 1);
+  TakeScore([this] {
+    input::Click(front, Game().cmdTakeScore);
+    input::Key(*front.WindowOf(Game()), Qt::Key_T, Qt::AltModifier, "t");
+    input::Click(front, Game().cmdTakeScore, 20);
+  });
+  EXPECT_EQ(Round(), 2);
+  EXPECT_TRUE(suite.common.GameInProgress);
+  EXPECT_TRUE(Game().cmdTakeScore.Enabled);
+}
+
+TEST_F(Playing, TheCloseBoxWhileTheRoundIsCountedAsksOnce) {
+  for (const bool yes : {false, true}) {
+    int asked = 0;
+    const std::function<void()> answer = [&] {
+      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+          box && box->isVisible()) {
+        ++asked;
+        box->button(yes ? QMessageBox::Yes : QMessageBox::No)->click();
+      }
+    };
+    QTimer answering;
+    QObject::connect(&answering, &QTimer::timeout, answer);
+    answering.start(1);
+    TakeScore([&] {
+      front.WindowOf(Game())->close();
+      front.WindowOf(Game())->close();
+      front.WindowOf(Game())->setFocus();
+    });
+    input::Settle();
+    EXPECT_EQ(asked, 1);  // the second press meets the question
+    EXPECT_EQ(front.platform.FindForm("frmSumfall") == nullptr, yes);
+    EXPECT_EQ(front.platform.FindForm("frmSelect")->Visible, yes);
+    EXPECT_FALSE(front.platform.HasEnded());
+    if (yes) continue;
+    ASSERT_TRUE(Game().cmdTakeScore.Enabled);
+  }
+}
+
+TEST(OwnFiles, GoBeforeTheSuites) {
+  OpenScreen();
+  TestFolder own, installed;
+  std::filesystem::create_directories(installed.Path() / "pictures");
+  const auto square = [](const std::string& colour) {
+    return "<svg xmlns='http://www.w3.org/2000/svg' width='10' height='10'><rect width='10' height='10' "
+           "fill='" +
+           colour + "'/></svg>";
+  };
+  own.Write("A.svg", square("red"));
+  for (const char* name : {"pictures/A.svg", "pictures/B.svg"}) installed.Write(name, square("blue"));
+  Pictures pictures({{"A.svg", 10, 10}, {"B.svg", 10, 10}}, own.Path(), installed.Path() / "pictures");
+  EXPECT_EQ(pictures.Get(1, false, 1).toImage().pixelColor(5, 5), QColor(Qt::red));
+  EXPECT_EQ(pictures.Get(2, false, 1).toImage().pixelColor(5, 5), QColor(Qt::blue));
+
+  own.Write("Chord.wav", "mine");
+  const Media media(own.Path(), installed.Path());
+  EXPECT_EQ(media.Find("\\Chord.wav", "sounds"), own.Path() / "Chord.wav");
+  EXPECT_EQ(media.Find("\\Snap.wav", "sounds"), installed.Path() / "sounds/Snap.wav");
+  EXPECT_EQ(media.Find("\\Tune.MID", "music"), installed.Path() / "music/Tune.MID");
+}

@@ -1,0 +1,114 @@
+// A screen that nobody sees, and what a player does at it: events that go the whole way through Qt's queue.
+#pragma once
+
+#include <QtTest/qtestkeyboard.h>
+#include <QtTest/qtestmouse.h>
+#include <dlfcn.h>
+
+#include <QApplication>
+#include <QTimer>
+#include <QWindow>
+#include <functional>
+
+#include "window/desktop/canvas.h"
+#include "window/desktop/desktop.h"
+#include "window/desktop/form_window.h"
+#include "window/desktop/style.h"
+
+inline bool OpenScreen() {
+  static int count = 1;
+  static char program[] = "desktop_tests";
+  static char* arguments[] = {program, nullptr};
+  static QApplication* application = nullptr;
+  if (application) return true;
+  setenv("QT_QPA_PLATFORM", "offscreen", 0);
+  setenv("SDL_AUDIODRIVER", "dummy", 0);
+  application = new QApplication(count, arguments);
+  style::Apply(*application);
+  return true;
+}
+
+// The real front end with short pauses.
+class QuickDesktop : public DesktopFrontEnd {
+ public:
+  using DesktopFrontEnd::DesktopFrontEnd;
+  std::function<void()> onSleep;  // what happens at the screen while a handler sleeps, once
+
+  void Sleep(int milliseconds) override {
+    if (milliseconds > 0 && onSleep) std::exchange(onSleep, nullptr)();
+    Pause(std::min(milliseconds, 3));
+  }
+  void PlayWave(const std::string&) override {}
+  void MediaCommand(const std::string&) override {}
+};
+
+namespace input {
+
+inline void Settle() {
+  for (int i = 0; i < 5; ++i) QApplication::processEvents();
+}
+
+// Lets events come until `happened()`; false if it doesn't.
+inline bool Await(const std::function<bool()>& happened) {
+  for (int i = 0; i < 2000 && !happened(); ++i) {
+    QEventLoop loop;
+    QTimer::singleShot(1, &loop, &QEventLoop::quit);
+    loop.exec();
+  }
+  return happened();
+}
+
+// Qt's way in for input that waits in its queue is no public one: where it can't be found under that name the
+// event is delivered at once.
+template <class Function>
+Function* Queued(const char* name) {
+  return reinterpret_cast<Function*>(dlsym(RTLD_DEFAULT, name));
+}
+
+inline void SendMouse(QWindow& window, QEvent::Type type, QPointF point, Qt::MouseButtons held, int time) {
+  using Handle = bool(QWindow*, ulong, const QPointF&, const QPointF&, Qt::MouseButtons, Qt::MouseButton,
+                      QEvent::Type, Qt::KeyboardModifiers, Qt::MouseEventSource);
+  static const auto queued = Queued<Handle>(
+      "_ZN22QWindowSystemInterface16handleMouseEventINS_20AsynchronousDeliveryEEEbP7QWindowmRK7QPointFS6_"
+      "6QFlagsIN"
+      "2Qt11MouseButtonEES9_N6QEvent4TypeES7_INS8_16KeyboardModifierEENS8_16MouseEventSourceE");
+  const QPointF global = window.mapToGlobal(point);
+  if (queued)
+    queued(&window, time, point, global, held, Qt::LeftButton, type, {}, Qt::MouseEventNotSynthesized);
+  else
+    qt_handleMouseEvent(&window, point, global, held, Qt::LeftButton, type, {}, time);
+}
+
+// Presses and releases the left button at that place of a window. `pause` is the time since the last event.
+inline void Press(QWidget& widget, QPoint point, int pause = 1000) {
+  static int time = 0;
+  time += pause;
+  QWindow& window = *widget.window()->windowHandle();
+  const QPointF place = widget.mapTo(widget.window(), point);
+  SendMouse(window, QEvent::MouseButtonPress, place, Qt::LeftButton, time);
+  SendMouse(window, QEvent::MouseButtonRelease, place, Qt::NoButton, time);
+}
+
+inline void Key(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) {
+  using Handle = bool(QWindow*, QEvent::Type, int, Qt::KeyboardModifiers, const QString&, bool, ushort);
+  static const auto queued = Queued<Handle>(
+      "_ZN22QWindowSystemInterface14handleKeyEventINS_"
+      "20AsynchronousDeliveryEEEbP7QWindowN6QEvent4TypeEi6QFlagsIN2Qt"
+      "16KeyboardModifierEERK7QStringbt");
+  for (QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QWindow* window = widget.window()->windowHandle();
+    queued ? void(queued(window, type, key, modifiers, text, false, 1))
+           : qt_handleKeyEvent(window, type, key, modifiers, text);
+  }
+}
+
+// Clicks a control in the middle.
+inline void Click(DesktopFrontEnd& front, const Visual& control, int pause = 1000) {
+  FormWindow& window = *front.WindowOf(control.form);
+  if (QWidget* widget = window.WidgetOf(control))
+    Press(*widget, widget->rect().center(), pause);
+  else
+    Press(window.Board(), window.Board().SpotOf(control).value(), pause);
+}
+
+}  // namespace input

@@ -1,0 +1,310 @@
+// What holds for every game of the suite, from the day on which it is named in `AllGames`.
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "suite/high_scores.h"
+#include "tests/driver.h"
+
+namespace {
+
+std::vector<std::string> Buttons() {
+  std::vector<std::string> buttons;
+  for (const GameEntry& game : AllGames())
+    if (game.create) buttons.emplace_back(game.button);
+  return buttons;
+}
+
+class EveryGame : public ::testing::TestWithParam<std::string> {
+ protected:
+  EveryGame() { Open(); }
+  void Open() {
+    driver.Do("click frmSelect." + GetParam());
+    plan_ = &Game().plan;
+  }
+  GameWindow& Game() { return *driver.common().window; }
+  const GamePlan& Plan() { return *plan_; }  // also when the window is gone
+  std::string Window() { return Plan().names.window; }
+  std::string Click(const Control& control) { return "click " + control.FullName() + "\n"; }
+  std::string Play() { return Click(Game().cmdPlay); }
+  // The table's file for the window's settings.
+  std::string Table(const HighScoreTable& table) { return Game().TableFile(table.name).substr(1); }
+  // What a text box of the modal window holds.
+  std::string TextOf(const std::string& box) {
+    const Form& form = *driver.platform().ModalForm();
+    return static_cast<TextBox*>(form.find(box.substr(box.find('.') + 1)))->Text;
+  }
+  bool Shown(const Control& control) { return driver.Get(control.FullName() + ".Visible") == true; }
+
+  TestFolder folder;
+  Driver driver{folder.Path()};
+
+ private:
+  const GamePlan* plan_ = nullptr;
+};
+
+TEST_P(EveryGame, OpensInItsSplashState) {
+  GameWindow& game = Game();
+  EXPECT_EQ(game.Caption, driver.common().AppTitle);
+  EXPECT_EQ(game.phase, Phase::Idle);
+  EXPECT_TRUE(game.frmSplash.Visible && game.Timer4.Enabled && game.ClockTimer.Enabled);
+  EXPECT_FALSE(game.Timer1.Enabled || game.cmdPause.Enabled || game.mnuPause.Enabled ||
+               game.lblMessage.Visible || game.lblScoring.Visible);
+  EXPECT_EQ(game.cmdPlay.Caption, "&Play");
+  EXPECT_EQ(game.cmdPlay.ToolTipText, "Starts a new game");
+  EXPECT_EQ(game.mnuPlay.Caption, "&Play");
+  EXPECT_EQ(game.lblProductName.Caption, driver.common().AppTitle);
+  EXPECT_EQ(game.lblPlatform.Caption, "Windows 95/98/NT");
+  EXPECT_EQ(game.StatusBar1.Panels(1).Text.get().rfind("Welcome to " + driver.common().AppTitle, 0), 0u);
+  EXPECT_EQ(game.Width, Plan().width);
+  EXPECT_EQ(game.Height, Plan().height);
+  EXPECT_FALSE(driver.common().CustomScoringInUse);
+  EXPECT_TRUE(folder.Has(Table(Plan().tables.shown)));
+  EXPECT_EQ(game.lblHighScore.Caption,
+            game.HighScorePrefix() + FormatNumber(std::stoll(Plan().tables.shown.defaultScore)));
+}
+
+TEST_P(EveryGame, SettingsComeBackAsTheyWereWritten) {
+  const auto close = [&] { driver.Do("close " + Window() + "\nanswer \"Yes\""); };
+  const std::string file = std::string(Plan().names.settingsFile).substr(1);
+  close();
+  const std::string defaults = folder.Read(file);
+  for (const char* section : {"[State]\r\n0\r\n", "[Play Sounds]\r\nTrue\r\n", "[Play Music]\r\nFalse\r\n"})
+    EXPECT_TRUE(Contains(defaults, section)) << section;
+  Open();
+  const std::string limit = Plan().limits.front().menu;
+  driver.Do(Click(Game().mnuSounds) + Click(Game().mnuMusic) + Click(Game().mnuNight) + "click " + Window() +
+            "." + limit + "\nresize " + Window() + " 12000 9000");
+  const long long deck = driver.common().DeckDesign;
+  close();
+  const std::string changed = folder.Read(file);
+  Open();
+  EXPECT_EQ(driver.common().TimeLimit, Plan().limits.front().seconds);
+  EXPECT_EQ(driver.common().DeckDesign, deck);
+  EXPECT_TRUE(driver.common().PlayMusic && !driver.common().PlaySounds);
+  EXPECT_EQ(driver.Get(Window() + "." + limit + ".Checked"), true);
+  EXPECT_EQ(driver.Get(Window() + ".mnuNight.Checked"), true);
+  EXPECT_EQ(Game().Width, 12000);
+  close();
+  EXPECT_EQ(folder.Read(file), changed);
+  // Each value of the game's own finds its way back; those that the game reads in another way excepted.
+  for (const char* section : Plan().sections) EXPECT_TRUE(Contains(changed, section)) << section;
+}
+
+TEST_P(EveryGame, AChangedScoringValueMarksTheTable) {
+  GameWindow& game = Game();
+  int marking = 0;
+  for (const GameSetting& setting : game.settings) {
+    if (setting.customises == Customises::No) continue;
+    ++marking;
+    std::visit([&](auto* value) { *value = setting.standard == 1 ? 0 : setting.standard + 1; },
+               setting.value);
+    game.CheckForCustom();
+    EXPECT_TRUE(driver.common().CustomScoringInUse) << setting.section;
+    std::visit([&](auto* value) { *value = setting.standard; }, setting.value);
+    game.CheckForCustom();
+    EXPECT_FALSE(driver.common().CustomScoringInUse) << setting.section;
+  }
+  EXPECT_GT(marking, 3);
+}
+
+// Numbers of the dialog that don't count as customised scoring.
+const std::set<std::string> kHarmless = {"txtWaitPeriod", "txt21BonusValue"};
+
+TEST_P(EveryGame, EachFieldOfTheDialogMarksTheTable) {
+  std::vector<std::string> boxes;
+  std::string dialog;
+  driver.meanwhile = [&] {
+    const Form& form = *driver.platform().ModalForm();
+    dialog = form.name;
+    for (const Control* control : form.Controls())
+      if (control->kind == Control::Kind::TextBox) boxes.push_back(control->FullName());
+  };
+  const std::string open = Click(Game().mnuCustom);
+  driver.Do(open + "@\n");
+  const std::string defaults = "click " + dialog + ".cmdDefault\n", ok = "click " + dialog + ".cmdOK\n";
+  std::vector<int> standards;
+  driver.meanwhile = [&] {
+    for (const std::string& box : boxes) standards.push_back(std::stoi(TextOf(box)));
+  };
+  driver.Do(open + defaults + "@\n" + ok);
+  EXPECT_FALSE(driver.common().CustomScoringInUse);
+  for (size_t i = 0; i < boxes.size(); ++i) {
+    const std::string& box = boxes[i];
+    const int other = standards[i] == 1 ? 2 : standards[i] - 1;
+    const std::string said =
+        driver.Do(open + defaults + "type " + box + " \"" + std::to_string(other) + "\"\n" + ok);
+    EXPECT_TRUE(BoxesOf(said).empty()) << box << said;
+    EXPECT_EQ(driver.common().CustomScoringInUse, !kHarmless.contains(box.substr(box.find('.') + 1))) << box;
+    driver.Do(open + defaults + ok);
+    EXPECT_FALSE(driver.common().CustomScoringInUse) << box;
+  }
+  EXPECT_GT(boxes.size(), 3u);
+}
+
+TEST_P(EveryGame, PausesAndGoesOn) {
+  driver.Do(Click(Game().mnuMusic) + Play() + "advance 2000");
+  GameWindow& game = Game();
+  EXPECT_EQ(game.phase, Phase::Playing);
+  EXPECT_TRUE(driver.common().GameInProgress && game.Timer1.Enabled && !game.frmSplash.Visible);
+  EXPECT_EQ(game.cmdPlay.Caption, Plan().names.endGame);
+  const std::string cards = driver.Do("dump " + Window());
+  for (const Control* command : std::initializer_list<const Control*>{&game.cmdPause, &game.mnuPause}) {
+    std::string said = driver.Trace(Click(*command));
+    EXPECT_EQ(game.phase, Phase::Paused);
+    EXPECT_EQ(game.lblMessage.Caption, "Game Paused");
+    EXPECT_TRUE(game.lblMessage.Visible && !game.Timer1.Enabled && !game.cmdPlay.Enabled);
+    EXPECT_EQ(game.cmdPause.Caption.get() + game.mnuPause.Caption.get(), "&Resume&Resume");
+    EXPECT_EQ(Joined(LinesOf(said, "* mci ")), "\"close HarbekMidi\"");
+    driver.Do("advance 200000");
+    EXPECT_EQ(driver.common().ElapsedSeconds, 2);
+    said = driver.Trace(Click(*command));
+    EXPECT_EQ(game.phase, Phase::Playing);
+    EXPECT_FALSE(game.lblMessage.Visible);
+    EXPECT_EQ(game.lblMessage.Caption, "");
+    EXPECT_EQ(game.cmdPause.Caption, Plan().names.pause);
+    EXPECT_EQ(game.cmdPause.ToolTipText, Plan().names.pauseTip);
+    EXPECT_EQ(LinesOf(said, "* mci ").size(), 2u) << "the music begins again";
+  }
+  driver.Do("advance 999");
+  EXPECT_EQ(driver.common().ElapsedSeconds, 2) << "the second begins anew";
+  driver.Do("advance 1");
+  EXPECT_EQ(driver.common().ElapsedSeconds, 3);
+}
+
+TEST_P(EveryGame, DialogsStopARunningGameAndNoOther) {
+  GameWindow& game = Game();
+  const std::pair<const Menu*, const char*> dialogs[] = {{&game.mnuRules, "click frmRules.cmdOK"},
+                                                         {&game.mnuAbout, "click frmAbout.cmdCoolDude"},
+                                                         {&game.mnuView, "click frmHighScores.cmdDone"}};
+  std::vector<Phase> phases;
+  driver.meanwhile = [&] { phases.push_back(game.phase); };
+  const auto lookAtAll = [&](Phase during, Phase after) {
+    for (const auto& [entry, done] : dialogs) {
+      const long long seconds = driver.common().ElapsedSeconds;
+      phases.clear();
+      driver.Do(Click(*entry) + "advance 5000\n@\n" + done);
+      EXPECT_EQ(phases, std::vector<Phase>{during});
+      EXPECT_EQ(game.phase, after);
+      EXPECT_EQ(driver.common().ElapsedSeconds, seconds);
+    }
+  };
+  lookAtAll(Phase::Idle, Phase::Idle);
+  driver.Do(Play() + "advance 1000");
+  lookAtAll(Phase::Paused, Phase::Playing);
+  driver.Do(Click(game.cmdPause));
+  lookAtAll(Phase::Paused, Phase::Paused);
+}
+
+TEST_P(EveryGame, TheRulesNameTheTimeLimit) {
+  const std::string limit = Plan().limits.back().menu;
+  std::string text;
+  driver.meanwhile = [&] { text = TextOf("frmRules.lblRules"); };
+  driver.Do("click " + Window() + "." + limit + "\n" + Click(Game().mnuRules) + "@\nclick frmRules.cmdOK");
+  EXPECT_TRUE(Contains(text, "each lasting " + std::to_string(Plan().limits.back().seconds) + " seconds"));
+  EXPECT_TRUE(Contains(text, driver.common().AppTitle + " Rules, Notes and Strategy"));
+  EXPECT_TRUE(text.ends_with("Good luck and have fun!"));
+  EXPECT_FALSE(Contains(text, "{"));
+}
+
+TEST_P(EveryGame, EndGameAsksAndNoGoesOn) {
+  driver.Do(Play() + "advance 1000");
+  const std::string tip = Game().cmdPlay.ToolTipText;
+  std::string said = driver.Do(Play() + "answer \"No\"");
+  EXPECT_EQ(BoxesOf(said).size(), 1u);
+  EXPECT_EQ(Game().phase, Phase::Playing);
+  EXPECT_EQ(Game().cmdPlay.ToolTipText, tip);
+  EXPECT_TRUE(Game().Timer1.Enabled && driver.common().GameInProgress);
+  said = driver.Do(Play() + "answer \"Yes\"\n" + "close frmHiScoreName\nclose frmHighScores");
+  EXPECT_FALSE(Game().InGame() || driver.common().GameInProgress || Game().Timer1.Enabled);
+  EXPECT_TRUE(Game().frmSplash.Visible && Game().Timer4.Enabled && Game().cmdPlay.Enabled);
+  EXPECT_EQ(Game().cmdPlay.Caption, "&Play");
+  driver.Do(Play() + "advance 1000");
+  EXPECT_EQ(Game().phase, Phase::Playing) << "another game can be played";
+  EXPECT_EQ(driver.common().CurrentScore, 0);
+}
+
+TEST_P(EveryGame, ClosingAsksAndNoGoesOn) {
+  std::string said = driver.Do("close " + Window() + "\nanswer \"No\"");
+  EXPECT_EQ(Joined(BoxesOf(said)), "Giving up so soon?");
+  driver.Do("advance 300000");
+  said = driver.Do("close " + Window() + "\nanswer \"No\"");
+  EXPECT_EQ(Joined(BoxesOf(said)), "Are you sure you want to quit now? Were just getting started!");
+  said = driver.Do(Play() + "close " + Window() + "\nanswer \"No\"");
+  EXPECT_EQ(Joined(BoxesOf(said)), "You have a game in progress. Are you sure you want to quit now?");
+  EXPECT_EQ(Game().phase, Phase::Playing);
+  // A minimised window closes too, and comes back as it was.
+  driver.Do("state " + Window() + " 1");
+  driver.Do("close " + Window() + "\nanswer \"Yes\"");
+  EXPECT_FALSE(driver.common().window);
+  EXPECT_EQ(driver.Get("frmSelect.Visible"), true);
+  Open();
+  EXPECT_EQ(Game().WindowState, window_state::kMinimised);
+  driver.Do("state " + Window() + " 0");
+  EXPECT_EQ(Game().Width, Plan().width);
+}
+
+TEST_P(EveryGame, TimeOutLeadsToTheTableInTheEnd) {
+  folder.Write(Table(Plan().tables.final), "Low, -99999\r\n\r\n");
+  const std::string name = "type frmHiScoreName.lblPlayerName \"Ann\"\nclick frmHiScoreName.cmdOK\n";
+  driver.Do(Click(Game().mnuMusic) + "click " + Window() + "." + Plan().limits.front().menu);
+  folder.Write(Table(Plan().tables.final), "Low, -99999\r\n\r\n");
+  driver.Do(Play());
+  for (int round = 0; round < 5 && driver.common().GameInProgress; ++round) {
+    const std::string said = driver.Do("advance " + std::to_string(Plan().limits.front().seconds * 1000) +
+                                       "\nadvance 2000\n" + name + "click frmHighScores.cmdDone");
+    EXPECT_TRUE(BoxesOf(said).empty()) << said;
+  }
+  EXPECT_FALSE(driver.common().GameInProgress);
+  EXPECT_EQ(Game().phase, Phase::Over);
+  EXPECT_TRUE(Game().frmSplash.Visible && Game().cmdPlay.Enabled && Game().cmdExit.Enabled);
+  EXPECT_FALSE(Game().Timer1.Enabled || Shown(Game().lblMessage) || Game().cmdPause.Enabled);
+  EXPECT_TRUE(Contains(folder.Read(Table(Plan().tables.final)), "Ann, "));
+}
+
+TEST_P(EveryGame, AFailureInPlayEndsTheGameAndNotTheProgram) {
+  driver.Do(Play());
+  Game().Timer4.OnTimer = [this] {
+    Game().Timer4.Enabled = false;
+    RaiseOverflow();
+  };
+  Game().Timer4.Enabled = true;
+  const std::string said = driver.Do("advance 300\nanswer \"OK\"\nclose frmHiScoreName\nclose frmHighScores");
+  EXPECT_EQ(Joined(BoxesOf(said)), "Overflow");
+  EXPECT_FALSE(Contains(said, "* end"));
+  EXPECT_FALSE(driver.common().GameInProgress || Game().InGame() || Game().Timer1.Enabled);
+  EXPECT_EQ(Game().MousePointer, kDefaultPointer);
+  driver.Do(Play() + "advance 1000");
+  EXPECT_EQ(Game().phase, Phase::Playing);
+}
+
+TEST_P(EveryGame, NothingTicksWhileAFullDiskIsTold) {
+  driver.Do(Play() + "advance 1000");
+  std::filesystem::remove_all(folder.Path());
+  folder.Write("../" + folder.Path().filename().string(), "a file stands where the folder was");
+  const std::string said = driver.Do("close " + Window() + "\nanswer \"Yes\"\nadvance 400000\nanswer \"OK\"");
+  EXPECT_EQ(BoxesOf(said).size(), 2u) << said;
+  EXPECT_FALSE(driver.common().window);
+  std::filesystem::remove(folder.Path());
+}
+
+TEST_P(EveryGame, SmallScreensAndSizesAreHeld) {
+  for (const auto& [width, height] : {std::pair(600, 400), {20000, 8000}, {9600, 15000}}) {
+    driver.Do("resize " + Window() + " " + std::to_string(width) + " " + std::to_string(height));
+    EXPECT_GE(Game().Width, Plan().width);
+    EXPECT_GE(Game().Height, Plan().height);
+    EXPECT_EQ(Game().StatusBar1.Top + Game().StatusBar1.Height, Game().Height);
+  }
+  driver.Do("state " + Window() + " 2");
+  EXPECT_EQ(Game().Width, driver.platform().ScreenExtent().width);
+  const std::string file = std::string(Plan().names.settingsFile).substr(1);
+  driver.Do("close " + Window() + "\nanswer \"Yes\"");
+  EXPECT_TRUE(Contains(folder.Read(file), "[State]\r\n2\r\n"));
+  Open();
+  EXPECT_EQ(Game().Width, driver.platform().ScreenExtent().width);
+}
+
+INSTANTIATE_TEST_SUITE_P(Games, EveryGame, ::testing::ValuesIn(Buttons()),
+                         [](const auto& info) { return info.param; });
+
+}  // namespace
