@@ -12,6 +12,7 @@
 #include <set>
 #include <tuple>
 
+#include "games/handgrid/custom.h"
 #include "games/spirehold/custom.h"
 #include "games/sumfall/dialogs.h"
 #include "games/treyshift/custom.h"
@@ -238,6 +239,7 @@ constexpr Longest kMessages[] = {
     {"lblMessage", "Tower Bonus!!", "frmSpirehold"},
     {"lblMessage", "Times Up!"},
     {"lblMessage", "Game Over"},
+    {"ScoringLabel", "1000000 X 120 =", "frmHandgrid"},
 };
 constexpr Longest kTexts[] = {
     {"lblScoring", "2,147,483,647"},
@@ -257,10 +259,22 @@ constexpr Longest kTexts[] = {
     {"lblScoreRuns", "17", "frmTreyshift"},
     {"lblCardCount", "Cards remaining: 52", "frmTreyshift"},
     {"lblRound", "Round: 3", "frmTreyshift"},
+    {"lblRow(1)", "Royal Flush", "frmHandgrid"},
+    {"lblRow(2)", "3 of a kind", "frmHandgrid"},
+    {"lblRow(3)", "4 of a kind", "frmHandgrid"},
+    {"lblRow(5)", "Royal Flush", "frmHandgrid"},
+    {"lblCol(4)", "4 of a kind", "frmHandgrid"},
+    {"lblCol(5)", "Royal Flush", "frmHandgrid"},
+    {"lblRound", "Bonus Round", "frmHandgrid"},
+    {"lblTimeBonus", "120", "frmHandgrid"},
+    {"lblOverwrites", "Over Writes Remaining: 26", "frmHandgrid"},
+    {"lblPointsEarned", "Points Earned: 1000000", "frmHandgrid"},
+    {"lblCards", "Cards remaining: 51", "frmHandgrid"},
     {"StatusBar1.Panels(1)", "Make 5,000,000 for Bonus Round!   "},
     {"StatusBar1.Panels(2)", "Click on exposed cards to total 15!   ", "frmSumfall"},
     {"StatusBar1.Panels(2)", "Create runs by clicking on exposed cards!   ", "frmSpirehold"},
     {"StatusBar1.Panels(2)", "Create runs and triples by moving available cards!   ", "frmTreyshift"},
+    {"StatusBar1.Panels(2)", "Click on cards to get the best Poker hand!   ", "frmHandgrid"},
     {"StatusBar1.Panels(2)", "Times running out!"},
     {"StatusBar1.Panels(3)", "12:59 PM"},
 };
@@ -278,10 +292,20 @@ bool Write(Form& form, const Longest& longest) {
     static_cast<GameWindow&>(form).StatusBar1.Panels(name[name.size() - 2] - '0').Text = longest.text;
     return true;
   }
-  auto* label = static_cast<Label*>(form.find(name));
+  const size_t open = name.find('(');
+  const int index = open == std::string::npos ? -1 : name[open + 1] - '0';
+  auto* label = static_cast<Label*>(form.find(name.substr(0, open), index));
   if (!label) return false;
   label->Caption = longest.text;
   return true;
+}
+
+// Plays the round to its end.
+void EndRound(GameWindow& game) {
+  auto* handgrid = dynamic_cast<frmHandgrid*>(&game);
+  if (!handgrid) return player::Click(game.cmdTakeScore);
+  game.common.TakingScore = false;
+  for (int cell = 0; cell < modHandgrid::kCells; ++cell) player::Click(handgrid->PlayCards(cell));
 }
 
 }  // namespace
@@ -297,14 +321,17 @@ TEST_F(Look, GamesStandAtEverySize) {
       // What is told while a round begins, is paid and ends, each at the moments when the game says
       // something.
       std::set<std::string> said;
+      auto* handgrid = dynamic_cast<frmHandgrid*>(&game);
       front.onPause = [&] {
-        const std::string caption = game.lblMessage.Caption, amount = game.lblScoring.Caption;
+        const std::string caption = game.lblMessage.Caption, amount = game.lblScoring.Caption,
+                          announced = handgrid ? handgrid->ScoringLabel.Caption.get() : "";
         where = " while it says \"" + caption + "\", \"" + amount + "\"";
         Check(game);
         const auto wording = [](const std::string& text) {
           return text.substr(0, text.find_first_of("0123456789"));
         };
-        const bool again = !said.insert(wording(caption) + "|" + wording(amount)).second;
+        const bool again =
+            !said.insert(wording(caption) + "|" + wording(amount) + "|" + wording(announced)).second;
         // Where both stand side by side, the message is always the same.
         const bool aside = game.lblScoring.Visible && game.lblScoring.Top == game.lblMessage.Top;
         if (again || aside || !game.lblMessage.Visible || caption == "Times Up!") return;
@@ -338,10 +365,10 @@ TEST_F(Look, GamesStandAtEverySize) {
         spirehold->NewHighRun = true;
         spirehold->HighestRun = 1;
       }
-      player::Click(game.cmdTakeScore);
+      EndRound(game);
       suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
       front.platform.Dispatch(game.Timer1.OnTimer);  // time is up
-      player::Click(game.cmdTakeScore);              // the bonus round
+      for (int round = 3; round <= 4 && suite.common.GameInProgress; ++round) EndRound(game);
       front.onPause = nullptr;
       EXPECT_FALSE(suite.common.GameInProgress);
       EXPECT_GE(said.size(), 5u);
@@ -442,6 +469,7 @@ TEST_F(Look, DialogsHoldTheirTexts) {
       look(frmOpen(*sumfall));
     }
     if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) look(frmSpireholdCustom(*spirehold));
+    if (auto* handgrid = dynamic_cast<frmHandgrid*>(&game)) look(frmHandgridCustom(*handgrid));
     if (auto* treyshift = dynamic_cast<frmTreyshift*>(&game)) look(frmTreyshiftCustom(*treyshift));
     Close(game);
   }
@@ -519,6 +547,7 @@ TEST_F(Look, LettersStandOutFromTheirGround) {
       Settle();
       const QImage picture = front.WindowOf(game)->Board().grab().toImage();
       for (const Label* label : labels) {
+        if (!label->Exists()) continue;
         const Seen seen =
             LookAt(picture, LayOut(*label, DrawnRect(*label, front.pictures)), ToColour(colour));
         const std::string which = label->FullName() + " in colour " + std::to_string(colour);
