@@ -14,6 +14,7 @@
 
 #include "games/blackrush/custom.h"
 #include "games/duopick/custom.h"
+#include "games/fivestack/custom.h"
 #include "games/handgrid/custom.h"
 #include "games/spirehold/custom.h"
 #include "games/sumfall/dialogs.h"
@@ -281,6 +282,14 @@ constexpr Longest kTexts[] = {
     {"lblOverwrites", "Over Writes Remaining: 26", "frmHandgrid"},
     {"lblPointsEarned", "Points Earned: 1000000", "frmHandgrid"},
     {"lblCards", "Cards remaining: 51", "frmHandgrid"},
+    {"lblTotalScore", "-2,147,483,648", "frmFivestack"},
+    {"lblTimeBonus", " 10000", "frmFivestack"},
+    {"lblTimeBonus", "-32768", "frmFivestack"},
+    {"lblCurrentTotal", "105", "frmFivestack"},
+    {"ColumnTotal(4)", "21", "frmFivestack"},
+    {"lblRound", "Round: 4", "frmFivestack"},
+    {"StatusBar1.Panels(1)", "Make 2,147,483,647 for bonus round.  ", "frmFivestack"},
+    {"StatusBar1.Panels(2)", "Click on Hit buttons to create columns of 21!   ", "frmFivestack"},
     {"StatusBar1.Panels(1)", "Make 5,000,000 for Bonus Round!   "},
     {"StatusBar1.Panels(2)", "Click on exposed cards to total 15!   ", "frmSumfall"},
     {"StatusBar1.Panels(2)", "Create runs by clicking on exposed cards!   ", "frmSpirehold"},
@@ -394,10 +403,15 @@ TEST_F(Look, GamesStandAtEverySize) {
         }
       }
       if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) duopick->PairsCount = duopick->RunsCount = 26;
-      player::Click(game.cmdTakeScore);
-      suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
-      front.platform.Dispatch(game.Timer1.OnTimer);                          // time is up
-      while (suite.common.GameInProgress) player::Click(game.cmdTakeScore);  // the rest, and the bonus round
+      if (auto* fivestack = dynamic_cast<frmFivestack*>(&game)) {
+        fivestack->ColumnSoft(4).Caption = "Soft";
+        fivestack->ColumnSoft(4).Visible = true;
+        suite.common.TimeBonus = 10000;
+        suite.common.CountDownScore = false;
+        fivestack->CardTotal = modFivestack::kPerfect;
+        fivestack->UpdateCardTotalValue();
+        Check(game);
+      }
       EndRound(game);
       suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
       front.platform.Dispatch(game.Timer1.OnTimer);  // time is up
@@ -503,6 +517,7 @@ TEST_F(Look, DialogsHoldTheirTexts) {
     if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) look(frmSpireholdCustom(*spirehold));
     if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) look(frmDuopickCustomScoring(*duopick));
     if (auto* handgrid = dynamic_cast<frmHandgrid*>(&game)) look(frmHandgridCustom(*handgrid));
+    if (auto* fivestack = dynamic_cast<frmFivestack*>(&game)) look(frmFivestackCustomScoring(*fivestack));
     if (auto* treyshift = dynamic_cast<frmTreyshift*>(&game)) look(frmTreyshiftCustom(*treyshift));
     if (auto* blackrush = dynamic_cast<frmBlackrush*>(&game)) look(frmBlackrushCustomScoring(*blackrush));
     Close(game);
