@@ -156,9 +156,9 @@ void frmBlackrush::SetUpLabels() {
   ScoringLabelInfo.FontSize = 19;
   lblTotalScore.FontSize = 11;
   for (Label* label : {&lblTime, &lblBust, &lblRoundScore}) label->AutoSize = true;
-  for (Label* label :
-       {&lblTime, &lblScore, &lblRound, &lblHighScore, &lblTwentyOnes, &lbl21s, &lbl21Bonus, &lblBonus,
-        &lblCardsUsed, &lblCardsUsedCount, &lblTwentyoneTime, &lblRoundScoreCount, &lblBust, &lblFiveCards})
+  for (Label* label : {&lblTime, &lblScore, &lblRound, &lblHighScore, &lblTwentyOnes, &lbl21s, &lbl21Bonus,
+                       &lblBonus, &lblCardsUsed, &lblCardsUsedCount, &lblTwentyoneTime, &lblRoundScore,
+                       &lblRoundScoreCount, &lblBust, &lblFiveCards})
     label->FontBold = true;
   for (Label* label :
        {&lblScore, &lblRound, &lblHighScore, &lblTwentyoneTime, &lblRoundScoreCount, &lblFiveCards})
