@@ -585,6 +585,10 @@ TEST_F(Look, LettersStandOutFromTheirGround) {
     game.lblScoring.Visible = true;
     game.PlaceScoring();
     game.lblMessage.Caption = "Completion Bonus! 5000000";  // across the cards
+    if (auto* ground = static_cast<Shape*>(game.find("ScoringLabelOutline"))) {
+      game.lblMessage.Caption = "Prepare for Bonus Round";
+      ground->Visible = true;
+    }
     game.lblMessage.Visible = true;
     game.lblCurrentScore.Caption = "-2,147,483,648";
     game.lblCurrentRound.Caption = "Bonus";
