@@ -41,17 +41,15 @@ class HandgridPlayer : public RandomPlayer {
     }
     bonusRounds += game.CurrentRound == 4;
     ASSERT_EQ(game.lblCurrentScore.Caption, FormatNumber(common.CurrentScore));
-    // All 52 cards are in the deck, in the hole, on the grid or under another card.
-    std::multiset<std::string> cards;
-    for (int slot = 1; slot <= modHandgrid::kDeckCards; ++slot) cards.insert(game.RoundDeck(slot));
-    ASSERT_EQ(std::set<std::string>(cards.begin(), cards.end()).size(), 52u);
+    if (game.DeckPosition == 2 && common.ElapsedSeconds == 0) CheckDeck(game);
+    const bool looks = !game.IsPaused() && Chance(10);  // looking a picture up takes time
     int empty = 0;
     for (int cell = 0; cell < modHandgrid::kCells; ++cell) {
       const std::string& code = game.PlayedCards[cell];
       const Image& image = game.PlayCards(cell);
       ASSERT_EQ(image.Visible, !game.IsPaused());
       empty += code.empty();
-      if (game.IsPaused()) continue;
+      if (!looks) continue;
       ASSERT_EQ(image.Picture, common.ImageList2(code.empty() ? "EMPTY" : CardKey(code))) << cell;
       ASSERT_EQ(image.BorderStyle, code.empty() ? 0 : 1) << cell;
     }
@@ -63,6 +61,13 @@ class HandgridPlayer : public RandomPlayer {
     ASSERT_LE(game.OverWritesUsed, game.OverWritesAllowed);
     ASSERT_EQ(game.lblTimeBonus.Caption, std::to_string(common.TimeLimit - common.ElapsedSeconds));
     CheckHands(game);
+  }
+
+  // Each card is there once.
+  void CheckDeck(frmHandgrid& game) {
+    std::set<std::string> cards;
+    for (int slot = 1; slot <= modHandgrid::kDeckCards; ++slot) cards.insert(game.RoundDeck(slot));
+    ASSERT_EQ(cards.size(), 52u);
   }
 
   // What the labels say is what lies there, and adds up.
@@ -87,9 +92,11 @@ class HandgridPlayer : public RandomPlayer {
 
 TEST(HandgridRandomPlayer, DoesNoHarm) {
   TestFolder folder;
+  folder.Write("Handgrid.Ini", "[Time Bonus]\r\n100000\r\n\r\n");  // until the dialog puts it right
   HandgridPlayer player(folder.Path());
   player.Play(200000);
   EXPECT_GT(player.placed, 10000);
   EXPECT_GT(player.filled, 500);
   EXPECT_GT(player.bonusRounds, 0);
+  EXPECT_GT(player.overflows, 0);
 }

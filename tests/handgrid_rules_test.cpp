@@ -17,7 +17,7 @@ using Codes = std::vector<std::string>;
 
 Hand Judge(const Codes& codes) {
   Line line;
-  std::ranges::copy(codes, line.begin());
+  std::ranges::transform(codes, line.begin(), ReadCard);
   return EvaluateHand(line);
 }
 

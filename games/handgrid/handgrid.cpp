@@ -50,8 +50,8 @@ void frmHandgrid::Reset(bool endOfGame) {
   for (int i = 0; i < kCells; ++i) {
     PlayedCards[i].clear();
     PlayCards(i).Picture = common.ImageList2("EMPTY");
-    PlayCards(i).ZOrder(0);
   }
+  for (int column = 0; column < kSide; ++column) StackColumn(column);
   if (!endOfGame) return;
   SetPlayCaption("&Play");
   mnuPause.Enabled = true;  // although there is nothing to pause
@@ -76,7 +76,7 @@ void frmHandgrid::PlayCards_Click(int index) {
     PlayCards(index).Picture = HoleCard.Picture;
     PlayedCards[index] = HoleCards(HoleCount);
     HoleCount -= 1;
-    if (!filled) BringToFront(index);
+    if (!filled) StackColumn(index % kSide);
     EvaluateGrid();
     if (HoleCount > 0) {
       ShowFace(HoleCard, HoleCards(HoleCount));

@@ -79,7 +79,7 @@ class frmHandgrid : public GameWindow {
   void BindBoardEvents();
 
   void DrawNextCard();
-  void BringToFront(int index);
+  void StackColumn(int column);
   void EvaluateGrid();
   void EvaluateLines(bool isRows);
   void lblRow_Change(int line);

@@ -61,10 +61,10 @@ constexpr int kRowLabelTop[kSide] = {645, 1770, 2850, 3990, 4965};
 constexpr Design kDesign[] = {
     {"CardStackPicture", 7110, 4395, kCardWidth, kCardHeight},
     {"HoleCard", 8310, 4395, kCardWidth, kCardHeight},
-    {"lblTime", 7140, 75, 1080, 255, "Time:"},
-    {"TimerRectangle", 7140, 345, 1080, 1080},
-    {"Surface", 7200, 405, 960, 960},
-    {"lblRound", 7200, 1545, 0, 0, "Round: 1"},
+    {"lblTime", 7110, 75, 1080, 255, "Time:"},
+    {"TimerRectangle", 7110, 345, 1080, 1080},
+    {"Surface", 7170, 405, 960, 960},
+    {"lblRound", 7170, 1545, 0, 0, "Round: 1"},
     {"lblScore", 7110, 1980, 2235, 255, "Score"},
     {"ScoreRectangle", 7110, 2250, 2235, 510},
     {"lblCurrentScore", 7110, 2325, 0, 0, "0"},
@@ -72,7 +72,7 @@ constexpr Design kDesign[] = {
     {"lblCards", 7110, 4080, 2235, 255, "Cards remaining: 52"},
     {"lblPointsEarned", 6990, 5895, 2475, 255, "Points Earned: 0"},
     {"lblHighScore", 6990, 6165, 2475, 255},
-    {"ScoringLabelOutline", 270, 2100, 5400, 1800},
+    {"ScoringLabelOutline", 210, 2100, 6420, 1800},
 };
 
 // The buttons' place across the window is the frame's.
@@ -244,10 +244,11 @@ void frmHandgrid::ShowCards(bool visible) {
   HoleCard.Visible = visible;
 }
 
-// The rows overlap. Seen from above, each card lies over the row before it, and over empty places.
-void frmHandgrid::BringToFront(int index) {
-  for (int i = index; i < kCells; i += kSide)
-    if (i == index || !PlayedCards[i].empty()) PlayCards(i).ZOrder(0);
+// The rows overlap. Seen from above, a card lies over the row before it, and over empty places.
+void frmHandgrid::StackColumn(int column) {
+  for (const bool empty : {false, true})
+    for (int i = kCells - kSide + column; i >= 0; i -= kSide)
+      if (PlayedCards[i].empty() == empty) PlayCards(i).ZOrder(1);
 }
 
 void frmHandgrid::ShowControls(bool roundControls, bool frameControls) {

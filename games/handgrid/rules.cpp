@@ -3,14 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "suite/cards.h"
-
 namespace modHandgrid {
 
 namespace {
 
 constexpr int kRanks = 13;
-constexpr std::string_view kSuits = "SHCD";
 
 using Ranks = std::array<int, kSide>;  // 0 for an empty cell
 
@@ -25,21 +22,17 @@ bool IsStraight(const Ranks& sorted) {
   return sorted[0] > 0;
 }
 
-struct Tallies {
-  std::array<int, kSuits.size()> suits{};
-  std::array<int, kRanks + 1> ranks{};
-};
+// How many cards there are of each rank.
+std::array<int, kRanks + 1> Tally(const Line& line) {
+  std::array<int, kRanks + 1> tally{};
+  for (const Card& card : line)
+    if (card.rank >= 1 && card.rank <= kRanks) ++tally[card.rank];
+  return tally;
+}
 
-Tallies Tally(const Line& line) {
-  Tallies tallies;
-  for (std::string_view code : line) {
-    if (code.empty()) continue;
-    const size_t suit = kSuits.find(code.back());
-    if (suit != std::string_view::npos) ++tallies.suits[suit];
-    const int rank = CardValue(code);
-    if (rank >= 1 && rank <= kRanks) ++tallies.ranks[rank];
-  }
-  return tallies;
+bool IsOneSuit(const Line& line) {
+  return std::ranges::all_of(line,
+                             [&](const Card& card) { return card.suit != 0 && card.suit == line[0].suit; });
 }
 
 }  // namespace
@@ -77,19 +70,31 @@ long long HandScores::Of(Hand hand) const {
   return 0;
 }
 
+// A click reads the grid twice: no detour by trimmed texts.
+Card ReadCard(std::string_view code) {
+  Card card;
+  for (char letter : code) {
+    if (letter >= '0' && letter <= '9')
+      card.rank = std::min(10 * card.rank + letter - '0', kRanks + 1);
+    else if (letter != ' ')
+      card.suit = letter;
+  }
+  return card;
+}
+
 // Later tests overrule earlier ones.
 Hand EvaluateHand(const Line& line) {
-  const Tallies tallies = Tally(line);
-  const auto lines = [&](int count) { return std::ranges::count(tallies.ranks, count); };
-  const auto pairs = lines(2), trips = lines(3), fours = lines(4);
+  const auto tally = Tally(line);
+  const auto pairs = std::ranges::count(tally, 2), trips = std::ranges::count(tally, 3),
+             fours = std::ranges::count(tally, 4);
   Hand hand = Hand::Nothing;
   if (pairs == 1) hand = Hand::OnePair;
   if (pairs == 2) hand = Hand::TwoPair;
   if (trips == 1) hand = Hand::Trips;
-  if (std::ranges::count(tallies.suits, kSide) > 0) hand = Hand::Flush;
+  if (IsOneSuit(line)) hand = Hand::Flush;
 
   Ranks sorted;
-  std::ranges::transform(line, sorted.begin(), CardValue);
+  std::ranges::transform(line, sorted.begin(), &Card::rank);
   std::ranges::sort(sorted);
   if (IsStraight(sorted)) {
     const Hand inOneSuit = sorted == kAceHigh ? Hand::RoyalFlush : Hand::StraightFlush;
@@ -104,7 +109,7 @@ LineHands EvaluateLines(const Grid& grid) {
   LineHands hands;
   for (int row = 0; row < kSide; ++row) {
     Line line;
-    for (int column = 0; column < kSide; ++column) line[column] = CardKey(grid[row * kSide + column]);
+    for (int column = 0; column < kSide; ++column) line[column] = ReadCard(grid[row * kSide + column]);
     hands[row] = EvaluateHand(line);
   }
   return hands;

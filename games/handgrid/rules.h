@@ -47,7 +47,13 @@ struct HandScores {
 
 // Card codes row by row; an empty cell holds the empty text.
 using Grid = std::array<std::string, kCells>;
-using Line = std::array<std::string_view, kSide>;
+// What of a card counts: its rank and suit; both 0 for an empty cell.
+struct Card {
+  int rank = 0;
+  char suit = 0;
+};
+Card ReadCard(std::string_view code);
+using Line = std::array<Card, kSide>;
 using LineHands = std::array<Hand, kSide>;
 
 // Names one line, empty cells and all.
