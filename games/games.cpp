@@ -1,5 +1,6 @@
 #include "games/games.h"
 
+#include "games/blackrush/blackrush.h"
 #include "games/duopick/duopick.h"
 #include "games/fivestack/fivestack.h"
 #include "games/handgrid/handgrid.h"
@@ -20,7 +21,7 @@ std::vector<GameEntry> AllGames() {
   return {
       {"cmdSumfall", "&Sumfall!", "Sumfall!", Make<frmSumfall>},
       {"cmdFivestack", "&Fivestack ", "Fivestack!", Make<frmFivestack>},
-      {"cmdBlackrush", "&Blackrush", "Blackrush!", nullptr},
+      {"cmdBlackrush", "&Blackrush", "Blackrush!", Make<frmBlackrush>},
       {"cmdDuopick", "D&uopick", "Duopick!", Make<frmDuopick>},
       {"cmdSpirehold", "&Spirehold", "Spirehold!", Make<frmSpirehold>},
       {"cmdHandgrid", "&Handgrid", "Handgrid!", Make<frmHandgrid>},

@@ -12,6 +12,8 @@
 #include <set>
 #include <tuple>
 
+#include "games/blackrush/custom.h"
+#include "games/duopick/custom.h"
 #include "games/handgrid/custom.h"
 #include "games/spirehold/custom.h"
 #include "games/sumfall/dialogs.h"
@@ -237,6 +239,10 @@ constexpr Longest kMessages[] = {
      "frmSpirehold"},
     {"lblMessage", "Highest Run Bonus!", "frmSpirehold"},
     {"lblMessage", "Tower Bonus!!", "frmSpirehold"},
+    {"ScoringLabelInfo", "Prepare for Bonus Round", "frmBlackrush"},
+    {"ScoringLabelInfo", "Awesome score!", "frmBlackrush"},
+    {"ScoringLabelInfo", "Times Up!", "frmBlackrush"},
+    {"lblMessage", "Completion Bonus!", "frmDuopick"},
     {"lblMessage", "Times Up!"},
     {"lblMessage", "Game Over"},
     {"ScoringLabel", "1000000 X 120 =", "frmHandgrid"},
@@ -259,6 +265,11 @@ constexpr Longest kTexts[] = {
     {"lblScoreRuns", "17", "frmTreyshift"},
     {"lblCardCount", "Cards remaining: 52", "frmTreyshift"},
     {"lblRound", "Round: 3", "frmTreyshift"},
+    {"lblTotalScore", "-2,147,483,648", "frmBlackrush"},
+    {"lblBonus", "130000", "frmBlackrush"},
+    {"lblCardsUsedCount", "52", "frmBlackrush"},
+    {"StatusBar1.Panels(1)", "Click on Play to start a new game  ", "frmBlackrush"},
+    {"StatusBar1.Panels(2)", "Create columns of 21 to increase bonus score!   ", "frmBlackrush"},
     {"lblRow(1)", "Royal Flush", "frmHandgrid"},
     {"lblRow(2)", "3 of a kind", "frmHandgrid"},
     {"lblRow(3)", "4 of a kind", "frmHandgrid"},
@@ -273,6 +284,11 @@ constexpr Longest kTexts[] = {
     {"StatusBar1.Panels(1)", "Make 5,000,000 for Bonus Round!   "},
     {"StatusBar1.Panels(2)", "Click on exposed cards to total 15!   ", "frmSumfall"},
     {"StatusBar1.Panels(2)", "Create runs by clicking on exposed cards!   ", "frmSpirehold"},
+    {"lblPairs", "Pairs x -2147483648", "frmDuopick"},
+    {"lblRuns", "Runs x -2147483648", "frmDuopick"},
+    {"lblScorePairs", "26", "frmDuopick"},
+    {"lblScoreRuns", "26", "frmDuopick"},
+    {"StatusBar1.Panels(2)", "Create runs by clicking on exposed cards!   ", "frmDuopick"},
     {"StatusBar1.Panels(2)", "Create runs and triples by moving available cards!   ", "frmTreyshift"},
     {"StatusBar1.Panels(2)", "Click on cards to get the best Poker hand!   ", "frmHandgrid"},
     {"StatusBar1.Panels(2)", "Times running out!"},
@@ -333,7 +349,7 @@ TEST_F(Look, GamesStandAtEverySize) {
         const bool again =
             !said.insert(wording(caption) + "|" + wording(amount) + "|" + wording(announced)).second;
         // Where both stand side by side, the message is always the same.
-        const bool aside = game.lblScoring.Visible && game.lblScoring.Top == game.lblMessage.Top;
+        const bool aside = game.lblScoring.Visible && game.lblScoring.Top == int(game.lblMessage.Top);
         if (again || aside || !game.lblMessage.Visible || caption == "Times Up!") return;
         const int left = game.lblMessage.Left, top = game.lblMessage.Top;
         for (const Longest& longest : kMessages)
@@ -365,6 +381,24 @@ TEST_F(Look, GamesStandAtEverySize) {
         spirehold->NewHighRun = true;
         spirehold->HighestRun = 1;
       }
+      if (auto* blackrush = dynamic_cast<frmBlackrush*>(&game)) {
+        blackrush->TwentyOnes = 26;
+        blackrush->Bonus = 130000;
+        blackrush->ColumnSoft(1).Caption = "Soft";
+        blackrush->ColumnSoft(1).Visible = true;
+        blackrush->lblBust.Visible = true;
+        Check(game);
+        blackrush->lblBust.Visible = false;
+        for (int card = 0; card < kCardsOfColumn; ++card) {  // a Five Card Gimme
+          suite.common.Deck[blackrush->DeckPosition] = "2S";
+          player::Click(blackrush->cmdHit(0));
+        }
+      }
+      if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) duopick->PairsCount = duopick->RunsCount = 26;
+      player::Click(game.cmdTakeScore);
+      suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
+      front.platform.Dispatch(game.Timer1.OnTimer);                          // time is up
+      while (suite.common.GameInProgress) player::Click(game.cmdTakeScore);  // the rest, and the bonus round
       EndRound(game);
       suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
       front.platform.Dispatch(game.Timer1.OnTimer);  // time is up
@@ -469,8 +503,10 @@ TEST_F(Look, DialogsHoldTheirTexts) {
       look(frmOpen(*sumfall));
     }
     if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) look(frmSpireholdCustom(*spirehold));
+    if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) look(frmDuopickCustomScoring(*duopick));
     if (auto* handgrid = dynamic_cast<frmHandgrid*>(&game)) look(frmHandgridCustom(*handgrid));
     if (auto* treyshift = dynamic_cast<frmTreyshift*>(&game)) look(frmTreyshiftCustom(*treyshift));
+    if (auto* blackrush = dynamic_cast<frmBlackrush*>(&game)) look(frmBlackrushCustomScoring(*blackrush));
     Close(game);
   }
   EXPECT_GT(looks, 30);

@@ -111,17 +111,6 @@ TEST_F(DuopickCustom, TheLastFieldDecidesTheRest) {
   EXPECT_TRUE(Contains(driver.Do(kOptions), "error")) << "not during a game";
 }
 
-TEST_F(DuopickCustom, DefaultChangesNothingBeforeOk) {
-  EXPECT_EQ(
-      Asked(kOptions + TypeInto("txtBonusRound", "1234567") + TypeInto("txtRunsBonus", "7") + kTick +
-            "click frmDuopickCustomScoring.cmdDefault\n" +
-            "get frmDuopickCustomScoring.txtBonusRound.Text\n" +
-            "get frmDuopickCustomScoring.chkCountDown.Value\n" + "key frmDuopickCustomScoring \"Escape\""),
-      "\"80000\"|1");
-  EXPECT_EQ(Game().RunsBonus, 500);
-  EXPECT_FALSE(driver.common().CustomScoringInUse);
-}
-
 TEST_F(DuopickCustom, ValuesAreKeptMarkTheTableAndStandInTheRules) {
   driver.Do(kOptions + TypeInto("txtPairsBonus", "20000") + TypeInto("txtTimeBonus", "1234") + kOk);
   const std::string rules = nlohmann::json::parse(

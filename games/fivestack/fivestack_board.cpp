@@ -53,7 +53,7 @@ constexpr Design kDesign[] = {
     {"cmdPass", 3330, 150, 1065, 510, "&Pass"},
     {"lblRound", 3120, 900, 1485, 285, "Round: 1"},
     {"TimerRectangle", 4560, 75, 2790, 870},
-    {"lblTime", 4635, 195, 750, 480, "Time Bonus:"},
+    {"lblTime", 4635, 240, 750, 480, "Time Bonus:"},
     {"Surface", 6375, 105, 810, 810},
     {"lblScore", 4560, 1125, 600, 255, "Score"},
     {"ScoreRectangle", 5205, 1035, 2145, 420},
