@@ -130,7 +130,7 @@ void frmTreyshift::SetUpBoard() {
   for (Label* label : {&lblTime, &lblScore, &lblRound, &lblHighScore, &lblCardCount, &lblTemp, &lblFlush})
     label->Alignment = 2;
   lblFlush.Width = 930;
-  lblFlush.Height = 270;
+  lblFlush.Height = 240;
   lblFlush.ForeColor = kRed;
   FieldRect.BorderColor = kWhite;
   ScoringLabelOutline.Sunken = true;
