@@ -133,7 +133,7 @@ void frmTreyshift::SetUpBoard() {
   lblFlush.Height = 240;
   lblFlush.ForeColor = kRed;
   FieldRect.BorderColor = kWhite;
-  ScoringLabelOutline.Sunken = true;
+  ScoringLabelOutline.BorderColor = kWhite;
   lblCurrentScore.Fit();
   RestoreFlush();
   // Nothing is dealt yet.
