@@ -72,7 +72,8 @@ class Shape : public Visual {
 
 class CommandButton : public Visual {
  public:
-  CommandButton(Control& parent, std::string_view name) : Visual(Kind::CommandButton, parent, name) {}
+  CommandButton(Control& parent, std::string_view name, int index = -1)
+      : Visual(Kind::CommandButton, parent, name, index) {}
 
   Property<std::string> Caption{*this, Prop::Caption, ""};
   bool Default = false;  // pressed by Return
@@ -215,26 +216,26 @@ class ProgressBar : public Visual {
   void Visit(const PropertyVisitor& visit) const override;
 };
 
-// A numbered row of like controls, indices 0 to N - 1.
-template <class T, int N>
+// A numbered row of like controls, N of them from index `First` on.
+template <class T, int N, int First = 0>
 class ControlArray {
  public:
   ControlArray(Control& parent, std::string_view name) {
-    for (int i = 0; i < N; ++i) items_[i] = std::make_unique<T>(parent, name, i);
+    for (int i = 0; i < N; ++i) items_[i] = std::make_unique<T>(parent, name, First + i);
   }
   // Raises "Subscript out of range" outside the row.
   T& operator()(long long index) {
-    if (index < 0 || index >= N) RaiseSubscript();
-    return *items_[index];
+    if (index < First || index >= First + N) RaiseSubscript();
+    return *items_[index - First];
   }
   const T& operator()(long long index) const { return const_cast<ControlArray&>(*this)(index); }
   static constexpr int size() { return N; }
 
   void OnClick(const std::function<void(int)>& handler) {
-    for (int i = 0; i < N; ++i) items_[i]->OnClick = [handler, i] { handler(i); };
+    for (int i = 0; i < N; ++i) items_[i]->OnClick = [handler, i] { handler(First + i); };
   }
   void OnMouseMove(const std::function<void(int)>& handler) {
-    for (int i = 0; i < N; ++i) items_[i]->OnMouseMove = [handler, i] { handler(i); };
+    for (int i = 0; i < N; ++i) items_[i]->OnMouseMove = [handler, i] { handler(First + i); };
   }
 
  private:

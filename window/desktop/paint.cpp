@@ -111,9 +111,12 @@ void PaintPanel(const Easel& easel, const QRectF& rect) {
 // A group with its caption: let into the baize of a board, outlined on the paper of a dialog.
 void PaintGroup(const Easel& easel, const QRectF& rect, const std::string& caption) {
   QPainter& painter = easel.painter;
-  const QFont font = style::Letters(easel.board ? 10 : 9, easel.board);
-  const QFontMetricsF metrics(font);
   const QString text = QString::fromStdString(caption);
+  int size = easel.board ? 10 : 9;
+  const auto needs = [&] { return QFontMetricsF(style::Letters(size, easel.board)).horizontalAdvance(text); };
+  while (size > 7 && needs() + 28 > rect.width()) --size;  // a narrow group has a small caption
+  const QFont font = style::Letters(size, easel.board);
+  const QFontMetricsF metrics(font);
   const double top = text.isEmpty() ? 0.5 : metrics.height() / 2;
   const QRectF outline = rect.adjusted(0.5, top, -0.5, -0.5);
   const QRectF title(outline.left() + 12, rect.top(),
@@ -191,6 +194,7 @@ const QColor* GroundBeneath(const Easel& easel, size_t place, const QPointF& poi
   for (size_t i = place + 1; i-- > 0;) {
     const Placed& below = easel.scene[i];
     if (!below.rect.contains(point.toPoint())) continue;
+    if (below.control->kind == Control::Kind::PictureBox) return nullptr;  // anything may be drawn there
     if (below.control->kind == Control::Kind::Frame)
       return static_cast<Frame*>(below.control)->Panel || !easel.board ? &colour : nullptr;
     if (below.control->kind == Control::Kind::Label && IsOpaque(*below.control)) {

@@ -25,7 +25,7 @@ void ArrangeWithin(const Control& container, const QRect& clip, const Pictures& 
   for (Visual* child : children) {
     const QRect rect = DrawnRect(*child, pictures);
     scene.push_back({child, rect, clip});
-    if (child->kind == Control::Kind::Frame) ArrangeWithin(*child, clip & rect, pictures, scene);
+    if (IsOverlay(*child)) ArrangeWithin(*child, clip & rect, pictures, scene);
   }
 }
 
