@@ -57,10 +57,10 @@ constexpr Design kDesign[] = {
     {"lblScoreRuns", 0, 0, 0, 0, "0"},
     {"lblCardCount", 1530, 6210, 2400, 255},
     {"CardStackPicture", 2160, 4680, 1035, 1455},
-    {"lblScore", 7080, 5610, 2340, 255, "Score"},
-    {"ScoreRectangle", 7080, 5880, 2340, 510},
+    {"lblScore", 6960, 5610, 2340, 255, "Score"},
+    {"ScoreRectangle", 6960, 5880, 2340, 510},
     {"lblCurrentScore", 0, 0, 0, 0, "0"},
-    {"lblHighScore", 6960, 5190, 2580, 255},
+    {"lblHighScore", 6750, 5190, 2760, 255},
     {"ScoringLabelOutline", 1200, 2520, 7140, 1395},
 };
 
@@ -130,10 +130,10 @@ void frmTreyshift::SetUpBoard() {
   for (Label* label : {&lblTime, &lblScore, &lblRound, &lblHighScore, &lblCardCount, &lblTemp, &lblFlush})
     label->Alignment = 2;
   lblFlush.Width = 930;
-  lblFlush.Height = 270;
+  lblFlush.Height = 240;
   lblFlush.ForeColor = kRed;
   FieldRect.BorderColor = kWhite;
-  ScoringLabelOutline.Sunken = true;
+  ScoringLabelOutline.BorderColor = kWhite;
   lblCurrentScore.Fit();
   RestoreFlush();
   // Nothing is dealt yet.
