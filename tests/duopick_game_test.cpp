@@ -470,6 +470,18 @@ TEST_F(Duopick, AnOverflowEndsTheGameAndNotTheProgram) {
   EXPECT_TRUE(run("", ClickTwoByTwo(0, 2) + "advance 1000\n", 2147483600).starts_with("Ann, 2147483600\r\n"));
 }
 
+TEST_F(Duopick, AFailureLeavesNoSelectionBehind) {
+  Start("");
+  driver.Do(Click({20}));
+  Game().Timer4.OnTimer = RaiseOverflow;
+  driver.Do("advance 200\nanswer \"OK\"\n");
+  EXPECT_EQ(Text("cmdPlay.Caption"), "&Play");
+  EXPECT_FALSE(Outlined(20));
+  Game().Timer4.OnTimer = nullptr;
+  driver.Do(kPlayDuopick);
+  EXPECT_TRUE(Is("PlayCard(20).Enabled") && !Outlined(20));
+}
+
 TEST_F(Duopick, AnErrorOnTheWayIntoAGameEndsTheProgram) {
   driver.Do(kOpenDuopick);
   driver.common().ImageList2.SetKey(20, "");
