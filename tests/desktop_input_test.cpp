@@ -171,13 +171,16 @@ TEST_F(Input, HandlersLetThroughMayWaitThemselves) {
     table.onTick = nullptr;
   };
   EXPECT_EQ(LogOf([&] { input::Click(front, table.cmdB); }, true), "A( slept B( tick( ) ) ) ");
-  // Ticks wait till no more input comes.
+  // Ticks wait till no more input comes, and then each timer ticks once, due again or not.
   table.onB = [this] {
     table.Clock.Enabled = true;
     front.platform.Sleep(10);
     QTimer::singleShot(0, qApp, [this] { input::Click(front, table.imgCard); });
   };
-  EXPECT_EQ(LogOf([&] { input::Click(front, table.cmdB); }, true), "A( slept B( ) card tick ) ");
+  table.ticksOn = true;
+  table.onTick = [this] { front.platform.Sleep(10); };
+  EXPECT_EQ(LogOf([&] { input::Click(front, table.cmdB); }, true, [this] { table.Clock.Enabled = false; }),
+            "A( slept B( ) card tick( ) ) ");
   // A tick's own input goes before the next tick, though that has fallen due first.
   table.log.clear();
   table.onTick = [this] {

@@ -94,7 +94,8 @@ class TreyshiftPlayer : public RandomPlayer {
   // The picture of a card by its place in the catalogue; 0 for no card.
   static int FaceOf(const std::string& code) {
     if (code.empty()) return 0;
-    return kFirstFace - 1 + CardValue(code) + 13 * static_cast<int>(std::string("SHCD").find(code.back()));
+    const char suit = code.back();
+    return kFirstFace - 1 + CardValue(code) + 13 * (suit == 'S' ? 0 : suit == 'H' ? 1 : suit == 'C' ? 2 : 3);
   }
 
   // A slot shows what lies there.

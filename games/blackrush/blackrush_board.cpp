@@ -68,16 +68,16 @@ constexpr Design kDesign[] = {
     {"NextCardPicture", 1815, 60, 1035, 1455},
     {"lblBust", 3420, 1155, 0, 0, "Bust"},
     {"lblTime", 4554, 45, 0, 0, "Time:"},
-    {"TimerRectangle", 4502, 330, 1140, 1140},
-    {"Surface", 4562, 390, 1020, 1020},
+    {"TimerRectangle", 4562, 330, 1020, 1020},
+    {"Surface", 4622, 390, 900, 900},
     {"Column1Line", 1501, 1665, 0, 4425},
     {"Column2Line", 2929, 1665, 0, 4425},
     {"Column3Line", 4357, 1665, 0, 4425},
-    {"ScoringLabelOutline", 270, 3210, 5319, 960},
-    {"lblScore", 5760, 60, 1860, 255, "Score"},
-    {"ScoreRectangle", 5760, 330, 1860, 510},
-    {"lblTotalScore", 5760, 405, 0, 0, "0"},
-    {"lblRound", 5760, 1050, 1860, 255, "Round: 1"},
+    {"ScoringLabelOutline", 150, 3210, 5535, 960},
+    {"lblScore", 5670, 60, 1950, 255, "Score"},
+    {"ScoreRectangle", 5670, 330, 1950, 510},
+    {"lblTotalScore", 5670, 405, 0, 0, "0"},
+    {"lblRound", 5670, 1050, 1950, 255, "Round: 1"},
     {"frameScoreInfo", 5700, 2250, 3285, 2535, "Twenty One Scoring Status"},
     {"lblHighScore", 5700, 4980, 3285, 255},
     {"cmdPass", 6012, 5520, 1035, 570, "&Pass"},
@@ -153,11 +153,12 @@ void frmBlackrush::SetUpBoard() {
 }
 
 void frmBlackrush::SetUpLabels() {
-  ScoringLabelInfo.FontSize = 18;
+  ScoringLabelInfo.FontSize = 19;
+  lblTotalScore.FontSize = 11;
   for (Label* label : {&lblTime, &lblBust, &lblRoundScore}) label->AutoSize = true;
-  for (Label* label :
-       {&lblTime, &lblScore, &lblRound, &lblHighScore, &lblTwentyOnes, &lbl21s, &lbl21Bonus, &lblBonus,
-        &lblCardsUsed, &lblCardsUsedCount, &lblTwentyoneTime, &lblRoundScoreCount, &lblBust, &lblFiveCards})
+  for (Label* label : {&lblTime, &lblScore, &lblRound, &lblHighScore, &lblTwentyOnes, &lbl21s, &lbl21Bonus,
+                       &lblBonus, &lblCardsUsed, &lblCardsUsedCount, &lblTwentyoneTime, &lblRoundScore,
+                       &lblRoundScoreCount, &lblBust, &lblFiveCards})
     label->FontBold = true;
   for (Label* label :
        {&lblScore, &lblRound, &lblHighScore, &lblTwentyoneTime, &lblRoundScoreCount, &lblFiveCards})

@@ -14,8 +14,6 @@ class frmFivestack : public GameWindow {
       Column4{*this, "Column4"}, Column5{*this, "Column5"};
   Shape Column1Line{*this, "Column1Line"}, Column2Line{*this, "Column2Line"},
       Column3Line{*this, "Column3Line"}, Column4Line{*this, "Column4Line"}, Column5Line{*this, "Column5Line"};
-  // The grounds on which totals and table stand.
-  ControlArray<Shape, modFivestack::kColumns> ColumnTotalGround{*this, "ColumnTotalGround"};
   ControlArray<Label, modFivestack::kColumns> ColumnTotal{*this, "ColumnTotal"},
       ColumnSoft{*this, "ColumnSoft"};
   ControlArray<CommandButton, modFivestack::kColumns> cmdHit{*this, "cmdHit"};
@@ -24,10 +22,9 @@ class frmFivestack : public GameWindow {
 
   // --- Totals, bonus and score -------------------------------------------------------------------
   Label lblCurrentRoundScore{*this, "lblCurrentRoundScore"};
-  Shape CurrentTotalGround{*this, "CurrentTotalGround"};
   Label lblCurrentTotal{*this, "lblCurrentTotal"};
   Frame frmScore{*this, "frmScore"};
-  Shape TableGround{frmScore, "TableGround"};
+  Shape TableGround{frmScore, "TableGround"};  // below its rows
   // The rows of the table in it, in the order of `kTotals`.
   struct TableRow {
     Label total, value;

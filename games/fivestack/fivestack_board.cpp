@@ -58,7 +58,6 @@ constexpr Design kDesign[] = {
     {"lblScore", 4560, 1125, 600, 255, "Score"},
     {"ScoreRectangle", 5205, 1035, 2145, 420},
     {"lblCurrentRoundScore", 7590, 1530, 1575, 255, "Card Total"},
-    {"CurrentTotalGround", 8002, 1815, 750, 360},
     {"lblCurrentTotal", 8002, 1815, 750, 360, "0"},
     {"frmScore", 7395, 2265, 1965, 3330, "Card Total Value"},
     {"cmdGiveUp", 7860, 5670, 1035, 555, "&Give Up"},
@@ -104,10 +103,8 @@ void frmFivestack::SetUpBoard() {
     for (int slot = 0; slot < kCardsOfColumn; ++slot)
       ColumnImages(i)(slot).Visual::Move(0, 0, kCardWidth, kCardHeight);
     ColumnLine(i).BorderColor = kWhite;
-    ColumnTotalGround(i).Visual::Move(0, 0, kTotalWidth, kTotalHeight);
-    ColumnTotalGround(i).Filled = true;
-    ColumnTotalGround(i).FillColor = kWhite;
     ColumnTotal(i).Visual::Move(0, 0, kTotalWidth, kTotalHeight);
+    ColumnTotal(i).BackStyle = 1;
     ColumnTotal(i).FontSize = 14;
     ColumnTotal(i).Caption = "0";
     ColumnTotal(i).Alignment = 2;
@@ -117,9 +114,6 @@ void frmFivestack::SetUpBoard() {
     cmdHit(i).Visual::Move(0, 0, kCardWidth, kHitHeight);
     cmdHit(i).Caption = "Hit";
   }
-  // Black lets red and green be read.
-  CurrentTotalGround.Filled = true;
-  CurrentTotalGround.FillColor = kBlack;
   ScoringLabelOutline.Sunken = true;
   for (Label* label : {&lblTime, &lblScore, &lblCurrentRoundScore, &lblHighScore}) label->FontBold = true;
   for (Label* label : {&lblRound, &lblCurrentRoundScore, &lblCurrentTotal}) label->Alignment = 2;
@@ -129,6 +123,8 @@ void frmFivestack::SetUpBoard() {
   for (Label* label : {&lblTimeBonus, &lblHighScore, &ScoringLabelRoundTotal, &ScoringLabelInfo})
     label->AutoSize = true;
   for (Label* label : {&ScoringLabel, &ScoringLabelRoundTotal}) label->FontSize = 18;
+  lblCurrentTotal.BackStyle = 1;
+  lblCurrentTotal.BackColor = kBlack;  // red and green can be read on it
   lblCurrentTotal.FontSize = 14;
   lblCurrentTotal.FontBold = true;
   lblCurrentTotal.ForeColor = kRed;
@@ -218,8 +214,6 @@ void frmFivestack::ResizeColumnHeaders() {
   for (int i = 0; i < kColumns; ++i) {
     CenterIn(ColumnTotal(i), ColumnImages(i)(0));
     CenterIn(ColumnSoft(i), ColumnTotal(i));
-    ColumnTotalGround(i).Left = ColumnTotal(i).Left;
-    ColumnTotalGround(i).Top = ColumnTotal(i).Top;
   }
 }
 
@@ -269,15 +263,12 @@ void frmFivestack::ShowCards(bool visible) {
     }
     if (columns[i].softAces > 0) ColumnSoft(i).Visible = visible;
   }
-  SetVisible(
-      {&NextCardPicture, &PlayCardPicture, &CurrentTotalGround, &lblCurrentTotal, &lblCurrentRoundScore},
-      visible);
+  SetVisible({&NextCardPicture, &PlayCardPicture, &lblCurrentTotal, &lblCurrentRoundScore}, visible);
   ShowGraphics(visible);
 }
 
 void frmFivestack::ShowGraphics(bool visible) {
-  for (int i = 0; i < kColumns; ++i)
-    SetVisible({&ColumnLine(i), &ColumnTotalGround(i), &ColumnTotal(i)}, visible);
+  for (int i = 0; i < kColumns; ++i) SetVisible({&ColumnLine(i), &ColumnTotal(i)}, visible);
   SetVisible({&cmdPass, &lblRound}, visible);
 }
 
@@ -288,7 +279,7 @@ void frmFivestack::ShowHitButtons(bool visible) {
 
 void frmFivestack::ShowRoundControls(bool visible) {
   SetVisible({&Surface, &TimerRectangle, &TimerBevelSide, &TimerBevelBottom, &lblTime, &lblTimeBonus,
-              &frmScore, &lblCurrentRoundScore, &CurrentTotalGround, &lblCurrentTotal},
+              &frmScore, &lblCurrentRoundScore, &lblCurrentTotal},
              visible);
 }
 

@@ -276,6 +276,7 @@ void frmHandgrid::GameOver() {
   MousePointer = kHourglass;
   ShowControls(false, false);
   CenterScoringLabel();
+  ShowAnnouncement(true);
   TellGameOver(ScoringLabel);
   ShowAnnouncement(false);
   Reset(true);

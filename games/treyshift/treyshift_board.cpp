@@ -39,7 +39,8 @@ constexpr GamePlan kPlan{
     .sections = kSections,
 };
 
-// The storage above, the field in the middle, the deck below; the clock and what was made to the left.
+// The storage above, the field in the middle, the deck below; the clock and what was made to the left. The
+// score stands where the big labels leave room for it, also when they take the deck's place.
 constexpr Design kDesign[] = {
     {"FieldRect", 1800, 2040, 5895, 2415},
     {"lblTime", 150, 180, 1500, 255, "Time:"},
@@ -56,10 +57,10 @@ constexpr Design kDesign[] = {
     {"lblScoreRuns", 0, 0, 0, 0, "0"},
     {"lblCardCount", 1530, 6210, 2400, 255},
     {"CardStackPicture", 2160, 4680, 1035, 1455},
-    {"lblScore", 5790, 4680, 2340, 255, "Score"},
-    {"ScoreRectangle", 5790, 4950, 2340, 510},
+    {"lblScore", 6960, 5610, 2340, 255, "Score"},
+    {"ScoreRectangle", 6960, 5880, 2340, 510},
     {"lblCurrentScore", 0, 0, 0, 0, "0"},
-    {"lblHighScore", 5790, 5700, 3600, 255},
+    {"lblHighScore", 6750, 5190, 2760, 255},
     {"ScoringLabelOutline", 1200, 2520, 7140, 1395},
 };
 
@@ -121,15 +122,18 @@ void frmTreyshift::SetUpBoard() {
     figure->FontSize = 12;
     figure->ForeColor = kBlue;
   }
-  for (Label* label : {&lblScoreTrips, &lblScoreRuns, &lblTrips, &lblRuns, &lblFieldCards, &lblFlush})
+  for (Label* label : {&lblScoreTrips, &lblScoreRuns, &lblTrips, &lblRuns, &lblFieldCards})
     label->AutoSize = true;
   for (Label* label : {&lblTime, &lblScore, &lblRound, &lblHighScore, &lblCardCount, &lblTemp, &lblFieldCards,
                        &lblTrips, &lblRuns, &lblScoreTrips, &lblScoreRuns, &lblFlush})
     label->FontBold = true;
-  for (Label* label : {&lblTime, &lblScore, &lblRound, &lblCardCount, &lblTemp}) label->Alignment = 2;
+  for (Label* label : {&lblTime, &lblScore, &lblRound, &lblHighScore, &lblCardCount, &lblTemp, &lblFlush})
+    label->Alignment = 2;
+  lblFlush.Width = 930;
+  lblFlush.Height = 240;
   lblFlush.ForeColor = kRed;
   FieldRect.BorderColor = kWhite;
-  ScoringLabelOutline.Sunken = true;
+  ScoringLabelOutline.BorderColor = kWhite;
   lblCurrentScore.Fit();
   RestoreFlush();
   // Nothing is dealt yet.
