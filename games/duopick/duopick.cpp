@@ -201,6 +201,7 @@ void frmDuopick::AnnounceRound(bool bonus) {
 }
 
 void frmDuopick::GameFinished() {
+  ClearSelectionRectangles();
   cmdPlay.Enabled = true;
   cmdExit.Enabled = true;
 }
