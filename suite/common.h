@@ -75,5 +75,7 @@ inline constexpr char kSuiteTitle[] = "Quillmark's Card Haven";
 
 // Colours as blue, green, red.
 inline constexpr int kRed = 255, kBlack = 0, kBlue = 0xFF0000, kCyan = 0xFFFF00, kWhite = 0xFFFFFF;
+// The system's colour of text on a button.
+inline constexpr int kButtonText = static_cast<int>(0x80000012);
 // Mouse pointers.
 inline constexpr int kDefaultPointer = 0, kHourglass = 11, kCustomPointer = 99;

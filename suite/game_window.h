@@ -181,6 +181,8 @@ class GameWindow : public Form {
   virtual void PlaceMessage();
   virtual void PlaceScoring();
   virtual void PlaceButtons();
+  // The widths of the panels of the status bar.
+  virtual void PlacePanels();
   // Places the board; the splash panel, the buttons and the status bar are placed already.
   virtual void PlaceBoard() {}
 

@@ -96,6 +96,12 @@ void GameWindow::PlaceButtons() {
   for (CommandButton* button : {&cmdPlay, &cmdTakeScore, &cmdPause, &cmdExit}) button->Left = Width - 1320;
 }
 
+void GameWindow::PlacePanels() {
+  StatusBar1.Panels(1).Width = Width * 2 / 5;
+  StatusBar1.Panels(2).Width = Width * 9 / 20;
+  StatusBar1.Panels(3).Width = Width * 3 / 20;
+}
+
 // A row may name a control array: then all of it stands there.
 void GameWindow::PlaceInMiddle(std::span<const Design> rows) {
   const int right = (Width - plan.width) / 2, down = (Height - plan.height) / 2;
@@ -125,9 +131,7 @@ void GameWindow::Form_Resize() {
   PlaceButtons();
   StatusBar1.Width = Width;
   StatusBar1.Top = Height - StatusBar1.Height;
-  StatusBar1.Panels(1).Width = Width * 2 / 5;
-  StatusBar1.Panels(2).Width = Width * 9 / 20;
-  StatusBar1.Panels(3).Width = Width * 3 / 20;
+  PlacePanels();
   PlaceBoard();
   for (const ScoreBox& each : scoreBoxes) {
     each.side.Visual::Move(each.box.Left + each.box.Width, each.box.Top, 0, each.box.Height);

@@ -7,13 +7,6 @@ namespace {
 
 constexpr int kWidth = 8400, kRowHeight = 465;
 
-// A number as plain text, with no more decimals than it has.
-std::string Plain(double number) {
-  char text[64];
-  std::snprintf(text, sizeof text, "%.15g", number);
-  return text;
-}
-
 }  // namespace
 
 // The boxes take the focus in the order in which they stand.
@@ -93,6 +86,12 @@ std::string ScoringDialog::Shown(size_t field) {
 
 void ScoringDialog::SetNumber(size_t field, long long value) {
   std::visit([&](auto* number) { *number = value; }, Setting(field));
+}
+
+std::string ScoringDialog::Plain(double number) {
+  char text[64];
+  std::snprintf(text, sizeof text, "%.15g", number);
+  return text;
 }
 
 double ScoringDialog::NumberIn(size_t field) const { return Val(rows[field]->box.Text.get()); }

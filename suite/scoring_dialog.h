@@ -102,6 +102,8 @@ class ScoringDialog : public Form {
   int FreeRowTop(int row) const;
   void SetNumber(size_t field, long long value);
   double NumberIn(size_t field) const;
+  // A number as plain text, with no more decimals than it has.
+  static std::string Plain(double number);
 
   GameWindow& window;
 

@@ -60,10 +60,6 @@ void frmSelect::Form_Terminate() {
 
 void frmSelect::Open(const GameEntry& game) {
   common_.AppTitle = game.title;
-  if (!game.create) {
-    common_.MsgBox(std::string(game.title) + " is coming in a later version.", Icon::Information);
-    return;
-  }
   MousePointer = kHourglass;
   window_.reset();
   window_ = game.create(common_);

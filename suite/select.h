@@ -8,7 +8,7 @@
 #include "suite/common.h"
 #include "suite/game_window.h"
 
-// A game of the suite. One that isn't built yet has no `create`.
+// A game of the suite.
 struct GameEntry {
   const char* button;   // "cmdSumfall"
   const char* caption;  // "&Sumfall!"

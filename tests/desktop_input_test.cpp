@@ -8,12 +8,19 @@
 #include <QPushButton>
 
 #include "games/games.h"
+#include "games/sumfall/sumfall.h"
 #include "suite/catalogue.h"
 #include "suite/suite.h"
 #include "tests/desktop_screen.h"
 #include "tests/harness.h"
 #include "window/desktop/media.h"
-#include "window/desktop/menus.h"
+#include "window/desktop/pictures.h"
+
+#ifdef __SANITIZE_ADDRESS__
+// The font library keeps a block of its own till the end, which is no leak of ours.
+extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig\n"; }
+#endif
 
 namespace {
 
@@ -81,14 +88,22 @@ class Input : public testing::Test {
     table.onA = nullptr;
     return table.log;
   }
-  // Does something at the next box, once it has stood for a while.
-  void AtNextBox(const std::function<void(QMessageBox&)>& deed, int patience = 2000) {
-    QTimer::singleShot(1, qApp, [this, deed, patience] {
-      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); box && box->isVisible())
-        deed(*box);
-      else if (patience > 0)
-        AtNextBox(deed, patience - 1);
+  // Does something from a timer as soon as `ready()`. What never becomes ready fails, and closes all boxes.
+  static void When(const std::function<bool()>& ready, const std::function<void()>& deed,
+                   int patience = 2000) {
+    QTimer::singleShot(1, qApp, [=] {
+      if (ready()) return deed();
+      if (patience > 0) return When(ready, deed, patience - 1);
+      ADD_FAILURE() << "waited in vain";
+      while (QWidget* box = QApplication::activeModalWidget()) box->close();
     });
+  }
+  static QMessageBox* Box() {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    return box && box->isVisible() ? box : nullptr;
+  }
+  static void AtNextBox(const std::function<void(QMessageBox&)>& deed) {
+    When([] { return Box() != nullptr; }, [deed] { deed(*Box()); });
   }
   void PressAtNextBox(QMessageBox::StandardButton button) {
     AtNextBox([button](QMessageBox& box) { input::Press(*box.button(button), QPoint(5, 5)); });
@@ -156,6 +171,28 @@ TEST_F(Input, HandlersLetThroughMayWaitThemselves) {
     table.onTick = nullptr;
   };
   EXPECT_EQ(LogOf([&] { input::Click(front, table.cmdB); }, true), "A( slept B( tick( ) ) ) ");
+  // Ticks wait till no more input comes, and then each timer ticks once, due again or not.
+  table.onB = [this] {
+    table.Clock.Enabled = true;
+    front.platform.Sleep(10);
+    QTimer::singleShot(0, qApp, [this] { input::Click(front, table.imgCard); });
+  };
+  table.ticksOn = true;
+  table.onTick = [this] { front.platform.Sleep(10); };
+  EXPECT_EQ(LogOf([&] { input::Click(front, table.cmdB); }, true, [this] { table.Clock.Enabled = false; }),
+            "A( slept B( ) card tick( ) ) ");
+  // A tick's own input goes before the next tick, though that has fallen due first.
+  table.log.clear();
+  table.onTick = [this] {
+    table.ticksOn = false;
+    table.onTick = nullptr;
+    front.onSleep = [this] { input::Click(front, table.imgCard); };
+    for (int i = 0; i < 3; ++i) front.platform.Sleep(10);
+  };
+  table.ticksOn = true;
+  front.Deliver(table, [this] { table.Clock.Enabled = true; });
+  ASSERT_TRUE(input::Await([this] { return !table.Clock.Enabled; }));
+  EXPECT_EQ(table.log, "tick( ) card tick ");
   // What follows the answer of a box waits for the handler that asked.
   table.onB = [this] {
     AtNextBox([this](QMessageBox& box) {
@@ -287,39 +324,122 @@ TEST_F(Input, ABoxOutlivesTheWindowBehindIt) {
     game->Clock.Enabled = true;
     const QPointer<QWidget> window = front.WindowOf(*game);
     game->onTick = [&] { hidden ? game->Hide() : game->Unload(); };
-    bool stood = false;
-    AtNextBox([&](QMessageBox&) {
-      input::Await([&] { return !window->isVisible(); });
-      QTimer::singleShot(20, qApp, [&] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr);
-        EXPECT_EQ(!window, !hidden);
-        stood = box->isVisible() && box->isActiveWindow();
-        EXPECT_EQ(box->windowHandle()->transientParent(), front.WindowOf(table)->windowHandle());
-        input::Key(*box, Qt::Key_Return, {}, "\r");
-      });
-    });
+    const auto gone = [&] { return hidden ? !window->isVisible() : !window; };
+    When([&] { return Box() && gone(); },
+         [&] {
+           EXPECT_TRUE(Box()->isActiveWindow());
+           EXPECT_EQ(Box()->windowHandle()->transientParent(), front.WindowOf(table)->windowHandle());
+           input::Key(*Box(), Qt::Key_Return, {}, "\r");
+         });
     EXPECT_EQ(front.platform.MsgBox("Sure?", "Ask", Icon::Question, Buttons::YesNo), Answer::Yes);
-    EXPECT_TRUE(stood);
-    input::Settle();
-    EXPECT_EQ(QApplication::activeWindow(), front.WindowOf(table));
+    EXPECT_TRUE(input::Await([&] { return QApplication::activeWindow() == front.WindowOf(table); }));
     game->Discard();
     input::Settle();
   }
   // A box over a box hands the keyboard back to it.
   QPointer<QWidget> first;
+  bool asked = false;
   AtNextBox([&](QMessageBox& box) {
     first = &box;
-    AtNextBox([&](QMessageBox& second) {
-      EXPECT_NE(first, &second);
-      input::Key(second, Qt::Key_Return, {}, "\r");
-      AtNextBox([&](QMessageBox& left) {
-        EXPECT_EQ(first, &left);
-        EXPECT_TRUE(input::Await([&] { return QApplication::activeWindow() == &left; }));
-        input::Key(left, Qt::Key_Escape);
-      });
-    });
+    When([&] { return Box() && Box() != first; }, [&] { input::Key(*Box(), Qt::Key_Return, {}, "\r"); });
+    When([&] { return asked && Box() == first && QApplication::activeWindow() == first; },
+         [&] { input::Key(*first, Qt::Key_Escape); });
     front.platform.MsgBox("Second", "Ask");
+    asked = true;
   });
   EXPECT_EQ(front.platform.MsgBox("First", "Ask", Icon::None, Buttons::OKCancel), Answer::Cancel);
+}
+
+// --- Whole games ---------------------------------------------------------------------------------
+
+namespace {
+
+class Playing : public testing::Test {
+ protected:
+  void SetUp() override {
+    suite.Start();
+    input::Settle();
+    input::Click(front, *static_cast<Visual*>(front.platform.FindForm("frmSelect")->find("cmdSumfall")));
+    input::Settle();
+    input::Click(front, Game().cmdPlay);
+    ASSERT_TRUE(input::Await([this] { return suite.common.GameInProgress; }));
+  }
+  GameWindow& Game() { return *suite.common.window; }
+  int Round() { return static_cast<frmSumfall&>(Game()).CurrentRound; }
+  // Takes the score; the player does `meanwhile` at the first pause.
+  void TakeScore(const std::function<void()>& meanwhile) {
+    front.onSleep = meanwhile;
+    input::Click(front, Game().cmdTakeScore);
+    input::Settle();
+    EXPECT_FALSE(front.onSleep) << "nothing was counted";
+  }
+
+  const bool open = OpenScreen();
+  TestFolder folder;
+  QuickDesktop front{{folder.Path(), CARDHAVEN_TEST_DATA}, Catalogue()};
+  Suite suite{front.platform, {folder.Path()}, AllGames()};
+};
+
+}  // namespace
+
+TEST_F(Playing, ASecondClickWhileTheRoundIsCountedPlaysNoRoundAway) {
+  ASSERT_EQ(Round(), 1);
+  TakeScore([this] {
+    input::Click(front, Game().cmdTakeScore);
+    input::Key(*front.WindowOf(Game()), Qt::Key_T, Qt::AltModifier, "t");
+    input::Click(front, Game().cmdTakeScore, 20);
+  });
+  EXPECT_EQ(Round(), 2);
+  EXPECT_TRUE(suite.common.GameInProgress);
+  EXPECT_TRUE(Game().cmdTakeScore.Enabled);
+}
+
+TEST_F(Playing, TheCloseBoxWhileTheRoundIsCountedAsksOnce) {
+  for (const bool yes : {false, true}) {
+    int asked = 0;
+    const std::function<void()> answer = [&] {
+      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+          box && box->isVisible()) {
+        ++asked;
+        box->button(yes ? QMessageBox::Yes : QMessageBox::No)->click();
+      }
+    };
+    QTimer answering;
+    QObject::connect(&answering, &QTimer::timeout, answer);
+    answering.start(1);
+    TakeScore([&] {
+      front.WindowOf(Game())->close();
+      front.WindowOf(Game())->close();
+      front.WindowOf(Game())->setFocus();
+    });
+    input::Settle();
+    EXPECT_EQ(asked, 1);  // the second press meets the question
+    EXPECT_EQ(front.platform.FindForm("frmSumfall") == nullptr, yes);
+    EXPECT_EQ(front.platform.FindForm("frmSelect")->Visible, yes);
+    EXPECT_FALSE(front.platform.HasEnded());
+    if (yes) continue;
+    ASSERT_TRUE(Game().cmdTakeScore.Enabled);
+  }
+}
+
+TEST(OwnFiles, GoBeforeTheSuites) {
+  OpenScreen();
+  TestFolder own, installed;
+  std::filesystem::create_directories(installed.Path() / "pictures");
+  const auto square = [](const std::string& colour) {
+    return "<svg xmlns='http://www.w3.org/2000/svg' width='10' height='10'><rect width='10' height='10' "
+           "fill='" +
+           colour + "'/></svg>";
+  };
+  own.Write("A.svg", square("red"));
+  for (const char* name : {"pictures/A.svg", "pictures/B.svg"}) installed.Write(name, square("blue"));
+  Pictures pictures({{"A.svg", 10, 10}, {"B.svg", 10, 10}}, own.Path(), installed.Path() / "pictures");
+  EXPECT_EQ(pictures.Get(1, false, 1).toImage().pixelColor(5, 5), QColor(Qt::red));
+  EXPECT_EQ(pictures.Get(2, false, 1).toImage().pixelColor(5, 5), QColor(Qt::blue));
+
+  own.Write("Chord.wav", "mine");
+  const Media media(own.Path(), installed.Path());
+  EXPECT_EQ(media.Find("\\Chord.wav", "sounds"), own.Path() / "Chord.wav");
+  EXPECT_EQ(media.Find("\\Snap.wav", "sounds"), installed.Path() / "sounds/Snap.wav");
+  EXPECT_EQ(media.Find("\\Tune.MID", "music"), installed.Path() / "music/Tune.MID");
 }

@@ -12,8 +12,13 @@
 #include <set>
 #include <tuple>
 
+#include "games/blackrush/custom.h"
+#include "games/duopick/custom.h"
+#include "games/fivestack/custom.h"
+#include "games/handgrid/custom.h"
 #include "games/spirehold/custom.h"
 #include "games/sumfall/dialogs.h"
+#include "games/treyshift/custom.h"
 #include "suite/catalogue.h"
 #include "suite/dialogs.h"
 #include "tests/desktop_screen.h"
@@ -137,7 +142,9 @@ class Look : public testing::Test {
     for (const Text& text : texts) {
       const Placed& placed = scene[text.place];
       const std::string says = text.label->NameInForm() + " \"" + text.label->Caption.get() + "\"";
-      if (!canvas.contains(text.whole)) Fault(form, says + " leaves the window");
+      // What a stored card costs stands so high above it that its ground may lose a pixel.
+      const QMarginsF more(0, text.label->name == "lblFlush" ? 1 : 0, 0, 0);
+      if (!(canvas + more).contains(text.whole)) Fault(form, says + " leaves the window");
       if (!QRectF(placed.clip).contains(text.letters)) Fault(form, says + " leaves its frame");
       if (!text.label->AutoSize && !(QRectF(placed.rect) + QMarginsF(1, 1, 1, 1)).contains(text.letters))
         Fault(form, says + " leaves its place");
@@ -147,8 +154,9 @@ class Look : public testing::Test {
         if (other.place > text.place && other.whole.intersects(text.whole))
           Fault(form, says + " and " + other.label->NameInForm() + " \"" + other.label->Caption.get() +
                           "\" lie on each other");
-      // Only messages, big ones and a tower's own, come over the cards.
-      const bool message = text.label->FontSize >= 10 && !BoxOf(scene, text.place);
+      // Only messages, big ones and a tower's or a column's own, come over the cards.
+      const bool message =
+          (text.label->FontSize >= 10 && !BoxOf(scene, text.place)) || text.label->name == "lblFlush";
       for (size_t i = 0; i < text.place && !message; ++i)
         if (scene[i].control->kind == Control::Kind::Image && scene[i].control->parent == &form &&
             static_cast<const Image*>(scene[i].control)->Picture != 0 &&
@@ -234,8 +242,13 @@ constexpr Longest kMessages[] = {
      "frmSpirehold"},
     {"lblMessage", "Highest Run Bonus!", "frmSpirehold"},
     {"lblMessage", "Tower Bonus!!", "frmSpirehold"},
+    {"ScoringLabelInfo", "Prepare for Bonus Round", "frmBlackrush"},
+    {"ScoringLabelInfo", "Awesome score!", "frmBlackrush"},
+    {"ScoringLabelInfo", "Times Up!", "frmBlackrush"},
+    {"lblMessage", "Completion Bonus!", "frmDuopick"},
     {"lblMessage", "Times Up!"},
     {"lblMessage", "Game Over"},
+    {"ScoringLabel", "1000000 X 120 =", "frmHandgrid"},
 };
 constexpr Longest kTexts[] = {
     {"lblScoring", "2,147,483,647"},
@@ -250,9 +263,45 @@ constexpr Longest kTexts[] = {
     {"lblCurrentRun", "Current Run: 32767", "frmSpirehold"},
     {"lblHighRun", "Highest Run: 32767", "frmSpirehold"},
     {"lblNextCard", "Next card worth: 3276800 points", "frmSpirehold"},
+    {"lblTrips", "Trips (20000):", "frmTreyshift"},
+    {"lblRuns", "Runs (20000):", "frmTreyshift"},
+    {"lblScoreRuns", "17", "frmTreyshift"},
+    {"lblCardCount", "Cards remaining: 52", "frmTreyshift"},
+    {"lblRound", "Round: 3", "frmTreyshift"},
+    {"lblTotalScore", "-2,147,483,648", "frmBlackrush"},
+    {"lblBonus", "130000", "frmBlackrush"},
+    {"lblCardsUsedCount", "52", "frmBlackrush"},
+    {"StatusBar1.Panels(1)", "Click on Play to start a new game  ", "frmBlackrush"},
+    {"StatusBar1.Panels(2)", "Create columns of 21 to increase bonus score!   ", "frmBlackrush"},
+    {"lblRow(1)", "Royal Flush", "frmHandgrid"},
+    {"lblRow(2)", "3 of a kind", "frmHandgrid"},
+    {"lblRow(3)", "4 of a kind", "frmHandgrid"},
+    {"lblRow(5)", "Royal Flush", "frmHandgrid"},
+    {"lblCol(4)", "4 of a kind", "frmHandgrid"},
+    {"lblCol(5)", "Royal Flush", "frmHandgrid"},
+    {"lblRound", "Bonus Round", "frmHandgrid"},
+    {"lblTimeBonus", "120", "frmHandgrid"},
+    {"lblOverwrites", "Over Writes Remaining: 26", "frmHandgrid"},
+    {"lblPointsEarned", "Points Earned: 1000000", "frmHandgrid"},
+    {"lblCards", "Cards remaining: 51", "frmHandgrid"},
+    {"lblTotalScore", "-2,147,483,648", "frmFivestack"},
+    {"lblTimeBonus", " 10000", "frmFivestack"},
+    {"lblTimeBonus", "-32768", "frmFivestack"},
+    {"lblCurrentTotal", "105", "frmFivestack"},
+    {"ColumnTotal(4)", "21", "frmFivestack"},
+    {"lblRound", "Round: 4", "frmFivestack"},
+    {"StatusBar1.Panels(1)", "Make 2,147,483,647 for bonus round.  ", "frmFivestack"},
+    {"StatusBar1.Panels(2)", "Click on Hit buttons to create columns of 21!   ", "frmFivestack"},
     {"StatusBar1.Panels(1)", "Make 5,000,000 for Bonus Round!   "},
     {"StatusBar1.Panels(2)", "Click on exposed cards to total 15!   ", "frmSumfall"},
     {"StatusBar1.Panels(2)", "Create runs by clicking on exposed cards!   ", "frmSpirehold"},
+    {"lblPairs", "Pairs x -2147483648", "frmDuopick"},
+    {"lblRuns", "Runs x -2147483648", "frmDuopick"},
+    {"lblScorePairs", "26", "frmDuopick"},
+    {"lblScoreRuns", "26", "frmDuopick"},
+    {"StatusBar1.Panels(2)", "Create runs by clicking on exposed cards!   ", "frmDuopick"},
+    {"StatusBar1.Panels(2)", "Create runs and triples by moving available cards!   ", "frmTreyshift"},
+    {"StatusBar1.Panels(2)", "Click on cards to get the best Poker hand!   ", "frmHandgrid"},
     {"StatusBar1.Panels(2)", "Times running out!"},
     {"StatusBar1.Panels(3)", "12:59 PM"},
 };
@@ -270,17 +319,26 @@ bool Write(Form& form, const Longest& longest) {
     static_cast<GameWindow&>(form).StatusBar1.Panels(name[name.size() - 2] - '0').Text = longest.text;
     return true;
   }
-  auto* label = static_cast<Label*>(form.find(name));
+  const size_t open = name.find('(');
+  const int index = open == std::string::npos ? -1 : name[open + 1] - '0';
+  auto* label = static_cast<Label*>(form.find(name.substr(0, open), index));
   if (!label) return false;
   label->Caption = longest.text;
   return true;
+}
+
+// Plays the round to its end.
+void EndRound(GameWindow& game) {
+  auto* handgrid = dynamic_cast<frmHandgrid*>(&game);
+  if (!handgrid) return player::Click(game.cmdTakeScore);
+  game.common.TakingScore = false;
+  for (int cell = 0; cell < modHandgrid::kCells; ++cell) player::Click(handgrid->PlayCards(cell));
 }
 
 }  // namespace
 
 TEST_F(Look, GamesStandAtEverySize) {
   for (const GameEntry& entry : AllGames()) {
-    if (!entry.create) continue;
     GameWindow& game = Open(entry);
     for (const QSize size : kSizes) {
       Resize(game, size);
@@ -289,12 +347,20 @@ TEST_F(Look, GamesStandAtEverySize) {
       // What is told while a round begins, is paid and ends, each at the moments when the game says
       // something.
       std::set<std::string> said;
+      auto* handgrid = dynamic_cast<frmHandgrid*>(&game);
       front.onPause = [&] {
-        const std::string caption = game.lblMessage.Caption;
-        where = " while it says \"" + caption + "\"";
+        const std::string caption = game.lblMessage.Caption, amount = game.lblScoring.Caption,
+                          announced = handgrid ? handgrid->ScoringLabel.Caption.get() : "";
+        where = " while it says \"" + caption + "\", \"" + amount + "\"";
         Check(game);
-        const bool again = !said.insert(caption.substr(0, caption.find_first_of("0123456789"))).second;
-        if (again || !game.lblMessage.Visible || caption == "Times Up!") return;
+        const auto wording = [](const std::string& text) {
+          return text.substr(0, text.find_first_of("0123456789"));
+        };
+        const bool again =
+            !said.insert(wording(caption) + "|" + wording(amount) + "|" + wording(announced)).second;
+        // Where both stand side by side, the message is always the same.
+        const bool aside = game.lblScoring.Visible && game.lblScoring.Top == int(game.lblMessage.Top);
+        if (again || aside || !game.lblMessage.Visible || caption == "Times Up!") return;
         const int left = game.lblMessage.Left, top = game.lblMessage.Top;
         for (const Longest& longest : kMessages)
           if (Write(game, longest)) Check(game);
@@ -302,6 +368,7 @@ TEST_F(Look, GamesStandAtEverySize) {
         game.lblMessage.Left = left;
         game.lblMessage.Top = top;
       };
+      suite.common.TakingScore = false;  // the selector's timer would have seen to it
       player::Click(game.cmdPlay);
       where = " in play";
       Check(game);
@@ -325,10 +392,33 @@ TEST_F(Look, GamesStandAtEverySize) {
         spirehold->NewHighRun = true;
         spirehold->HighestRun = 1;
       }
-      player::Click(game.cmdTakeScore);
+      if (auto* blackrush = dynamic_cast<frmBlackrush*>(&game)) {
+        blackrush->TwentyOnes = 26;
+        blackrush->Bonus = 130000;
+        blackrush->ColumnSoft(1).Caption = "Soft";
+        blackrush->ColumnSoft(1).Visible = true;
+        blackrush->lblBust.Visible = true;
+        Check(game);
+        blackrush->lblBust.Visible = false;
+        for (int card = 0; card < kCardsOfColumn; ++card) {  // a Five Card Gimme
+          suite.common.Deck[blackrush->DeckPosition] = "2S";
+          player::Click(blackrush->cmdHit(0));
+        }
+      }
+      if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) duopick->PairsCount = duopick->RunsCount = 26;
+      if (auto* fivestack = dynamic_cast<frmFivestack*>(&game)) {
+        fivestack->ColumnSoft(4).Caption = "Soft";
+        fivestack->ColumnSoft(4).Visible = true;
+        suite.common.TimeBonus = 10000;
+        suite.common.CountDownScore = false;
+        fivestack->CardTotal = modFivestack::kPerfect;
+        fivestack->UpdateCardTotalValue();
+        Check(game);
+      }
+      EndRound(game);
       suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
       front.platform.Dispatch(game.Timer1.OnTimer);  // time is up
-      player::Click(game.cmdTakeScore);              // the bonus round
+      for (int round = 3; round <= 4 && suite.common.GameInProgress; ++round) EndRound(game);
       front.onPause = nullptr;
       EXPECT_FALSE(suite.common.GameInProgress);
       EXPECT_GE(said.size(), 5u);
@@ -338,6 +428,56 @@ TEST_F(Look, GamesStandAtEverySize) {
     Close(game);
   }
   EXPECT_GT(looks, 500);
+}
+
+// A flush, a deck that is used up, what is left over, a board that is stuck.
+TEST_F(Look, TreyshiftTellsWhatColumnsAndDecksBring) {
+  using namespace modTreyshift;
+  for (const GameEntry& entry : AllGames()) {
+    if (std::string(entry.button) != "cmdTreyshift") continue;
+    auto& game = static_cast<frmTreyshift&>(Open(entry));
+    const auto lay = [&](int column) {
+      player::Click(game.UpCard(kInPlay));
+      player::Click(game.PlayCard(column));
+    };
+    for (const QSize size : kSizes) {
+      Resize(game, size);
+      player::Click(game.mnuPlay);
+      std::set<std::string> said;
+      front.onPause = [&] {
+        for (const Label* label : {&game.lblScoring, &game.lblFlush})
+          if (label->Visible) said.insert(label->Caption);
+        where = " while it says \"" + game.lblScoring.Caption.get() + "\"";
+        Check(game);
+      };
+      CardCodes& deck = game.common.Deck;
+      deck = {"",   "3D", "2D", "1D", "1S", "3S", "5S",  "1H", "3H",
+              "5H", "1C", "3C", "5C", "7D", "9D", "11D", "8S"};
+      deck.resize(53, "12H");
+      game.Deal();
+      for (int i = 0; i < 3; ++i) lay(0);
+      for (int i = 0; i < 9; ++i) lay(i / 3);
+      player::Click(game.UpCard(kInPlay));
+      player::Click(game.TempCard(1));
+      game.ShowEmpty(game.UpCard(kInPlay));
+      game.PenaltyValue = 20000;
+      player::Click(game.cmdTakeScore);
+      deck = StandardDeck();
+      for (int i = 1; i <= 15; ++i) deck[i] = std::to_string(2 * i % 12 + 1) + "SH"[i % 2];
+      game.Deal();
+      for (int i = 0; i < 12; ++i) lay(i / 3);
+      for (int i = 0; i < 3; ++i) {
+        player::Click(game.UpCard(kInPlay));
+        player::Click(game.TempCard(i));
+      }
+      front.onPause = nullptr;
+      for (const char* text : {"Flush!", "Deck Completion Bonus!", "Removing left over cards", "-20000",
+                               "No more legal moves left!", "Game Over"})
+        EXPECT_TRUE(said.contains(text)) << text;
+      EXPECT_FALSE(suite.common.GameInProgress);
+    }
+    Close(game);
+  }
 }
 
 TEST_F(Look, DialogsHoldTheirTexts) {
@@ -360,7 +500,6 @@ TEST_F(Look, DialogsHoldTheirTexts) {
   };
   Check(*front.platform.FindForm("frmSelect"));
   for (const GameEntry& entry : AllGames()) {
-    if (!entry.create) continue;
     GameWindow& game = Open(entry);
     for (const GameEntry& each : AllGames()) {
       game.lblProductName.Caption = each.title;
@@ -379,6 +518,11 @@ TEST_F(Look, DialogsHoldTheirTexts) {
       look(frmOpen(*sumfall));
     }
     if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) look(frmSpireholdCustom(*spirehold));
+    if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) look(frmDuopickCustomScoring(*duopick));
+    if (auto* handgrid = dynamic_cast<frmHandgrid*>(&game)) look(frmHandgridCustom(*handgrid));
+    if (auto* fivestack = dynamic_cast<frmFivestack*>(&game)) look(frmFivestackCustomScoring(*fivestack));
+    if (auto* treyshift = dynamic_cast<frmTreyshift*>(&game)) look(frmTreyshiftCustom(*treyshift));
+    if (auto* blackrush = dynamic_cast<frmBlackrush*>(&game)) look(frmBlackrushCustomScoring(*blackrush));
     Close(game);
   }
   EXPECT_GT(looks, 30);
@@ -438,13 +582,16 @@ Seen LookAt(const QImage& picture, const TextBlock& block, const QColor& colour)
 TEST_F(Look, LettersStandOutFromTheirGround) {
   constexpr int kColours[] = {kRed, kBlack, kBlue, kCyan, 49152};
   for (const GameEntry& entry : AllGames()) {
-    if (!entry.create) continue;
     GameWindow& game = Open(entry);
     player::Click(game.cmdPlay);
     game.lblScoring.Caption = "12,345";
     game.lblScoring.Visible = true;
     game.PlaceScoring();
     game.lblMessage.Caption = "Completion Bonus! 5000000";  // across the cards
+    if (auto* ground = static_cast<Shape*>(game.find("ScoringLabelOutline"))) {
+      game.lblMessage.Caption = "Prepare for Bonus Round";
+      ground->Visible = true;
+    }
     game.lblMessage.Visible = true;
     game.lblCurrentScore.Caption = "-2,147,483,648";
     game.lblCurrentRound.Caption = "Bonus";
@@ -455,6 +602,7 @@ TEST_F(Look, LettersStandOutFromTheirGround) {
       Settle();
       const QImage picture = front.WindowOf(game)->Board().grab().toImage();
       for (const Label* label : labels) {
+        if (!label->Exists()) continue;
         const Seen seen =
             LookAt(picture, LayOut(*label, DrawnRect(*label, front.pictures)), ToColour(colour));
         const std::string which = label->FullName() + " in colour " + std::to_string(colour);

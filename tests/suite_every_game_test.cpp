@@ -10,8 +10,7 @@ namespace {
 
 std::vector<std::string> Buttons() {
   std::vector<std::string> buttons;
-  for (const GameEntry& game : AllGames())
-    if (game.create) buttons.emplace_back(game.button);
+  for (const GameEntry& game : AllGames()) buttons.emplace_back(game.button);
   return buttons;
 }
 

@@ -5,12 +5,12 @@
 #include "window/form.h"
 
 std::string_view PropName(Prop prop) {
-  static constexpr std::array<std::string_view, 32> kNames = {
-      "Alignment",    "BackColor", "BorderColor", "BorderStyle", "Caption",  "Checked",     "Drive",
-      "Enabled",      "FillColor", "FontBold",    "FontName",    "FontSize", "ForeColor",   "Height",
-      "Interval",     "Left",      "List",        "ListIndex",   "Max",      "Min",         "MouseIcon",
-      "MousePointer", "Path",      "Pattern",     "Picture",     "Text",     "ToolTipText", "Top",
-      "Value",        "Visible",   "Width",       "WindowState"};
+  static constexpr std::array<std::string_view, 33> kNames = {
+      "Alignment", "BackColor",    "BackStyle", "BorderColor", "BorderStyle", "Caption",  "Checked",
+      "Drive",     "Enabled",      "FillColor", "FontBold",    "FontName",    "FontSize", "ForeColor",
+      "Height",    "Interval",     "Left",      "List",        "ListIndex",   "Max",      "Min",
+      "MouseIcon", "MousePointer", "Path",      "Pattern",     "Picture",     "Text",     "ToolTipText",
+      "Top",       "Value",        "Visible",   "Width",       "WindowState"};
   return kNames.at(static_cast<size_t>(prop));
 }
 

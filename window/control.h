@@ -17,6 +17,7 @@ class Control;
 enum class Prop : uint8_t {
   Alignment,
   BackColor,
+  BackStyle,
   BorderColor,
   BorderStyle,
   Caption,
@@ -70,6 +71,7 @@ class Property {
   Property& operator=(const Property& other) { return *this = other.value_; }
   Property& operator+=(const T& amount) { return *this = value_ + amount; }
   friend bool operator==(const Property& property, const T& value) { return property.value_ == value; }
+  friend bool operator==(const Property& a, const Property& b) { return a.value_ == b.value_; }
 
  private:
   Control& owner_;

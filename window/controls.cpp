@@ -13,12 +13,19 @@ void Label::Fit() {
 void Label::AfterChange(Prop prop) {
   if (prop == Prop::Caption || prop == Prop::FontSize || prop == Prop::FontBold || prop == Prop::FontName)
     Fit();
-  if (prop == Prop::Caption && OnChange && form.Loaded()) OnChange();
+  if (prop != Prop::Caption || !OnChange || !form.Loaded()) return;
+  constexpr int kDeepest = 100;
+  if (changing_ == kDeepest) throw RuntimeError("Out of stack space");
+  struct Guard {
+    int& depth;
+    ~Guard() { --depth; }
+  } guard{++changing_};
+  OnChange();
 }
 
 void Label::Visit(const PropertyVisitor& visit) const {
   Visual::Visit(visit);
-  Tell(visit, Caption, ForeColor, Alignment, FontName, FontSize, FontBold);
+  Tell(visit, Caption, ForeColor, BackColor, BackStyle, Alignment, FontName, FontSize, FontBold);
 }
 
 void Image::Visit(const PropertyVisitor& visit) const {
@@ -40,7 +47,7 @@ void TextBox::SelectAll() { form.platform.TextSelected(*this); }
 
 void TextBox::Visit(const PropertyVisitor& visit) const {
   Visual::Visit(visit);
-  Tell(visit, Text);
+  Tell(visit, Text, ForeColor);
 }
 
 void CheckBox::Visit(const PropertyVisitor& visit) const {

@@ -25,10 +25,14 @@ class Label : public Visual, public Lettering {
 
   Property<std::string> Caption{*this, Prop::Caption, ""};
   Property<int> ForeColor{*this, Prop::ForeColor, 0};
-  Property<int> Alignment{*this, Prop::Alignment, 0};  // 0 left, 1 right, 2 centre
-  bool AutoSize = false;                               // width and height follow the caption; else it wraps
+  Property<int> BackColor{*this, Prop::BackColor, 0xFFFFFF};  // of an opaque label
+  Property<int> BackStyle{*this, Prop::BackStyle, 0};         // 0 transparent, 1 opaque
+  Property<int> Alignment{*this, Prop::Alignment, 0};         // 0 left, 1 right, 2 centre
+  bool AutoSize = false;  // width and height follow the caption; else it wraps
 
-  std::function<void()> OnChange;  // the caption has taken a new text
+  // The caption has taken a new text, and an `AutoSize` label its new size. May set the caption again, which
+  // is told at once; without end raises "Out of stack space".
+  std::function<void()> OnChange;
 
   // Fits the size to the caption if `AutoSize`.
   void Fit();
@@ -36,6 +40,9 @@ class Label : public Visual, public Lettering {
 
  protected:
   void AfterChange(Prop prop) override;
+
+ private:
+  int changing_ = 0;  // how many `OnChange` are under way
 };
 
 class Image : public Visual {
@@ -65,7 +72,8 @@ class Shape : public Visual {
 
 class CommandButton : public Visual {
  public:
-  CommandButton(Control& parent, std::string_view name) : Visual(Kind::CommandButton, parent, name) {}
+  CommandButton(Control& parent, std::string_view name, int index = -1)
+      : Visual(Kind::CommandButton, parent, name, index) {}
 
   Property<std::string> Caption{*this, Prop::Caption, ""};
   bool Default = false;  // pressed by Return
@@ -79,6 +87,7 @@ class TextBox : public Visual {
   TextBox(Control& parent, std::string_view name) : Visual(Kind::TextBox, parent, name) {}
 
   Property<std::string> Text{*this, Prop::Text, ""};
+  Property<int> ForeColor{*this, Prop::ForeColor, 0};
   bool MultiLine = false;  // with a vertical scroll bar
   bool Locked = false;     // can be read and copied, not written
 
@@ -207,26 +216,26 @@ class ProgressBar : public Visual {
   void Visit(const PropertyVisitor& visit) const override;
 };
 
-// A numbered row of like controls, indices 0 to N - 1.
-template <class T, int N>
+// A numbered row of like controls, N of them from index `First` on.
+template <class T, int N, int First = 0>
 class ControlArray {
  public:
   ControlArray(Control& parent, std::string_view name) {
-    for (int i = 0; i < N; ++i) items_[i] = std::make_unique<T>(parent, name, i);
+    for (int i = 0; i < N; ++i) items_[i] = std::make_unique<T>(parent, name, First + i);
   }
   // Raises "Subscript out of range" outside the row.
   T& operator()(long long index) {
-    if (index < 0 || index >= N) RaiseSubscript();
-    return *items_[index];
+    if (index < First || index >= First + N) RaiseSubscript();
+    return *items_[index - First];
   }
   const T& operator()(long long index) const { return const_cast<ControlArray&>(*this)(index); }
   static constexpr int size() { return N; }
 
   void OnClick(const std::function<void(int)>& handler) {
-    for (int i = 0; i < N; ++i) items_[i]->OnClick = [handler, i] { handler(i); };
+    for (int i = 0; i < N; ++i) items_[i]->OnClick = [handler, i] { handler(First + i); };
   }
   void OnMouseMove(const std::function<void(int)>& handler) {
-    for (int i = 0; i < N; ++i) items_[i]->OnMouseMove = [handler, i] { handler(i); };
+    for (int i = 0; i < N; ++i) items_[i]->OnMouseMove = [handler, i] { handler(First + i); };
   }
 
  private:

@@ -156,6 +156,8 @@ int PrintTimes(const QString& dir, const std::vector<Entry>& entries) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // No window is opened, so no screen is needed.
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication app(argc, argv);
   QStringList arguments = app.arguments().mid(1);
   const bool strips = arguments.removeAll("--strips") > 0;

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <fstream>
+#include <iterator>
 #include <string>
 
 namespace make_sounds {
@@ -48,6 +49,34 @@ void PutNumber(std::string& bytes, std::uint32_t number, int size) {
   for (int i = 0; i < size; ++i) bytes.push_back(static_cast<char>(number >> (8 * i) & 0xff));
 }
 
+std::string WaveFile(const Wave& wave) {
+  const auto data_size = static_cast<std::uint32_t>(wave.size() * 2);
+  std::string bytes = "RIFF";
+  PutNumber(bytes, 36 + data_size, 4);
+  bytes += "WAVEfmt ";
+  PutNumber(bytes, 16, 4);
+  PutNumber(bytes, 1, 2);  // PCM
+  PutNumber(bytes, 1, 2);  // mono
+  PutNumber(bytes, static_cast<std::uint32_t>(kRate), 4);
+  PutNumber(bytes, static_cast<std::uint32_t>(kRate) * 2, 4);
+  PutNumber(bytes, 2, 2);
+  PutNumber(bytes, 16, 2);
+  bytes += "data";
+  PutNumber(bytes, data_size, 4);
+  for (double sample : wave) {
+    const auto value = static_cast<std::int32_t>(std::lround(std::clamp(sample, -1.0, 1.0) * 32767));
+    PutNumber(bytes, static_cast<std::uint32_t>(value), 2);
+  }
+  return bytes;
+}
+
+constexpr std::size_t kHeadSize = 44;  // bytes before the first sample
+
+int SampleIn(const std::string& bytes, std::size_t at) {
+  const int low = static_cast<unsigned char>(bytes[at]), high = static_cast<unsigned char>(bytes[at + 1]);
+  return static_cast<std::int16_t>(low | high << 8);
+}
+
 }  // namespace
 
 Wave Silence(double seconds) { return Wave(SampleAt(seconds), 0.0); }
@@ -77,27 +106,21 @@ void Finish(Wave& wave, double fade_in, double fade_out) {
 }
 
 bool WriteWave(const std::filesystem::path& path, const Wave& wave) {
-  const auto data_size = static_cast<std::uint32_t>(wave.size() * 2);
-  std::string bytes = "RIFF";
-  PutNumber(bytes, 36 + data_size, 4);
-  bytes += "WAVEfmt ";
-  PutNumber(bytes, 16, 4);
-  PutNumber(bytes, 1, 2);  // PCM
-  PutNumber(bytes, 1, 2);  // mono
-  PutNumber(bytes, static_cast<std::uint32_t>(kRate), 4);
-  PutNumber(bytes, static_cast<std::uint32_t>(kRate) * 2, 4);
-  PutNumber(bytes, 2, 2);
-  PutNumber(bytes, 16, 2);
-  bytes += "data";
-  PutNumber(bytes, data_size, 4);
-  for (double sample : wave) {
-    const auto value = static_cast<std::int32_t>(std::lround(std::clamp(sample, -1.0, 1.0) * 32767));
-    PutNumber(bytes, static_cast<std::uint32_t>(value), 2);
-  }
+  const std::string bytes = WaveFile(wave);
   std::ofstream file(path, std::ios::binary);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
   return !file.fail();
+}
+
+bool SoundsAlike(const std::filesystem::path& path, const Wave& wave) {
+  std::ifstream file(path, std::ios::binary);
+  const std::string found{std::istreambuf_iterator<char>(file), {}};
+  const std::string made = WaveFile(wave);
+  if (found.size() != made.size() || found.compare(0, kHeadSize, made, 0, kHeadSize) != 0) return false;
+  for (std::size_t i = kHeadSize; i < made.size(); i += 2)
+    if (std::abs(SampleIn(found, i) - SampleIn(made, i)) > 1) return false;
+  return true;
 }
 
 }  // namespace make_sounds

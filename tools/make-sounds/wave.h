@@ -27,5 +27,8 @@ void Finish(Wave& wave, double fade_in, double fade_out);
 
 /// Writes 16 bit mono PCM; false when the file can't be written.
 bool WriteWave(const std::filesystem::path& path, const Wave& wave);
+/// Whether that file holds the wave. A sample may be off by one: the last digits of a sine are another matter
+/// on each system, and may fall to either side of a half.
+bool SoundsAlike(const std::filesystem::path& path, const Wave& wave);
 
 }  // namespace make_sounds

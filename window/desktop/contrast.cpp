@@ -17,7 +17,10 @@ double Luminance(const QColor& colour) {
 
 }  // namespace
 
-QColor ToColour(int value) { return QColor(value & 0xff, (value >> 8) & 0xff, (value >> 16) & 0xff); }
+QColor ToColour(int value) {
+  if (value < 0) return style::kInk;  // a colour of the system's: that of letters is the only one in use
+  return QColor(value & 0xff, (value >> 8) & 0xff, (value >> 16) & 0xff);
+}
 
 double Contrast(const QColor& a, const QColor& b) {
   const auto [dark, light] = std::minmax({Luminance(a), Luminance(b)});

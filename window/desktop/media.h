@@ -18,10 +18,10 @@ class Media {
   void PlayWave(const std::string& path);
   // "open "\Quillmark.MID" type sequencer alias HarbekMidi", "play HarbekMidi", "close HarbekMidi"
   void Command(const std::string& command);
-
- private:
+  // The file of that name: the player's own one, else the one installed in that folder.
   std::filesystem::path Find(const std::string& name, const char* folder) const;
 
+ private:
   std::filesystem::path own_, installed_;
   std::unique_ptr<SoundPlayer> player_;
 };

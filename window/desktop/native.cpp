@@ -5,15 +5,17 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPalette>
 #include <QPlainTextEdit>
 #include <QPointer>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 
+#include "window/desktop/contrast.h"
 #include "window/desktop/desktop.h"
 #include "window/desktop/scene.h"
+#include "window/desktop/style.h"
 #include "window/lists.h"
 #include "window/player.h"
 
@@ -140,10 +142,25 @@ void ApplyList(QListWidget& widget, const ListControl& list, Prop prop) {
   if (widget.currentRow() != list.ListIndex) widget.setCurrentRow(list.ListIndex);
 }
 
-void ApplyProgress(QProgressBar& widget, const ProgressBar& bar) {
-  // An empty range would set the bar in motion.
-  widget.setRange(bar.Min, std::max(bar.Max.get(), bar.Min.get() + 1));
-  widget.setValue(bar.Value);
+// The letters of a text box on a ground on which they read well.
+void ApplyInk(QWidget& widget, const TextBox& box) {
+  const QColor ink = ToColour(box.ForeColor);
+  QPalette palette = QApplication::palette(&widget);
+  for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+    palette.setColor(group, QPalette::Text, ink);
+  if (Contrast(ink, palette.color(QPalette::Base)) < kLegible)
+    palette.setColor(QPalette::Base, GroundFor(ink));
+  widget.setPalette(palette);
+}
+
+// The caption of a tick box stands on what lies beneath it.
+void ApplyGround(QWidget& widget, const Visual& control) {
+  if (!IsOnBaize(control)) return;
+  QPalette palette = QApplication::palette(&widget);
+  for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+    palette.setColor(group, QPalette::WindowText, style::kIvory);
+  palette.setColor(QPalette::Disabled, QPalette::WindowText, style::kIvory.darker(125));
+  widget.setPalette(palette);
 }
 
 // Letters small enough for the caption to fit: the places were laid out for narrower ones.
@@ -177,14 +194,13 @@ void ApplyContent(QWidget& widget, const Visual& control, Prop prop) {
     }
     case Control::Kind::TextBox: {
       const auto& box = static_cast<const TextBox&>(control);
+      if (prop == Prop::ForeColor) return ApplyInk(widget, box);
       const QString text = Text(box.Text);
       if (auto* line = qobject_cast<QLineEdit*>(&widget); line && line->text() != text) line->setText(text);
       if (auto* page = qobject_cast<QPlainTextEdit*>(&widget); page && page->toPlainText() != text)
         page->setPlainText(text);
       return;
     }
-    case Control::Kind::ProgressBar:
-      return ApplyProgress(static_cast<QProgressBar&>(widget), static_cast<const ProgressBar&>(control));
     case Control::Kind::DriveListBox: {
       const auto& list = static_cast<const ListControl&>(control);
       auto& box = static_cast<QComboBox&>(widget);
@@ -204,7 +220,6 @@ bool IsNative(Control::Kind kind) {
     case Control::Kind::TextBox:
     case Control::Kind::CheckBox:
     case Control::Kind::OptionButton:
-    case Control::Kind::ProgressBar:
     case Control::Kind::DriveListBox:
     case Control::Kind::DirListBox:
     case Control::Kind::FileListBox:
@@ -237,12 +252,6 @@ QWidget* MakeNative(Visual& control, DesktopFrontEnd& front, QWidget* parent) {
       widget = option;
       break;
     }
-    case Control::Kind::ProgressBar: {
-      auto* bar = new QProgressBar(parent);
-      bar->setTextVisible(false);
-      widget = bar;
-      break;
-    }
     case Control::Kind::DriveListBox:
       widget = MakeDriveList(static_cast<DriveListBox&>(control), front, parent);
       break;
@@ -250,9 +259,12 @@ QWidget* MakeNative(Visual& control, DesktopFrontEnd& front, QWidget* parent) {
       widget = new PickList(static_cast<ListControl&>(control), front, parent);
       break;
   }
+  if (control.kind == Control::Kind::CheckBox || control.kind == Control::Kind::OptionButton)
+    ApplyGround(*widget, control);
   if (control.OnMouseMove) widget->setMouseTracking(true);
   widget->setGeometry(ModelRect(control));
   ApplyNative(*widget, control, Prop::List);
+  if (control.kind == Control::Kind::TextBox) ApplyNative(*widget, control, Prop::ForeColor);
   ApplyNative(*widget, control, Prop::Enabled);
   ApplyNative(*widget, control, Prop::ToolTipText);
   ApplyNative(*widget, control, Prop::Visible);

@@ -71,6 +71,25 @@ void PaintShape(const Easel& easel, const Placed& placed) {
   painter.drawRoundedRect(rect, 4, 4);
 }
 
+// A groove with its filling, which reads well on baize and paper.
+void PaintProgress(const Easel& easel, const Placed& placed) {
+  const auto& bar = static_cast<const ProgressBar&>(*placed.control);
+  const double range = std::max(1, bar.Max - bar.Min);
+  const double part = std::clamp((bar.Value - bar.Min) / range, 0.0, 1.0);
+  QPainter& painter = easel.painter;
+  const QRectF groove = QRectF(placed.rect).adjusted(1, 1, -1, -1);
+  PaintSunken(painter, groove, kBox);
+  QRectF filling = groove.adjusted(2, 2, -2, -2);
+  filling.setWidth(filling.width() * part);
+  if (filling.width() < 1) return;
+  QLinearGradient shine(filling.topLeft(), filling.bottomLeft());
+  shine.setColorAt(0, style::kBaize.lighter(135));
+  shine.setColorAt(1, style::kBaize.darker(115));
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(shine);
+  painter.drawRoundedRect(filling, 1.5, 1.5);
+}
+
 void PaintPanel(const Easel& easel, const QRectF& rect) {
   QPainter& painter = easel.painter;
   painter.setPen(Qt::NoPen);
@@ -92,9 +111,12 @@ void PaintPanel(const Easel& easel, const QRectF& rect) {
 // A group with its caption: let into the baize of a board, outlined on the paper of a dialog.
 void PaintGroup(const Easel& easel, const QRectF& rect, const std::string& caption) {
   QPainter& painter = easel.painter;
-  const QFont font = style::Letters(easel.board ? 10 : 9, easel.board);
-  const QFontMetricsF metrics(font);
   const QString text = QString::fromStdString(caption);
+  int size = easel.board ? 10 : 9;
+  const auto needs = [&] { return QFontMetricsF(style::Letters(size, easel.board)).horizontalAdvance(text); };
+  while (size > 7 && needs() + 28 > rect.width()) --size;  // a narrow group has a small caption
+  const QFont font = style::Letters(size, easel.board);
+  const QFontMetricsF metrics(font);
   const double top = text.isEmpty() ? 0.5 : metrics.height() / 2;
   const QRectF outline = rect.adjusted(0.5, top, -0.5, -0.5);
   const QRectF title(outline.left() + 12, rect.top(),
@@ -163,15 +185,22 @@ void PaintSurface(const Easel& easel, const Placed& placed) {
   }
 }
 
+bool IsOpaque(const Visual& label) { return static_cast<const Label&>(label).BackStyle == 1; }
+
 // The one colour on which a label's letters stand, if there is one.
 const QColor* GroundBeneath(const Easel& easel, size_t place, const QPointF& point, QColor& colour) {
   colour = style::kPaper;
   const Placed& label = easel.scene[place];
-  for (size_t i = place; i-- > 0;) {
+  for (size_t i = place + 1; i-- > 0;) {
     const Placed& below = easel.scene[i];
     if (!below.rect.contains(point.toPoint())) continue;
+    if (below.control->kind == Control::Kind::PictureBox) return nullptr;  // anything may be drawn there
     if (below.control->kind == Control::Kind::Frame)
       return static_cast<Frame*>(below.control)->Panel || !easel.board ? &colour : nullptr;
+    if (below.control->kind == Control::Kind::Label && IsOpaque(*below.control)) {
+      colour = ToColour(static_cast<const Label*>(below.control)->BackColor);
+      return &colour;
+    }
     if (below.control->kind != Control::Kind::Shape) continue;
     const auto& shape = static_cast<const Shape&>(*below.control);
     if (!shape.Filled && !shape.Sunken) continue;
@@ -198,12 +227,17 @@ void PaintLabel(const Easel& easel, size_t place) {
   const Placed& placed = easel.scene[place];
   const auto& label = static_cast<const Label&>(*placed.control);
   const TextBlock block = LayOut(label, placed.rect);
-  if (block.lines.empty()) return;
   QPainter& painter = easel.painter;
+  if (IsOpaque(label)) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ToColour(label.BackColor));
+    painter.drawRoundedRect(QRectF(placed.rect), 2, 2);
+  }
+  if (block.lines.empty()) return;
   const QColor colour = ToColour(label.ForeColor);
   QColor known;
   const QColor* ground = GroundBeneath(easel, place, block.bounds.center(), known);
-  const bool readable = ground && Contrast(colour, *ground) >= kReadable;
+  const bool readable = ground && Contrast(colour, *ground) >= (IsOpaque(label) ? kLegible : kReadable);
   if (!readable && label.FontSize >= kBigLetters) return PaintOutlined(painter, block, colour);
   if (!readable) {
     QColor plate = GroundFor(colour);
@@ -239,6 +273,9 @@ void PaintControl(const Easel& easel, size_t place) {
     case Control::Kind::Label:
       PaintLabel(easel, place);
       break;
+    case Control::Kind::ProgressBar:
+      PaintProgress(easel, placed);
+      break;
     case Control::Kind::Frame: {
       const auto& frame = static_cast<const Frame&>(*placed.control);
       frame.Panel ? PaintPanel(easel, placed.rect) : PaintGroup(easel, placed.rect, frame.Caption);
@@ -263,7 +300,8 @@ QRect Reach(const Visual& control, const Pictures& pictures) {
     }
     case Control::Kind::Label: {
       const QRectF bounds = LayOut(static_cast<const Label&>(control), rect).bounds;
-      return bounds.isEmpty() ? QRect() : bounds.toAlignedRect().adjusted(-8, -8, 8, 8);
+      const QRect letters = bounds.isEmpty() ? QRect() : bounds.toAlignedRect().adjusted(-8, -8, 8, 8);
+      return IsOpaque(control) ? letters | rect : letters;
     }
     default:
       return rect.adjusted(-2, -2, 2, 2);

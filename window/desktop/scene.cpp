@@ -9,9 +9,10 @@ namespace {
 
 constexpr QRect kEverywhere(-100000, -100000, 200000, 200000);
 
-// Frames and picture surfaces stand above whatever is only painted on the window.
+// Frames, picture surfaces and progress bars stand above whatever is only painted on the window.
 bool IsOverlay(const Visual& control) {
-  return control.kind == Control::Kind::Frame || control.kind == Control::Kind::PictureBox;
+  return control.kind == Control::Kind::Frame || control.kind == Control::Kind::PictureBox ||
+         control.kind == Control::Kind::ProgressBar;
 }
 
 void ArrangeWithin(const Control& container, const QRect& clip, const Pictures& pictures, Scene& scene) {
@@ -24,7 +25,7 @@ void ArrangeWithin(const Control& container, const QRect& clip, const Pictures& 
   for (Visual* child : children) {
     const QRect rect = DrawnRect(*child, pictures);
     scene.push_back({child, rect, clip});
-    if (child->kind == Control::Kind::Frame) ArrangeWithin(*child, clip & rect, pictures, scene);
+    if (IsOverlay(*child)) ArrangeWithin(*child, clip & rect, pictures, scene);
   }
 }
 
@@ -78,6 +79,7 @@ bool IsDrawn(Control::Kind kind) {
     case Control::Kind::Shape:
     case Control::Kind::Frame:
     case Control::Kind::PictureBox:
+    case Control::Kind::ProgressBar:
       return true;
     default:
       return false;
@@ -110,4 +112,11 @@ bool IsBoard(const Form& form) {
   return std::ranges::any_of(form.Controls(), [](const Control* control) {
     return control->kind == Control::Kind::Image || control->kind == Control::Kind::Menu;
   });
+}
+
+bool IsOnBaize(const Visual& control) {
+  if (!IsBoard(control.form)) return false;
+  for (const Control* each = control.parent; each->kind == Control::Kind::Frame; each = each->parent)
+    if (static_cast<const Frame*>(each)->Panel) return false;
+  return true;
 }

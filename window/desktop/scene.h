@@ -35,5 +35,7 @@ bool IsDrawn(Control::Kind kind);
 Scene Arrange(const Form& form, const Pictures& pictures);
 // The control that the mouse means at this point; null if it means none.
 Visual* HitTest(const Scene& scene, QPoint point);
+// Whether the control stands on the baize of a board, not on paper.
+bool IsOnBaize(const Visual& control);
 // Whether the window is a board with cards on it; else it is a dialog.
 bool IsBoard(const Form& form);

@@ -1,0 +1,86 @@
+// How fast Blackrush is without a screen: what a bot that plays it waits for.
+#include <benchmark/benchmark.h>
+
+#include "bench/null_front_end.h"
+#include "games/blackrush/blackrush.h"
+#include "games/games.h"
+#include "suite/suite.h"
+
+namespace {
+
+// A suite with Blackrush open. Its folder can't be written, so that the tables are kept in memory.
+struct Table {
+  Table() {
+    platform.random.Seed(1);
+    suite.Start();
+    player::Click(*platform.FindForm("frmSelect")->find("cmdBlackrush"));
+    game = static_cast<frmBlackrush*>(suite.common.window);
+  }
+
+  NullFrontEnd front;
+  Platform platform{front};
+  Suite suite{platform, {"/nowhere/to/be/found"}, AllGames()};
+  frmBlackrush* game;
+};
+
+// The column on which the next card makes most, or -1 if it goes over 21 everywhere.
+int BestColumn(const frmBlackrush& game) {
+  int best = -1;
+  long long most = 0;
+  for (int i = 0; i < modBlackrush::kColumns; ++i) {
+    Column21 column = game.columns[i];
+    const int total = modBlackrush::GetHitTotal(column, game.common.Deck[game.DeckPosition]);
+    if (total > kTwentyOne && column.softAces == 0) continue;
+    if (total > most) best = i, most = total;
+  }
+  return best;
+}
+
+// Cards that make a 21 out of three, and a Five Card Gimme, in turn.
+void BM_Hit(benchmark::State& state) {
+  constexpr const char* kCards[] = {"7S", "7H", "7C", "2S", "2H", "2C", "2D", "3D"};
+  Table table;
+  frmBlackrush& game = *table.game;
+  player::Click(game.cmdPlay);
+  int card = 0;
+  long long hits = 0;
+  for (auto _ : state) {
+    game.DeckPosition = 20;
+    game.common.CurrentScore = 0;
+    game.Bonus = 0;
+    game.TwentyOnes = 0;
+    game.common.Deck[20] = kCards[card];
+    card = (card + 1) % 8;
+    player::Click(game.cmdHit(1));
+    ++hits;
+  }
+  if (game.columns[1].cards > 4 || hits == 0) state.SkipWithError("cards weren't laid");
+}
+BENCHMARK(BM_Hit);
+
+// From Play to "Game Over", with all that is counted and announced on the way.
+void BM_WholeGame(benchmark::State& state) {
+  Table table;
+  frmBlackrush& game = *table.game;
+  long long clicks = 0;
+  for (auto _ : state) {
+    player::Click(game.cmdPlay);
+    while (game.common.GameInProgress) {
+      ++clicks;
+      const int column = BestColumn(game);
+      if (column >= 0)
+        player::Click(game.cmdHit(column));
+      else if (game.cmdPass.Enabled)
+        player::Click(game.cmdPass);
+      else
+        player::Click(game.cmdTakeScore);
+    }
+  }
+  state.counters["clicks"] =
+      benchmark::Counter(static_cast<double>(clicks), benchmark::Counter::kAvgIterations);
+}
+BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,109 @@
+// How fast Duopick is without a screen: what a bot that plays it waits for.
+#include <benchmark/benchmark.h>
+
+#include "bench/null_front_end.h"
+#include "games/duopick/duopick.h"
+#include "games/games.h"
+#include "suite/suite.h"
+
+namespace {
+
+using namespace modDuopick;
+
+// A suite with Duopick open. Its folder can't be written, so that the tables are kept in memory.
+struct Table {
+  Table() {
+    platform.random.Seed(1);
+    suite.Start();
+    player::Click(*platform.FindForm("frmSelect")->find("cmdDuopick"));
+    game = static_cast<frmDuopick*>(suite.common.window);
+  }
+
+  NullFrontEnd front;
+  Platform platform{front};
+  Suite suite{platform, {"/nowhere/to/be/found"}, AllGames()};
+  frmDuopick* game;
+};
+
+// Two cards that may be taken, those that make a pair before those that make a run.
+std::pair<int, int> LegalCards(const frmDuopick& game) {
+  std::pair<int, int> run{-1, -1};
+  std::array<int, kCards> exposed;
+  int count = 0;
+  for (int card = 0; card < kCards; ++card)
+    if (game.PlayCard(card).Visible && game.PlayCard(card).Enabled && game.CheckForLegalMove(card))
+      exposed[count++] = card;
+  for (int a = 0; a < count; ++a)
+    for (int b = a + 1; b < count; ++b) {
+      const Match match =
+          MatchOf(CardValue(game.cards.DeckCards[exposed[a]]), CardValue(game.cards.DeckCards[exposed[b]]));
+      if (match == Match::Pair) return {exposed[a], exposed[b]};
+      if (match == Match::Run) run = {exposed[a], exposed[b]};
+    }
+  return run;
+}
+
+// A selection and the match that follows, by turns.
+void BM_CardClick(benchmark::State& state) {
+  Table table;
+  frmDuopick& game = *table.game;
+  player::Click(game.cmdPlay);
+  constexpr int kLowest = 18;
+  int card = 0;
+  for (auto _ : state) {
+    if (card < kLowest + 1) {
+      state.PauseTiming();
+      if (game.CardsSelected != 0) state.SkipWithError("two cards weren't taken");
+      game.Deal();
+      for (int each = kLowest; each < kField; ++each) game.cards.DeckCards[each] = "7H";
+      card = kField - 1;
+      state.ResumeTiming();
+    }
+    player::Click(game.PlayCard(card--));
+  }
+}
+BENCHMARK(BM_CardClick);
+
+void BM_StackClick(benchmark::State& state) {
+  Table table;
+  frmDuopick& game = *table.game;
+  player::Click(game.cmdPlay);
+  for (auto _ : state) {
+    if (game.cards.StackIndex == kDealt) {
+      game.cards.StackIndex = kCards;
+      game.cards.WastePos = 1;
+    }
+    player::Click(game.CardStackPicture);
+  }
+}
+BENCHMARK(BM_StackClick);
+
+// From Play to "Game Over", with all that is counted and announced on the way.
+void BM_WholeGame(benchmark::State& state) {
+  Table table;
+  frmDuopick& game = *table.game;
+  long long clicks = 0;
+  for (auto _ : state) {
+    player::Click(game.cmdPlay);
+    while (game.common.GameInProgress) {
+      const auto [first, second] = LegalCards(game);
+      if (first >= 0) {
+        player::Click(game.PlayCard(first));
+        player::Click(game.PlayCard(second));
+        ++clicks;
+      } else if (game.cards.StackIndex < kDealt) {
+        player::Click(game.CardStackPicture);
+      } else {
+        player::Click(game.cmdTakeScore);
+      }
+      ++clicks;
+    }
+  }
+  state.counters["clicks"] =
+      benchmark::Counter(static_cast<double>(clicks), benchmark::Counter::kAvgIterations);
+}
+BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();

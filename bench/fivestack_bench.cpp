@@ -1,0 +1,98 @@
+// How fast Fivestack is without a screen: what a bot that plays it waits for.
+#include <benchmark/benchmark.h>
+
+#include "bench/null_front_end.h"
+#include "games/fivestack/fivestack.h"
+#include "games/games.h"
+#include "suite/suite.h"
+
+namespace {
+
+using namespace modFivestack;
+
+// A suite with Fivestack open. Its folder can't be written, so that the tables are kept in memory.
+struct Table {
+  Table() {
+    platform.random.Seed(1);
+    suite.Start();
+    player::Click(*platform.FindForm("frmSelect")->find("cmdFivestack"));
+    game = static_cast<frmFivestack*>(suite.common.window);
+  }
+
+  NullFrontEnd front;
+  Platform platform{front};
+  Suite suite{platform, {"/nowhere/to/be/found"}, AllGames()};
+  frmFivestack* game;
+};
+
+// The fullest column that the next card doesn't ruin, or -1.
+int BestColumn(const frmFivestack& game) {
+  const int worth = GetCardValue(game.common.Deck, game.DeckPosition);
+  int best = -1;
+  for (int i = 0; i < kColumns; ++i) {
+    const Column21& column = game.columns[i];
+    const bool fits = column.cards < kCardsOfColumn && column.total + worth <= kTwentyOne;
+    if (fits && (best < 0 || column.total > game.columns[best].total)) best = i;
+  }
+  return best;
+}
+
+// Small cards all over the board: the dearest click, since all five partial sums are shown.
+void BM_HitClick(benchmark::State& state) {
+  Table table;
+  frmFivestack& game = *table.game;
+  player::Click(game.cmdPlay);
+  game.common.Deck = StandardDeck();
+  int column = 0, cards = 0;
+  for (auto _ : state) {
+    if (cards == 20) {  // the next ones would close columns
+      state.PauseTiming();
+      if (game.CurrentRound != 1 || game.columns[4].cards != 4) state.SkipWithError("a card wasn't laid");
+      game.Reset();
+      cards = 0;
+      state.ResumeTiming();
+    }
+    game.DeckPosition = 14 + 13 * (cards % 3) + 1 + cards % 4;  // twos to fives
+    player::Click(game.cmdHit(column));
+    column = (column + 1) % kColumns;
+    ++cards;
+  }
+}
+BENCHMARK(BM_HitClick);
+
+void BM_PassClick(benchmark::State& state) {
+  Table table;
+  frmFivestack& game = *table.game;
+  player::Click(game.cmdPlay);
+  for (auto _ : state) {
+    game.PassesLeft = 10;
+    if (game.DeckPosition == 52) game.DeckPosition = 2;
+    player::Click(game.cmdPass);
+  }
+}
+BENCHMARK(BM_PassClick);
+
+// From Play to "Game Over", with all that is counted and announced on the way.
+void BM_WholeGame(benchmark::State& state) {
+  Table table;
+  frmFivestack& game = *table.game;
+  long long clicks = 0;
+  for (auto _ : state) {
+    player::Click(game.cmdPlay);
+    while (game.common.GameInProgress) {
+      ++clicks;
+      const int column = BestColumn(game);
+      if (column >= 0)
+        player::Click(game.cmdHit(column));
+      else
+        player::Click(game.cmdGiveUp);
+    }
+  }
+  state.counters["clicks"] =
+      benchmark::Counter(static_cast<double>(clicks), benchmark::Counter::kAvgIterations);
+}
+BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();

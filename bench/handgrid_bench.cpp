@@ -1,0 +1,85 @@
+// How fast Handgrid is without a screen: what a bot that plays it waits for.
+#include <benchmark/benchmark.h>
+
+#include "bench/null_front_end.h"
+#include "games/games.h"
+#include "games/handgrid/handgrid.h"
+#include "suite/suite.h"
+
+namespace {
+
+// A suite with Handgrid open. Its folder can't be written, so that the tables are kept in memory.
+struct Table {
+  Table() {
+    platform.random.Seed(1);
+    suite.Start();
+    player::Click(*platform.FindForm("frmSelect")->find("cmdHandgrid"));
+    game = static_cast<frmHandgrid*>(suite.common.window);
+  }
+
+  NullFrontEnd front;
+  Platform platform{front};
+  Suite suite{platform, {"/nowhere/to/be/found"}, AllGames()};
+  frmHandgrid* game;
+};
+
+// Laying a card, with the judgement of all ten hands. The last cell stays empty, so that the round goes on.
+void BM_CardClick(benchmark::State& state) {
+  Table table;
+  frmHandgrid& game = *table.game;
+  player::Click(game.cmdPlay);
+  int cell = 0;
+  for (auto _ : state) {
+    if (cell == modHandgrid::kCells - 1) {
+      state.PauseTiming();
+      if (game.CardsRemaining != 51 - cell) state.SkipWithError("a card wasn't laid");
+      game.Reset(false);
+      game.Deal();
+      cell = 0;
+      state.ResumeTiming();
+    }
+    player::Click(game.PlayCards(cell++));
+  }
+}
+BENCHMARK(BM_CardClick);
+
+// The same on a full board: each card goes over another one.
+void BM_Overwrite(benchmark::State& state) {
+  Table table;
+  frmHandgrid& game = *table.game;
+  player::Click(game.cmdPlay);
+  for (int cell = 0; cell < modHandgrid::kCells - 1; ++cell) player::Click(game.PlayCards(cell));
+  int cell = 0;
+  for (auto _ : state) {
+    game.OverWritesUsed = 0;
+    if (game.CardsRemaining == 1) {
+      game.CardsRemaining = 51;
+      game.DeckPosition = 1;
+    }
+    player::Click(game.PlayCards(cell));
+    cell = (cell + 1) % (modHandgrid::kCells - 1);
+  }
+}
+BENCHMARK(BM_Overwrite);
+
+// From Play to "Game Over": each grid is filled, paid by the second and announced.
+void BM_WholeGame(benchmark::State& state) {
+  Table table;
+  frmHandgrid& game = *table.game;
+  long long clicks = 0;
+  for (auto _ : state) {
+    game.common.TakingScore = false;  // the selector's timer doesn't tick here
+    player::Click(game.cmdPlay);
+    while (game.common.GameInProgress) {
+      game.common.TakingScore = false;
+      for (int cell = 0; cell < modHandgrid::kCells; ++cell, ++clicks) player::Click(game.PlayCards(cell));
+    }
+  }
+  state.counters["clicks"] =
+      benchmark::Counter(static_cast<double>(clicks), benchmark::Counter::kAvgIterations);
+}
+BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();

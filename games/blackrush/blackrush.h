@@ -1,0 +1,137 @@
+// frmBlackrush: the window of Blackrush, what each click, tick and menu entry does.
+#pragma once
+
+#include <array>
+
+#include "games/blackrush/rules.h"
+#include "suite/game_window.h"
+
+class frmBlackrush : public GameWindow {
+ public:
+  explicit frmBlackrush(modCommon& common);
+
+  // --- Board and cards ---------------------------------------------------------------------------
+  Label& ScoringLabelInfo = lblMessage;
+  Label& lblTotalScore = lblCurrentScore;
+  Menu& mnuUserOptions = mnuCustom;
+  Menu& mnuTimeLimit = mnuTime;
+
+  Shape Column1Line{*this, "Column1Line"}, Column2Line{*this, "Column2Line"},
+      Column3Line{*this, "Column3Line"};
+  ControlArray<Image, kCardsOfColumn> Column1{*this, "Column1"}, Column2{*this, "Column2"},
+      Column3{*this, "Column3"}, Column4{*this, "Column4"};
+  ControlArray<Label, modBlackrush::kColumns> ColumnTotal{*this, "ColumnTotal"},
+      ColumnSoft{*this, "ColumnSoft"};
+  Image PlayCardPicture{*this, "PlayCardPicture"}, NextCardPicture{*this, "NextCardPicture"};
+  ControlArray<CommandButton, modBlackrush::kColumns> cmdHit{*this, "cmdHit"};
+  CommandButton cmdPass{*this, "cmdPass"};
+  Label lblBust{*this, "lblBust"}, lblFiveCards{*this, "lblFiveCards"};
+  Shape ScoringLabelOutline{*this, "ScoringLabelOutline"};
+
+  Frame frameScoreInfo{*this, "frameScoreInfo"};
+  Label lblTwentyOnes{frameScoreInfo, "lblTwentyOnes"}, lbl21s{frameScoreInfo, "lbl21s"},
+      lbl21Bonus{frameScoreInfo, "lbl21Bonus"}, lblBonus{frameScoreInfo, "lblBonus"},
+      lblCardsUsed{frameScoreInfo, "lblCardsUsed"}, lblCardsUsedCount{frameScoreInfo, "lblCardsUsedCount"},
+      lblTwentyoneTime{frameScoreInfo, "lblTwentyoneTime"}, lblRoundScore{frameScoreInfo, "lblRoundScore"},
+      lblRoundScoreCount{frameScoreInfo, "lblRoundScoreCount"};
+  ProgressBar ProgressBar1{frameScoreInfo, "ProgressBar1"};
+  Timer Timer3{*this, "Timer3"}, Timer5{*this, "Timer5"};
+  Timer& Timer6 = ClockTimer;
+
+  // --- State -------------------------------------------------------------------------------------
+  std::array<Column21, modBlackrush::kColumns> columns;  // soft aces outlive rounds and games
+  Integer DeckPosition;                                  // of the card on show; 0 before a game
+  Integer PassesLeft, TwentyOnes;
+  Long Bonus;                  // the 21 Bonus Value as it now stands
+  bool QuitRequested = false;  // End Game was confirmed: the score isn't for the table
+  // Settings.
+  Integer CardsToPass, CounterSpeed, WaitPeriod;
+  Long TwentyOneBonusValue, CardsUsedBonusValue, FiveCardGimmeBonus, DeckCompletionBonus;
+
+  // --- Play --------------------------------------------------------------------------------------
+  void cmdHit_Click(int index);
+  void cmdPass_Click();
+  // What the column would total with the next card; shows that the column becomes a soft one.
+  int GetHitTotal(int index);
+  // Whether the next card can't be laid, though an ace came down where one could.
+  bool CheckForBust(int index);
+  void LayCard(int index, int total);
+  void FiveCardGimme(int index);
+  void NextRound();
+  // The 21 Counter.
+  void Timer3_Timer();
+  void Timer5_Timer();
+
+  // --- What is shown -----------------------------------------------------------------------------
+  // Shows a message in its outline: until further notice, or for `WaitPeriod` while a game is in progress.
+  void ShowMessage(const std::string& text, bool hold);
+  void HideMessage();
+  void ShowGameBoard(bool show);
+  void ShowHitButtons(bool show);
+  void EnableHitButtons(bool enable);
+  void EnablePlayControls(bool enable);
+  void ShowPile();
+  void ClearColumns();
+  void SetCounterSpeed(int interval);
+
+  // --- The frame's plan --------------------------------------------------------------------------
+  void Play() override;
+  void TakeScore() override;
+  void EndGame() override;
+  void GameOver() override;
+  void GameFailed() override;
+  void BackToIdle() override;
+  void Tick() override;
+  void TimeIsUp() override;
+  bool TakesCommand() const override { return !common.TakingScore; }
+  bool EarnsBonusRound() const override { return common.CurrentScore > BonusScore; }
+  void PauseGame() override;
+  void ResumeGame() override;
+  void TellPause(bool paused) override;
+  // Cards that there are, and what is known of them.
+  void ShowCards(bool visible) override;
+  void CoverCards(bool covered) override;
+  void RefreshPlayCard() override { ShowPile(); }
+  std::string EndGameQuestion() const override {
+    return "You have a game in progress. Are you sure you want to quit?";
+  }
+  // The clock runs on under the question.
+  void BeforeEndQuestion() override { StopMusic(); }
+  void AfterEndQuestion(bool ends) override;
+  std::string Welcome() const override { return "Welcome to " + common.AppTitle + "!"; }
+  bool ApplyGameSetting(std::string_view section, std::string_view value) override;
+  void ShowCustomScoring() override;
+  RulesText Rules() const override;
+  void PlaceMessage() override;
+  void PlacePanels() override;
+  void PlaceBoard() override;
+
+ private:
+  ControlArray<Image, kCardsOfColumn>& ColumnImages(int index);
+  void SetUpBoard();
+  void SetUpLabels();
+  void BindBoardEvents();
+
+  void Bust();
+  void TwentyOne(int index);
+  void TurnNextCard();
+  void DeckCompleted();
+  void ResetCounter();
+  void PrepareRound(bool bonus);
+  void OpenBoard(bool over);
+  void CountCardsUsed();
+  void CountTwentyOnes();
+  void EndCount();
+  void EmptyBoard();
+
+  void ShowColumn(int index);
+  void ShowBonus();
+  void ShowRound();
+  void ShowCardsUsed(long long cards);
+  void ForgetTwentyOnes();
+  void ClearColumn(int index);
+  void ShowEmptyPlace(int index);
+  void EnablePause(bool enable);
+
+  bool counterRan_ = false;  // when the game was paused
+};

@@ -1,0 +1,234 @@
+// How rounds and games of Blackrush end, and how the next round begins; the pause.
+#include "games/blackrush/blackrush.h"
+#include "suite/score_counter.h"
+
+using namespace modBlackrush;
+
+// --- The end of a round --------------------------------------------------------------------------
+
+// The clock runs while a round is being paid, and more than a tick may come where events are let through: a
+// round that isn't open yet keeps its last second.
+void frmBlackrush::Tick() {
+  if (phase == Phase::Scoring && common.ElapsedSeconds + 1 >= common.TimeLimit) return;
+  GameWindow::Tick();
+}
+
+void frmBlackrush::TimeIsUp() {
+  Timer1.Enabled = false;
+  Timer3.Enabled = false;
+  ClearColumns();
+  ShowMessage("Times Up!", true);
+  StatusBar1.Panels(2).Text = "Time has expired!";
+  lblTime.Caption = "Time:";
+  Blink(ScoringLabelInfo, 10);
+  cmdTakeScore_Click();
+  if (phase != Phase::Over) ScoringLabelInfo.Visible = false;
+}
+
+// The clock isn't stopped while the score is taken.
+void frmBlackrush::TakeScore() {
+  common.TakingScore = true;
+  phase = Phase::Scoring;
+  MousePointer = kHourglass;
+  SetVisible({&ProgressBar1, &lblTwentyoneTime}, false);
+  EnablePlayControls(false);
+  EnablePause(false);
+  StopMusic();
+  CountCardsUsed();
+  if (TwentyOnes != 0) CountTwentyOnes();
+  EndCount();
+  CurrentRound += 1;
+  common.ElapsedSeconds = 0;
+  ShowRound();
+  NextRound();
+  if (common.GameInProgress) StartMusic();
+  MousePointer = kDefaultPointer;
+}
+
+void frmBlackrush::CountCardsUsed() {
+  long long cards = DeckPosition - 1;
+  for (Label* label : {&lblCardsUsed, &lblCardsUsedCount}) label->ForeColor = kRed;
+  if (common.CountDownScore) {
+    while (cards > 0) {
+      platform.Sleep(75);
+      AddToScore(CardsUsedBonusValue);
+      PlaySound("\\CountScore.wav");
+      ShowCardsUsed(--cards);
+    }
+  } else {
+    AddToScore(cards * CardsUsedBonusValue);
+    ShowCardsUsed(0);
+    platform.Sleep(500);
+  }
+  for (Label* label : {&lblCardsUsed, &lblCardsUsedCount}) label->ForeColor = kBlue;
+}
+
+void frmBlackrush::CountTwentyOnes() {
+  for (Label* label : {&lbl21Bonus, &lblTwentyOnes, &lbl21s, &lblBonus}) label->ForeColor = kRed;
+  const Long pay = TwentyOnesPay(TwentyOnes, Bonus);
+  lblRoundScore.Caption =
+      std::to_string(TwentyOnes) + " X " + FormatNumber(Bonus) + " = " + FormatNumber(pay);
+  lblRoundScoreCount.Caption = std::to_string(pay);
+  SetVisible({&lblRoundScore, &lblRoundScoreCount}, true);
+  platform.Sleep(750);
+  if (common.CountDownScore && TwentyOneBonusValue > 0) {  // other steps would never end
+    long long left = pay;
+    CountInSteps(pay, TwentyOneBonusValue, [&](long long step) {
+      platform.Sleep(75);
+      AddToScore(step);
+      left -= step;
+      lblRoundScoreCount.Caption = std::to_string(left);
+      PlaySound("\\CountScore.wav");
+    });
+  } else {
+    AddToScore(pay);
+    platform.Sleep(500);
+  }
+}
+
+// Nothing is left of a count.
+void frmBlackrush::EndCount() {
+  for (Label* label : {&lbl21Bonus, &lblTwentyOnes, &lbl21s, &lblBonus, &lblCardsUsed, &lblCardsUsedCount})
+    label->ForeColor = kBlue;
+  SetVisible({&lblRoundScore, &lblRoundScoreCount}, false);
+  ForgetTwentyOnes();
+  ResetDial();
+  SetVisible({&TimerRectangle, &TimerBevelSide, &TimerBevelBottom, &ProgressBar1, &lblTwentyoneTime}, true);
+}
+
+// --- The next round, or the end of the game ------------------------------------------------------
+
+// `CurrentRound` is that of the round to come; one above 4 ends the game.
+void frmBlackrush::NextRound() {
+  phase = Phase::Scoring;
+  if (CurrentRound > plan.rounds + 1) Timer1.Enabled = false;
+  platform.DoEvents();
+  StopMusic();
+  EmptyBoard();
+  const bool bonus = CurrentRound == plan.rounds + 1 && EarnsBonusRound();
+  const bool goesOn = CurrentRound <= plan.rounds || bonus;
+  goesOn ? PrepareRound(bonus) : GameOver();
+  OpenBoard(!goesOn);
+}
+
+void frmBlackrush::EmptyBoard() {
+  ClearColumns();
+  Timer3.Enabled = false;
+  ResetCounter();
+  Bonus = 0;  // the counter may have expired a moment ago
+  ShowBonus();
+  for (int i = 0; i < kColumns; ++i) {
+    columns[i].total = 0;
+    columns[i].cards = 0;
+    ShowColumn(i);
+    ColumnSoft(i).Caption = "";
+  }
+  StatusBar1.Panels(2).Text = "Create columns of 21 to increase bonus score!   ";
+}
+
+void frmBlackrush::PrepareRound(bool bonus) {
+  StartMusic();
+  common.ShuffleDeck();
+  PlayCardPicture.Picture = common.ImageList2("FULL");
+  if (bonus) PlaySound("\\HighScore.wav");
+  ShowMessage(bonus ? "Prepare for Bonus Round" : "Prepare for Round " + std::to_string(CurrentRound), false);
+  Timer1.Enabled = true;
+  for (int i = 0; i < kColumns; ++i) ShowEmptyPlace(i);
+  DeckPosition = 1;
+  ShowFace(NextCardPicture, common.Deck.at(DeckPosition));
+  if (CardsToPass == 0) return;
+  cmdPass.Enabled = true;
+  PassesLeft = CardsToPass;
+}
+
+void frmBlackrush::GameOver() {
+  Timer1.Enabled = false;
+  Timer3.Enabled = false;
+  if (!QuitRequested) EnterHighScore();
+  TellGameOver(ScoringLabelInfo);
+  DeckPosition = 0;
+  lblRound.Caption = "Game Over";
+  common.GameInProgress = false;
+  SetPlayCaption("&Play");
+  cmdPlay.ToolTipText = "Starts a new game";
+  ShowMessage("Game Over", false);
+  frameScoreInfo.Visible = false;
+  ShowSplash(true);
+  ResetDial();
+  ShowGameBoard(false);
+  EnablePause(false);
+  lblTime.Caption = "Time:";
+  mnuUserOptions.Enabled = true;
+  mnuTimeLimit.Enabled = true;
+  common.ElapsedSeconds = 0;
+}
+
+void frmBlackrush::OpenBoard(bool over) {
+  phase = Phase::Scoring;
+  platform.DoEvents();
+  common.TakingScore = false;
+  EnablePlayControls(true);
+  EnablePause(!over);
+  phase = over ? Phase::Over : Phase::Playing;
+  if (!over) return;
+  StatusBar1.Panels(1).Text = "Click on Play to start a new game  ";
+  StatusBar1.Panels(2).Text = "Game Over ";
+  EnableHitButtons(false);
+  NextCardPicture.BorderStyle = 0;
+}
+
+// --- The end of a game before its time -----------------------------------------------------------
+
+void frmBlackrush::AfterEndQuestion(bool ends) {
+  if (!ends && common.GameInProgress) StartMusic();
+}
+
+void frmBlackrush::EndGame() {
+  EnablePause(false);
+  lblTime.Caption = "Time:";
+  CurrentRound = plan.rounds + 2;
+  QuitRequested = true;
+  common.TakingScore = true;  // no card, no command until the board is in order
+  NextRound();
+}
+
+void frmBlackrush::GameFailed() {
+  StopMusic();
+  SetVisible({&lblBust, &lblFiveCards}, false);
+  EndCount();
+  EmptyBoard();
+  GameOver();
+  OpenBoard(true);
+}
+
+void frmBlackrush::BackToIdle() {
+  HideMessage();
+  SetVisible({&lblBust, &lblFiveCards}, false);
+  EndCount();
+  EmptyBoard();
+  ShowGameBoard(false);
+  DeckPosition = 0;
+  GameWindow::BackToIdle();
+}
+
+// --- The pause -----------------------------------------------------------------------------------
+
+void frmBlackrush::PauseGame() {
+  counterRan_ = Timer3.Enabled;
+  Timer3.Enabled = false;
+  EnablePlayControls(false);
+  GameWindow::PauseGame();
+}
+
+void frmBlackrush::ResumeGame() {
+  GameWindow::ResumeGame();
+  EnablePlayControls(true);
+  Timer3.Enabled = counterRan_;
+}
+
+void frmBlackrush::TellPause(bool paused) { paused ? ShowMessage("Game Paused", true) : HideMessage(); }
+
+void frmBlackrush::CoverCards(bool covered) {
+  ShowCards(!covered);
+  ShowGameBoard(!covered);
+}

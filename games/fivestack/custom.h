@@ -1,0 +1,22 @@
+// The window that belongs to Fivestack alone: customised scoring.
+#pragma once
+
+#include "games/fivestack/fivestack.h"
+#include "suite/scoring_dialog.h"
+
+class frmFivestackCustomScoring : public ScoringDialog {
+ public:
+  explicit frmFivestackCustomScoring(frmFivestack& game);
+
+ protected:
+  Number Setting(size_t field) override;
+  std::optional<Refusal> Judge(size_t field, double value) override;
+  void Take(size_t field, double value) override;
+  void TakeRefused(size_t field, long long setting) override;
+  // Whatever the fields were.
+  void FieldsChecked(bool) override { TakeRest(); }
+  void PlaceDialog() override;
+
+ private:
+  frmFivestack& game_;
+};

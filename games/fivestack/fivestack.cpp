@@ -1,0 +1,493 @@
+#include "games/fivestack/fivestack.h"
+
+#include <algorithm>
+
+using namespace modFivestack;
+
+namespace {
+
+constexpr int kGreen = 49152;
+
+}  // namespace
+
+// --- Hit and Pass --------------------------------------------------------------------------------
+
+void frmFivestack::cmdHit_Click(int index) {
+  if (common.TakingScore) return;
+  NextCardPicture.Visible = true;
+  PlaySound("\\Click.wav");
+  CalculateColumnValue(index);
+  if (columns[index].total > kTwentyOne) {
+    if (CheckForBust(index)) {
+      SetOffer(Offer::Lost);
+      cmdGiveUp_Click();
+      return;
+    }
+    SumUp();
+    if (CardTotal < kLowestPaid) {
+      lblCurrentTotal.ForeColor = kRed;
+      SetOffer(Offer::Lost);
+    }
+    return;
+  }
+  SumUp();  // 105 ends the round in here
+  if (CardTotal >= kLowestPaid) lblCurrentTotal.ForeColor = kGreen;
+  ShowNextCard();
+}
+
+void frmFivestack::cmdPass_Click() {
+  PassesLeft -= 1;
+  DeckPosition += 1;
+  ShowNextCard();
+  PlaySound("\\Click.wav");
+  if (PassesLeft <= 0) cmdPass.Enabled = false;
+}
+
+void frmFivestack::CalculateColumnValue(int index) {
+  Column21& column = columns.at(index);
+  Image& slot = ColumnImages(index)(column.cards);
+  slot.BorderStyle = 1;
+  slot.Visible = true;
+  slot.Picture = NextCardPicture.Picture;
+  int worth = GetCardValue(common.Deck, DeckPosition);
+  column.cards += 1;
+  if (worth == 1) worth = TakeAce(column);
+  if (worth == 11) {
+    ColumnSoft(index).Caption = "Soft";
+    ColumnSoft(index).Visible = true;
+  }
+  column.total += worth;
+  ColumnTotal(index).Caption = std::to_string(column.total);
+  DeckPosition += 1;
+  if (column.cards == kCardsOfColumn) CloseColumn(index);
+}
+
+// An ace that comes down costs the card on show: it is skipped, and nobody plays it.
+bool frmFivestack::CheckForBust(int index) {
+  Column21& column = columns.at(index);
+  if (column.softAces == 0) {
+    CloseCurrentRound();
+    CardTotal = kBustTotal;
+    return true;
+  }
+  DeckPosition += 1;
+  ShowNextCard();
+  BringAceDown(column);
+  if (column.softAces == 0) {
+    ColumnSoft(index).Visible = false;
+    ColumnSoft(index).Caption = "";
+    ColumnTotal(index).Caption = std::to_string(column.total);
+  }
+  if (column.cards == kCardsOfColumn) CloseColumn(index);
+  return false;
+}
+
+void frmFivestack::CloseColumn(int index, bool close) {
+  cmdHit(index).Enabled = !close;
+  cmdHit(index).Caption = close ? "Closed" : "Hit";
+}
+
+void frmFivestack::CloseCurrentRound() {
+  for (int i = 0; i < kColumns; ++i) cmdHit(i).Enabled = false;
+}
+
+void frmFivestack::ShowNextCard() { ShowFace(NextCardPicture, CardAt(common.Deck, DeckPosition)); }
+
+// --- The card total ------------------------------------------------------------------------------
+
+// The total runs up column by column, and the table with it.
+void frmFivestack::SumUp() {
+  ShowCardTotal(0);
+  long long sum = 0;
+  for (int i = 0; i < kColumns; ++i) {
+    sum += columns[i].total;
+    ShowCardTotal(sum);
+  }
+}
+
+void frmFivestack::ShowCardTotal(long long total) {
+  shownTotal_ = total;
+  lblCurrentTotal.Caption = std::to_string(total);
+}
+
+void frmFivestack::lblCurrentTotal_Change() {
+  CardTotal = shownTotal_;
+  UpdateCardTotalValue();
+  if (CardTotal == kPerfect) cmdGiveUp_Click();
+  CenterCardTotal();
+}
+
+void frmFivestack::UpdateCardTotalValue() {
+  ClearCardTotalRows();
+  const int row = RowOf(CardTotal);
+  if (row >= 0)
+    for (Label* label : {&tableRows[row]->total, &tableRows[row]->value}) {
+      label->FontBold = true;
+      label->ForeColor = kRed;
+    }
+  CardTotalValue = ValueOf(CardTotal);
+  if (IsPaid(CardTotal)) SetOffer(Offer::TakeScore);
+}
+
+void frmFivestack::ClearCardTotalRows() {
+  for (const auto& row : tableRows)
+    for (Label* label : {&row->total, &row->value}) {
+      label->FontBold = false;
+      label->ForeColor = kBlack;
+    }
+}
+
+void frmFivestack::SetOffer(Offer which) {
+  static constexpr const char* kCaptions[] = {"&Give Up", "&Give up", "&Take score"};
+  offer = which;
+  cmdGiveUp.Caption = kCaptions[static_cast<int>(which)];
+}
+
+// --- A new game ----------------------------------------------------------------------------------
+
+void frmFivestack::LeaveIdle() {
+  MousePointer = kHourglass;
+  common.TakingScore = false;
+  QuitRequested = false;
+  ShowSplash(false);
+  StatusBar1.Panels(2).Text = "Click on Hit buttons to create columns of 21!   ";
+  ShowBonusGoal(" for bonus round.  ");
+  // The back design may be changed during a game.
+  for (Menu* entry : {&mnuTime, &mnuCustom}) entry->Enabled = false;
+  SetPlayCaption(plan.names.endGame);
+  cmdPlay.ToolTipText = "Ends the game in progress";
+}
+
+void frmFivestack::Play() {
+  CurrentRound = 1;
+  Caption = common.AppTitle + ": Round " + std::to_string(CurrentRound);
+  DealCards();
+  ShowGraphics(true);
+  ShowHitButtons(true);
+  ShowRoundControls(true);
+  SetVisible({&lblHighScore, &lblScore, &ScoreRectangle, &ScoreBevelBottom, &ScoreBevelSide, &lblTotalScore},
+             true);
+  common.CurrentScore = 0;
+  ShowScore();
+  StartClock();
+  common.GameInProgress = true;
+  StartMusic();
+  MousePointer = kDefaultPointer;
+}
+
+// The first card of the deck is never seen.
+void frmFivestack::DealCards() {
+  if (common.CreateStandardDeck() && common.ShuffleDeck()) EnableControls();
+  if (Reset()) {
+    DeckPosition = 1;
+    PlayCardPicture.Visible = true;
+  }
+  DeckPosition += 1;
+  ShowNextCard();
+  NextCardPicture.Visible = true;
+  for (int i = 0; i < kColumns; ++i) {
+    ShowEmpty(ColumnImages(i)(0));
+    ColumnImages(i)(0).Visible = true;
+  }
+  cmdPass.Enabled = PassesLeft > 0;
+  cmdPause.Enabled = true;
+  mnuPause.Enabled = true;
+}
+
+void frmFivestack::StartClock() {
+  UpdateCardTotalValue();
+  ResetDial();
+  Timer1.Enabled = true;
+}
+
+bool frmFivestack::EnableControls() {
+  for (int i = 1; i < kColumns; ++i) {  // the first one is enabled by `Reset`
+    cmdHit(i).Enabled = true;
+    ColumnTotal(i).Visible = true;
+  }
+  lblCurrentTotal.Visible = true;
+  ShowScoringLabel(false);
+  ScoringLabelOutline.Visible = false;
+  return true;
+}
+
+bool frmFivestack::Reset() {
+  for (int i = 0; i < kColumns; ++i) {
+    for (int slot = 0; slot < kCardsOfColumn; ++slot) {
+      Image& image = ColumnImages(i)(slot);
+      image.Visible = false;
+      image.BorderStyle = 0;
+      image.Picture = 0;
+    }
+    ColumnSoft(i).Visible = false;
+    ColumnSoft(i).Caption = "";
+    columns[i] = {};
+    ColumnTotal(i).Caption = "0";
+    CloseColumn(i, false);
+  }
+  ShowCardTotal(0);
+  SetOffer(Offer::GiveUp);
+  ShowHitButtons(false);
+  cmdPause.Enabled = false;
+  mnuPause.Enabled = false;
+  Timer1.Enabled = false;
+  common.ElapsedSeconds = 0;
+  ScoringLabel.FontSize = 18;
+  ShowTimeBonus(TimeBonusMax);
+  PassesLeft = CardsToPass;
+  return true;
+}
+
+// --- The time bonus ------------------------------------------------------------------------------
+
+float frmFivestack::TimeBonusDecay() const {
+  return BonusDecay(TimeBonusMax, TimeBonusMin, common.TimeLimit);
+}
+
+void frmFivestack::ShowTimeLeft() {
+  common.TimeBonus = BonusAfter(common.ElapsedSeconds, TimeBonusMax, TimeBonusMin, TimeBonusDecay());
+  ShowTimeBonus(common.TimeBonus);
+  lblTime.Caption = "Time Bonus:";
+}
+
+void frmFivestack::ShowTimeBonus(long long bonus) {
+  lblTimeBonus.Caption = (bonus < 0 ? "" : " ") + std::to_string(bonus);
+}
+
+void frmFivestack::TimeIsUp() {
+  ShowCards(false);
+  ScoringLabel.ForeColor = kRed;
+  Timer1.Enabled = false;
+  ScoringLabel.Caption = "Times Up!";
+  SetVisible({&ScoringLabel, &ScoringLabelOutline}, true);
+  Wait();
+  cmdGiveUp_Click();
+}
+
+// --- The end of a round --------------------------------------------------------------------------
+
+void frmFivestack::cmdGiveUp_Click() {
+  if (common.TakingScore) return;
+  try {
+    common.TakingScore = true;
+    phase = Phase::Scoring;
+    Timer1.Enabled = false;
+    MousePointer = kHourglass;
+    CurrentRound += 1;
+    offer == Offer::TakeScore ? TakeScore() : LoseRound();
+    Reset();
+    platform.DoEvents();
+    if (common.GameInProgress) EndRound(CurrentRound);
+    MousePointer = kDefaultPointer;
+  } catch (const std::exception& error) {
+    PlayFailed(error.what());
+  }
+}
+
+void frmFivestack::LoseRound() {
+  PlaySound("\\Busted.wav");
+  StopMusic();
+  ShowCards(false);
+  ScoringLabel.ForeColor = kRed;
+  if (CardTotal < kLowestPaid) {
+    ScoringLabel.FontSize = 18;
+    ScoringLabel.Caption = "Sorry, 97 or more needed to win!";
+  } else {
+    ScoringLabel.Caption = "Busted!";
+    PlaySound("\\Busted.wav");
+  }
+  SetVisible({&ScoringLabelOutline, &ScoringLabel}, true);
+  Blink(ScoringLabel, 12, 150);
+  ScoringLabel.Visible = false;
+}
+
+// Whatever fails in here is told, and play goes on.
+void frmFivestack::TakeScore() {
+  try {
+    StopMusic();
+    ShowCards(false);
+    const Long roundScore = CardTotalValue * common.TimeBonus;
+    ScoringLabelRoundTotal.Caption = "Round " + std::to_string(CurrentRound - 1) + " Total: ";
+    ScoringLabel.FontSize = 18;
+    ScoringLabel.Caption = FormatNumber(roundScore);
+    PlaceRoundTotal();
+    ScoringLabelInfo.ForeColor = kBlack;
+    ScoringLabel.ForeColor = kBlack;
+    ScoringLabelInfo.Caption = "Card Total Value (" + std::to_string(CardTotalValue) + ") X Time Bonus (" +
+                               std::to_string(common.TimeBonus) + ")";
+    ShowScoringLabel(true);
+    ScoringLabelOutline.Visible = true;
+    Wait();
+    if (CardTotalValue == ValueOf(kPerfect)) {
+      ScoringLabelInfo.Caption = "Totally Awesome Score!";
+      PlaySound("\\Applause.wav");
+      Wait();
+      Wait();
+    }
+    ScoringLabel.ForeColor = kRed;
+    if (common.CountDownScore)
+      CountScore(roundScore);
+    else
+      AddToScore(roundScore);
+  } catch (const RuntimeError& error) {
+    common.MsgBox(error.what());
+  }
+  ShowScoringLabel(false);
+}
+
+// All values of the table are even, so that steps of twice the bonus add up, below zero as well.
+void frmFivestack::CountScore(long long roundScore) {
+  const long long step = 2 * common.TimeBonus;
+  int ticks = 0;
+  for (long long left = roundScore; left != 0; left -= step) {
+    ++ticks;
+    ScoringLabel.Caption = FormatNumber(left);
+    AddToScore(step);
+    if (ticks % 3 == 0) PlaySound("\\Tick.wav");
+    platform.Sleep(10);
+  }
+  ScoringLabel.Caption = "0";
+  platform.Sleep(50);
+  ScoringLabel.ForeColor = kBlue;
+}
+
+void frmFivestack::Wait() { platform.Sleep(std::max(0, static_cast<int>(WaitPeriod))); }
+
+// --- The next round, or the end of the game ------------------------------------------------------
+
+bool frmFivestack::EndRound(Integer round) {
+  common.ElapsedSeconds = 0;
+  if (CurrentRound == kBonusRound && !EarnsBonusRound()) CurrentRound = round = kBonusRound + 1;
+  StopMusic();
+  round <= kBonusRound ? PrepareRound() : GameOver();
+  return true;
+}
+
+void frmFivestack::PrepareRound() {
+  platform.DoEvents();
+  StartMusic();
+  const std::string number = std::to_string(CurrentRound);
+  Caption = common.AppTitle + ": Round " + number;
+  lblRound.Caption = "Round: " + number;
+  ShowCards(false);
+  const bool bonus = CurrentRound == kBonusRound;
+  ScoringLabel.Caption = bonus ? "Prepare for Bonus Round!" : "Prepare for Round " + number;
+  if (bonus) PlaySound("\\HighScore.wav");
+  ScoringLabel.ForeColor = kBlue;
+  ScoringLabel.Visible = true;
+  Wait();
+  SetVisible({&ScoringLabelOutline, &ScoringLabel}, false);
+  ShowCards(true);
+  DealCards();
+  ShowHitButtons(true);
+  ShowRoundControls(true);
+  StartClock();
+  common.TakingScore = false;
+  phase = Phase::Playing;
+  lblCurrentTotal.ForeColor = kRed;
+}
+
+void frmFivestack::GameOver() {
+  if (!QuitRequested) {
+    EnterHighScore();
+    TellGameOver(ScoringLabel);
+  }
+  common.GameInProgress = false;
+  phase = Phase::Over;
+  Caption = common.AppTitle + ": Game Over";
+  lblRound.Visible = false;
+  lblRound.Caption = "Round: 1";
+  ScoringLabel.ForeColor = kBlue;
+  ScoringLabel.Caption = "Game Over";
+  SetVisible({&ScoringLabel, &ScoringLabelOutline}, false);
+  common.CurrentScore = 0;
+  CurrentRound = 0;
+  SetPlayCaption("&Play");
+  cmdPlay.ToolTipText = "Starts a new game";
+  for (Menu* entry : {&mnuCustom, &mnuTime, &mnuDeck}) entry->Enabled = true;
+  common.ElapsedSeconds = 0;
+  ResetDial();
+  Timer1.Enabled = false;
+  ShowRoundControls(false);
+  ShowSplash(true);
+  StatusBar1.Panels(1).Text = "Game over!  ";
+  StatusBar1.Panels(2).Text = "Click on Play to start a new game.  ";
+  lblCurrentTotal.ForeColor = kRed;
+}
+
+// --- End Game, failures --------------------------------------------------------------------------
+
+void frmFivestack::BeforeEndQuestion() {
+  StopMusic();
+  PauseGame();
+}
+
+void frmFivestack::AfterEndQuestion(bool ends) {
+  QuitRequested = ends;
+  if (ends) common.GameInProgress = false;
+  ResumeGame();
+}
+
+void frmFivestack::EndGame() {
+  Reset();
+  EndRound(kBonusRound + 1);
+}
+
+void frmFivestack::GameFailed() {
+  if (IsPaused()) ResumeGame();
+  StopMusic();
+  ShowCards(false);
+  ShowScoringLabel(false);
+  Reset();
+  GameOver();
+}
+
+void frmFivestack::BackToIdle() {
+  GameWindow::BackToIdle();
+  ShowHitButtons(false);
+  ShowRoundControls(false);
+}
+
+// --- Pausing, minimising, closing ----------------------------------------------------------------
+
+void frmFivestack::TellPause(bool paused) {
+  ScoringLabel.ForeColor = kBlue;
+  GameWindow::TellPause(paused);
+}
+
+void frmFivestack::CoverCards(bool covered) {
+  ShowCards(!covered);
+  ShowHitButtons(!covered);
+}
+
+// The clock of a minimised window stands still, also when a question over it has been answered.
+void frmFivestack::ResumeGame() {
+  GameWindow::ResumeGame();
+  if (WindowState == window_state::kMinimised) Minimised();
+}
+
+void frmFivestack::Minimised() {
+  Timer1.Enabled = false;
+  StopMusic();
+}
+
+void frmFivestack::Restored() {
+  if (phase != Phase::Playing) return;
+  Timer1.Enabled = true;
+  StartMusic();
+}
+
+// Pause is clicked, whatever it does then: a game that was paused already runs behind the question.
+void frmFivestack::BeforeClosingQuestion() {
+  beforeClosing_.reset();
+  if (!cmdPause.Enabled) return;
+  beforeClosing_ = phase;
+  Pause();
+}
+
+// The game may have come further meanwhile, or to its end.
+void frmFivestack::AfterClosingQuestion(bool closes) {
+  const auto before = beforeClosing_;
+  beforeClosing_.reset();
+  if (!closes && before && common.GameInProgress && phase != before) Pause();
+}

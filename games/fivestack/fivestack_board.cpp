@@ -1,0 +1,290 @@
+// The board of frmFivestack: its design, where things stand at any window size, what is shown when; and its
+// settings.
+#include "games/fivestack/custom.h"
+#include "games/fivestack/fivestack.h"
+
+using namespace modFivestack;
+
+namespace {
+
+constexpr TimeLimitEntry kLimits[] = {
+    {15, "mnu15", "&15 seconds"},           {30, "mnu30", "&30 seconds"}, {45, "mnu45", "&45 seconds"},
+    {60, "mnu60", "&60 seconds (default)"}, {75, "mnu75", "&75 seconds"},
+};
+
+constexpr char kPasses[] = "[Cards To Pass]";
+constexpr const char* kSections[] = {"[Time]",           "[Play Sounds]",  "[Play Music]", "[Deck]",
+                                     "[TimeBonusMax]",   "[TimeBonusMin]", "[BonusScore]", "[WaitPeriod]",
+                                     "[CountDownScore]", kPasses,          "[State]",      "[Width]",
+                                     "[Height]"};
+
+constexpr GamePlan kPlan{
+    .names = {.window = "frmFivestack",
+              .settingsFile = "\\Fivestack.Ini",
+              .message = "ScoringLabel",
+              .scoring = "",
+              .score = "lblTotalScore",
+              .roundNumber = "",
+              .roundBox = {},
+              .takeScoreButton = "",
+              .exitButton = "cmdQuit",
+              .takeScoreEntry = ""},
+    .tables = OneTable("HiScores", "50000"),
+    .width = 9540,
+    .height = 7305,
+    .limits = kLimits,
+    .timeLimit = 60,
+    .sections = kSections,
+    .rounds = 3,
+    .designs = {kHotCards, kMagicHands, kNightCastle, kPalmTree},
+};
+
+// The columns, and the five places for cards of each.
+constexpr int kColumnLefts[kColumns] = {420, 1875, 3330, 4785, 6240};
+constexpr int kSlotTops[kCardsOfColumn] = {2550, 2940, 3345, 3750, 4140};
+constexpr int kCardWidth = 1035, kCardHeight = 1455;
+constexpr int kTotalTop = 1815, kTotalWidth = 495, kTotalHeight = 360, kSoftTop = 2235, kLineTop = 2490,
+              kHitTop = 5670, kHitHeight = 570;
+
+// Everything but the columns: the deck, the clock and the score above them, the table at their right.
+constexpr Design kDesign[] = {
+    {"PlayCardPicture", 420, 120, kCardWidth, kCardHeight},
+    {"NextCardPicture", 1875, 105, kCardWidth, kCardHeight},
+    {"cmdPass", 3330, 150, 1065, 510, "&Pass"},
+    {"lblRound", 3120, 900, 1485, 285, "Round: 1"},
+    {"TimerRectangle", 4560, 75, 2790, 870},
+    {"lblTime", 4635, 240, 750, 480, "Time Bonus:"},
+    {"Surface", 6375, 105, 810, 810},
+    {"lblScore", 4560, 1125, 600, 255, "Score"},
+    {"ScoreRectangle", 5205, 1035, 2145, 420},
+    {"lblCurrentRoundScore", 7590, 1530, 1575, 255, "Card Total"},
+    {"lblCurrentTotal", 8002, 1815, 750, 360, "0"},
+    {"frmScore", 7395, 2265, 1965, 3330, "Card Total Value"},
+    {"cmdGiveUp", 7860, 5670, 1035, 555, "&Give Up"},
+    {"ScoringLabelOutline", 420, 2850, 6855, 1620},
+};
+constexpr int kTableTop = 315, kTablePitch = 294, kHighScoreGap = 45;
+
+// The buttons' place across the window is the frame's.
+constexpr Design kButtonDesign[] = {
+    {"cmdPlay", 8220, 90, 1200, 420},
+    {"cmdPause", 8220, 555, 1200, 420},
+    {"cmdQuit", 8220, 1020, 1200, 420},
+};
+
+}  // namespace
+
+frmFivestack::frmFivestack(modCommon& common) : GameWindow(common, kPlan) {
+  settings = {{"[TimeBonusMax]", &TimeBonusMax, kTimeBonusMax},
+              {"[TimeBonusMin]", &TimeBonusMin, kTimeBonusMin},
+              {"[BonusScore]", &BonusScore, kBonusScore},
+              {"[WaitPeriod]", &WaitPeriod, kWaitPeriod, Customises::No},
+              {"[CountDownScore]", &common.CountDownScore, true, Customises::No},
+              {kPasses, &CardsToPass, kCardsToPass, Customises::No},
+              {"", &PassesLeft, kCardsToPass}};
+  SetUpBoard();
+  SetUpTable();
+  BindBoardEvents();
+}
+
+bool frmFivestack::ApplyGameSetting(std::string_view section, std::string_view value) {
+  if (section != kPasses) return false;
+  ApplyNumber(value, CardsToPass);
+  PassesLeft = CardsToPass;
+  return true;
+}
+
+void frmFivestack::SettingsRead() { cmdPass.Enabled = PassesLeft > 0; }
+
+void frmFivestack::SetUpBoard() {
+  ApplyDesign(*this, kDesign);
+  ApplyDesign(*this, kButtonDesign);
+  for (int i = 0; i < kColumns; ++i) {
+    for (int slot = 0; slot < kCardsOfColumn; ++slot)
+      ColumnImages(i)(slot).Visual::Move(0, 0, kCardWidth, kCardHeight);
+    ColumnLine(i).BorderColor = kWhite;
+    ColumnTotal(i).Visual::Move(0, 0, kTotalWidth, kTotalHeight);
+    ColumnTotal(i).BackStyle = 1;
+    ColumnTotal(i).FontSize = 14;
+    ColumnTotal(i).Caption = "0";
+    ColumnTotal(i).Alignment = 2;
+    ColumnSoft(i).AutoSize = true;
+    ColumnSoft(i).FontBold = true;
+    ColumnSoft(i).Visible = false;
+    cmdHit(i).Visual::Move(0, 0, kCardWidth, kHitHeight);
+    cmdHit(i).Caption = "Hit";
+  }
+  ScoringLabelOutline.Sunken = true;
+  for (Label* label : {&lblTime, &lblScore, &lblCurrentRoundScore, &lblHighScore}) label->FontBold = true;
+  for (Label* label : {&lblRound, &lblCurrentRoundScore, &lblCurrentTotal}) label->Alignment = 2;
+  for (Label* label : {&lblRound, &ScoringLabelInfo}) label->FontSize = 10;
+  for (Label* label : {&lblRound, &lblTimeBonus, &ScoringLabelInfo, &ScoringLabelRoundTotal})
+    label->FontBold = true;
+  for (Label* label : {&lblTimeBonus, &lblHighScore, &ScoringLabelRoundTotal, &ScoringLabelInfo})
+    label->AutoSize = true;
+  for (Label* label : {&ScoringLabel, &ScoringLabelRoundTotal}) label->FontSize = 18;
+  lblCurrentTotal.BackStyle = 1;
+  lblCurrentTotal.BackColor = kBlack;  // red and green can be read on it
+  lblCurrentTotal.FontSize = 14;
+  lblCurrentTotal.FontBold = true;
+  lblCurrentTotal.ForeColor = kRed;
+  lblTimeBonus.FontSize = 11;
+  lblTimeBonus.ForeColor = kBlue;
+  lblTotalScore.Fit();
+  RefreshPlayCard();
+  // No game has begun.
+  ShowCards(false);
+  ShowHitButtons(false);
+  ShowRoundControls(false);
+  ShowScoringLabel(false);
+  ScoringLabelOutline.Visible = false;
+  SetVisible({&lblScore, &ScoreRectangle, &ScoreBevelSide, &ScoreBevelBottom, &lblTotalScore}, false);
+}
+
+void frmFivestack::SetUpTable() {
+  TableGround.Sunken = true;
+  TableGround.Visual::Move(150, kTableTop - 30, frmScore.Width - 300, kRows * kTablePitch + 30);
+  for (const TotalRow& row : kTotals) {
+    auto labels = std::make_unique<TableRow>(frmScore, row);
+    const int top = kTableTop + static_cast<int>(tableRows.size()) * kTablePitch;
+    labels->total.Caption = row.caption;
+    labels->total.Move(270, top, 585, 255);
+    labels->value.Caption = std::to_string(row.value);
+    labels->value.Move(960, top, 735, 255);
+    for (Label* label : {&labels->total, &labels->value}) {
+      label->FontSize = 10;
+      label->Alignment = 1;
+    }
+    tableRows.push_back(std::move(labels));
+  }
+}
+
+void frmFivestack::BindBoardEvents() {
+  for (int i = 0; i < kColumns; ++i) {
+    cmdHit(i).OnClick = [this, i] { cmdHit_Click(i); };
+    ColumnSoft(i).OnChange = [this, i] { CenterIn(ColumnSoft(i), ColumnTotal(i)); };
+  }
+  cmdPass.OnClick = [this] { cmdPass_Click(); };
+  cmdGiveUp.OnClick = [this] { cmdGiveUp_Click(); };
+  lblCurrentTotal.OnChange = [this] { lblCurrentTotal_Change(); };
+  lblTimeBonus.OnChange = [this] { CenterTimeBonus(); };
+  lblHighScore.OnChange = [this] { CenterIn(lblHighScore, ScoreRectangle); };
+  ScoringLabelInfo.OnChange = [this] { PlaceInfo(); };
+}
+
+frmFivestack::Slots& frmFivestack::ColumnImages(int index) {
+  Slots* const slots[] = {&Column1, &Column2, &Column3, &Column4, &Column5};
+  return *slots[index];
+}
+
+Shape& frmFivestack::ColumnLine(int index) {
+  Shape* const lines[] = {&Column1Line, &Column2Line, &Column3Line, &Column4Line, &Column5Line};
+  return *lines[index];
+}
+
+// --- Placing -------------------------------------------------------------------------------------
+
+void frmFivestack::PlaceBoard() {
+  PlaceInMiddle(kDesign);
+  const int right = (Width - plan.width) / 2, down = (Height - plan.height) / 2;
+  for (const Design& row : kButtonDesign) static_cast<Visual&>(*find(row.name)).Top = row.top + down;
+  for (int i = 0; i < kColumns; ++i) {
+    const int left = kColumnLefts[i] + right;
+    for (int slot = 0; slot < kCardsOfColumn; ++slot) {
+      ColumnImages(i)(slot).Left = left;
+      ColumnImages(i)(slot).Top = kSlotTops[slot] + down;
+    }
+    ColumnLine(i).Visual::Move(left, kLineTop + down, kCardWidth, 0);
+    ColumnTotal(i).Top = kTotalTop + down;
+    ColumnSoft(i).Top = kSoftTop + down;
+    cmdHit(i).Left = left;
+    cmdHit(i).Top = kHitTop + down;
+  }
+  ResizeColumnHeaders();
+  lblTotalScore.Top = ScoreRectangle.Top + (ScoreRectangle.Height - lblTotalScore.Height) / 2;
+  CenterIn(lblTotalScore, ScoreRectangle);
+  lblHighScore.Top = ScoreRectangle.Top + ScoreRectangle.Height + kHighScoreGap;
+  CenterIn(lblHighScore, ScoreRectangle);
+  CenterTimeBonus();
+  CenterCardTotal();
+  PlaceInfo();
+}
+
+void frmFivestack::ResizeColumnHeaders() {
+  for (int i = 0; i < kColumns; ++i) {
+    CenterIn(ColumnTotal(i), ColumnImages(i)(0));
+    CenterIn(ColumnSoft(i), ColumnTotal(i));
+  }
+}
+
+void frmFivestack::CenterCardTotal() { CenterIn(lblCurrentTotal, frmScore); }
+
+// Somewhat left of the middle and above it: the dial stands at the right.
+void frmFivestack::CenterTimeBonus() {
+  const auto before = [](int middle, int size) { return static_cast<int>(middle - size / 1.3); };
+  lblTimeBonus.Left = before(TimerRectangle.Left + TimerRectangle.Width / 2, lblTimeBonus.Width);
+  lblTimeBonus.Top = before(TimerRectangle.Top + TimerRectangle.Height / 2, lblTimeBonus.Height);
+}
+
+// A message stands in the middle of the outline; a score that is counted stays where it began.
+void frmFivestack::PlaceMessage() {
+  if (!ScoringLabelRoundTotal.Visible) CenterScoringLabel();
+}
+
+void frmFivestack::CenterScoringLabel() {
+  CenterIn(ScoringLabel, ScoringLabelOutline);
+  ScoringLabel.Top = ScoringLabelOutline.Top + (ScoringLabelOutline.Height - ScoringLabel.Height) / 2;
+}
+
+// "Round 1 Total: " and the amount as one line.
+void frmFivestack::PlaceRoundTotal() {
+  const Shape& outline = ScoringLabelOutline;
+  Label& total = ScoringLabelRoundTotal;
+  total.Left = outline.Left + outline.Width / 2 - total.Width / 2 - ScoringLabel.Width / 2;
+  total.Top = outline.Top + outline.Height / 2 - total.Height;
+  ScoringLabel.Left = total.Left + total.Width;
+  ScoringLabel.Top = total.Top.get();
+}
+
+// Below that line.
+void frmFivestack::PlaceInfo() {
+  CenterIn(ScoringLabelInfo, ScoringLabelOutline);
+  ScoringLabelInfo.Top = ScoringLabelOutline.Top + ScoringLabelRoundTotal.Height + ScoringLabel.Height;
+}
+
+// --- Showing -------------------------------------------------------------------------------------
+
+// A place that holds no card has nothing to show.
+void frmFivestack::ShowCards(bool visible) {
+  for (int i = 0; i < kColumns; ++i) {
+    for (int slot = 0; slot < kCardsOfColumn; ++slot) {
+      Image& image = ColumnImages(i)(slot);
+      image.Visible = visible && image.Picture != 0;
+    }
+    if (columns[i].softAces > 0) ColumnSoft(i).Visible = visible;
+  }
+  SetVisible({&NextCardPicture, &PlayCardPicture, &lblCurrentTotal, &lblCurrentRoundScore}, visible);
+  ShowGraphics(visible);
+}
+
+void frmFivestack::ShowGraphics(bool visible) {
+  for (int i = 0; i < kColumns; ++i) SetVisible({&ColumnLine(i), &ColumnTotal(i)}, visible);
+  SetVisible({&cmdPass, &lblRound}, visible);
+}
+
+void frmFivestack::ShowHitButtons(bool visible) {
+  for (int i = 0; i < kColumns; ++i) cmdHit(i).Visible = visible;
+  cmdGiveUp.Visible = visible;
+}
+
+void frmFivestack::ShowRoundControls(bool visible) {
+  SetVisible({&Surface, &TimerRectangle, &TimerBevelSide, &TimerBevelBottom, &lblTime, &lblTimeBonus,
+              &frmScore, &lblCurrentRoundScore, &lblCurrentTotal},
+             visible);
+}
+
+void frmFivestack::ShowScoringLabel(bool visible) {
+  SetVisible({&ScoringLabel, &ScoringLabelRoundTotal, &ScoringLabelInfo}, visible);
+}
+
+void frmFivestack::ShowCustomScoring() { frmFivestackCustomScoring(*this).Show(true); }

@@ -1,0 +1,316 @@
+#include "games/handgrid/handgrid.h"
+
+#include <algorithm>
+
+#include "suite/dial.h"
+#include "suite/score_counter.h"
+
+using namespace modHandgrid;
+
+// --- Dealing -------------------------------------------------------------------------------------
+
+void frmHandgrid::Deal() {
+  HoleCard.Picture = common.ImageList2("EMPTY");
+  StackPicture = "FULL";
+  RefreshPlayCard();
+  CardStackPicture.Visible = true;
+  for (int slot = 1; slot <= kDeckCards; ++slot) RoundDeck(slot) = common.Deck.at(slot);
+  DeckPosition = 1;
+  HoleCount = 0;
+  CardsRemaining = kDeckCards;
+  ShowCardsRemaining();
+  DrawNextCard();
+  for (int line = 1; line <= kSide; ++line)
+    for (Label* label : {&lblCol(line), &lblRow(line)}) {
+      label->ForeColor = kButtonText;
+      label->Caption = HandName(Hand::Nothing);
+    }
+}
+
+void frmHandgrid::DrawNextCard() {
+  CardsRemaining -= 1;
+  if (CardsRemaining >= 0) {
+    if (!HandSoundPlayed) PlaySound("\\Click.wav");
+    HandSoundPlayed = false;
+    ShowCardsRemaining();
+    HoleCount += 1;
+    HoleCards(HoleCount) = RoundDeck(DeckPosition);
+    ShowFace(HoleCard, HoleCards(HoleCount));
+  } else {
+    CardsRemaining = 0;
+    PlaySound("\\Chord.wav");
+  }
+  StackPicture = StackStage(kDeckCards - DeckPosition);
+  RefreshPlayCard();
+  DeckPosition += 1;
+}
+
+void frmHandgrid::Reset(bool endOfGame) {
+  ShowSplash(endOfGame);
+  for (int i = 0; i < kCells; ++i) {
+    PlayedCards[i].clear();
+    PlayCards(i).Picture = common.ImageList2("EMPTY");
+  }
+  for (int column = 0; column < kSide; ++column) StackColumn(column);
+  if (!endOfGame) return;
+  SetPlayCaption("&Play");
+  mnuPause.Enabled = true;  // although there is nothing to pause
+  cmdPause.Enabled = false;
+  HoleCard.BorderStyle = 0;
+  DeckPosition = 0;
+  OverWritesUsed = 0;
+  ShowOverWrites();
+  for (int i = 0; i < kCells; ++i) PlayCards(i).BorderStyle = 0;
+}
+
+// --- Laying a card -------------------------------------------------------------------------------
+
+void frmHandgrid::PlayCards_Click(int index) {
+  if (common.TakingScore) return;
+  RoundPoints = 0;
+  const bool filled = !PlayedCards[index].empty();
+  if (filled ? OverWritesUsed < OverWritesAllowed : HoleCount > 0) {
+    if (filled) OverWritesUsed += 1;
+    ShowOverWrites();
+    PlayCards(index).BorderStyle = 1;
+    PlayCards(index).Picture = HoleCard.Picture;
+    PlayedCards[index] = HoleCards(HoleCount);
+    HoleCount -= 1;
+    if (!filled) StackColumn(index % kSide);
+    EvaluateGrid();
+    if (HoleCount > 0) {
+      ShowFace(HoleCard, HoleCards(HoleCount));
+      if (!HandSoundPlayed) PlaySound("\\Click.wav");
+    } else {
+      ShowEmpty(HoleCard);
+      DrawNextCard();
+    }
+  } else {
+    PlaySound("\\Chord.wav");
+  }
+  ShowScore();
+  if (std::ranges::any_of(PlayedCards, &std::string::empty)) return;
+  PlaySound("\\Wingame.wav");
+  NextRound(RoundEnd::GridFull);
+}
+
+void frmHandgrid::EvaluateGrid() {
+  EvaluateLines(true);
+  TransposeCards(PlayedCards);
+  EvaluateLines(false);
+  TransposeCards(PlayedCards);
+}
+
+void frmHandgrid::EvaluateLines(bool isRows) {
+  const LineHands hands = modHandgrid::EvaluateLines(PlayedCards);
+  for (int line = 1; line <= kSide; ++line) {
+    const Hand hand = hands[line - 1];
+    RoundPoints += Scores.Of(hand);
+    ShowPointsEarned();
+    Label& label = isRows ? lblRow(line) : lblCol(line);
+    label.Caption = HandName(hand);
+    label.ForeColor = hand == Hand::Nothing ? kButtonText : kBlue;
+  }
+}
+
+// The sound of a new hand takes the place of the next card's click, also if nobody hears it.
+void frmHandgrid::lblRow_Change(int line) {
+  if (lblRow(line).Caption == HandName(Hand::Nothing)) return;
+  PlaySound("\\TwentyOne.wav");
+  HandSoundPlayed = true;
+}
+
+void frmHandgrid::lblCol_Change(int line) {
+  CenterColumnLabel(line);
+  if (lblCol(line).Caption == HandName(Hand::Nothing)) return;
+  PlaySound("\\TwentyOne.wav");
+  HandSoundPlayed = true;
+}
+
+void frmHandgrid::CardStackPicture_Click() { PlaySound("\\Chord.wav"); }
+
+// --- The round clock -----------------------------------------------------------------------------
+
+// The dial shows the second before this one; `Timer2` soon brings it up to date.
+void frmHandgrid::Tick() {
+  common.ElapsedSeconds += 1;
+  DrawTimeDial(DialAngle(*this, common.DialSeconds), *this);
+  common.DialSeconds = common.ElapsedSeconds;
+  ShowTimeLeft();
+  if (common.ElapsedSeconds >= common.TimeLimit) TimeIsUp();
+}
+
+void frmHandgrid::ShowTimeLeft() {
+  lblTimeBonus.Caption = std::to_string(common.TimeLimit - common.ElapsedSeconds);
+  lblTime.Caption = "Time:";
+}
+
+void frmHandgrid::TimeIsUp() {
+  ScoringLabel.Caption = "Times Up!";
+  NextRound(RoundEnd::TimesUp);
+}
+
+// A full dial would switch `Timer2` off.
+void frmHandgrid::ResetDial() {
+  InitTimeDial(*this);
+  Timer2.Enabled = true;
+}
+
+// --- Rounds --------------------------------------------------------------------------------------
+
+void frmHandgrid::Play() {
+  MousePointer = kHourglass;
+  common.TakingScore = false;
+  CurrentRound = 1;
+  common.CurrentScore = 0;
+  ShowScore();
+  RoundPoints = 0;
+  ShowPointsEarned();
+  StatusBar1.Panels(2).Text = "Click on cards to get the best Poker hand!   ";
+  ShowGoal();
+  mnuTime.Enabled = false;
+  mnuCustom.Enabled = false;
+  mnuPause.Enabled = true;
+  cmdPause.Enabled = true;
+  OverWritesUsed = 0;
+  ShowOverWrites();
+  common.ElapsedSeconds = 0;
+  ShowTimeLeft();
+  ResetDial();
+  Timer1.Enabled = true;
+  if (common.CreateStandardDeck()) {
+    Reset(false);
+    common.ShuffleDeck();
+    Deal();
+    ShowControls(true, true);
+    ShowCards(true);
+  }
+  StartMusic();
+  common.GameInProgress = true;
+  MousePointer = kDefaultPointer;
+}
+
+// Nothing can come in between, since all of it blocks; and `TakingScore` stays until the selector's next
+// tick, so that clicks that came meanwhile meet no new board.
+void frmHandgrid::NextRound(RoundEnd end) {
+  common.TakingScore = true;
+  phase = Phase::Scoring;
+  MousePointer = kHourglass;
+  StopMusic();
+  CurrentRound += 1;
+  ShowCards(false);
+  ShowControls(false, true);
+  ScoringLabel.ForeColor = kRed;
+  Timer1.Enabled = false;
+  CenterScoringLabel();
+  end == RoundEnd::TimesUp ? ForfeitRound() : PayRound();
+  const bool bonus = CurrentRound == plan.rounds + 1;
+  if (CurrentRound <= plan.rounds || (bonus && EarnsBonusRound())) {
+    AnnounceNextRound();
+    BeginNextRound();
+  } else {
+    GameOver();
+  }
+  EndScoring();
+}
+
+void frmHandgrid::ForfeitRound() {
+  ShowAnnouncement(true);
+  PlaySound("\\Slide.wav");
+  platform.Sleep(2000);
+}
+
+void frmHandgrid::PayRound() {
+  const long long secondsLeft = common.TimeLimit - common.ElapsedSeconds;
+  if (secondsLeft > 0) {
+    SetAnnouncementFont("Arial", 20);
+    ScoringLabel.Caption = std::to_string(RoundPoints) + " X " + std::to_string(secondsLeft) + " =";
+    ShowAnnouncement(true);
+    const Long perSecond = common.TimeBonus * RoundPoints;
+    CountTimeBonus(*this, perSecond, "Round Points X Seconds Remaining");
+    lblMessage.Visible = false;
+  }
+  SetAnnouncementFont("MS Sans Serif", 18);
+}
+
+void frmHandgrid::AnnounceNextRound() {
+  ShowAnnouncement(true);
+  if (CurrentRound > plan.rounds) {
+    lblRound.Caption = "Bonus Round";
+    ScoringLabel.Caption = "Bonus round!";
+    PlaySound("\\HighScore.wav");
+  } else {
+    const std::string number = std::to_string(CurrentRound);
+    lblRound.Caption = "Round: " + number;
+    ScoringLabel.Caption = "Prepare for round  " + number + "!";  // the second blank is the number's sign
+  }
+  Blink(ScoringLabel, 10);
+}
+
+void frmHandgrid::BeginNextRound() {
+  Reset(false);
+  ShowAnnouncement(false);
+  common.ShuffleDeck();
+  Deal();
+  ShowCards(true);
+  ShowControls(true, true);
+  common.ElapsedSeconds = 0;
+  OverWritesUsed = 0;
+  ShowTimeLeft();
+  ShowOverWrites();
+  ResetDial();
+  Timer1.Enabled = true;
+  RoundPoints = 0;
+  ShowPointsEarned();
+  StartMusic();
+  phase = Phase::Playing;
+}
+
+// --- The end of a game ---------------------------------------------------------------------------
+
+// The dial stands at 0 from here on: `Timer2` goes on drawing it while the player enters a name.
+void frmHandgrid::GameOver() {
+  ResetDial();
+  ScoringLabel.Caption = "Game Over";
+  FinishGame();
+  MousePointer = kHourglass;
+  ShowControls(false, false);
+  CenterScoringLabel();
+  ShowAnnouncement(true);
+  TellGameOver(ScoringLabel);
+  ShowAnnouncement(false);
+  Reset(true);
+  cmdPlay.ToolTipText = "Starts a new game";
+}
+
+// Whatever was being shown is taken back, so that the next game begins as any other.
+void frmHandgrid::GameFailed() {
+  HandSoundPlayed = false;
+  lblMessage.Visible = false;
+  SetAnnouncementFont("MS Sans Serif", 18);
+  GameWindow::GameFailed();
+}
+
+void frmHandgrid::PlayFailed(const std::string& description) {
+  common.MsgBox(description, Icon::Critical);
+  platform.End(description);
+}
+
+void frmHandgrid::BeforeEndQuestion() {
+  StopMusic();
+  PauseGame();
+}
+
+void frmHandgrid::AfterEndQuestion(bool ends) {
+  if (ends) common.GameInProgress = false;
+  ResumeGame();
+}
+
+void frmHandgrid::EndGame() {
+  ShowCards(false);
+  ShowControls(false, false);
+  Reset(true);
+  ResetDial();
+  for (Menu* entry : {&mnuTime, &mnuDeck, &mnuCustom}) entry->Enabled = true;
+  Timer1.Enabled = false;
+}

@@ -1,0 +1,101 @@
+// frmHandgrid: the window of Handgrid, what each click, tick and menu entry does.
+#pragma once
+
+#include "games/handgrid/rules.h"
+#include "suite/game_window.h"
+
+class frmHandgrid : public GameWindow {
+ public:
+  explicit frmHandgrid(modCommon& common);
+
+  // --- Board and cards ---------------------------------------------------------------------------
+  ControlArray<Image, modHandgrid::kCells> PlayCards{*this, "PlayCards"};
+  Image CardStackPicture{*this, "CardStackPicture"}, HoleCard{*this, "HoleCard"};
+  // The names of the hands, beside the rows and under the columns, numbered from 1.
+  ControlArray<Label, modHandgrid::kSide, 1> lblRow{*this, "lblRow"}, lblCol{*this, "lblCol"};
+  Label lblCards{*this, "lblCards"}, lblOverwrites{*this, "lblOverwrites"},
+      lblPointsEarned{*this, "lblPointsEarned"};
+  Label lblTimeBonus{Surface, "lblTimeBonus"};  // the seconds that are left, on the dial
+  // Announcements stand here; `lblMessage` and `lblScoring` above and below them.
+  Shape ScoringLabelOutline{*this, "ScoringLabelOutline"};
+  Label ScoringLabel{*this, "ScoringLabel"};
+
+  // --- State -------------------------------------------------------------------------------------
+  modHandgrid::Grid PlayedCards;
+  modHandgrid::Slots RoundDeck, HoleCards;  // slot 0 of `RoundDeck` is never used
+  Integer DeckPosition, HoleCount;          // the next card to draw; cards in the hole
+  Integer CardsRemaining, OverWritesUsed;
+  Long RoundPoints;                   // of all ten hands
+  bool HandSoundPlayed = false;       // a hand was named: the next card comes without a click
+  const char* StackPicture = "FULL";  // the key of what the stack shows
+  // Settings.
+  modHandgrid::HandScores Scores;
+  Integer OverWritesAllowed;
+
+  // --- Play --------------------------------------------------------------------------------------
+  void Deal();
+  void PlayCards_Click(int index);
+  void CardStackPicture_Click();
+  // How a round came to its end.
+  enum class RoundEnd { GridFull, TimesUp };
+  void NextRound(RoundEnd end);
+  // Clears the board; at the end of a game the window is idle again.
+  void Reset(bool endOfGame);
+  // "Make n for bonus round." in panel 1.
+  void ShowGoal() { ShowBonusGoal(" for bonus round.  "); }
+  void CenterScoringLabel();
+  void CenterTimeBonus();
+
+  // --- The frame's plan --------------------------------------------------------------------------
+  void Play() override;
+  void PlayFailed(const std::string& description) override;
+  void EndGame() override;
+  void GameOver() override;
+  void GameFailed() override;
+  void ShowCards(bool visible) override;
+  void RefreshPlayCard() override;
+  void ShowCustomScoring() override;
+  RulesText Rules() const override;
+  void SetDefaults() override;
+  // The longest limit is kept, and not taken back.
+  bool AcceptsLimit(int seconds) const override { return seconds != 120; }
+  bool TakesCommand() const override { return !common.TakingScore; }
+  void Tick() override;
+  void ShowTimeLeft() override;
+  void TimeIsUp() override;
+  // The dial is drawn at all times.
+  void ResetDial() override;
+  void BeforeEndQuestion() override;
+  void AfterEndQuestion(bool ends) override;
+  using GameWindow::ShowControls;
+  void ShowControls(bool roundControls, bool frameControls) override;
+  void PlaceMessage() override { CenterScoringLabel(); }
+  void PlaceScoring() override;
+  void PlaceBoard() override;
+
+ private:
+  void SetUpBoard();
+  void SetUpLabels();
+  void BindBoardEvents();
+
+  void DrawNextCard();
+  void StackColumn(int column);
+  void EvaluateGrid();
+  void EvaluateLines(bool isRows);
+  void lblRow_Change(int line);
+  void lblCol_Change(int line);
+  void lblOverwrites_Change();
+  void lblRound_Change();
+  void CenterColumnLabel(int line);
+
+  void ForfeitRound();
+  void PayRound();
+  void AnnounceNextRound();
+  void BeginNextRound();
+  void ShowAnnouncement(bool visible);
+  void SetAnnouncementFont(const char* name, int size);
+
+  void ShowOverWrites();
+  void ShowCardsRemaining();
+  void ShowPointsEarned();
+};

@@ -1,0 +1,18 @@
+// The window that belongs to Treyshift alone: customised scoring.
+#pragma once
+
+#include "games/treyshift/treyshift.h"
+#include "suite/scoring_dialog.h"
+
+class frmTreyshiftCustom : public ScoringDialog {
+ public:
+  explicit frmTreyshiftCustom(frmTreyshift& game);
+
+ protected:
+  Number Setting(size_t field) override;
+  std::string Shown(size_t field) override;
+  void Take(size_t field, double value) override;
+
+ private:
+  frmTreyshift& game_;
+};

@@ -1,0 +1,516 @@
+// Blackrush from its button to its place in the table.
+#include <gtest/gtest.h>
+
+#include "tests/blackrush_table.h"
+
+namespace {
+
+const std::string kWin = "frmBlackrush.";
+
+class Blackrush : public ::testing::Test {
+ protected:
+  std::string Text(const std::string& property) { return driver.Text(kWin + property); }
+  std::string Panel(int number) { return Text("StatusBar1.Panels(" + std::to_string(number) + ").Text"); }
+  bool Is(const std::string& property) { return driver.Get(kWin + property) == true; }
+  int Number(const std::string& property) { return driver.Get(kWin + property).get<int>(); }
+  // Those of the controls named that are "Visible" or "Enabled".
+  std::string Those(const std::string& names, const std::string& property) {
+    std::istringstream split(names);
+    std::string those;
+    for (std::string name; split >> name;)
+      if (Is(name + "." + property)) those += (those.empty() ? "" : " ") + name;
+    return those;
+  }
+  std::string Tell(const std::string& commands) { return Story(driver.Trace(commands)); }
+  // Totals of the four columns with what is shown of their cards.
+  std::string Board() {
+    std::string all;
+    for (int i = 0; i < 4; ++i) {
+      const std::string index = "(" + std::to_string(i) + ").";
+      int cards = 0;
+      for (int slot = 0; slot < 5; ++slot) {
+        const std::string image = "Column" + std::to_string(i + 1) + "(" + std::to_string(slot) + ").";
+        cards += Is(image + "Visible") && Number(image + "Picture") >= kFirstFace;
+      }
+      all += (i ? " " : "") + Text("ColumnTotal" + index + "Caption") + "/" + std::to_string(cards) +
+             (Is("ColumnSoft" + index + "Visible") ? Text("ColumnSoft" + index + "Caption") : "");
+    }
+    return all;
+  }
+  // The card on show, with the number of cards used.
+  std::string Next() {
+    return common().ImageList2.Key(Number("NextCardPicture.Picture")) + " " +
+           Text("lblCardsUsedCount.Caption");
+  }
+  std::string Pile() { return common().ImageList2.Key(Number("PlayCardPicture.Picture")); }
+  frmBlackrush& Game() { return BlackrushOf(driver); }
+  modCommon& common() { return driver.common(); }
+  long long Score() { return common().CurrentScore; }
+  // The card on show becomes that one of the deck, as if the others had been played.
+  void SkipTo(int position) { Game().DeckPosition = position - 1, driver.Do(kPass); }
+
+  TestFolder folder;
+  Driver driver{folder.Path()};
+};
+
+const std::string kBoard =
+    "ColumnTotal(0) Column1Line lblScore ScoreRectangle lblTotalScore frameScoreInfo lblRound lblHighScore cmdHit(0) "
+    "PlayCardPicture NextCardPicture cmdPass cmdTakeScore Surface TimerRectangle Column1(0)";
+
+TEST_F(Blackrush, OpensWithItsOwnNames) {
+  driver.Do(kOpenBlackrush);
+  EXPECT_EQ(
+      folder.Read("Blackrush.Ini"),
+      "[Play Sounds]\r\nTrue\r\n\r\n[Timer Speed]\r\n90\r\n\r\n[Play Music]\r\nFalse\r\n\r\n[Deck]\r\n3\r\n\r\n"
+      "[Cards To Pass]\r\n3\r\n\r\n[TwentyOne Bonus Value]\r\n1000\r\n\r\n"
+      "[Cards Used Bonus Value]\r\n100\r\n\r\n[5 Cards Bonus Value]\r\n750\r\n\r\n"
+      "[Deck Completion Bonus]\r\n100000\r\n\r\n[Wait Period]\r\n2000\r\n\r\n[Time Limit]\r\n90\r\n\r\n"
+      "[Bonus Round Score]\r\n250000\r\n\r\n[Count Down Score]\r\nTrue\r\n\r\n[State]\r\n0\r\n\r\n"
+      "[Width]\r\n9060\r\n\r\n[Height]\r\n7155\r\n\r\n");
+  const std::pair<const char*, const char*> captions[] = {{"mnuUserOptions", "&User Options..."},
+                                                          {"mnuTimeLimit", "&Time Limit"},
+                                                          {"mnu15", "&15 Seconds (for the daring)"},
+                                                          {"mnu90", "&90 Seconds (default)"},
+                                                          {"mnu120", "&120 Seconds"},
+                                                          {"mnuPause", "P&ause"},
+                                                          {"cmdPass", "&Pass"},
+                                                          {"frameScoreInfo", "Twenty One Scoring Status"},
+                                                          {"lblTwentyOnes", "21's earned:"},
+                                                          {"lblTwentyoneTime", "21 Counter:"}};
+  for (const auto& [name, caption] : captions) EXPECT_EQ(Text(std::string(name) + ".Caption"), caption);
+  EXPECT_EQ(Panel(1), "Welcome to Blackrush!!");
+  EXPECT_EQ(Text("cmdTakeScore.ToolTipText"), "Totals score for current round");
+  EXPECT_TRUE(driver.Do("click frmBlackrush.mnuTakeScore").starts_with("error"));
+  EXPECT_TRUE(Is("mnu90.Checked") && Is("mnuNight.Checked") && Is("Timer6.Enabled"));
+  EXPECT_EQ(Those(kBoard + " lblTime", "Visible"), "");
+}
+
+TEST_F(Blackrush, AGameIsDealt) {
+  driver.Do(kOpenBlackrush + "click frmBlackrush.mnuMusic");
+  EXPECT_EQ(Tell(DrawsFor(StandardDeck(), {"7H"}) + kPlayBlackrush), "open, music");
+  EXPECT_EQ(Panel(1) + Panel(2),
+            "Make 250,000 for bonus round.Create columns of 21 to increase bonus score!");
+  EXPECT_EQ(Text("Caption") + Text("cmdPlay.Caption") + Text("lblRound.Caption") + Text("lblTime.Caption"),
+            "Blackrush!&End gameRound: 1Time: 90");
+  EXPECT_EQ(Next() + Pile(), "7H 0FULL");
+  EXPECT_EQ(Number("PlayCardPicture.Picture"), kNightCastle.full);
+  EXPECT_EQ(Number("NextCardPicture.BorderStyle"), 1);
+  EXPECT_EQ(Number("Column3(0).Picture"), common().ImageList2("EMPTY"));
+  EXPECT_EQ(Those(kBoard, "Visible"), kBoard);
+  EXPECT_EQ(
+      Those(
+          "cmdPause mnuPause cmdTakeScore cmdPass cmdHit(3) Timer1 mnuUserOptions mnuTimeLimit Timer3 Timer4",
+          "Enabled"),
+      "cmdPause mnuPause cmdTakeScore cmdPass cmdHit(3) Timer1");
+}
+
+TEST_F(Blackrush, CardsAreLaid) {
+  const struct {
+    const char* why;
+    std::vector<std::string> cards;
+    std::string hits, story, board;
+    int score = 0, twentyOnes = 0;
+  } games[] = {
+      {"pictures count ten", {"9S", "13D", "2C"}, "001", "Click x3", "19/2 2/1 0/0 0/0"},
+      {"an ace on ten", {"10S", "1S"}, "22", "Click, TwentyOne", "0/0 0/0 0/0 0/0", 0, 1},
+      {"a second ace is hard", {"1S", "1H"}, "00", "Click x2", "12/2Soft 0/0 0/0 0/0"},
+      {"a soft ace comes down", {"1S", "6H", "9D"}, "000", "Click x3", "16/3 0/0 0/0 0/0"},
+      {"a bust lays nothing",
+       {"13S", "6H", "9D"},
+       "00003",
+       "Click x2, Slide, 450, Slide, 450, Click",
+       "16/2 0/0 0/0 9/1",
+       -200},
+      {"five cards", {"2S", "2H", "2C", "2D", "3D"}, "33333", "Click x5, 450", "0/0 0/0 0/0 0/0", 750},
+      {"a fifth makes 21",
+       {"2S", "3H", "4C", "5D", "7D"},
+       "00000",
+       "Click x4, TwentyOne",
+       "0/0 0/0 0/0 0/0",
+       0,
+       1},
+      {"a fifth brings an ace down",
+       {"1S", "2S", "3H", "4C", "9D"},
+       "00000",
+       "Click x5, 450",
+       "0/0 0/0 0/0 0/0",
+       750},
+  };
+  driver.Do(kOpenBlackrush);
+  for (const auto& game : games) {
+    Game().columns = {};  // no ace is left over
+    StartBlackrush(driver, game.cards);
+    EXPECT_EQ(Tell(Hits(game.hits)), game.story) << game.why;
+    EXPECT_EQ(Board(), game.board) << game.why;
+    EXPECT_EQ(Text("lblTotalScore.Caption"), FormatNumber(game.score)) << game.why;
+    EXPECT_EQ(Text("lbl21s.Caption"), std::to_string(game.twentyOnes)) << game.why;
+    EXPECT_EQ(Text("lblBonus.Caption"), std::to_string(game.twentyOnes * 1000)) << game.why;
+    EXPECT_EQ(Text("lblCardsUsedCount.Caption"), std::to_string(game.cards.size())) << game.why;
+    driver.Do(kPlayBlackrush + "answer \"Yes\"");
+  }
+}
+
+TEST_F(Blackrush, WhatThePlayerSeesOfAColumn) {
+  StartBlackrush(driver, {"1S", "6H", "9D", "5C", "2S", "2H", "2C", "2D", "3D"});
+  driver.Do(Hits("11"));
+  EXPECT_EQ(Number("Column2(1).Picture"), common().ImageList2("6H"));
+  EXPECT_EQ(Number("Column2(1).BorderStyle"), 1);
+  const std::string total = "* set frmBlackrush.ColumnTotal(1).Caption ";
+  EXPECT_EQ(Joined(LinesOf(driver.Trace(Hit(1)), total)), "\"7\"|\"16\"");  // the ace comes down first
+  EXPECT_EQ(Joined(LinesOf(driver.Trace(Hit(1)), total)), "\"21\"|\"0\"");
+  EXPECT_EQ(Number("Column2(0).Picture"), common().ImageList2("EMPTY"));
+  EXPECT_EQ(Number("Column2(0).BorderStyle"), 0);
+  EXPECT_TRUE(Is("Column2(0).Visible") && Is("Timer3.Enabled"));
+  // While the Gimme is announced in the middle of its column, nothing lies there.
+  driver.Do(Hits("2222"));
+  const std::string gimme = driver.Trace(Hit(2));
+  const size_t shown = gimme.find("* set frmBlackrush.lblFiveCards.Visible true"),
+               slept = gimme.find("* sleep 450");
+  EXPECT_LT(gimme.find("* set frmBlackrush.Column3(0).Picture 0"), shown);
+  EXPECT_LT(shown, slept);
+  EXPECT_LT(slept, gimme.find("* set frmBlackrush.Column3(0).Picture 13"));
+  EXPECT_EQ(Number("lblFiveCards.Left") + Number("lblFiveCards.Width") / 2,
+            Number("Column3(0).Left") + 1035 / 2);
+  EXPECT_FALSE(Is("lblFiveCards.Visible"));
+  Game().columns[3].total = 20;
+  EXPECT_EQ(Joined(LinesOf(driver.Trace(Hit(3)), "* set frmBlackrush.lblBust.Visible ")), "true|false");
+}
+
+// --- Soft aces that outlive their column -------------------------------------------------------------
+
+TEST_F(Blackrush, TheWordSoftComesBackWithAPause) {
+  StartBlackrush(driver, {"1S", "10H"});
+  driver.Do(Hits("00"));
+  EXPECT_EQ(Board(), "0/0 0/0 0/0 0/0");
+  driver.Do(kPause + kPause);
+  EXPECT_EQ(Board(), "0/0Soft 0/0 0/0 0/0");
+  driver.Do(kTake);
+  EXPECT_EQ(Board(), "0/0 0/0 0/0 0/0");
+}
+
+TEST_F(Blackrush, AnAceLeftOverSavesAHardColumnOnce) {
+  StartBlackrush(driver, {"1S", "1H", "1C", "2D", "3D", "13S", "7S", "9S", "8S", "9H"});
+  driver.Do(Hits("11111"));  // a Five Card Gimme with an ace at 11
+  driver.Do(kPause + kPause);
+  EXPECT_EQ(Board(), "0/0 0/0 0/0 0/0");
+  EXPECT_EQ(Tell(Hits("111")), "Click x3");  // 26 counts 16
+  EXPECT_EQ(Board(), "0/0 16/3 0/0 0/0");
+  EXPECT_EQ(Tell(Hit(1)), "Slide, 450");
+  Game().columns[1].softAces = 1;
+  driver.Do(kPlayBlackrush + "answer \"Yes\"");
+  StartBlackrush(driver, {"13S", "7S", "9S"});
+  EXPECT_EQ(Tell(Hits("111")), "Click x3") << "it outlives the game";
+}
+
+// --- The deck ----------------------------------------------------------------------------------------
+
+TEST_F(Blackrush, CardsArePassed) {
+  StartBlackrush(driver, {"2S", "3S", "4S", "5S"});
+  EXPECT_EQ(Tell(kPass), "Click");
+  EXPECT_EQ(Next(), "3S 1");
+  driver.Do(kPass + kPass + kPause + kPause);
+  EXPECT_EQ(Next(), "5S 3");
+  EXPECT_FALSE(Is("cmdPass.Enabled"));
+  EXPECT_EQ(Tell(kTake), "Count x3, \"Prepare for Round 2\", 2000");  // cards passed are used
+  EXPECT_TRUE(Is("cmdPass.Enabled"));
+  Game().PassesLeft = 50;
+  const std::pair<int, const char*> stages[] = {{16, "FULL"}, {17, "HALF"}, {35, "BACK"}, {51, "BACK"}};
+  for (const auto& [position, stage] : stages) {
+    SkipTo(position);
+    EXPECT_EQ(Pile(), stage) << position;
+  }
+  driver.Do(kPass + "click frmBlackrush.mnuPalm\n" + kPause + kPause);
+  EXPECT_EQ(Pile(), "EMPTY");
+  EXPECT_EQ(Next(), std::string(CardKey(common().Deck[52])) + " 51");
+  EXPECT_FALSE(Is("cmdPass.Enabled"));  // the last card can't be passed
+}
+
+TEST_F(Blackrush, TheDeckIsPlayedThrough) {
+  driver.Do(kOpenBlackrush + "click frmBlackrush.mnuMusic\n" + kPlayBlackrush);
+  SkipTo(52);
+  Game().columns[2].total = 20;
+  common().Deck[52] = "13S";
+  EXPECT_EQ(Tell(Hit(2)), "Slide, 450");  // a bust doesn't end the round
+  const CardCodes deck = common().Deck;
+  EXPECT_EQ(Tell(DrawsFor(deck, {}) + Hit(1)),
+            "Click, Applause, \"Awesome score!\", 2000, 1000, silence, Count x52, silence, open, music, "
+            "\"Prepare for Round 2\", 2000, open, music");
+  EXPECT_EQ(Score(), -100 + 100000 + 5200);
+  EXPECT_EQ(common().Deck, deck) << "reshuffled, and not rebuilt";
+  EXPECT_EQ(Pile(), "FULL");
+  EXPECT_EQ(Number("NextCardPicture.BorderStyle"), 1);
+  EXPECT_TRUE(Is("cmdPass.Enabled") && Is("cmdHit(0).Enabled"));
+}
+
+// --- The 21 Counter ----------------------------------------------------------------------------------
+
+TEST_F(Blackrush, TheBonusRisesUntilTheCounterExpires) {
+  StartBlackrush(driver, {"10S", "1S", "10H", "1H", "2S", "2H", "2C", "2D", "3D", "10C", "1C"});
+  const auto bar = [&] { return Number("ProgressBar1.Value"); };
+  const auto flash = [&] { return Number("lblTwentyoneTime.ForeColor"); };
+  const auto bonus = [&] { return Text("lblBonus.Caption"); };
+  driver.Do("advance 5000\n" + Hits("00"));
+  EXPECT_EQ(bar(), 0);  // nothing runs before the first
+  driver.Do("advance 4410");
+  EXPECT_EQ(bar(), 49);
+  EXPECT_FALSE(Is("Timer5.Enabled"));
+  driver.Do("advance 50\n" + Hits("11"));
+  EXPECT_EQ(bar(), 0);
+  driver.Do("advance 40");  // the Hit kept the counter's step
+  EXPECT_EQ(bar(), 1);
+  driver.Do("advance 4410");
+  EXPECT_EQ(flash(), kBlue);
+  driver.Do("advance 250");
+  EXPECT_EQ(flash(), kRed);
+  driver.Do("advance 250");
+  EXPECT_EQ(flash(), kBlack);
+  // Five cards buy time, and no more.
+  driver.Do("advance 2200");
+  EXPECT_EQ(bar(), 80);
+  driver.Do(Hits("22222"));
+  EXPECT_EQ(bar(), 0);
+  EXPECT_EQ(flash(), kBlue);
+  EXPECT_FALSE(Is("Timer5.Enabled"));
+  EXPECT_EQ(bonus(), "2000");
+  // Too late: the bonus falls to one step, and the bar goes on.
+  driver.Do("advance 8950");
+  EXPECT_EQ(bar(), 100);
+  const std::string expired = driver.Trace("advance 90");
+  EXPECT_EQ(Joined(LinesOf(expired, "* set frmBlackrush.lblBonus.")),
+            "Caption \"1000\"|ForeColor 255|ForeColor 16711680");
+  EXPECT_LT(expired.find("ForeColor 255"), expired.find("* sleep 250"));
+  EXPECT_LT(expired.find("* sleep 250"), expired.find("lblBonus.ForeColor 16711680"));
+  EXPECT_EQ(flash(), kBlue);
+  EXPECT_FALSE(Is("Timer5.Enabled"));
+  driver.Do("advance 900");
+  EXPECT_GE(bar(), 9);
+  driver.Do(Hits("00"));
+  EXPECT_EQ(bonus(), "2000");
+}
+
+TEST_F(Blackrush, APauseKeepsTheCountersState) {
+  StartBlackrush(driver, {"10S", "1S", "9H"});
+  driver.Do(kPause + kPause);
+  EXPECT_FALSE(Is("Timer3.Enabled"));
+  driver.Do(Hits("00") + "advance 4600\n" + kPause);
+  EXPECT_EQ(
+      Those("Timer1 Timer3 Timer5 cmdPlay cmdExit mnuPlay mnuExit cmdHit(2) cmdPass cmdTakeScore", "Enabled"),
+      "Timer5");  // the words flash on
+  EXPECT_EQ(Those(kBoard + " lblTime ScoringLabelOutline", "Visible"), "lblTime ScoringLabelOutline");
+  driver.Do("advance 60000\n" + kPause + "advance 90");
+  EXPECT_EQ(Number("ProgressBar1.Value"), 52);
+  EXPECT_EQ(Those(kBoard + " ScoringLabelInfo ScoringLabelOutline", "Visible"), kBoard);
+}
+
+// --- Rounds and their ends ---------------------------------------------------------------------------
+
+TEST_F(Blackrush, AGameGoesThroughToTheTable) {
+  driver.Do(kOpenBlackrush + "click frmBlackrush.mnuMusic\n");
+  StartBlackrush(driver, {"10S", "1S", "10H", "1H", "10C", "1C", "2S"});
+  driver.Do(Hits("001122") + "advance 2500");
+  // Three 21s in a row pay three times three thousand, after the cards.
+  const std::string paid = driver.Trace(kTake);
+  EXPECT_EQ(Story(paid),
+            "silence, Count x6, 750, Count x9, silence, open, music, \"Prepare for Round 2\", 2000, "
+            "open, music");
+  EXPECT_EQ(Joined(LinesOf(paid, "* set frmBlackrush.lblRoundScore.Caption ")), "\"3 X 3,000 = 9,000\"");
+  EXPECT_EQ(LinesOf(paid, "* set frmBlackrush.lblRoundScoreCount.Caption ").at(1), "\"8000\"");
+  EXPECT_EQ(Joined(LinesOf(paid, "* set frmBlackrush.lbl21s.")),
+            "ForeColor 255|ForeColor 16711680|Caption \"0\"");
+  EXPECT_EQ(Joined(LinesOf(paid, "* set frmBlackrush.lblCardsUsed.")), "ForeColor 255|ForeColor 16711680");
+  EXPECT_EQ(Text("lblTotalScore.Caption") + Text("lblRound.Caption") + Text("lblBonus.Caption"),
+            "9,600Round: 20");
+  EXPECT_EQ(Panel(2), "Create columns of 21 to increase bonus score!   ");
+  EXPECT_EQ(Those("lblRoundScore lblRoundScoreCount ProgressBar1 lblTwentyoneTime", "Visible"),
+            "ProgressBar1 lblTwentyoneTime");
+  EXPECT_FALSE(Is("Timer3.Enabled"));
+  // The clock wasn't stopped: the round is two ticks old.
+  EXPECT_EQ(Text("lblTime.Caption"), "Time: 88");
+
+  // The bonus round wants more than its score.
+  EXPECT_EQ(Tell(kTake), "silence x2, open, music, \"Prepare for Round 3\", 2000, open, music");
+  common().CurrentScore = 250001;
+  EXPECT_EQ(Tell(kTake),
+            "silence x2, open, music, HighScore, \"Prepare for Bonus Round\", 2000, open, music");
+  EXPECT_EQ(Tell(kTake + kEnterName), "silence x2, HighScore, \"Game Over\", 2000");
+  EXPECT_EQ(folder.Read("BlackrushHiScores90.Txt").substr(0, 13), "Ann, 250001\r\n");
+  EXPECT_EQ(Panel(1) + Panel(2), "Click on Play to start a new game  Game Over ");
+  EXPECT_EQ(
+      Text("lblHighScore.Caption") + Text("lblRound.Caption") + Text("lblTime.Caption") + Text("Caption"),
+      "High Score: 250,001Game OverTime:Blackrush!");
+  EXPECT_EQ(
+      Those("Timer1 Timer3 Timer4 cmdPlay cmdExit mnuUserOptions mnuTimeLimit cmdPause mnuPause cmdHit(0)",
+            "Enabled"),
+      "Timer4 cmdPlay cmdExit mnuUserOptions mnuTimeLimit");
+  EXPECT_EQ(Those(kBoard + " ScoringLabelInfo ScoringLabelOutline frmSplash", "Visible"), "frmSplash");
+  EXPECT_EQ(Number("NextCardPicture.BorderStyle"), 0);
+  driver.Do(kPlayBlackrush);
+  EXPECT_EQ(Those(kBoard, "Visible"), kBoard);
+  Game().CurrentRound = 3;
+  common().CurrentScore = 250000;
+  EXPECT_TRUE(Tell(kTake + kEnterName).ends_with("\"Game Over\", 2000"));
+}
+
+TEST_F(Blackrush, TimeRunsOut) {
+  driver.Do(kOpenBlackrush + "click frmBlackrush.mnu30\n");
+  StartBlackrush(driver, {"10S", "1S", "9H"});
+  driver.Do("advance 14000");
+  EXPECT_EQ(Panel(2), "Create columns of 21 to increase bonus score!");
+  driver.Do("advance 9000");
+  EXPECT_EQ(Panel(2) + Text("lblTime.Caption"), "Better Hurry!Time: 7");
+  EXPECT_EQ(Number("lblTime.Left") + Number("lblTime.Width") / 2, Number("Column4(0).Left") + 1035 / 2);
+  driver.Do(Hits("002") + "advance 6000");
+  const std::string ended = driver.Trace("advance 1000");
+  EXPECT_EQ(Story(ended), "\"Times Up!\", 250 x10, Count x3, 750, Count x1, \"Prepare for Round 2\", 2000");
+  EXPECT_EQ(LinesOf(ended, "* set frmBlackrush.ScoringLabelInfo.ForeColor ").front(), std::to_string(kBlack));
+  EXPECT_LT(ended.find("* set frmBlackrush.Timer3.Enabled false"), ended.find("Times Up!"));
+  EXPECT_LT(ended.find("* set frmBlackrush.Column3(0).Visible false"), ended.find("Times Up!"));
+  EXPECT_TRUE(Contains(ended, "Panels(2).Text \"Time has expired!\""));
+  EXPECT_EQ(Score(), 300 + 1000);
+  // A time-out stops the clock: the next round has all its seconds, and its label waits for the first.
+  driver.Do("advance 999");
+  EXPECT_EQ(Text("lblTime.Caption"), "Time:");
+  driver.Do("advance 1");
+  EXPECT_EQ(Text("lblTime.Caption"), "Time: 29");
+  EXPECT_EQ(
+      Tell("advance 29000\nadvance 30000\n"),
+      "\"Times Up!\", 250 x10, \"Prepare for Round 3\", 2000, \"Times Up!\", 250 x10, \"Game Over\", 2000");
+  EXPECT_EQ(Those("ScoringLabelInfo ScoringLabelOutline", "Visible"), "");
+}
+
+// The counter may expire while the round is being paid; the next round begins at nothing all the same.
+TEST_F(Blackrush, ALateExpiryDoesntReachTheNextRound) {
+  StartBlackrush(driver, {"10S", "1S"});
+  driver.Do(Hits("00") + "advance 9050\n");
+  EXPECT_EQ(Tell(kTake), "Count x2, 750, Count x1, 250, \"Prepare for Round 2\", 2000");
+  EXPECT_EQ(Text("lblBonus.Caption"), "0");
+}
+
+TEST_F(Blackrush, ARoundThatIsntOpenCantRunOut) {
+  driver.Do(kOpenBlackrush + "click frmBlackrush.mnu15\n" + kPlayBlackrush + Hit(0));
+  Game().Timer4.OnTimer = [this] {  // something modal comes in while events are let through
+    Game().Timer4.Enabled = false;
+    common().Ask("Well?");
+  };
+  Game().Timer4.Enabled = true;
+  driver.Do("advance 150\n" + kTake + "advance 60000\nanswer \"Yes\"");
+  EXPECT_EQ(Text("lblRound.Caption"), "Round: 2");
+  EXPECT_EQ(common().ElapsedSeconds, 14);
+  EXPECT_EQ(Tell("advance 1000"), "\"Times Up!\", 250 x10, \"Prepare for Round 3\", 2000");
+}
+
+// --- Values from the settings file -------------------------------------------------------------------
+
+TEST_F(Blackrush, SettingsAreReadBack) {
+  folder.Write("Blackrush.Ini",
+               "[Timer Speed]\r\n360\r\n\r\n[Deck]\r\n1\r\n\r\n[Wait Period]\r\n40000\r\n\r\n");
+  driver.Do(kOpenBlackrush);
+  EXPECT_EQ(Number("Timer3.Interval"), 360);
+  EXPECT_TRUE(Is("mnuHot.Checked") && common().CustomScoringInUse);
+  EXPECT_EQ(Game().WaitPeriod, 2000);  // what doesn't fit was skipped
+  driver.Do("state frmBlackrush 2\nclose frmBlackrush\nanswer \"Yes\"\n");
+  const std::string kept = folder.Read("Blackrush.Ini");
+  for (const char* part :
+       {"[Timer Speed]\r\n360\r\n", "[Deck]\r\n1\r\n", "[State]\r\n2\r\n\r\n[Width]\r\n9060\r\n"})
+    EXPECT_TRUE(Contains(kept, part)) << part;
+  folder.Write("Blackrush.Ini", "[Timer Speed]\r\n91\r\n\r\n");
+  driver.Do(kOpenBlackrush);
+  EXPECT_EQ(Number("Timer3.Interval") + Game().CounterSpeed, 180);
+}
+
+TEST_F(Blackrush, WhatValuesFromTheFilePay) {
+  const struct {
+    const char *section, *value, *story;
+    int score;
+  } values[] = {
+      {"[Count Down Score]", "False", "500, 750, 500, \"Prepare for Round 2\", 2000", 1200},
+      {"[TwentyOne Bonus Value]", "0", "Count x2, 750, 500, \"Prepare for Round 2\", 2000", 200},
+      {"[TwentyOne Bonus Value]", "-50", "Count x2, 750, 500, \"Prepare for Round 2\", 2000", 150},
+      {"[Cards Used Bonus Value]", "-7", "Count x2, 750, Count x1, \"Prepare for Round 2\", 2000", 986},
+      {"[Wait Period]", "-9", "Count x2, 750, Count x1, \"Prepare for Round 2\", 0", 1200},
+      {"[Cards To Pass]", "-2", "Count x2, 750, Count x1, \"Prepare for Round 2\", 2000", 1200},
+  };
+  for (const auto& each : values) {
+    folder.Write("Blackrush.Ini", std::string(each.section) + "\r\n" + each.value + "\r\n\r\n");
+    Driver suite(folder.Path());
+    StartBlackrush(suite, {"10S", "1S"});
+    suite.Do(Hits("00"));
+    EXPECT_EQ(Story(suite.Trace(kTake)), each.story) << each.section << each.value;
+    EXPECT_EQ(suite.common().CurrentScore, each.score) << each.section << each.value;
+  }
+}
+
+TEST_F(Blackrush, AnOverflowEndsTheGameAndKeepsTheScore) {
+  folder.Write("Blackrush.Ini", "[TwentyOne Bonus Value]\r\n2147483647\r\n\r\n");
+  StartBlackrush(driver, {"10S", "1S", "10H", "1H"});
+  driver.Do(Hits("001"));
+  common().CurrentScore = 60000;
+  EXPECT_EQ(Tell(Hit(1) + "answer \"OK\"\n" + kEnterName), "box, HighScore, \"Game Over\", 2000");
+  EXPECT_EQ(folder.Read("BlackrushHiScores90.Txt").substr(0, 12), "Ann, 60000\r\n");
+  EXPECT_EQ(Those(kBoard + " ScoringLabelInfo frmSplash", "Visible"), "frmSplash");
+  // In the middle of a count, too: nothing is left of it.
+  StartBlackrush(driver, {"10S", "1S", "10H"});
+  driver.Do(Hits("001"));
+  EXPECT_EQ(Joined(BoxesOf(driver.Do(kTake + "answer \"OK\"\n" + kEnterName))), "Overflow");
+  driver.Do(kPlayBlackrush);
+  EXPECT_EQ(Those("ProgressBar1 lblRoundScore", "Visible"), "ProgressBar1");
+  EXPECT_EQ(Number("lblCardsUsed.ForeColor"), kBlue);
+}
+
+// --- End Game and closing ----------------------------------------------------------------------------
+
+TEST_F(Blackrush, EndGameLeavesTheTableAlone) {
+  driver.Do(kOpenBlackrush + "click frmBlackrush.mnuMusic\n");
+  StartBlackrush(driver, {"10S"});
+  common().CurrentScore = 60000;
+  const std::string asked = driver.Trace("click frmBlackrush.mnuPlay\nadvance 3000\nanswer \"No\"\n");
+  EXPECT_EQ(Story(asked), "silence, box, open, music");
+  EXPECT_TRUE(Contains(asked, R"({"text":"You have a game in progress. Are you sure you want to quit?",)"
+                              R"("title":"Blackrush!","icon":"question","buttons":["Yes","No"]})"));
+  EXPECT_EQ(common().ElapsedSeconds, 3);  // the clock ran on
+  EXPECT_EQ(Tell(kPlayBlackrush + "answer \"Yes\"\n"), "silence, box, silence, \"Game Over\", 2000");
+  EXPECT_TRUE(folder.Read("BlackrushHiScores90.Txt").starts_with("Quillmark, 50000\r\n"));
+  EXPECT_EQ(Panel(2), "Game Over ");
+  // The next game is for the table again.
+  driver.Do(kPlayBlackrush);
+  common().CurrentScore = 60000;
+  Game().CurrentRound = 4;
+  driver.Do(kTake + kEnterName);
+  EXPECT_TRUE(folder.Read("BlackrushHiScores90.Txt").starts_with("Ann, 60000\r\n"));
+}
+
+TEST_F(Blackrush, TheClockRunsOnUnderTheQuestions) {
+  driver.Do(kOpenBlackrush + "click frmBlackrush.mnu15\nclick frmBlackrush.mnuMusic\n" + kPlayBlackrush);
+  // A round ends under the question, and the game goes on in the next.
+  EXPECT_EQ(Tell(kPlayBlackrush + "advance 16000\nanswer \"No\"\n"),
+            "silence, box, \"Times Up!\", 250 x10, silence x2, open, music, \"Prepare for Round 2\", 2000, "
+            "open, music, open, music");
+  EXPECT_EQ(Text("cmdPlay.ToolTipText"), "Ends the game in progress");
+  // The whole game does: there is nothing left to end, and nothing to play to.
+  for (const std::string answer : {"No", "Yes"}) {
+    const std::string told =
+        Tell(kPlayBlackrush + "advance 16000\nadvance 16000\nadvance 16000\nanswer \"" + answer + "\"\n");
+    EXPECT_TRUE(told.ends_with("\"Game Over\", 2000")) << told;
+    EXPECT_EQ(Text("cmdPlay.Caption") + Text("cmdPlay.ToolTipText"), "&PlayStarts a new game");
+    driver.Do(kPlayBlackrush);
+  }
+  driver.Do(
+      "close frmBlackrush\nadvance 2000\nanswer \"No\"\nstate frmBlackrush 1\nadvance 1000\nstate frmBlackrush 0");
+  EXPECT_EQ(common().ElapsedSeconds, 3) << "nor does a minimised window stop it";
+}
+
+TEST_F(Blackrush, TheBoardIsPlacedFromTheMiddle) {
+  driver.Do(kOpenBlackrush);
+  const std::tuple<std::string, int, int> places[] = {
+      {"Column1(0)", 270, 2355}, {"Column4(4)", 4554, 3945},    {"cmdHit(3)", 4584, 5520},
+      {"cmdPass", 6012, 5520},   {"NextCardPicture", 1815, 60}, {"lblBust", 3420, 1155}};
+  for (const auto& [width, height] : {std::pair(9060, 7155), {14000, 9000}}) {
+    driver.Do("resize frmBlackrush " + std::to_string(width) + " " + std::to_string(height));
+    for (const auto& [control, left, top] : places) {
+      EXPECT_EQ(Number(control + ".Left"), left + (width - 9060) / 2) << control;
+      EXPECT_EQ(Number(control + ".Top"), top + (height - 7155) / 2) << control;
+    }
+  }
+}
+
+}  // namespace

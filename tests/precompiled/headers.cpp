@@ -1,0 +1,1 @@
+// The headers are all that there is to compile.
