@@ -38,7 +38,8 @@ std::string Usage(Program program);
 std::optional<int> ReadCommandLine(Program program, int argc, char** argv, Options& options);
 
 // The folder for settings, tables and saved games: the one that --folder names; the program's own if it holds
-// a file named "portable"; else the player's data folder, to which files of earlier versions move. Throws std::runtime_error if there is none to be had.
+// a file named "portable"; else the player's data folder, to which files of earlier versions move. Throws
+// std::runtime_error if there is none to be had.
 std::filesystem::path FindAppPath(const Options& options);
 // The folder with pictures, sounds and music; where it should be if there is none.
 std::filesystem::path FindDataFolder();

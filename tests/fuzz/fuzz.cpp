@@ -93,12 +93,6 @@ void CommandLine(const std::string& text) {
     }
 }
 
-void Svg([[maybe_unused]] const std::string& text) {
-#ifdef CARDHAVEN_FUZZ_DESKTOP
-  WhyNotDraw(text);
-#endif
-}
-
 struct Reader {
   const char* name;
   void (*read)(const std::string& text);
@@ -109,7 +103,9 @@ constexpr Reader kReaders[] = {
     {"saved", Saved},
     {"options", CommandLine},
     {"console", [](const std::string& text) { Console(text, nullptr, ""); }},
-    {"svg", Svg},
+#ifdef CARDHAVEN_FUZZ_DESKTOP
+    {"svg", [](const std::string& text) { WhyNotDraw(text); }},
+#endif
 };
 
 }  // namespace

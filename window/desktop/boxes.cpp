@@ -1,5 +1,8 @@
 #include "window/desktop/boxes.h"
 
+#include <QGridLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
@@ -25,6 +28,26 @@ QMessageBox::Icon IconOf(Icon icon) {
     default:
       return QMessageBox::NoIcon;
   }
+}
+
+// A text that would make the box larger than the screen scrolls in it.
+void KeepOnScreen(QMessageBox& box) {
+  auto* const label = box.findChild<QLabel*>("qt_msgbox_label");
+  auto* const grid = qobject_cast<QGridLayout*>(box.layout());
+  const QSize room = box.screen()->availableGeometry().size();
+  const int width = std::min(600, room.width() * 2 / 3), height = room.height() * 3 / 5;
+  const QRect needs =
+      label ? label->fontMetrics().boundingRect(QRect(0, 0, width, 1000000),
+                                                Qt::TextWordWrap | Qt::TextWrapAnywhere, box.text())
+            : QRect();
+  if (!grid || needs.height() <= height) return;
+  auto* const text = new QPlainTextEdit(box.text());
+  text->setReadOnly(true);
+  text->setFrameShape(QFrame::NoFrame);
+  text->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  text->setFixedSize(width, height);
+  label->hide();
+  delete grid->replaceWidget(label, text);
 }
 
 // A box in the middle of the window behind it. It isn't that window's child: a timer may take the window away
@@ -80,6 +103,7 @@ Answer DesktopFrontEnd::RunBox(const MessageBox& box) {
   dialog.setTextFormat(Qt::PlainText);
   dialog.setText(QString::fromStdString(box.text));
   dialog.setIcon(IconOf(box.icon));
+  KeepOnScreen(dialog);
   for (Answer each : answers) dialog.addButton(ButtonOf(each))->setIcon(QIcon());
   dialog.setDefaultButton(ButtonOf(answers.front()));
   dialog.setEscapeButton(ButtonOf(answers.back()));
