@@ -23,7 +23,7 @@ class Suite {
 
  private:
   void Fail(const std::string& description);
-  void KeepAWindow();
+  void AfterHandler();
 
   std::vector<GameEntry> games_;
   frmSelect selector_;
