@@ -1,26 +1,13 @@
 // How fast Blackrush is without a screen: what a bot that plays it waits for.
 #include <benchmark/benchmark.h>
 
-#include "bench/null_front_end.h"
+#include "bench/open_table.h"
 #include "games/blackrush/blackrush.h"
-#include "games/games.h"
-#include "suite/suite.h"
 
 namespace {
 
-// A suite with Blackrush open. Its folder can't be written, so that the tables are kept in memory.
-struct Table {
-  Table() {
-    platform.random.Seed(1);
-    suite.Start();
-    player::Click(*platform.FindForm("frmSelect")->find("cmdBlackrush"));
-    game = static_cast<frmBlackrush*>(suite.common.window);
-  }
-
-  NullFrontEnd front;
-  Platform platform{front};
-  Suite suite{platform, {"/nowhere/to/be/found"}, AllGames()};
-  frmBlackrush* game;
+struct Table : OpenTable<frmBlackrush> {
+  Table() : OpenTable("cmdBlackrush") {}
 };
 
 // The column on which the next card makes most, or -1 if it goes over 21 everywhere.

@@ -1,28 +1,15 @@
 // How fast Duopick is without a screen: what a bot that plays it waits for.
 #include <benchmark/benchmark.h>
 
-#include "bench/null_front_end.h"
+#include "bench/open_table.h"
 #include "games/duopick/duopick.h"
-#include "games/games.h"
-#include "suite/suite.h"
 
 namespace {
 
 using namespace modDuopick;
 
-// A suite with Duopick open. Its folder can't be written, so that the tables are kept in memory.
-struct Table {
-  Table() {
-    platform.random.Seed(1);
-    suite.Start();
-    player::Click(*platform.FindForm("frmSelect")->find("cmdDuopick"));
-    game = static_cast<frmDuopick*>(suite.common.window);
-  }
-
-  NullFrontEnd front;
-  Platform platform{front};
-  Suite suite{platform, {"/nowhere/to/be/found"}, AllGames()};
-  frmDuopick* game;
+struct Table : OpenTable<frmDuopick> {
+  Table() : OpenTable("cmdDuopick") {}
 };
 
 // Two cards that may be taken, those that make a pair before those that make a run.

@@ -1,28 +1,15 @@
 // How fast Fivestack is without a screen: what a bot that plays it waits for.
 #include <benchmark/benchmark.h>
 
-#include "bench/null_front_end.h"
+#include "bench/open_table.h"
 #include "games/fivestack/fivestack.h"
-#include "games/games.h"
-#include "suite/suite.h"
 
 namespace {
 
 using namespace modFivestack;
 
-// A suite with Fivestack open. Its folder can't be written, so that the tables are kept in memory.
-struct Table {
-  Table() {
-    platform.random.Seed(1);
-    suite.Start();
-    player::Click(*platform.FindForm("frmSelect")->find("cmdFivestack"));
-    game = static_cast<frmFivestack*>(suite.common.window);
-  }
-
-  NullFrontEnd front;
-  Platform platform{front};
-  Suite suite{platform, {"/nowhere/to/be/found"}, AllGames()};
-  frmFivestack* game;
+struct Table : OpenTable<frmFivestack> {
+  Table() : OpenTable("cmdFivestack") {}
 };
 
 // The fullest column that the next card doesn't ruin, or -1.

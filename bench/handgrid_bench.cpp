@@ -1,26 +1,13 @@
 // How fast Handgrid is without a screen: what a bot that plays it waits for.
 #include <benchmark/benchmark.h>
 
-#include "bench/null_front_end.h"
-#include "games/games.h"
+#include "bench/open_table.h"
 #include "games/handgrid/handgrid.h"
-#include "suite/suite.h"
 
 namespace {
 
-// A suite with Handgrid open. Its folder can't be written, so that the tables are kept in memory.
-struct Table {
-  Table() {
-    platform.random.Seed(1);
-    suite.Start();
-    player::Click(*platform.FindForm("frmSelect")->find("cmdHandgrid"));
-    game = static_cast<frmHandgrid*>(suite.common.window);
-  }
-
-  NullFrontEnd front;
-  Platform platform{front};
-  Suite suite{platform, {"/nowhere/to/be/found"}, AllGames()};
-  frmHandgrid* game;
+struct Table : OpenTable<frmHandgrid> {
+  Table() : OpenTable("cmdHandgrid") {}
 };
 
 // Laying a card, with the judgement of all ten hands. The last cell stays empty, so that the round goes on.

@@ -1,26 +1,13 @@
 // How fast Spirehold is without a screen: what a bot that plays it waits for.
 #include <benchmark/benchmark.h>
 
-#include "bench/null_front_end.h"
-#include "games/games.h"
+#include "bench/open_table.h"
 #include "games/spirehold/spirehold.h"
-#include "suite/suite.h"
 
 namespace {
 
-// A suite with Spirehold open. Its folder can't be written, so that the tables are kept in memory.
-struct Table {
-  Table() {
-    platform.random.Seed(1);
-    suite.Start();
-    player::Click(*platform.FindForm("frmSelect")->find("cmdSpirehold"));
-    game = static_cast<frmSpirehold*>(suite.common.window);
-  }
-
-  NullFrontEnd front;
-  Platform platform{front};
-  Suite suite{platform, {"/nowhere/to/be/found"}, AllGames()};
-  frmSpirehold* game;
+struct Table : OpenTable<frmSpirehold> {
+  Table() : OpenTable("cmdSpirehold") {}
 };
 
 // The first card that may be taken, or -1.

@@ -1,28 +1,15 @@
 // How fast Treyshift is without a screen: what a bot that plays it waits for.
 #include <benchmark/benchmark.h>
 
-#include "bench/null_front_end.h"
-#include "games/games.h"
+#include "bench/open_table.h"
 #include "games/treyshift/treyshift.h"
-#include "suite/suite.h"
 
 namespace {
 
 using namespace modTreyshift;
 
-// A suite with Treyshift open. Its folder can't be written, so that the tables are kept in memory.
-struct Table {
-  Table() {
-    platform.random.Seed(1);
-    suite.Start();
-    player::Click(*platform.FindForm("frmSelect")->find("cmdTreyshift"));
-    game = static_cast<frmTreyshift*>(suite.common.window);
-  }
-
-  NullFrontEnd front;
-  Platform platform{front};
-  Suite suite{platform, {"/nowhere/to/be/found"}, AllGames()};
-  frmTreyshift* game;
+struct Table : OpenTable<frmTreyshift> {
+  Table() : OpenTable("cmdTreyshift") {}
 };
 
 // A deck of thirteen trips and four flushes, each of three cards in a row.

@@ -94,13 +94,17 @@ void GameWindow::LeaveIdle() {
 
 void GameWindow::StartGame() {
   HideMessage();
-  phase = Phase::Playing;
+  phase = Phase::Scoring;
   try {
     Play();
   } catch (const std::exception& error) {
     PlayFailed(error.what());
   }
-  if (Loaded() && !common.GameInProgress) BackToIdle();
+  if (!Loaded()) return;
+  if (!common.GameInProgress)
+    BackToIdle();
+  else if (phase == Phase::Scoring)
+    phase = Phase::Playing;
 }
 
 void GameWindow::PlayFailed(const std::string& description) {
@@ -254,9 +258,10 @@ void GameWindow::Form_StateChange(int before) {
 
 // --- Closing -------------------------------------------------------------------------------------
 
-// What comes in between two steps of a round's end can't close the window under them.
+// What comes in between two steps of a round's end can't close the window under them: the question waits.
 void GameWindow::Form_QueryUnload(bool& cancel) {
-  if (phase == Phase::Scoring) {
+  closeWanted_ = phase == Phase::Scoring;
+  if (closeWanted_) {
     cancel = true;
     return;
   }
@@ -267,6 +272,10 @@ void GameWindow::Form_QueryUnload(bool& cancel) {
                                           : "Are you sure you want to quit now? Were just getting started!";
   cancel = !common.Ask(question);
   AfterClosingQuestion(!cancel);
+}
+
+void GameWindow::CloseIfWanted() {
+  if (std::exchange(closeWanted_, false)) Unload();
 }
 
 // The clock stops first: a disk that refuses is told in a box, under which timers tick.

@@ -25,7 +25,7 @@ enum class Phase {
   Idle,     // the splash panel
   Playing,  // a round runs
   Paused,
-  Scoring,  // a round is being paid, or the next one announced
+  Scoring,  // a round is being paid, or the next one made ready
   Over      // the game has ended, and no other has begun
 };
 
@@ -236,6 +236,10 @@ class GameWindow : public Form {
   void ShowBack(Image& image);
   void ShowEmpty(Image& image);
 
+  // The close box was pressed while a round was being paid, and the question can be asked now; and asks it.
+  bool ClosesNow() const { return closeWanted_ && phase != Phase::Scoring; }
+  void CloseIfWanted();
+
   // If the player wants them.
   void PlaySound(const char* path);
   void StartMusic();
@@ -312,4 +316,5 @@ class GameWindow : public Form {
 
   int SplashPosition_ = 0;
   bool SplashForward_ = false, SplashShowBack_ = false;
+  bool closeWanted_ = false;
 };

@@ -61,7 +61,8 @@ void frmSelect::Form_Terminate() {
 void frmSelect::Open(const GameEntry& game) {
   common_.AppTitle = game.title;
   MousePointer = kHourglass;
-  window_.reset();
+  if (platform.HandlersUnderWay() <= 1) gone_.clear();
+  if (window_) gone_.push_back(std::move(window_));
   window_ = game.create(common_);
   window_->Show();
   MousePointer = kDefaultPointer;

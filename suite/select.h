@@ -36,6 +36,8 @@ class frmSelect : public Form {
   modCommon& common_;
   const std::vector<GameEntry>& games_;
   std::unique_ptr<GameWindow> window_;  // the game window opened last
+  std::vector<std::unique_ptr<GameWindow>>
+      gone_;  // those before it, while a handler of theirs may be under way
   int SplashPosition_ = 0, SplashBackIndex_ = 0;
   bool SplashForward_ = false, SplashShowBack_ = false;
 };

@@ -6,7 +6,7 @@ Suite::Suite(Platform& platform, const SuiteOptions& options, std::vector<GameEn
     : common(platform, options.AppPath), games_(std::move(games)), selector_(common, games_) {
   platform.OnFailure = [this](const std::string& description) { Fail(description); };
   platform.OnLeave = [this] { Leave(); };
-  platform.AfterHandler = [this] { KeepAWindow(); };
+  platform.AfterHandler = [this] { AfterHandler(); };
 }
 
 Suite::~Suite() {
@@ -49,8 +49,11 @@ void Suite::Fail(const std::string& description) {
   selector_.MousePointer = kDefaultPointer;
 }
 
-// Whatever a handler has led to, the player has a window to go on in.
-void Suite::KeepAWindow() {
+// A close box that was pressed meanwhile has its turn; and whatever a handler has led to, the player has a
+// window to go on in.
+void Suite::AfterHandler() {
+  if (GameWindow* window = common.window; window && window->ClosesNow())
+    common.platform.Dispatch([window] { window->CloseIfWanted(); });
   const bool anyShown =
       std::ranges::any_of(common.platform.forms, [](const Form* form) { return form->Visible.get(); });
   if (!anyShown) selector_.Show();

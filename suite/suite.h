@@ -24,7 +24,7 @@ class Suite {
  private:
   void Leave();
   void Fail(const std::string& description);
-  void KeepAWindow();
+  void AfterHandler();
 
   std::vector<GameEntry> games_;
   frmSelect selector_;

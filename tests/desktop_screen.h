@@ -24,6 +24,7 @@ inline bool OpenScreen() {
   setenv("QT_QPA_PLATFORM", "offscreen", 0);
   setenv("SDL_AUDIODRIVER", "dummy", 0);
   application = new QApplication(count, arguments);
+  unsetenv("QT_QPA_PLATFORM");  // not for the programs that tests start
   style::Apply(*application);
   return true;
 }

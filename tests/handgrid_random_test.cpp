@@ -42,14 +42,13 @@ class HandgridPlayer : public RandomPlayer {
     bonusRounds += game.CurrentRound == 4;
     ASSERT_EQ(game.lblCurrentScore.Caption, FormatNumber(common.CurrentScore));
     if (game.DeckPosition == 2 && common.ElapsedSeconds == 0) CheckDeck(game);
-    const bool looks = !game.IsPaused() && Chance(10);  // looking a picture up takes time
+    const bool looks = !game.IsPaused() && Chance(10);  // looking at each card takes time
     int empty = 0;
-    for (int cell = 0; cell < modHandgrid::kCells; ++cell) {
+    for (const std::string& code : game.PlayedCards) empty += code.empty();
+    for (int cell = 0; looks && cell < modHandgrid::kCells; ++cell) {
       const std::string& code = game.PlayedCards[cell];
       const Image& image = game.PlayCards(cell);
-      ASSERT_EQ(image.Visible, !game.IsPaused());
-      empty += code.empty();
-      if (!looks) continue;
+      ASSERT_TRUE(image.Visible);
       ASSERT_EQ(image.Picture, common.ImageList2(code.empty() ? "EMPTY" : CardKey(code))) << cell;
       ASSERT_EQ(image.BorderStyle, code.empty() ? 0 : 1) << cell;
     }
@@ -60,7 +59,7 @@ class HandgridPlayer : public RandomPlayer {
     ASSERT_EQ(game.DeckPosition - 2, 25 - empty + game.OverWritesUsed);
     ASSERT_LE(game.OverWritesUsed, game.OverWritesAllowed);
     ASSERT_EQ(game.lblTimeBonus.Caption, std::to_string(common.TimeLimit - common.ElapsedSeconds));
-    CheckHands(game);
+    if (looks) CheckHands(game);
   }
 
   // Each card is there once.

@@ -116,6 +116,8 @@ class Platform : public Observer {
   void End(const std::string& failure = "");
   bool HasEnded() const { return ended_; }
 
+  // How many handlers are under way, one within the other.
+  int HandlersUnderWay() const { return handlers_; }
   // Runs a handler of an event. A failure in it ends it and is told to `OnFailure`.
   void Dispatch(const std::function<void()>& handler);
   // Serves the earliest tick that is due by now; false if there is none.

@@ -128,8 +128,7 @@ void frmHandgrid::SetUpLabels() {
     label->FontBold = true;
   for (Label* label : {&lblTime, &lblScore, &lblCards, &lblPointsEarned, &lblHighScore}) label->Alignment = 2;
   for (int line = 1; line <= kSide; ++line)
-    for (Label* label : {&lblRow(line), &lblCol(line)}) {
-      label->FontBold = true;
+    for (Label* label : {&lblRow(line), &lblCol(line)}) {  // not in bold: two long names stand side by side
       label->AutoSize = true;
       label->ForeColor = kButtonText;
       label->Caption = HandName(Hand::Nothing);

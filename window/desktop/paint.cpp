@@ -215,7 +215,7 @@ void PaintOutlined(QPainter& painter, const TextBlock& block, const QColor& colo
   for (const TextLine& line : block.lines) letters.addText(line.baseline, block.font, line.text);
   letters.setFillRule(Qt::WindingFill);
   const QColor outline = GroundFor(colour);
-  const double breadth = std::clamp(block.font.pixelSize() / 5.0, 4.0, 8.0);
+  const double breadth = std::clamp(block.font.pixelSize() / 5.0, 6.0, 8.0);
   QColor halo = outline;
   halo.setAlpha(90);
   painter.strokePath(letters, QPen(halo, breadth + 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
