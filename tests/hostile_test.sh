@@ -70,7 +70,13 @@ mkfifo "$picture"
 refused pipe "it is no plain file"
 
 # A picture that takes for ever to draw doesn't make the program deaf.
-echo "$open<path d='M0 0H76V98H0Z' stroke='red' stroke-dasharray='0.000001' stroke-width='3'/></svg>" >"$picture"
+{
+  echo "$open"
+  for _ in $(seq 4000); do
+    echo "<path d='M0 0H76V98H0Z' stroke='red' stroke-dasharray='0.05 0.05' stroke-width='3'/>"
+  done
+  echo "</svg>"
+} >"$picture"
 (
   echo 'click frmSelect.cmdSumfall'
   echo 'click frmSumfall.cmdPlay'
