@@ -1,7 +1,5 @@
 #include "suite/dialogs.h"
 
-#include <cstdlib>
-
 #include "suite/high_scores.h"
 #include "window/text.h"
 
@@ -126,10 +124,8 @@ frmAbout::frmAbout(modCommon& common) : Form(common.platform, "frmAbout"), commo
   lblInfo.Alignment = 2;
   lblStats.Alignment = 2;
   const std::string folder = common.files.Folder().string();
-  const char* const home = std::getenv("HOME");
-  const bool isAtHome = home && *home && folder.starts_with(std::string(home) + "/");
   lblFolder.Alignment = 2;
-  lblFolder.Caption = "Kept in " + (isAtHome ? "~" + folder.substr(std::string(home).size()) : folder);
+  lblFolder.Caption = "Kept in " + folder;
   lblFolder.ToolTipText = "Settings, high scores and saved games are kept in " + folder;
   cmdCoolDude.Default = cmdCoolDude.Cancel = true;
   cmdCoolDude.OnClick = [this] { Unload(); };

@@ -125,7 +125,8 @@ void GameWindow::BackToIdle() {
   cmdPause.ToolTipText = plan.names.pauseTip;
   for (CommandButton* button : {&cmdPlay, &cmdExit}) button->Enabled = true;
   for (CommandButton* button : {&cmdPause, &cmdTakeScore}) button->Enabled = false;
-  for (Menu* entry : {&mnuPlay, &mnuExit, &mnuCustom, &mnuTime}) entry->Enabled = true;
+  for (Menu* entry : {&mnuPlay, &mnuExit}) entry->Enabled = true;
+  EnableOptions(true);
   for (Menu* entry : {&mnuPause, &mnuTakeScore}) entry->Enabled = false;
   ShowCards(false);
   ShowSplash(true);

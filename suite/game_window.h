@@ -110,6 +110,8 @@ class GameWindow : public Form {
   virtual void InitRound() {}
   // The captions of the button and the menu entry Play at once.
   virtual void SetPlayCaption(const char* caption);
+  // The menu entries for what can't be changed during a game.
+  virtual void EnableOptions(bool enable);
 
   // --- The round clock -----------------------------------------------------------------------------
   // A second has passed.

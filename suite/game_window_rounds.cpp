@@ -10,7 +10,7 @@ void GameWindow::OpenRound() {
   HideMessage();
   ShowRoundTime();
   SetPlayCaption(plan.names.endGame);
-  for (Menu* entry : {&mnuCustom, &mnuTime}) entry->Enabled = false;
+  EnableOptions(false);
   for (Menu* entry : {&mnuPause, &mnuTakeScore}) entry->Enabled = true;
   EnableButtons(true);
   ShowControls(true);
@@ -88,8 +88,7 @@ void GameWindow::FinishGame() {
     phase = Phase::Over;
     common.GameInProgress = false;
     SetPlayCaption("&Play");
-    mnuCustom.Enabled = true;
-    mnuTime.Enabled = true;
+    EnableOptions(true);
     cmdPause.Enabled = false;
     cmdTakeScore.Enabled = false;
     mnuPause.Enabled = false;

@@ -14,6 +14,10 @@ void GameWindow::EnableEntries(bool enable) {
   for (Menu* entry : {&mnuPlay, &mnuTakeScore, &mnuPause, &mnuExit}) entry->Enabled = enable;
 }
 
+void GameWindow::EnableOptions(bool enable) {
+  for (Menu* entry : {&mnuCustom, &mnuTime}) entry->Enabled = enable;
+}
+
 void GameWindow::ShowMessage(const std::string& text) {
   lblMessage.Caption = text;
   lblMessage.Visible = true;

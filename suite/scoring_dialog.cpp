@@ -118,10 +118,14 @@ bool ScoringDialog::TakeField(size_t field) {
     return true;
   }
   if (refusal->setting) TakeRefused(field, *refusal->setting);
-  window.common.MsgBox(refusal->message, Icon::Information);
-  refusal->box->Text = refusal->text;
-  refusal->box->SetFocus();
+  TellRefusal(*refusal);
   return false;
+}
+
+void ScoringDialog::TellRefusal(const Refusal& refusal) {
+  window.common.MsgBox(refusal.message, Icon::Information);
+  refusal.box->Text = refusal.text;
+  refusal.box->SetFocus();
 }
 
 void ScoringDialog::TakeRest() {

@@ -82,6 +82,8 @@ class ScoringDialog : public Form {
   virtual std::string Shown(size_t field);
   // Why the number in a field is refused, if it is; by the bounds of the table.
   virtual std::optional<Refusal> Judge(size_t field, double value);
+  // Tells why a number is refused, and puts the field right.
+  virtual void TellRefusal(const Refusal& refusal);
   // Takes a number that passed; and the setting that goes with one that was refused.
   virtual void Take(size_t field, double value);
   virtual void TakeRefused(size_t field, long long setting);

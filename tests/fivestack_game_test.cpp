@@ -646,4 +646,17 @@ TEST_F(Fivestack, TheBoardIsPlacedFromTheMiddle) {
   }
 }
 
+// Its own way with settings: what isn't "True" is off, and the default limit's table is looked at first.
+TEST(FivestackSettings, AreReadInItsOwnWay) {
+  TestFolder folder;
+  folder.Write("Fivestack.Ini",
+               "[Time]\r\n30\r\n\r\n[Play Sounds]\r\nperhaps\r\n\r\n[Play Music]\r\nTrue\r\n\r\n");
+  Driver driver(folder.Path());
+  driver.Do("click frmSelect.cmdFivestack");
+  EXPECT_EQ(driver.Get("frmFivestack.mnuSounds.Checked"), false);
+  EXPECT_EQ(driver.Get("frmFivestack.mnuMusic.Checked"), true);
+  EXPECT_FALSE(driver.common().PlaySounds);
+  EXPECT_TRUE(folder.Has("HiScores60.Txt") && folder.Has("HiScores30.Txt"));
+}
+
 }  // namespace

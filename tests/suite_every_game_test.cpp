@@ -1,6 +1,7 @@
 // What holds for every game of the suite, from the day on which it is named in `AllGames`.
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <set>
 
 #include "suite/high_scores.h"
@@ -301,6 +302,25 @@ TEST_P(EveryGame, SmallScreensAndSizesAreHeld) {
   EXPECT_TRUE(Contains(folder.Read(file), "[State]\r\n2\r\n"));
   Open();
   EXPECT_EQ(Game().Width, driver.platform().ScreenExtent().width);
+}
+
+TEST_P(EveryGame, AWindowKeptOnALargerScreenFitsASmallOne) {
+  const std::string file = std::string(Plan().names.settingsFile).substr(1);
+  driver.Do("close " + Window() + "\nanswer \"Yes\"");
+  std::string settings = folder.Read(file);
+  for (const char* size : {"[Width]\r\n", "[Height]\r\n"})
+    settings.insert(settings.find(size) + strlen(size), "4");
+  folder.Write(file, settings);
+  for (const Extent screen :
+       {Extent{640 * 15, 480 * 15}, Extent{320 * 15, 200 * 15}, Extent{2560 * 15, 1440 * 15}}) {
+    RunOptions options;
+    options.console.screen = screen;
+    Driver other(folder.Path(), options);
+    other.Do("click frmSelect." + GetParam());
+    const GameWindow& game = *other.common().window;
+    EXPECT_EQ(game.Width, std::max(Plan().width, screen.width));
+    EXPECT_EQ(game.Height, std::max(Plan().height, screen.height));
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Games, EveryGame, ::testing::ValuesIn(Buttons()),

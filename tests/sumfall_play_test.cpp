@@ -389,4 +389,15 @@ TEST_F(Sumfall, AStrangeGoalPlaysTheSmallDeck) {
   EXPECT_TRUE(folder.Has("HiScores90_9.Txt"));
 }
 
+// The dial was in its last quarter: nothing draws it again while the next round is announced.
+TEST(SumfallPlay, AClearedDialStaysClear) {
+  TestFolder folder;
+  Driver driver(folder.Path());
+  driver.Do(kOpenSumfall + "click frmSumfall.mnuDrawTimer\n" + kPlay + "advance 75000");
+  const std::string said = driver.Trace(kTakeScore);
+  const size_t letThrough = said.find("* doevents");
+  ASSERT_NE(letThrough, std::string::npos);
+  EXPECT_EQ(said.find("* draw frmSumfall.Surface pie", letThrough), std::string::npos);
+}
+
 }  // namespace

@@ -324,4 +324,13 @@ TEST(SumfallSaved, AGameWithoutCardsLeavesAWindow) {
   }
 }
 
+TEST(SumfallSaved, ReturnIsOk) {
+  TestFolder folder;
+  Driver driver(folder.Path());
+  driver.Do(kOpenSumfall +
+            "click frmSumfall.mnuSave\ntype frmSave.txtGameName \"one\"\ntype frmSave.txtUserName \"Ann\"\n"
+            "key frmSave \"Return\"");
+  EXPECT_TRUE(folder.Has("one.sfl"));
+}
+
 }  // namespace

@@ -75,6 +75,8 @@ class frmFivestack : public GameWindow {
 
   // --- The frame's plan --------------------------------------------------------------------------
   std::string Welcome() const override { return "Welcome to " + common.AppTitle + "   "; }
+  // The entry of the default limit runs before the file is read.
+  void SetDefaults() override { ChooseTimeLimit(plan.timeLimit); }
   bool ApplyGameSetting(std::string_view section, std::string_view value) override;
   void SettingsRead() override;
   void LeaveIdle() override;

@@ -43,7 +43,7 @@ constexpr GamePlan kPlan{
 constexpr int kColumnLefts[kColumns] = {420, 1875, 3330, 4785, 6240};
 constexpr int kSlotTops[kCardsOfColumn] = {2550, 2940, 3345, 3750, 4140};
 constexpr int kCardWidth = 1035, kCardHeight = 1455;
-constexpr int kTotalTop = 1815, kTotalWidth = 495, kTotalHeight = 360, kSoftTop = 2235, kLineTop = 2490,
+constexpr int kTotalTop = 1815, kTotalWidth = 495, kTotalHeight = 360, kSoftTop = 2280, kLineTop = 2535,
               kHitTop = 5670, kHitHeight = 570;
 
 // Everything but the columns: the deck, the clock and the score above them, the table at their right.
@@ -57,7 +57,7 @@ constexpr Design kDesign[] = {
     {"Surface", 6375, 105, 810, 810},
     {"lblScore", 4560, 1125, 600, 255, "Score"},
     {"ScoreRectangle", 5205, 1035, 2145, 420},
-    {"lblCurrentRoundScore", 7590, 1530, 1575, 255, "Card Total"},
+    {"lblCurrentRoundScore", 7590, 1470, 1575, 255, "Card Total"},
     {"lblCurrentTotal", 8002, 1815, 750, 360, "0"},
     {"frmScore", 7395, 2265, 1965, 3330, "Card Total Value"},
     {"cmdGiveUp", 7860, 5670, 1035, 555, "&Give Up"},
@@ -88,6 +88,12 @@ frmFivestack::frmFivestack(modCommon& common) : GameWindow(common, kPlan) {
 }
 
 bool frmFivestack::ApplyGameSetting(std::string_view section, std::string_view value) {
+  if (section == "[Play Sounds]" || section == "[Play Music]") {  // what isn't "True" is off
+    const bool isSounds = section == "[Play Sounds]";
+    (isSounds ? common.PlaySounds : common.PlayMusic) = value == "True";
+    (isSounds ? mnuSounds : mnuMusic).Checked = value == "True";
+    return true;
+  }
   if (section != kPasses) return false;
   ApplyNumber(value, CardsToPass);
   PassesLeft = CardsToPass;

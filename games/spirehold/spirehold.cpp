@@ -16,7 +16,6 @@ void frmSpirehold::InitRound() {
   ShowRun();
   ShowHighRun();
   lblCurrentRound.Caption = CurrentRound == 3 ? "Bonus" : std::to_string(CurrentRound);
-  mnuClearHighRun.Enabled = false;
   OpenRound();
 }
 
@@ -171,9 +170,9 @@ void frmSpirehold::HighRunScore() {
   HideAmount(*this);
 }
 
-void frmSpirehold::GameFinished() {
-  mnuClearHighRun.Enabled = true;
-  HideTowerLabels();
+void frmSpirehold::EnableOptions(bool enable) {
+  GameWindow::EnableOptions(enable);
+  mnuClearHighRun.Enabled = enable;
 }
 
 void frmSpirehold::EndGame() {

@@ -44,7 +44,7 @@ class frmSpirehold : public GameWindow {
   void HideBoard() override { ShowCards(false, false); }
   void PayAwards() override;
   void EndGame() override;
-  void GameFinished() override;
+  void GameFinished() override { HideTowerLabels(); }
   void ShowCards(bool visible) override { ShowCards(visible, true); }
   void CoverCards(bool covered) override;
   void RefreshPlayCard() override;
@@ -58,6 +58,7 @@ class frmSpirehold : public GameWindow {
   void HideCardsAtTimeUp() override { ShowCards(false, false); }
   // The menu entry reads "&Play" at all times.
   void SetPlayCaption(const char* caption) override { cmdPlay.Caption = caption; }
+  void EnableOptions(bool enable) override;
   void PlaceBoard() override;
 
  private:

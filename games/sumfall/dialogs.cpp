@@ -107,6 +107,7 @@ SavedGameDialog::SavedGameDialog(frmSumfall& game, std::string_view name)
   Form::Move(0, 0, kDialogWidth, 5640);
   ApplyDesign(*this, kFileDesign);
   File1.Pattern = "*.sfl";
+  cmdOK.Default = true;
   cmdCancel.Cancel = true;
   Drive1.OnChange = [this] { Dir1.Path = Drive1.Drive; };
   Dir1.OnChange = [this] { File1.Path = Dir1.Path; };

@@ -326,7 +326,7 @@ void frmSumfall::PayTimeBonus() {
   if (!CountDownScore) {
     common.ElapsedSeconds = common.TimeLimit;
     common.CurrentScore += bonus;
-    DrawTimeDial(0, *this);
+    ResetDial();
     lblCurrentScore.ForeColor = kRed;
     ShowScore();
     platform.Sleep(1000);
@@ -357,10 +357,10 @@ void frmSumfall::InitRound() {
   } else {
     common.ShuffleDeck();
   }
-  phase = Phase::Playing;
-  DisableCommandButtons(false);
   if (!Deal()) return BackToIdle();  // only the cards of a damaged saved game can't be dealt
+  phase = Phase::Playing;
   lblMessage.Visible = false;
+  DisableCommandButtons(false);
   if (CurrentRound == kBonusRound) {
     lblCurrentRound.Caption = "Bonus";
     StartMusic();

@@ -92,3 +92,9 @@ std::string frmTreyshiftCustom::Shown(size_t field) {
 void frmTreyshiftCustom::Take(size_t field, double value) {
   ScoringDialog::Take(field, field == kPenalty ? std::abs(value) : value);
 }
+
+// The field is right already while the message stands.
+void frmTreyshiftCustom::TellRefusal(const Refusal& refusal) {
+  refusal.box->Text = refusal.text;
+  ScoringDialog::TellRefusal(refusal);
+}

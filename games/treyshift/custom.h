@@ -11,6 +11,7 @@ class frmTreyshiftCustom : public ScoringDialog {
  protected:
   Number Setting(size_t field) override;
   std::string Shown(size_t field) override;
+  void TellRefusal(const Refusal& refusal) override;
   void Take(size_t field, double value) override;
 
  private:
