@@ -84,6 +84,7 @@ frmHiScoreName::frmHiScoreName(modCommon& common) : Form(common.platform, "frmHi
   cmdOK.OnClick = [this] {
     if (lblPlayerName.Text.get().find(',') != std::string::npos) {
       common_.MsgBox("Sorry, you may not use commas in your name.", Icon::Critical);
+      lblPlayerName.SetFocus();  // the button had it
       return;
     }
     if (!lblPlayerName.Text.get().empty()) common_.PlayerName = NameOnOneLine(lblPlayerName.Text.get());

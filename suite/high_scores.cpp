@@ -108,6 +108,8 @@ void UpdateHighScoreTable(const std::string& tableName, GameWindow& window, cons
   const Long score = common.CurrentScore;
   // Another copy of the program may enter a score while the player writes: the table is read again then.
   const auto enter = [&window, &common, tableName, defaultScore, score](bool placed) {
+    // A score without a place changes nothing that is worth waiting for.
+    if (!placed && common.files.Waits(common.files.PathOf(window.TableFile(tableName)))) return;
     const std::string name = placed ? common.PlayerName + (common.CustomScoringInUse ? "*" : "") : "";
     KeepTable(
         window, tableName,

@@ -55,6 +55,8 @@ class Files {
   void Keep(const std::filesystem::path& path, FileChange change);
   // Tries again to make the changes that wait.
   void TryAgain();
+  // Whether something waits to be written there.
+  bool Waits(const std::filesystem::path& path) const { return waiting_.contains(path); }
   // What the disk has refused since the last call; each thing once.
   std::vector<FileRefusal> TakeRefusals();
 
