@@ -86,7 +86,8 @@ bool IsKeptFile(const std::string& name) {
 // goes before them.
 void CarryOver(const fs::path& from, const fs::path& to) {
   std::error_code error;
-  if (fs::equivalent(from, to, error)) return;
+  // They did so only where they could write; a folder of the system's isn't looked through at each start.
+  if (access(from.c_str(), W_OK) != 0 || fs::equivalent(from, to, error)) return;
   std::vector<fs::path> files;
   for (fs::directory_iterator entry(from, error), end; !error && entry != end; entry.increment(error))
     if (std::error_code ignored; entry->is_regular_file(ignored) && IsKeptFile(entry->path().filename()))

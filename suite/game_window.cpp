@@ -136,17 +136,12 @@ void GameWindow::BackToIdle() {
 // Under the question a clock that wasn't stopped may end the game; then there is nothing left to end.
 void GameWindow::AskToEndGame(const std::string& question) {
   if (phase != Phase::Playing) return;
-  const std::string toolTip = cmdPlay.ToolTipText;
-  cmdPlay.ToolTipText = "Starts a new game";
   BeforeEndQuestion();
   const bool ends = common.Ask(question);
   const bool wasRunning = InGame();
   AfterEndQuestion(ends);
-  if (!wasRunning) return;
-  if (!ends) {
-    cmdPlay.ToolTipText = toolTip;
-    return;
-  }
+  if (!wasRunning || !ends) return;
+  cmdPlay.ToolTipText = "Starts a new game";
   SetPlayCaption("&Play");
   EndGame();
   phase = Phase::Idle;

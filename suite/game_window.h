@@ -145,6 +145,8 @@ class GameWindow : public Form {
   virtual void mnuTakeScore_Click() { cmdTakeScore_Click(); }
   // Pays the round, then begins the next one or ends the game. The common way is the steps that follow.
   virtual void TakeScore();
+  // `TakingScore`, no clock, no commands, the hourglass, no board, no music.
+  virtual void BeginScoring();
   // Takes the board away while the round is paid.
   virtual void HideBoard() { ShowCards(false); }
   // The awards in the game's order.
@@ -204,10 +206,10 @@ class GameWindow : public Form {
   // Pauses a running game, runs `action`, resumes it.
   void PauseAround(const std::function<void()>& action);
 
-  // A round begins: nothing is being scored, the message is gone, the commands of a running game are there.
+  // A round begins: nothing is being scored, no second is used, the message is gone.
+  void ClearRound();
+  // A round is ready: the commands of a running game, its controls, its music.
   void OpenRound();
-  // A round ends: `TakingScore`, no clock, no commands, no music, the hourglass.
-  void BeginScoring();
   // Announces the next round: the message blinks, and is gone. A wave is named by `wave`.
   void Announce(const std::string& text, const char* wave = nullptr);
   // Stops the clock, puts the commands back, enters the score in the table, leaves only the score in view.

@@ -3,12 +3,14 @@
 #include "suite/high_scores.h"
 #include "suite/score_counter.h"
 
-void GameWindow::OpenRound() {
-  phase = Phase::Playing;
+void GameWindow::ClearRound() {
   common.TakingScore = false;
   common.ElapsedSeconds = 0;
   HideMessage();
-  ShowRoundTime();
+}
+
+void GameWindow::OpenRound() {
+  phase = Phase::Playing;
   SetPlayCaption(plan.names.endGame);
   EnableOptions(false);
   for (Menu* entry : {&mnuPause, &mnuTakeScore}) entry->Enabled = true;
@@ -27,12 +29,12 @@ void GameWindow::BeginScoring() {
   Timer1.Enabled = false;
   EnableButtons(false);
   MousePointer = kHourglass;
+  HideBoard();
   StopMusic();
 }
 
 void GameWindow::TakeScore() {
   BeginScoring();
-  HideBoard();
   PayAwards();
   CurrentRound += 1;
   const bool bonus = CurrentRound == plan.rounds + 1;

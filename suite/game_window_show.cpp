@@ -7,7 +7,7 @@
 // --- Commands, messages, score -------------------------------------------------------------------
 
 void GameWindow::EnableButtons(bool enable) {
-  for (CommandButton* button : {&cmdPlay, &cmdTakeScore, &cmdPause, &cmdExit}) button->Enabled = enable;
+  for (CommandButton* button : {&cmdTakeScore, &cmdPlay, &cmdPause, &cmdExit}) button->Enabled = enable;
 }
 
 void GameWindow::EnableEntries(bool enable) {

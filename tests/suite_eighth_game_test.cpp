@@ -38,6 +38,8 @@ class frmEighth : public GameWindow {
     ShowScore();
     ResetDial();
     Timer1.Enabled = true;
+    ClearRound();
+    ShowRoundTime();
     OpenRound();
   }
   void PayAwards() override { AddToScore(1500); }

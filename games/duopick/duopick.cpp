@@ -12,12 +12,14 @@ void frmDuopick::InitRound() {
   common.ShuffleDeck();
   Deal();
   RoundCompleted = false;
+  ClearRound();
   cmdPlay.ToolTipText = "Ends the current game";
   CardsSelected = 0;
   FirstCardIndex = 0;
   PairsCount = 0;
   RunsCount = 0;
   ShowCounts();
+  ShowRoundTime();
   lblCurrentRound.Caption = std::to_string(CurrentRound);
   OpenRound();
 }
@@ -210,7 +212,6 @@ void frmDuopick::GameFinished() {
 void frmDuopick::EndGame() {
   mnuTime.Enabled = true;
   mnuCustom.Enabled = true;
-  cmdPlay.ToolTipText = "Starts a new game";
   common.GameInProgress = false;
   ClearSelectionRectangles();
   ShowCards(false);

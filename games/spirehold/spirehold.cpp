@@ -12,9 +12,11 @@ void frmSpirehold::InitRound() {
   common.CreateStandardDeck();
   common.ShuffleDeck();
   Deal();
+  ClearRound();
   CurrentRun = 0;
   ShowRun();
   ShowHighRun();
+  ShowRoundTime();
   lblCurrentRound.Caption = CurrentRound == 3 ? "Bonus" : std::to_string(CurrentRound);
   OpenRound();
 }

@@ -256,8 +256,17 @@ void frmSumfall::BackToIdle() {
   EndGame();
 }
 
+void frmSumfall::BeginScoring() {
+  common.TakingScore = true;
+  phase = Phase::Scoring;
+  Timer1.Enabled = false;
+  MousePointer = kHourglass;
+  StopMusic();
+  EnableCommands(false);
+  HideBoard();
+}
+
 void frmSumfall::HideBoard() {
-  DisableCommandButtons(true);
   SelRectangle(false);
   completed_ = CheckForCompletion();
   FieldCardDisplay(false);
@@ -360,7 +369,7 @@ void frmSumfall::InitRound() {
   if (!Deal()) return BackToIdle();  // only the cards of a damaged saved game can't be dealt
   phase = Phase::Playing;
   lblMessage.Visible = false;
-  DisableCommandButtons(false);
+  EnableCommands(true);
   if (CurrentRound == kBonusRound) {
     lblCurrentRound.Caption = "Bonus";
     StartMusic();
@@ -470,6 +479,17 @@ void frmSumfall::mnuPlay_Click() {
     ShowMessage("Select your options and play again!");
     platform.Sleep(2000);
   }
+}
+
+// The tool tip tells of the answer Yes while the question stands.
+void frmSumfall::BeforeEndQuestion() {
+  cmdPlay.ToolTipText = "Starts a new game";
+  GameWindow::BeforeEndQuestion();
+}
+
+void frmSumfall::AfterEndQuestion(bool ends) {
+  GameWindow::AfterEndQuestion(ends);
+  if (!ends) cmdPlay.ToolTipText = "Ends the game in progress";
 }
 
 void frmSumfall::BeforeClosingQuestion() {

@@ -63,6 +63,7 @@ class frmSumfall : public GameWindow {
   void Play() override;
   void PlayFailed(const std::string& description) override;
   void BackToIdle() override;
+  void BeginScoring() override;
   void HideBoard() override;
   void PayAwards() override;
   void AnnounceRound(bool bonus) override;
@@ -90,6 +91,8 @@ class frmSumfall : public GameWindow {
   void cmdTakeScore_Click() override;
   void mnuTakeScore_Click() override;
   std::string EndGameQuestion() const override;
+  void BeforeEndQuestion() override;
+  void AfterEndQuestion(bool ends) override;
   void BeforeClosingQuestion() override;
   void AfterClosingQuestion(bool closes) override;
   void PlaceMessage() override;
@@ -103,7 +106,7 @@ class frmSumfall : public GameWindow {
   void SelRectangle(bool visible = true);
   void CardTotalVisible(bool visible);
   void ShowLowerCards(bool visible);
-  void DisableCommandButtons(bool disable);
+  void EnableCommands(bool enable);
   void ShowTimerRect();
   void SelectionColor(int index);
   void ChooseGoal(int goal);

@@ -241,9 +241,9 @@ void frmSumfall::ShowCards(bool visible) {
   ShowLowerCards(visible);
 }
 
-void frmSumfall::DisableCommandButtons(bool disable) {
-  for (CommandButton* button : {&cmdPause, &cmdPlay, &cmdExit, &cmdTakeScore}) button->Enabled = !disable;
-  for (Menu* entry : {&mnuPause, &mnuPlay, &mnuExit, &mnuTakeScore}) entry->Enabled = !disable;
+void frmSumfall::EnableCommands(bool enable) {
+  EnableButtons(enable);
+  EnableEntries(enable);
 }
 
 // A paused game lies face down, and what was selected no longer is.
