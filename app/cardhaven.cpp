@@ -6,6 +6,7 @@
 
 #include "app/options.h"
 #include "games/games.h"
+#include "games/guides.h"
 #include "suite/catalogue.h"
 #include "suite/suite.h"
 #include "window/desktop/program.h"
@@ -31,8 +32,11 @@ int main(int argc, char** argv) {
   Options options;
   if (const auto status = ReadCommandLine(Program::Desktop, argc, argv, options)) return *status;
   try {
-    DesktopOptions desktop{{FindAppPath(options), FindDataFolder()}, {}};
-    if (options.console) desktop.script = ScriptOptions{options.start, options.speed};
+    DesktopOptions desktop{{FindAppPath(options), FindDataFolder(), {}}, {}, MakeGuide};
+    if (options.console)
+      desktop.script = ScriptOptions{options.start, options.speed};
+    else
+      desktop.folders.view = ViewFile();
     int programAlone = 1;  // the toolkit gets no options of ours
     return RunDesktop(programAlone, argv, desktop, Catalogue(), [&](Platform& platform) {
       if (options.seed) platform.random.Seed(*options.seed);

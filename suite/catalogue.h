@@ -9,6 +9,7 @@
 
 inline constexpr int kPictureCount = 68;
 inline constexpr int kFirstFace = 14, kLastFace = 65;  // ace of spades, king of diamonds
+inline constexpr int kEmptyPlace = 13, kEmptyWide = 67;
 
 // The files of the pictures, in catalogue order.
 PictureFiles Catalogue();

@@ -27,16 +27,26 @@ Canvas::Canvas(Form& form, DesktopFrontEnd& front, QWidget* parent)
   setFocusPolicy(Qt::NoFocus);
 }
 
+void Canvas::SetZoom(double zoom) {
+  if (zoom == zoom_) return;
+  zoom_ = zoom;
+  update();
+}
+
+QRect Canvas::ToWindow(const QRectF& area) const {
+  return QRectF(area.topLeft() * zoom_, area.size() * zoom_).toAlignedRect();
+}
+
 void Canvas::Refresh(const Visual& control) {
   const auto known = reach_.find(&control);
   if (known != reach_.end()) {
-    update(known->second);
+    Repaint(known->second);
     if (!IsShown(control)) reach_.erase(known);
   }
   if (!IsShown(control)) return;
   const QRect reach = Reach(control, front_.pictures);
   reach_[&control] = reach;
-  update(reach);
+  Repaint(reach);
 }
 
 void Canvas::paintEvent(QPaintEvent* event) {
@@ -50,31 +60,34 @@ void Canvas::paintEvent(QPaintEvent* event) {
     painter.fillRect(event->rect(), palette().window());
   }
   painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(zoom_, zoom_);
   const Scene scene = Arrange(form_, front_.pictures);
-  const Easel easel{painter, front_.pictures, scene, board_, scale};
+  const Easel easel{painter, front_.pictures, scene, board_, scale * zoom_};
   for (size_t i = 0; i < scene.size(); ++i) {
     const QRect reach = Reach(*scene[i].control, front_.pictures);
     reach_[scene[i].control] = reach;
-    if (event->region().intersects(reach)) PaintControl(easel, i);
+    if (event->region().intersects(ToWindow(reach))) PaintControl(easel, i);
   }
   front_.Painted();
 }
 
-Visual* Canvas::At(QPoint point) const { return HitTest(Arrange(form_, front_.pictures), point); }
+Visual* Canvas::At(QPoint point) const { return HitTest(Arrange(form_, front_.pictures), ToBoard(point)); }
 
 std::optional<QPoint> Canvas::SpotOf(const Visual& control) const {
   constexpr int kGrid = 15;
   const Scene scene = Arrange(form_, front_.pictures);
   const QRect area = DrawnRect(control, front_.pictures);
+  const auto inWindow = [&](QPoint point) { return (QPointF(point) * zoom_).toPoint(); };
   const auto fits = [&](QPoint point) {
-    return rect().contains(point) && !childAt(point) && HitTest(scene, point) == &control;
+    const QPoint there = inWindow(point);
+    return rect().contains(there) && !childAt(there) && HitTest(scene, ToBoard(there)) == &control;
   };
-  if (fits(area.center())) return area.center();
+  if (fits(area.center())) return inWindow(area.center());
   for (int y = 0; y < kGrid; ++y)
     for (int x = 0; x < kGrid; ++x) {
       const QPoint point(area.left() + (2 * x + 1) * area.width() / (2 * kGrid),
                          area.top() + (2 * y + 1) * area.height() / (2 * kGrid));
-      if (fits(point)) return point;
+      if (fits(point)) return inWindow(point);
     }
   return std::nullopt;
 }
@@ -136,10 +149,11 @@ void Canvas::UpdatePointer() {
 
 void Canvas::ShowToolTip(QHelpEvent& event) {
   const Scene scene = Arrange(form_, front_.pictures);
+  const QPoint point = ToBoard(event.pos());
   for (auto it = scene.rbegin(); it != scene.rend(); ++it) {
-    if (!it->rect.contains(event.pos()) || !it->clip.contains(event.pos())) continue;
+    if (!it->rect.contains(point) || !it->clip.contains(point)) continue;
     const QString text = QString::fromStdString(it->control->ToolTipText);
-    if (!text.isEmpty()) return QToolTip::showText(event.globalPos(), text, this, it->rect);
+    if (!text.isEmpty()) return QToolTip::showText(event.globalPos(), text, this, ToWindow(it->rect));
     if (it->control->kind == Control::Kind::Image) break;
   }
   QToolTip::hideText();

@@ -17,12 +17,21 @@ class Canvas : public QWidget {
  public:
   Canvas(Form& form, DesktopFrontEnd& front, QWidget* parent);
 
+  // How much larger than at 100 % the board is drawn. Scenes, reaches and painting are in pixels at 100 %;
+  // mouse and widgets in pixels of the window.
+  double Zoom() const { return zoom_; }
+  void SetZoom(double zoom);
+  QPoint ToBoard(QPointF point) const { return (point / zoom_).toPoint(); }
+  QRect ToWindow(const QRectF& area) const;
+  // Paints that part of the board anew; pixels at 100 %.
+  void Repaint(const QRect& area) { update(ToWindow(area)); }
+
   // The control looks different from now on, or lies elsewhere.
   void Refresh(const Visual& control);
   // Shows the pointer that the control under the mouse asks for.
   void UpdatePointer();
 
-  // The control that a click at this point means.
+  // The control that a click at this point of the window means.
   Visual* At(QPoint point) const;
   // A spot that means this control: its middle if that shows. Nothing if the control is wholly covered.
   std::optional<QPoint> SpotOf(const Visual& control) const;
@@ -41,6 +50,7 @@ class Canvas : public QWidget {
   Form& form_;
   DesktopFrontEnd& front_;
   const bool board_;
+  double zoom_ = 1;
   int pointer_ = 0;  // the one that shows; above 99 that picture
   QPixmap baize_;
   std::unordered_map<const Visual*, QRect> reach_;  // where each control was drawn last

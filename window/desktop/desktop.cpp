@@ -22,7 +22,8 @@ namespace fs = std::filesystem;
 DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles files)
     : pictures(std::move(files), folders.own, folders.installed / "pictures"),
       folders_(folders),
-      media_(folders.own, folders.installed) {
+      media_(folders.own, folders.installed),
+      view_(ReadView(folders.view)) {
   clock_.start();
   timer_.setTimerType(Qt::PreciseTimer);
   timer_.setSingleShot(true);
@@ -54,6 +55,18 @@ bool DesktopFrontEnd::Knows(const Form& form) const { return windows_.contains(&
 FormWindow* DesktopFrontEnd::WindowOf(const Form& form) const {
   const auto found = windows_.find(&form);
   return found == windows_.end() ? nullptr : found->second;
+}
+
+Guide* DesktopFrontEnd::GuideOf(const Form& form) const {
+  const auto found = guides_.find(&form);
+  return found == guides_.end() ? nullptr : found->second.get();
+}
+
+void DesktopFrontEnd::SetView(const View& view) {
+  if (view == view_) return;
+  view_ = view;
+  if (!folders_.view.empty()) WriteView(folders_.view, view_);
+  for (const auto& [form, window] : windows_) window->ApplyView();
 }
 
 void DesktopFrontEnd::Run(Form* form, const std::function<void()>& handler) {
@@ -242,7 +255,11 @@ void DesktopFrontEnd::LeaveActive(const QWidget& going) {
   if (below && going.isActiveWindow()) below->activateWindow();
 }
 
-void DesktopFrontEnd::FormLoaded(Form& form) { windows_[&form] = new FormWindow(form, *this); }
+void DesktopFrontEnd::FormLoaded(Form& form) {
+  if (guides)
+    if (auto guide = guides(form)) guides_[&form] = std::move(guide);
+  windows_[&form] = new FormWindow(form, *this);
+}
 
 void DesktopFrontEnd::FormShown(Form& form) {
   if (FormWindow* window = WindowOf(form)) window->ShowForm(NextWindow(window));
@@ -260,6 +277,7 @@ void DesktopFrontEnd::FormUnloaded(Form& form) {
   FormWindow* window = WindowOf(form);
   if (!window) return;
   windows_.erase(&form);
+  guides_.erase(&form);
   std::erase_if(deeds_, [&](const Deed& deed) { return deed.form == &form; });
   LeaveActive(*window);
   window->Leave();

@@ -11,6 +11,8 @@
 
 #include "window/desktop/media.h"
 #include "window/desktop/pictures.h"
+#include "window/desktop/view.h"
+#include "window/guide.h"
 #include "window/platform.h"
 
 class FormWindow;
@@ -19,6 +21,7 @@ class QEventLoop;
 struct DesktopFolders {
   std::filesystem::path own;        // `AppPath`; what lies here goes before what is installed
   std::filesystem::path installed;  // holds pictures/, sounds/, music/
+  std::filesystem::path view = {};  // the file of `View`; where none is named nothing is kept
 };
 
 class DesktopFrontEnd : public FrontEnd {
@@ -28,6 +31,7 @@ class DesktopFrontEnd : public FrontEnd {
 
   Platform platform{*this};
   Pictures pictures;
+  Guides guides;  // set before the first window is loaded; none where a script drives the windows
 
   // Runs `start`, which shows the first window, then serves events until the program ends. The exit status.
   int Run(const std::function<void()>& start);
@@ -39,6 +43,11 @@ class DesktopFrontEnd : public FrontEnd {
   // Whether the form is there and loaded.
   bool Knows(const Form& form) const;
   FormWindow* WindowOf(const Form& form) const;
+  // Null if the form has none.
+  Guide* GuideOf(const Form& form) const;
+  const View& GetView() const { return view_; }
+  // Shows all windows in this way from now on, and keeps it.
+  void SetView(const View& view);
   // A board has been painted.
   void Painted();
   // A window or box that is about to be hidden hands the keyboard to the next one, as well as the boxes that
@@ -138,7 +147,9 @@ class DesktopFrontEnd : public FrontEnd {
   QElapsedTimer clock_;
   QTimer timer_;
   Media media_;
+  View view_;
   std::unordered_map<const Form*, FormWindow*> windows_;
+  std::unordered_map<const Form*, std::unique_ptr<Guide>> guides_;
   std::deque<Deed> deeds_;
   std::vector<class QMessageBox*> boxes_;
   std::vector<QPointer<QWidget>> modals_;  // the boxes and the modal windows that are waited for

@@ -216,6 +216,8 @@ void FormWindow::SelectText(TextBox& box) {
 
 void FormWindow::SurfaceChanged(PictureBox& surface) { canvas_->Refresh(surface); }
 
+void FormWindow::ApplyView() { canvas_->update(); }
+
 // Qt moves the focus on when a widget is disabled or hidden; the model has a rule of its own.
 void FormWindow::Settle() {
   if (left_) return;

@@ -30,6 +30,8 @@ class FormWindow : public QWidget {
   void FocusMoved();
   void SelectText(TextBox& box);
   void SurfaceChanged(PictureBox& surface);
+  // The player wants windows drawn in another way.
+  void ApplyView();
   // Brings everything up to date that Qt may have changed by itself.
   void Settle();
 

@@ -57,6 +57,7 @@ int RunDesktop(int argc, char** argv, const DesktopOptions& options, const Pictu
     front = std::make_unique<ScriptedDesktop>(options.folders, pictures, *options.script, std::cout);
   else
     front = std::make_unique<DesktopFrontEnd>(options.folders, pictures);
+  if (!options.script) front->guides = options.guides;
   std::shared_ptr<void> kept;  // goes before the front end does
   leaving::SetPlatform(&front->platform);
   const int status = front->Run([&] { kept = start(front->platform); });

@@ -9,6 +9,7 @@
 struct DesktopOptions {
   DesktopFolders folders;
   std::optional<ScriptOptions> script;  // commands come from standard input
+  Guides guides;                        // for a player; a script needs none
 };
 
 // Opens the screen, lets `start` show the first window on the platform, and runs until the program ends. What

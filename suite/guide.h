@@ -1,0 +1,35 @@
+// Guides to the windows that all games share, and what the games' own guides stand on.
+#pragma once
+
+#include "suite/game_window.h"
+#include "window/guide.h"
+
+// "Ten of diamonds", "Face down", "Empty"; "" for a picture that is no card.
+std::string SpokenPicture(int picture);
+// 'A', '2' to '9', 'T', 'J', 'Q', 'K' of a face; 0 for other pictures.
+char RankOfPicture(int picture);
+
+// The guide to a game window: the keys and the state that all games have in common. A game adds its own.
+class GameGuide : public Guide {
+ public:
+  explicit GameGuide(GameWindow& window) : window_(window) {}
+
+  std::vector<KeyRow> Keys() const override;
+  std::string State() const override;
+
+ protected:
+  // The rows of the game's own board, which go before the common ones.
+  virtual std::vector<KeyRow> BoardKeys() const { return {}; }
+  // What the game adds to the state.
+  virtual std::string BoardState() const { return ""; }
+  // Whether cards can be played now.
+  bool Plays() const { return window_.phase == Phase::Playing; }
+  // A place that shows a card, a back or an empty place; nothing is added for one that doesn't show.
+  void Add(std::vector<Spot>& spots, Image& image, bool playable, bool selected = false) const;
+
+ private:
+  GameWindow& window_;
+};
+
+// The guide to the selector or one of the dialogs that all games share; null if the form is none of them.
+std::unique_ptr<Guide> SharedGuide(Form& form);

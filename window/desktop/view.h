@@ -1,0 +1,34 @@
+// How this player wants the windows drawn and heard, and what the desktop remembers from one start to the
+// next. The games know nothing of it.
+#pragma once
+
+#include <QPoint>
+#include <QStringList>
+#include <filesystem>
+#include <optional>
+
+struct View {
+  int zoom = 100;            // percent, 100 to 300
+  bool fitMaximised = true;  // a maximised window shows its usual arrangement larger
+  bool fitNormal = false;    // the same for one that the player resizes
+  bool fullScreen = false;
+  bool fourColours = false;
+  bool highContrast = false;
+  bool lessMotion = false;
+  int waveVolume = 100, musicVolume = 100;  // percent
+
+  // What was done last.
+  std::optional<QPoint> selector;  // where it stood, in pixels
+  QString lastGame;                // the button that opened it: "cmdSumfall"
+  QStringList seen;                // the windows whose first steps have been read
+  QString lastName;                // entered into a table
+
+  friend bool operator==(const View&, const View&) = default;
+};
+
+// $XDG_CONFIG_HOME/card-haven/desktop.ini, or its usual place under the home folder; empty if there is none.
+std::filesystem::path ViewFile();
+// What is missing in the file, or makes no sense there, is as at first.
+View ReadView(const std::filesystem::path& file);
+// False if it can't be written.
+bool WriteView(const std::filesystem::path& file, const View& view);

@@ -1,0 +1,63 @@
+// What a front end can tell a player of a window beyond what is drawn, and which keys stand for which click.
+// Windows and their games know nothing of it: a guide stands beside the window and reads it.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "window/form.h"
+
+// A place on the board that keys can go to and a voice can tell of.
+struct Spot {
+  Visual* control;
+  std::string text;       // "Ten of diamonds", "Face down", "Empty"
+  bool playable = false;  // a click on it would be taken as a move now
+  bool selected = false;
+  char rank = 0;  // of a face that shows: 'A', '2' to '9', 'T', 'J', 'Q', 'K'; else 0
+};
+
+// A key, or several struck one after the other, for a click.
+struct KeyClick {
+  std::string keys;     // "P", "F1", "Escape", "-", "12"; letters are capitals
+  std::string control;  // "cmdPause", "mnuRules", "PlayCards(7)"
+};
+
+// A row of the table of keys as the player reads it. Keys that a front end serves by itself have no clicks.
+struct KeyRow {
+  std::string keys;  // "1 to 5"
+  std::string does;  // "Hit on that column"
+  std::vector<KeyClick> clicks;
+};
+
+// A text that a front end adds to a window.
+struct Note {
+  const Control* within;         // the form or frame in whose coordinates it stands
+  int left, top, width, height;  // twips
+  std::string text;
+  int alignment = 0;    // as a label's
+  bool strong = false;  // to be seen first
+};
+
+class Guide {
+ public:
+  virtual ~Guide() = default;
+
+  // The table of keys, the most useful first; the same at all times.
+  virtual std::vector<KeyRow> Keys() const { return {}; }
+  // What lies on the board now, in reading order: visible places only.
+  virtual std::vector<Spot> Spots() const { return {}; }
+  // Where the window stands, in short sentences: "Round 2. Score 12,300. 45 seconds left."
+  virtual std::string State() const { return ""; }
+  // Texts to be added as the window stands now.
+  virtual std::vector<Note> Notes() const { return {}; }
+  // A sentence on a control that has no tool tip of its own; "" for none.
+  virtual std::string ToolTip(const Control& /*control*/) const { return ""; }
+  // Three lines on what to do, for a player who opens the window for the first time; and what they are kept
+  // under as read.
+  virtual std::vector<std::string> FirstSteps() const { return {}; }
+};
+
+// Makes the guide of a window; null for one that needs none.
+using Guides = std::function<std::unique_ptr<Guide>(Form&)>;
