@@ -14,7 +14,7 @@ std::unique_ptr<Guide> Try(Form& form) {
 }  // namespace
 
 std::unique_ptr<Guide> MakeGuide(Form& form) {
-  for (const auto attempt : {SharedGuide, Try<frmSumfall>})
+  for (const auto attempt : {SharedGuide, Try<frmSumfall>, Try<SavedGameDialog>})
     if (auto guide = attempt(form)) return guide;
   return nullptr;
 }

@@ -18,6 +18,13 @@ struct TimeDial {
   int DialFirstColor = 65280, DialSecondColor = 65535, DialLastColor = 0xFFFFFF, DialLineColor = 0xC0C0C0;
 };
 
+// The entry made last into a table of high scores.
+struct TableEntry {
+  std::string file, name;
+  long long score = 0;
+  size_t place = 0;  // from 0
+};
+
 class modCommon {
  public:
   // `folder` is `AppPath`.
@@ -61,6 +68,7 @@ class modCommon {
 
   // Says what the disk has refused, each thing once.
   void TellWhatCantBeKept();
+  TableEntry lastEntry;
   // Enters the score that waits for its name, under the name that the closed window would give it; empty if
   // there is none.
   std::function<void()> EnterWaitingScore;

@@ -77,26 +77,36 @@ void frmHighScores::ReadHighScoreTable() {
   }
 }
 
-frmHiScoreName::frmHiScoreName(modCommon& common) : Form(common.platform, "frmHiScoreName"), common_(common) {
+std::optional<size_t> frmHighScores::PlaceJustTaken() const {
+  const TableEntry& entry = common_.lastEntry;
+  if (entry.file != game_.TableFile(game_.plan.tables.shown.name)) return std::nullopt;
+  const std::string score = FormatNumber(entry.score);
+  // Of equal scores the new one stands last.
+  for (size_t place = kTablePlaces; place-- > 0;)
+    if (ScoreList(2 * place).Caption == entry.name && ScoreList(2 * place + 1).Caption == score) return place;
+  return std::nullopt;
+}
+
+frmHiScoreName::frmHiScoreName(modCommon& common) : Form(common.platform, "frmHiScoreName"), common(common) {
   Form::Move(0, 0, 5400, 2160);
   ApplyDesign(*this, kHiScoreNameDesign);
   cmdOK.Default = true;
   cmdOK.OnClick = [this] {
     if (lblPlayerName.Text.get().find(',') != std::string::npos) {
-      common_.MsgBox("Sorry, you may not use commas in your name.", Icon::Critical);
+      this->common.MsgBox("Sorry, you may not use commas in your name.", Icon::Critical);
       lblPlayerName.SetFocus();  // the button had it
       return;
     }
-    if (!lblPlayerName.Text.get().empty()) common_.PlayerName = NameOnOneLine(lblPlayerName.Text.get());
+    if (!lblPlayerName.Text.get().empty()) this->common.PlayerName = NameOnOneLine(lblPlayerName.Text.get());
     Unload();
   };
 }
 
 void frmHiScoreName::Form_Load() {
-  common_.PlayerName = "Unknown User";  // stays so when the window is closed by its box
+  common.PlayerName = "Unknown User";  // stays so when the window is closed by its box
   CenterOnScreen();
-  Caption = common_.AppTitle;
-  lblInfo.Caption = "Great score! Please enter your name so we can induct you into the " + common_.AppTitle +
+  Caption = common.AppTitle;
+  lblInfo.Caption = "Great score! Please enter your name so we can induct you into the " + common.AppTitle +
                     " Hall of Fame:";
   lblPlayerName.SetFocus();
 }

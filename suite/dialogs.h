@@ -1,6 +1,8 @@
 // The modal windows that all games share.
 #pragma once
 
+#include <optional>
+
 #include "suite/common.h"
 #include "suite/game_window.h"
 
@@ -10,6 +12,8 @@ class frmHighScores : public Form {
   frmHighScores(modCommon& common, GameWindow& game);
   void Form_Load() override;
   void ReadHighScoreTable();
+  // The place, from 0, of the entry made last, if it stands in this table.
+  std::optional<size_t> PlaceJustTaken() const;
 
   ControlArray<Label, 20> ScoreList{*this, "ScoreList"};  // even index name, odd index score
   Label lblHiScoreInfo{*this, "lblHiScoreInfo"};
@@ -26,12 +30,11 @@ class frmHiScoreName : public Form {
   explicit frmHiScoreName(modCommon& common);
   void Form_Load() override;
 
+  modCommon& common;
+
   Label lblInfo{*this, "lblInfo"};
   TextBox lblPlayerName{*this, "lblPlayerName"};
   CommandButton cmdOK{*this, "cmdOK"};
-
- private:
-  modCommon& common_;
 };
 
 // The rules, composed from the game's live values.

@@ -58,6 +58,24 @@ void GameGuide::Add(std::vector<Spot>& spots, Image& image, bool playable, bool 
       {&image, SpokenPicture(image.Picture), playable && Plays(), selected, RankOfPicture(image.Picture)});
 }
 
+// Below the splash panel.
+std::optional<Note> GameGuide::FirstStepsPlace() const {
+  constexpr int kGap = 180, kHeight = 1020, kWider = 240;
+  const Frame& splash = window_.frmSplash;
+  if (!splash.Visible) return std::nullopt;
+  return Note{&window_,
+              splash.Left - kWider,
+              splash.Top + splash.Height + kGap,
+              splash.Width + 2 * kWider,
+              kHeight,
+              "",
+              2,
+              Note::Look::Sheet};
+}
+
+// The window's own clock is up to a minute late.
+std::string GameGuide::PanelText(int number) const { return number == 3 ? window_.common.TimeOfDay() : ""; }
+
 namespace {
 
 class SelectGuide : public Guide {
@@ -71,6 +89,14 @@ class SelectGuide : public Guide {
     return {games};
   }
 
+  std::string ToolTip(const Control& control) const override {
+    for (const GameEntry& game : window_.Games())
+      if (control.name == game.button) return game.what;
+    return "";
+  }
+
+  bool KeepsPlace() const override { return true; }
+
  private:
   frmSelect& window_;
 };
@@ -79,5 +105,5 @@ class SelectGuide : public Guide {
 
 std::unique_ptr<Guide> SharedGuide(Form& form) {
   if (auto* select = dynamic_cast<frmSelect*>(&form)) return std::make_unique<SelectGuide>(*select);
-  return nullptr;
+  return DialogGuide(form);
 }

@@ -16,6 +16,8 @@ class GameGuide : public Guide {
 
   std::vector<KeyRow> Keys() const override;
   std::string State() const override;
+  std::optional<Note> FirstStepsPlace() const override;
+  std::string PanelText(int number) const override;
 
  protected:
   // The rows of the game's own board, which go before the common ones.
@@ -31,5 +33,7 @@ class GameGuide : public Guide {
   GameWindow& window_;
 };
 
+// The guide to the Hall of Fame or the window that asks for a name; null for other forms.
+std::unique_ptr<Guide> DialogGuide(Form& form);
 // The guide to the selector or one of the dialogs that all games share; null if the form is none of them.
 std::unique_ptr<Guide> SharedGuide(Form& form);

@@ -111,12 +111,15 @@ void UpdateHighScoreTable(const std::string& tableName, GameWindow& window, cons
     // A score without a place changes nothing that is worth waiting for.
     if (!placed && common.files.Waits(common.files.PathOf(window.TableFile(tableName)))) return;
     const std::string name = placed ? common.PlayerName + (common.CustomScoringInUse ? "*" : "") : "";
+    common.lastEntry.name = name;
     KeepTable(
         window, tableName,
         [entry = HighScore{name, score}](const HighScores& scores) { return WithEntry(scores, entry); },
         defaultScore);
   };
-  const bool placed = PlaceOf(ReadHighScores(window, tableName, defaultScore), score).has_value();
+  const std::optional<size_t> place = PlaceOf(ReadHighScores(window, tableName, defaultScore), score);
+  const bool placed = place.has_value();
+  common.lastEntry = {window.TableFile(tableName), "", score, place.value_or(0)};
   if (placed) {
     if (common.PlaySounds) common.PlayWaveFile("\\HighScore.wav");
     frmHiScoreName dialog(common);

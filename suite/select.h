@@ -13,6 +13,7 @@ struct GameEntry {
   const char* button;   // "cmdSumfall"
   const char* caption;  // "&Sumfall!"
   const char* title;    // `AppTitle`
+  const char* what;     // what it is about, in a sentence
   std::function<std::unique_ptr<GameWindow>(modCommon&)> create;
 };
 
@@ -21,6 +22,7 @@ class frmSelect : public Form {
   frmSelect(modCommon& common, const std::vector<GameEntry>& games);
   void Form_Load() override;
   void Form_Terminate() override;
+  const std::vector<GameEntry>& Games() const { return games_; }
 
   Frame frmGameChoice{*this, "frmGameChoice"};
   ControlArray<Image, 8> imgSplashImage{frmGameChoice, "imgSplashImage"};

@@ -65,7 +65,7 @@ std::string RunEighth(const TestFolder& folder, const std::string& commands, boo
   ConsoleFrontEnd console({}, in, out);
   console.platform.random.Seed(8);
   Suite suite(console.platform, {folder.Path()},
-              {{"cmdEighth", "&Eighth", "Eighth!", [dealt](modCommon& common) {
+              {{"cmdEighth", "&Eighth", "Eighth!", "", [dealt](modCommon& common) {
                   auto game = std::make_unique<frmEighth>(common);
                   game->dealt = dealt;
                   return game;

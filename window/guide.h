@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,11 +34,18 @@ struct KeyRow {
 
 // A text that a front end adds to a window.
 struct Note {
+  enum class Look {
+    Plain,  // small letters
+    Mark,   // a band beneath what stands there, its text strong
+    Sheet   // a small sheet with one centred line a line
+  };
   const Control* within;         // the form or frame in whose coordinates it stands
   int left, top, width, height;  // twips
   std::string text;
-  int alignment = 0;    // as a label's
-  bool strong = false;  // to be seen first
+  int alignment = 0;  // as a label's
+  Look look = Look::Plain;
+
+  friend bool operator==(const Note&, const Note&) = default;
 };
 
 class Guide {
@@ -54,9 +62,16 @@ class Guide {
   virtual std::vector<Note> Notes() const { return {}; }
   // A sentence on a control that has no tool tip of its own; "" for none.
   virtual std::string ToolTip(const Control& /*control*/) const { return ""; }
-  // Three lines on what to do, for a player who opens the window for the first time; and what they are kept
-  // under as read.
+  // Three lines on what to do, for a player who opens the window for the first time.
   virtual std::vector<std::string> FirstSteps() const { return {}; }
+  // Where they stand; nothing while there is something else to see.
+  virtual std::optional<Note> FirstStepsPlace() const { return std::nullopt; }
+  // What a panel of the status bar says at this minute; "" for what the window has written there.
+  virtual std::string PanelText(int /*number*/) const { return ""; }
+  // The box for a text that the player may want to give again the next time; null for none.
+  virtual TextBox* OffersAgain() const { return nullptr; }
+  // Whether the window comes back where the player has left it.
+  virtual bool KeepsPlace() const { return false; }
 };
 
 // Makes the guide of a window; null for one that needs none.

@@ -7,6 +7,7 @@
 
 #include "window/desktop/baize.h"
 #include "window/desktop/desktop.h"
+#include "window/desktop/notes.h"
 #include "window/desktop/paint.h"
 #include "window/player.h"
 
@@ -49,6 +50,13 @@ void Canvas::Refresh(const Visual& control) {
   Repaint(reach);
 }
 
+void Canvas::SetNotes(std::vector<Note> notes) {
+  if (notes == notes_) return;
+  for (const Note& note : notes_) Repaint(NoteRect(note));
+  notes_ = std::move(notes);
+  for (const Note& note : notes_) Repaint(NoteRect(note));
+}
+
 void Canvas::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const double scale = devicePixelRatioF();
@@ -63,11 +71,13 @@ void Canvas::paintEvent(QPaintEvent* event) {
   painter.scale(zoom_, zoom_);
   const Scene scene = Arrange(form_, front_.pictures);
   const Easel easel{painter, front_.pictures, scene, board_, scale * zoom_};
+  for (const Note& note : notes_) PaintNote(painter, note, NoteLayer::Beneath);
   for (size_t i = 0; i < scene.size(); ++i) {
     const QRect reach = Reach(*scene[i].control, front_.pictures);
     reach_[scene[i].control] = reach;
     if (event->region().intersects(ToWindow(reach))) PaintControl(easel, i);
   }
+  for (const Note& note : notes_) PaintNote(painter, note, NoteLayer::Above);
   front_.Painted();
 }
 

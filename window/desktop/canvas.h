@@ -8,6 +8,7 @@
 #include <unordered_map>
 
 #include "window/desktop/scene.h"
+#include "window/guide.h"
 
 class DesktopFrontEnd;
 class Pictures;
@@ -31,6 +32,10 @@ class Canvas : public QWidget {
   // Shows the pointer that the control under the mouse asks for.
   void UpdatePointer();
 
+  // What is written on the board beside its controls.
+  void SetNotes(std::vector<Note> notes);
+  const std::vector<Note>& Notes() const { return notes_; }
+
   // The control that a click at this point of the window means.
   Visual* At(QPoint point) const;
   // A spot that means this control: its middle if that shows. Nothing if the control is wholly covered.
@@ -50,6 +55,7 @@ class Canvas : public QWidget {
   Form& form_;
   DesktopFrontEnd& front_;
   const bool board_;
+  std::vector<Note> notes_;
   double zoom_ = 1;
   int pointer_ = 0;  // the one that shows; above 99 that picture
   QPixmap baize_;

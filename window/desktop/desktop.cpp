@@ -19,6 +19,12 @@
 
 namespace fs = std::filesystem;
 
+namespace {
+
+constexpr int kViewDelay = 300;  // milliseconds; what changes several times in a row is written once
+
+}  // namespace
+
 DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles files)
     : pictures(std::move(files), folders.own, folders.installed / "pictures"),
       folders_(folders),
@@ -28,6 +34,11 @@ DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles fil
   timer_.setTimerType(Qt::PreciseTimer);
   timer_.setSingleShot(true);
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { ServeTick(); });
+  viewTimer_.setSingleShot(true);
+  viewTimer_.setInterval(kViewDelay);
+  QObject::connect(&viewTimer_, &QTimer::timeout, &timer_, [this] { WriteView(folders_.view, view_); });
+  clockTimer_.setSingleShot(true);
+  QObject::connect(&clockTimer_, &QTimer::timeout, &timer_, [this] { ShowClock(); });
   QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -36,6 +47,14 @@ DesktopFrontEnd::~DesktopFrontEnd() {
     window->Leave();
     delete window;
   }
+  if (viewTimer_.isActive()) WriteView(folders_.view, view_);
+}
+
+// Just after the next minute has begun.
+void DesktopFrontEnd::ShowClock() {
+  constexpr int kMinute = 60'000, kJustAfter = 20;
+  for (const auto& [form, window] : windows_) window->ApplyClock();
+  clockTimer_.start(kMinute - QTime::currentTime().msecsSinceStartOfDay() % kMinute + kJustAfter);
 }
 
 int DesktopFrontEnd::Run(const std::function<void()>& start) {
@@ -65,7 +84,7 @@ Guide* DesktopFrontEnd::GuideOf(const Form& form) const {
 void DesktopFrontEnd::SetView(const View& view) {
   if (view == view_) return;
   view_ = view;
-  if (!folders_.view.empty()) WriteView(folders_.view, view_);
+  if (!folders_.view.empty() && !viewTimer_.isActive()) viewTimer_.start();
   for (const auto& [form, window] : windows_) window->ApplyView();
 }
 
@@ -207,6 +226,7 @@ void DesktopFrontEnd::Painted() {
   QTimer::singleShot(100, &timer_, [this] {
     media_.Start();
     ShowIcon();
+    if (guides) ShowClock();
   });
 }
 
@@ -277,11 +297,11 @@ void DesktopFrontEnd::FormUnloaded(Form& form) {
   FormWindow* window = WindowOf(form);
   if (!window) return;
   windows_.erase(&form);
-  guides_.erase(&form);
   std::erase_if(deeds_, [&](const Deed& deed) { return deed.form == &form; });
   LeaveActive(*window);
   window->Leave();
   window->deleteLater();
+  guides_.erase(&form);
   Wake();
 }
 

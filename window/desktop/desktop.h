@@ -136,6 +136,7 @@ class DesktopFrontEnd : public FrontEnd {
   // The window that stands before all others once this one is gone; null if there is none.
   QWidget* NextWindow(const QWidget* going) const;
   void ShowIcon();
+  void ShowClock();
   void Quit();
 
   struct Deed {
@@ -145,7 +146,7 @@ class DesktopFrontEnd : public FrontEnd {
 
   const DesktopFolders folders_;
   QElapsedTimer clock_;
-  QTimer timer_;
+  QTimer timer_, viewTimer_, clockTimer_;
   Media media_;
   View view_;
   std::unordered_map<const Form*, FormWindow*> windows_;

@@ -10,6 +10,7 @@
 #include <QWindow>
 
 #include "window/desktop/canvas.h"
+#include "window/desktop/comfort.h"
 #include "window/desktop/desktop.h"
 #include "window/desktop/menus.h"
 #include "window/desktop/native.h"
@@ -36,6 +37,7 @@ FormWindow::FormWindow(Form& form, DesktopFrontEnd& front) : form(form), front_(
     widget->installEventFilter(this);
     widgets_[control] = widget;
   }
+  if (Guide* guide = front.GuideOf(form)) comfort_ = std::make_unique<Comfort>(*this, front, *guide);
   setWindowTitle(QString::fromStdString(form.Caption));
   ApplySize();
 }
@@ -79,7 +81,7 @@ void FormWindow::ApplyPanels() {
     if (i == 3) breadth = std::max(40, width() - left - 2);
     QLabel* label = panels_[i - 1];
     label->setGeometry(left, 2, breadth - 2, kStatusHeight - 4);
-    label->setText(QString::fromStdString(panel.Text));
+    label->setText(QString::fromStdString(comfort_ ? comfort_->PanelText(panel) : panel.Text.get()));
     left += breadth;
   }
 }
@@ -95,6 +97,7 @@ void FormWindow::ShowForm(QWidget* behind) {
                                       Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint | buttons);
     setWindowModality(form.Modal() ? Qt::ApplicationModal : Qt::NonModal);
     ApplySize();
+    if (comfort_) comfort_->BeforeShow();
     create();
     if (form.Modal() && behind) windowHandle()->setTransientParent(behind->windowHandle());
     if (form.Left != 0 || form.Top != 0) move(Pixels(form.Left), Pixels(form.Top));
@@ -107,6 +110,8 @@ void FormWindow::ShowForm(QWidget* behind) {
 }
 
 void FormWindow::Leave() {
+  if (comfort_) comfort_->Leave();
+  comfort_.reset();
   left_ = true;
   for (auto& [control, widget] : widgets_) {
     widget->removeEventFilter(this);
@@ -224,6 +229,7 @@ void FormWindow::Settle() {
   const Visual* active = form.ActiveControl();
   QWidget* widget = active ? WidgetOf(*active) : nullptr;
   if (widget && focusWidget() != widget) widget->setFocus(Qt::OtherFocusReason);
+  if (comfort_) comfort_->Settle();
 }
 
 // --- What the player does ------------------------------------------------------------------------

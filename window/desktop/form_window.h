@@ -3,12 +3,14 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <memory>
 #include <unordered_map>
 #include <vector>
 
 #include "window/form.h"
 
 class Canvas;
+class Comfort;
 class DesktopFrontEnd;
 class Menus;
 class QLabel;
@@ -32,6 +34,8 @@ class FormWindow : public QWidget {
   void SurfaceChanged(PictureBox& surface);
   // The player wants windows drawn in another way.
   void ApplyView();
+  // A minute has begun.
+  void ApplyClock() { ApplyPanels(); }
   // Brings everything up to date that Qt may have changed by itself.
   void Settle();
 
@@ -61,6 +65,7 @@ class FormWindow : public QWidget {
   Visual* ControlOf(const QObject* widget) const;
 
   DesktopFrontEnd& front_;
+  std::unique_ptr<Comfort> comfort_;  // null if no guide tells what the player might want
   Canvas* canvas_ = nullptr;
   Menus* menus_ = nullptr;
   QWidget* statusBar_ = nullptr;

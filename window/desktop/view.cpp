@@ -61,9 +61,9 @@ bool WriteView(const fs::path& file, const View& view) {
   settings.setValue("sound/waves", view.waveVolume);
   settings.setValue("sound/music", view.musicVolume);
   if (view.selector) settings.setValue("last/selector", *view.selector);
-  settings.setValue("last/game", view.lastGame);
-  settings.setValue("last/seen", view.seen);
-  settings.setValue("last/name", view.lastName);
+  if (!view.lastGame.isEmpty()) settings.setValue("last/game", view.lastGame);
+  if (!view.seen.isEmpty()) settings.setValue("last/seen", view.seen);
+  if (!view.lastName.isEmpty()) settings.setValue("last/name", view.lastName);
   settings.sync();
   return settings.status() == QSettings::NoError;
 }

@@ -1,0 +1,139 @@
+// What the desktop adds to windows for their player, over two starts of the program.
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "games/games.h"
+#include "games/guides.h"
+#include "suite/catalogue.h"
+#include "suite/suite.h"
+#include "tests/desktop_screen.h"
+#include "tests/harness.h"
+
+namespace {
+
+// The program from its start to its end.
+struct Start {
+  explicit Start(const TestFolder& folder)
+      : front({folder.Path(), CARDHAVEN_TEST_DATA, folder.Path() / "desktop.ini"}, Catalogue()) {
+    front.guides = MakeGuide;
+    suite = std::make_unique<Suite>(front.platform, SuiteOptions{folder.Path()}, AllGames());
+    suite->Start();
+    input::Settle();
+  }
+  Form& Window(const char* name) {
+    Form* form = front.platform.FindForm(name);
+    return form ? *form : throw std::runtime_error(name);
+  }
+  FormWindow& Shown(const char* name) { return *front.WindowOf(Window(name)); }
+  template <class Widget>
+  Widget& Find(const char* form, const char* control) {
+    return *Shown(form).findChild<Widget*>(control);
+  }
+  Visual& Control(const char* form, const char* name) {
+    return static_cast<Visual&>(*Window(form).find(name));
+  }
+  bool Sees(const char* name) { return front.platform.FindForm(name) != nullptr; }
+  void Click(const char* form, const char* control) {
+    input::Click(front, Control(form, control));
+    input::Settle();
+  }
+  Guide& GuideTo(const char* name) { return *front.GuideOf(Window(name)); }
+
+  QuickDesktop front;
+  std::unique_ptr<Suite> suite;
+};
+
+class Comforts : public ::testing::Test {
+ protected:
+  const bool open = OpenScreen();
+  TestFolder folder;
+};
+
+}  // namespace
+
+TEST_F(Comforts, TheSelectorSaysWhatGamesAreAboutAndComesBackWhereItStood) {
+  {
+    Start first(folder);
+    for (const GameEntry& game : AllGames())
+      EXPECT_EQ(first.Find<QPushButton>("frmSelect", game.button).toolTip().toStdString(), game.what);
+    first.Shown("frmSelect").move(37, 41);
+    input::Settle();
+  }
+  Start second(folder);
+  EXPECT_EQ(second.Shown("frmSelect").pos(), QPoint(37, 41));
+  View view = second.front.GetView();
+  view.selector = QPoint(100'000, 41);  // on a screen that is gone
+  second.front.SetView(view);
+  second.front.Deliver(second.Window("frmSelect"), [&] { second.Window("frmSelect").Hide(); });
+  input::Settle();
+  Start third(folder);
+  EXPECT_LT(third.Shown("frmSelect").x(), 10'000);
+}
+
+TEST_F(Comforts, FirstStepsAreShownUntilTheFirstGame) {
+  const auto steps = [](Start& start) {
+    start.Click("frmSelect", "cmdSumfall");
+    return start.Shown("frmSumfall").Board().Notes().size();
+  };
+  {
+    Start first(folder);
+    EXPECT_EQ(steps(first), 1u);
+  }
+  {
+    Start again(folder);
+    EXPECT_EQ(steps(again), 1u) << "no game has been played";
+    again.Click("frmSumfall", "cmdPlay");
+    EXPECT_TRUE(again.Shown("frmSumfall").Board().Notes().empty());
+  }
+  Start later(folder);
+  EXPECT_EQ(steps(later), 0u);
+}
+
+TEST_F(Comforts, ANameIsOfferedAgainAndItsRowIsMarked) {
+  const char* const names[] = {"Zo\u00eb", "Bob"};
+  for (int game = 0; game < 3; ++game) {
+    folder.Write("HiScores90_11.Txt", "Ann, 5\r\nBob, 0\r\nCid, -1\r\n");
+    Start start(folder);
+    start.Click("frmSelect", "cmdSumfall");
+    start.Click("frmSumfall", "cmdPlay");
+    const auto atName = [&] {
+      auto& box = start.Find<QLineEdit>("frmHiScoreName", "lblPlayerName");
+      EXPECT_EQ(box.selectedText().toStdString(), game == 0 ? "" : names[game - 1]);
+      const std::vector<Note> notes = start.GuideTo("frmHiScoreName").Notes();
+      EXPECT_EQ(notes.at(0).text + "|" + notes.at(1).text, "Score 0|Place 3");
+      if (game < 2)
+        for (const char32_t letter : QString(names[game]).toStdU32String())
+          input::Key(box, Qt::Key_unknown, {}, QString::fromUcs4(&letter, 1));
+      input::Click(start.front, start.Control("frmHiScoreName", "cmdOK"));
+    };
+    const auto atTable = [&] {
+      std::string ranks;
+      for (const Note& note : start.Shown("frmHighScores").Board().Notes())
+        ranks += note.look == Note::Look::Mark ? ">" : note.text + " ";
+      EXPECT_EQ(ranks, "1 2 >3 4 ");
+      input::Click(start.front, start.Control("frmHighScores", "cmdDone"));
+    };
+    int answered = 0;
+    QTimer player;
+    player.callOnTimeout([&] {
+      if (answered == 0 && start.Sees("frmHiScoreName")) ++answered, atName();
+      if (answered == 1 && start.Sees("frmHighScores")) ++answered, atTable();
+    });
+    player.start(20);
+    start.front.Deliver(start.Window("frmSumfall"), [&] {
+      auto& window = static_cast<GameWindow&>(start.Window("frmSumfall"));
+      window.FinishGame();
+    });
+    EXPECT_EQ(answered, 2);
+  }
+}
+
+TEST_F(Comforts, TheClockIsTheOneOfTheSystem) {
+  Start start(folder);
+  start.Click("frmSelect", "cmdSumfall");
+  auto& window = static_cast<GameWindow&>(start.Window("frmSumfall"));
+  window.StatusBar1.Panels(3).Text = "3:07 AM";  // an hour and a minute that have gone by
+  EXPECT_EQ(start.Find<QLabel>("frmSumfall", "StatusBar1.Panels(3)").text().toStdString(),
+            start.suite->common.TimeOfDay());
+}

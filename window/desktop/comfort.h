@@ -1,0 +1,35 @@
+// What a window does for its player by itself, as its guide tells: notes on the board, first steps, a name
+// that is offered again, the place where it stood, tool tips, the clock.
+#pragma once
+
+#include "window/guide.h"
+
+class DesktopFrontEnd;
+class FormWindow;
+class QWidget;
+
+class Comfort {
+ public:
+  Comfort(FormWindow& window, DesktopFrontEnd& front, Guide& guide);
+
+  // The window is about to be shown.
+  void BeforeShow();
+  // A handler has ended.
+  void Settle();
+  // The window is hidden for good.
+  void Leave();
+  std::string PanelText(const Panel& panel) const;
+  // The tool tip of a widget that has none of its own.
+  void ApplyToolTip(QWidget& widget, const Visual& control) const;
+
+ private:
+  void ShowNotes();
+  void OfferAgain();
+  void KeepPlace();
+
+  FormWindow& window_;
+  DesktopFrontEnd& front_;
+  Guide& guide_;
+  std::string written_;  // in the box that is offered again
+  bool shown_ = false, showsSteps_ = false;
+};

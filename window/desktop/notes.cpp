@@ -1,0 +1,48 @@
+#include "window/desktop/notes.h"
+
+#include "window/desktop/scene.h"
+#include "window/desktop/style.h"
+
+namespace {
+
+constexpr int kSmall = 8, kReading = 9;  // points
+
+void PaintSheet(QPainter& painter, const QRectF& rect) {
+  painter.setPen(QPen(style::kGold, 1));
+  painter.setBrush(style::kIvory);
+  painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
+}
+
+void PaintMark(QPainter& painter, const QRectF& rect) {
+  QColor band = style::kGold;
+  band.setAlpha(110);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(band);
+  painter.drawRoundedRect(rect, 4, 4);
+}
+
+}  // namespace
+
+QRect NoteRect(const Note& note) {
+  return QRect(Pixels(note.left), Pixels(note.top), Pixels(note.width), Pixels(note.height))
+      .translated(Origin(*note.within));
+}
+
+void PaintNote(QPainter& painter, const Note& note, NoteLayer layer) {
+  const bool beneath = note.look == Note::Look::Mark;
+  if (beneath != (layer == NoteLayer::Beneath)) return;
+  const QRectF rect(NoteRect(note));
+  painter.save();
+  if (note.look == Note::Look::Sheet) PaintSheet(painter, rect);
+  if (beneath) PaintMark(painter, rect);
+  const Qt::Alignment sides[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
+  const QFont font = style::Letters(note.look == Note::Look::Sheet ? kReading : kSmall, beneath);
+  painter.setFont(font);
+  painter.setPen(style::kInk);
+  const QFontMetrics metrics(font);
+  QStringList lines;
+  for (const QString& line : QString::fromStdString(note.text).split('\n'))
+    lines << metrics.elidedText(line, Qt::ElideMiddle, static_cast<int>(rect.width()));
+  painter.drawText(rect, sides[note.alignment] | Qt::AlignVCenter, lines.join('\n'));
+  painter.restore();
+}
