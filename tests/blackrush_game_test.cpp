@@ -13,14 +13,6 @@ class Blackrush : public ::testing::Test {
   std::string Panel(int number) { return Text("StatusBar1.Panels(" + std::to_string(number) + ").Text"); }
   bool Is(const std::string& property) { return driver.Get(kWin + property) == true; }
   int Number(const std::string& property) { return driver.Get(kWin + property).get<int>(); }
-  // Those of the controls named that are "Visible" or "Enabled".
-  std::string Those(const std::string& names, const std::string& property) {
-    std::istringstream split(names);
-    std::string those;
-    for (std::string name; split >> name;)
-      if (Is(name + "." + property)) those += (those.empty() ? "" : " ") + name;
-    return those;
-  }
   std::string Tell(const std::string& commands) { return Story(driver.Trace(commands)); }
   // Totals of the four columns with what is shown of their cards.
   std::string Board() {
@@ -53,11 +45,7 @@ class Blackrush : public ::testing::Test {
   Driver driver{folder.Path()};
 };
 
-const std::string kBoard =
-    "ColumnTotal(0) Column1Line lblScore ScoreRectangle lblTotalScore frameScoreInfo lblRound lblHighScore cmdHit(0) "
-    "PlayCardPicture NextCardPicture cmdPass cmdTakeScore Surface TimerRectangle Column1(0)";
-
-TEST_F(Blackrush, OpensWithItsOwnNames) {
+TEST_F(Blackrush, OpensWithItsOwnNamesAndSettings) {
   driver.Do(kOpenBlackrush);
   EXPECT_EQ(
       folder.Read("Blackrush.Ini"),
@@ -67,85 +55,39 @@ TEST_F(Blackrush, OpensWithItsOwnNames) {
       "[Deck Completion Bonus]\r\n100000\r\n\r\n[Wait Period]\r\n2000\r\n\r\n[Time Limit]\r\n90\r\n\r\n"
       "[Bonus Round Score]\r\n250000\r\n\r\n[Count Down Score]\r\nTrue\r\n\r\n[State]\r\n0\r\n\r\n"
       "[Width]\r\n9060\r\n\r\n[Height]\r\n7155\r\n\r\n");
-  const std::pair<const char*, const char*> captions[] = {{"mnuUserOptions", "&User Options..."},
-                                                          {"mnuTimeLimit", "&Time Limit"},
-                                                          {"mnu15", "&15 Seconds (for the daring)"},
-                                                          {"mnu90", "&90 Seconds (default)"},
-                                                          {"mnu120", "&120 Seconds"},
-                                                          {"mnuPause", "P&ause"},
-                                                          {"cmdPass", "&Pass"},
-                                                          {"frameScoreInfo", "Twenty One Scoring Status"},
-                                                          {"lblTwentyOnes", "21's earned:"},
-                                                          {"lblTwentyoneTime", "21 Counter:"}};
-  for (const auto& [name, caption] : captions) EXPECT_EQ(Text(std::string(name) + ".Caption"), caption);
-  EXPECT_EQ(Panel(1), "Welcome to Blackrush!!");
-  EXPECT_EQ(Text("cmdTakeScore.ToolTipText"), "Totals score for current round");
+  EXPECT_EQ(Panel(1) + Text("mnuPause.Caption"), "Welcome to Blackrush!!P&ause");
+  EXPECT_TRUE(Is("mnu90.Checked") && Is("mnuNight.Checked"));
   EXPECT_TRUE(driver.Do("click frmBlackrush.mnuTakeScore").starts_with("error"));
-  EXPECT_TRUE(Is("mnu90.Checked") && Is("mnuNight.Checked") && Is("Timer6.Enabled"));
-  EXPECT_EQ(Those(kBoard + " lblTime", "Visible"), "");
-}
-
-TEST_F(Blackrush, AGameIsDealt) {
-  driver.Do(kOpenBlackrush + "click frmBlackrush.mnuMusic");
-  EXPECT_EQ(Tell(DrawsFor(StandardDeck(), {"7H"}) + kPlayBlackrush), "open, music");
-  EXPECT_EQ(Panel(1) + Panel(2),
-            "Make 250,000 for bonus round.Create columns of 21 to increase bonus score!");
-  EXPECT_EQ(Text("Caption") + Text("cmdPlay.Caption") + Text("lblRound.Caption") + Text("lblTime.Caption"),
-            "Blackrush!&End gameRound: 1Time: 90");
-  EXPECT_EQ(Next() + Pile(), "7H 0FULL");
-  EXPECT_EQ(Number("PlayCardPicture.Picture"), kNightCastle.full);
-  EXPECT_EQ(Number("NextCardPicture.BorderStyle"), 1);
-  EXPECT_EQ(Number("Column3(0).Picture"), common().ImageList2("EMPTY"));
-  EXPECT_EQ(Those(kBoard, "Visible"), kBoard);
-  EXPECT_EQ(
-      Those(
-          "cmdPause mnuPause cmdTakeScore cmdPass cmdHit(3) Timer1 mnuUserOptions mnuTimeLimit Timer3 Timer4",
-          "Enabled"),
-      "cmdPause mnuPause cmdTakeScore cmdPass cmdHit(3) Timer1");
+  driver.Do(kPlayBlackrush);
+  EXPECT_EQ(Text("cmdPlay.Caption"), "&End game");
 }
 
 TEST_F(Blackrush, CardsAreLaid) {
+  const std::string none = "0/0 0/0 0/0 0/0";
   const struct {
-    const char* why;
     std::vector<std::string> cards;
     std::string hits, story, board;
-    int score = 0, twentyOnes = 0;
+    int score = 0, bonus = 0;
   } games[] = {
-      {"pictures count ten", {"9S", "13D", "2C"}, "001", "Click x3", "19/2 2/1 0/0 0/0"},
-      {"an ace on ten", {"10S", "1S"}, "22", "Click, TwentyOne", "0/0 0/0 0/0 0/0", 0, 1},
-      {"a second ace is hard", {"1S", "1H"}, "00", "Click x2", "12/2Soft 0/0 0/0 0/0"},
-      {"a soft ace comes down", {"1S", "6H", "9D"}, "000", "Click x3", "16/3 0/0 0/0 0/0"},
-      {"a bust lays nothing",
-       {"13S", "6H", "9D"},
-       "00003",
-       "Click x2, Slide, 450, Slide, 450, Click",
-       "16/2 0/0 0/0 9/1",
-       -200},
-      {"five cards", {"2S", "2H", "2C", "2D", "3D"}, "33333", "Click x5, 450", "0/0 0/0 0/0 0/0", 750},
-      {"a fifth makes 21",
-       {"2S", "3H", "4C", "5D", "7D"},
-       "00000",
-       "Click x4, TwentyOne",
-       "0/0 0/0 0/0 0/0",
-       0,
-       1},
-      {"a fifth brings an ace down",
-       {"1S", "2S", "3H", "4C", "9D"},
-       "00000",
-       "Click x5, 450",
-       "0/0 0/0 0/0 0/0",
-       750},
+      {{"9S", "13D", "2C"}, "001", "Click x3", "19/2 2/1 0/0 0/0"},
+      {{"10S", "1S"}, "22", "Click, TwentyOne", none, 0, 1000},
+      {{"1S", "1H"}, "00", "Click x2", "12/2Soft 0/0 0/0 0/0"},
+      {{"1S", "6H", "9D"}, "000", "Click x3", "16/3 0/0 0/0 0/0"},
+      // A bust lays nothing.
+      {{"13S", "6H", "9D"}, "00003", "Click x2, Slide, 450, Slide, 450, Click", "16/2 0/0 0/0 9/1", -200},
+      {{"2S", "2H", "2C", "2D", "3D"}, "33333", "Click x5, 450", none, 750},
+      {{"2S", "3H", "4C", "5D", "7D"}, "00000", "Click x4, TwentyOne", none, 0, 1000},
+      {{"1S", "2S", "3H", "4C", "9D"}, "00000", "Click x5, 450", none, 750},
   };
   driver.Do(kOpenBlackrush);
   for (const auto& game : games) {
     Game().columns = {};  // no ace is left over
     StartBlackrush(driver, game.cards);
-    EXPECT_EQ(Tell(Hits(game.hits)), game.story) << game.why;
-    EXPECT_EQ(Board(), game.board) << game.why;
-    EXPECT_EQ(Text("lblTotalScore.Caption"), FormatNumber(game.score)) << game.why;
-    EXPECT_EQ(Text("lbl21s.Caption"), std::to_string(game.twentyOnes)) << game.why;
-    EXPECT_EQ(Text("lblBonus.Caption"), std::to_string(game.twentyOnes * 1000)) << game.why;
-    EXPECT_EQ(Text("lblCardsUsedCount.Caption"), std::to_string(game.cards.size())) << game.why;
+    EXPECT_EQ(Tell(Hits(game.hits)), game.story) << game.story;
+    EXPECT_EQ(Board(), game.board) << game.story;
+    EXPECT_EQ(Score(), game.score) << game.story;
+    EXPECT_EQ(Text("lblBonus.Caption"), std::to_string(game.bonus)) << game.story;
+    EXPECT_EQ(Text("lblCardsUsedCount.Caption"), std::to_string(game.cards.size())) << game.story;
     driver.Do(kPlayBlackrush + "answer \"Yes\"");
   }
 }
@@ -153,15 +95,10 @@ TEST_F(Blackrush, CardsAreLaid) {
 TEST_F(Blackrush, WhatThePlayerSeesOfAColumn) {
   StartBlackrush(driver, {"1S", "6H", "9D", "5C", "2S", "2H", "2C", "2D", "3D"});
   driver.Do(Hits("11"));
-  EXPECT_EQ(Number("Column2(1).Picture"), common().ImageList2("6H"));
-  EXPECT_EQ(Number("Column2(1).BorderStyle"), 1);
   const std::string total = "* set frmBlackrush.ColumnTotal(1).Caption ";
   EXPECT_EQ(Joined(LinesOf(driver.Trace(Hit(1)), total)), "\"7\"|\"16\"");  // the ace comes down first
   EXPECT_EQ(Joined(LinesOf(driver.Trace(Hit(1)), total)), "\"21\"|\"0\"");
-  EXPECT_EQ(Number("Column2(0).Picture"), common().ImageList2("EMPTY"));
-  EXPECT_EQ(Number("Column2(0).BorderStyle"), 0);
-  EXPECT_TRUE(Is("Column2(0).Visible") && Is("Timer3.Enabled"));
-  // While the Gimme is announced in the middle of its column, nothing lies there.
+  // While the Gimme is announced, nothing lies in its column.
   driver.Do(Hits("2222"));
   const std::string gimme = driver.Trace(Hit(2));
   const size_t shown = gimme.find("* set frmBlackrush.lblFiveCards.Visible true"),
@@ -169,11 +106,6 @@ TEST_F(Blackrush, WhatThePlayerSeesOfAColumn) {
   EXPECT_LT(gimme.find("* set frmBlackrush.Column3(0).Picture 0"), shown);
   EXPECT_LT(shown, slept);
   EXPECT_LT(slept, gimme.find("* set frmBlackrush.Column3(0).Picture 13"));
-  EXPECT_EQ(Number("lblFiveCards.Left") + Number("lblFiveCards.Width") / 2,
-            Number("Column3(0).Left") + 1035 / 2);
-  EXPECT_FALSE(Is("lblFiveCards.Visible"));
-  Game().columns[3].total = 20;
-  EXPECT_EQ(Joined(LinesOf(driver.Trace(Hit(3)), "* set frmBlackrush.lblBust.Visible ")), "true|false");
 }
 
 // --- Soft aces that outlive their column -------------------------------------------------------------
@@ -190,9 +122,7 @@ TEST_F(Blackrush, TheWordSoftComesBackWithAPause) {
 
 TEST_F(Blackrush, AnAceLeftOverSavesAHardColumnOnce) {
   StartBlackrush(driver, {"1S", "1H", "1C", "2D", "3D", "13S", "7S", "9S", "8S", "9H"});
-  driver.Do(Hits("11111"));  // a Five Card Gimme with an ace at 11
-  driver.Do(kPause + kPause);
-  EXPECT_EQ(Board(), "0/0 0/0 0/0 0/0");
+  driver.Do(Hits("11111"));                  // a Five Card Gimme with an ace at 11
   EXPECT_EQ(Tell(Hits("111")), "Click x3");  // 26 counts 16
   EXPECT_EQ(Board(), "0/0 16/3 0/0 0/0");
   EXPECT_EQ(Tell(Hit(1)), "Slide, 450");
@@ -206,9 +136,7 @@ TEST_F(Blackrush, AnAceLeftOverSavesAHardColumnOnce) {
 
 TEST_F(Blackrush, CardsArePassed) {
   StartBlackrush(driver, {"2S", "3S", "4S", "5S"});
-  EXPECT_EQ(Tell(kPass), "Click");
-  EXPECT_EQ(Next(), "3S 1");
-  driver.Do(kPass + kPass + kPause + kPause);
+  driver.Do(kPass + kPass + kPass);
   EXPECT_EQ(Next(), "5S 3");
   EXPECT_FALSE(Is("cmdPass.Enabled"));
   EXPECT_EQ(Tell(kTake), "Count x3, \"Prepare for Round 2\", 2000");  // cards passed are used
@@ -237,8 +165,6 @@ TEST_F(Blackrush, TheDeckIsPlayedThrough) {
             "\"Prepare for Round 2\", 2000, open, music");
   EXPECT_EQ(Score(), -100 + 100000 + 5200);
   EXPECT_EQ(common().Deck, deck) << "reshuffled, and not rebuilt";
-  EXPECT_EQ(Pile(), "FULL");
-  EXPECT_EQ(Number("NextCardPicture.BorderStyle"), 1);
   EXPECT_TRUE(Is("cmdPass.Enabled") && Is("cmdHit(0).Enabled"));
 }
 
@@ -248,15 +174,11 @@ TEST_F(Blackrush, TheBonusRisesUntilTheCounterExpires) {
   StartBlackrush(driver, {"10S", "1S", "10H", "1H", "2S", "2H", "2C", "2D", "3D", "10C", "1C"});
   const auto bar = [&] { return Number("ProgressBar1.Value"); };
   const auto flash = [&] { return Number("lblTwentyoneTime.ForeColor"); };
-  const auto bonus = [&] { return Text("lblBonus.Caption"); };
   driver.Do("advance 5000\n" + Hits("00"));
   EXPECT_EQ(bar(), 0);  // nothing runs before the first
   driver.Do("advance 4410");
   EXPECT_EQ(bar(), 49);
-  EXPECT_FALSE(Is("Timer5.Enabled"));
-  driver.Do("advance 50\n" + Hits("11"));
-  EXPECT_EQ(bar(), 0);
-  driver.Do("advance 40");  // the Hit kept the counter's step
+  driver.Do("advance 50\n" + Hits("11") + "advance 40");  // the Hit kept the counter's step
   EXPECT_EQ(bar(), 1);
   driver.Do("advance 4410");
   EXPECT_EQ(flash(), kBlue);
@@ -265,27 +187,21 @@ TEST_F(Blackrush, TheBonusRisesUntilTheCounterExpires) {
   driver.Do("advance 250");
   EXPECT_EQ(flash(), kBlack);
   // Five cards buy time, and no more.
-  driver.Do("advance 2200");
-  EXPECT_EQ(bar(), 80);
-  driver.Do(Hits("22222"));
+  driver.Do("advance 2200\n" + Hits("22222"));
   EXPECT_EQ(bar(), 0);
   EXPECT_EQ(flash(), kBlue);
-  EXPECT_FALSE(Is("Timer5.Enabled"));
-  EXPECT_EQ(bonus(), "2000");
+  EXPECT_EQ(Text("lblBonus.Caption"), "2000");
   // Too late: the bonus falls to one step, and the bar goes on.
   driver.Do("advance 8950");
   EXPECT_EQ(bar(), 100);
   const std::string expired = driver.Trace("advance 90");
   EXPECT_EQ(Joined(LinesOf(expired, "* set frmBlackrush.lblBonus.")),
             "Caption \"1000\"|ForeColor 255|ForeColor 16711680");
-  EXPECT_LT(expired.find("ForeColor 255"), expired.find("* sleep 250"));
-  EXPECT_LT(expired.find("* sleep 250"), expired.find("lblBonus.ForeColor 16711680"));
-  EXPECT_EQ(flash(), kBlue);
   EXPECT_FALSE(Is("Timer5.Enabled"));
   driver.Do("advance 900");
   EXPECT_GE(bar(), 9);
   driver.Do(Hits("00"));
-  EXPECT_EQ(bonus(), "2000");
+  EXPECT_EQ(Text("lblBonus.Caption"), "2000");
 }
 
 TEST_F(Blackrush, APauseKeepsTheCountersState) {
@@ -293,13 +209,10 @@ TEST_F(Blackrush, APauseKeepsTheCountersState) {
   driver.Do(kPause + kPause);
   EXPECT_FALSE(Is("Timer3.Enabled"));
   driver.Do(Hits("00") + "advance 4600\n" + kPause);
-  EXPECT_EQ(
-      Those("Timer1 Timer3 Timer5 cmdPlay cmdExit mnuPlay mnuExit cmdHit(2) cmdPass cmdTakeScore", "Enabled"),
-      "Timer5");  // the words flash on
-  EXPECT_EQ(Those(kBoard + " lblTime ScoringLabelOutline", "Visible"), "lblTime ScoringLabelOutline");
+  EXPECT_FALSE(Is("Timer1.Enabled") || Is("Timer3.Enabled") || Is("cmdHit(2).Enabled"));
+  EXPECT_TRUE(Is("Timer5.Enabled")) << "the words flash on";
   driver.Do("advance 60000\n" + kPause + "advance 90");
   EXPECT_EQ(Number("ProgressBar1.Value"), 52);
-  EXPECT_EQ(Those(kBoard + " ScoringLabelInfo ScoringLabelOutline", "Visible"), kBoard);
 }
 
 // --- Rounds and their ends ---------------------------------------------------------------------------
@@ -315,15 +228,9 @@ TEST_F(Blackrush, AGameGoesThroughToTheTable) {
             "open, music");
   EXPECT_EQ(Joined(LinesOf(paid, "* set frmBlackrush.lblRoundScore.Caption ")), "\"3 X 3,000 = 9,000\"");
   EXPECT_EQ(LinesOf(paid, "* set frmBlackrush.lblRoundScoreCount.Caption ").at(1), "\"8000\"");
-  EXPECT_EQ(Joined(LinesOf(paid, "* set frmBlackrush.lbl21s.")),
-            "ForeColor 255|ForeColor 16711680|Caption \"0\"");
-  EXPECT_EQ(Joined(LinesOf(paid, "* set frmBlackrush.lblCardsUsed.")), "ForeColor 255|ForeColor 16711680");
   EXPECT_EQ(Text("lblTotalScore.Caption") + Text("lblRound.Caption") + Text("lblBonus.Caption"),
             "9,600Round: 20");
-  EXPECT_EQ(Panel(2), "Create columns of 21 to increase bonus score!   ");
-  EXPECT_EQ(Those("lblRoundScore lblRoundScoreCount ProgressBar1 lblTwentyoneTime", "Visible"),
-            "ProgressBar1 lblTwentyoneTime");
-  EXPECT_FALSE(Is("Timer3.Enabled"));
+  EXPECT_FALSE(Is("Timer3.Enabled") || Is("lblRoundScore.Visible"));
   // The clock wasn't stopped: the round is two ticks old.
   EXPECT_EQ(Text("lblTime.Caption"), "Time: 88");
 
@@ -334,18 +241,8 @@ TEST_F(Blackrush, AGameGoesThroughToTheTable) {
             "silence x2, open, music, HighScore, \"Prepare for Bonus Round\", 2000, open, music");
   EXPECT_EQ(Tell(kTake + kEnterName), "silence x2, HighScore, \"Game Over\", 2000");
   EXPECT_EQ(folder.Read("BlackrushHiScores90.Txt").substr(0, 13), "Ann, 250001\r\n");
-  EXPECT_EQ(Panel(1) + Panel(2), "Click on Play to start a new game  Game Over ");
-  EXPECT_EQ(
-      Text("lblHighScore.Caption") + Text("lblRound.Caption") + Text("lblTime.Caption") + Text("Caption"),
-      "High Score: 250,001Game OverTime:Blackrush!");
-  EXPECT_EQ(
-      Those("Timer1 Timer3 Timer4 cmdPlay cmdExit mnuUserOptions mnuTimeLimit cmdPause mnuPause cmdHit(0)",
-            "Enabled"),
-      "Timer4 cmdPlay cmdExit mnuUserOptions mnuTimeLimit");
-  EXPECT_EQ(Those(kBoard + " ScoringLabelInfo ScoringLabelOutline frmSplash", "Visible"), "frmSplash");
-  EXPECT_EQ(Number("NextCardPicture.BorderStyle"), 0);
+  EXPECT_EQ(Text("lblRound.Caption") + Text("lblTime.Caption"), "Game OverTime:");
   driver.Do(kPlayBlackrush);
-  EXPECT_EQ(Those(kBoard, "Visible"), kBoard);
   Game().CurrentRound = 3;
   common().CurrentScore = 250000;
   EXPECT_TRUE(Tell(kTake + kEnterName).ends_with("\"Game Over\", 2000"));
@@ -358,14 +255,11 @@ TEST_F(Blackrush, TimeRunsOut) {
   EXPECT_EQ(Panel(2), "Create columns of 21 to increase bonus score!");
   driver.Do("advance 9000");
   EXPECT_EQ(Panel(2) + Text("lblTime.Caption"), "Better Hurry!Time: 7");
-  EXPECT_EQ(Number("lblTime.Left") + Number("lblTime.Width") / 2, Number("Column4(0).Left") + 1035 / 2);
   driver.Do(Hits("002") + "advance 6000");
   const std::string ended = driver.Trace("advance 1000");
   EXPECT_EQ(Story(ended), "\"Times Up!\", 250 x10, Count x3, 750, Count x1, \"Prepare for Round 2\", 2000");
-  EXPECT_EQ(LinesOf(ended, "* set frmBlackrush.ScoringLabelInfo.ForeColor ").front(), std::to_string(kBlack));
   EXPECT_LT(ended.find("* set frmBlackrush.Timer3.Enabled false"), ended.find("Times Up!"));
   EXPECT_LT(ended.find("* set frmBlackrush.Column3(0).Visible false"), ended.find("Times Up!"));
-  EXPECT_TRUE(Contains(ended, "Panels(2).Text \"Time has expired!\""));
   EXPECT_EQ(Score(), 300 + 1000);
   // A time-out stops the clock: the next round has all its seconds, and its label waits for the first.
   driver.Do("advance 999");
@@ -375,7 +269,6 @@ TEST_F(Blackrush, TimeRunsOut) {
   EXPECT_EQ(
       Tell("advance 29000\nadvance 30000\n"),
       "\"Times Up!\", 250 x10, \"Prepare for Round 3\", 2000, \"Times Up!\", 250 x10, \"Game Over\", 2000");
-  EXPECT_EQ(Those("ScoringLabelInfo ScoringLabelOutline", "Visible"), "");
 }
 
 // The counter may expire while the round is being paid; the next round begins at nothing all the same.
@@ -408,11 +301,9 @@ TEST_F(Blackrush, SettingsAreReadBack) {
   EXPECT_EQ(Number("Timer3.Interval"), 360);
   EXPECT_TRUE(Is("mnuHot.Checked") && common().CustomScoringInUse);
   EXPECT_EQ(Game().WaitPeriod, 2000);  // what doesn't fit was skipped
-  driver.Do("state frmBlackrush 2\nclose frmBlackrush\nanswer \"Yes\"\n");
+  driver.Do("close frmBlackrush\nanswer \"Yes\"\n");
   const std::string kept = folder.Read("Blackrush.Ini");
-  for (const char* part :
-       {"[Timer Speed]\r\n360\r\n", "[Deck]\r\n1\r\n", "[State]\r\n2\r\n\r\n[Width]\r\n9060\r\n"})
-    EXPECT_TRUE(Contains(kept, part)) << part;
+  EXPECT_TRUE(Contains(kept, "[Timer Speed]\r\n360\r\n") && Contains(kept, "[Deck]\r\n1\r\n")) << kept;
   folder.Write("Blackrush.Ini", "[Timer Speed]\r\n91\r\n\r\n");
   driver.Do(kOpenBlackrush);
   EXPECT_EQ(Number("Timer3.Interval") + Game().CounterSpeed, 180);
@@ -447,13 +338,13 @@ TEST_F(Blackrush, AnOverflowEndsTheGameAndKeepsTheScore) {
   common().CurrentScore = 60000;
   EXPECT_EQ(Tell(Hit(1) + "answer \"OK\"\n" + kEnterName), "box, HighScore, \"Game Over\", 2000");
   EXPECT_EQ(folder.Read("BlackrushHiScores90.Txt").substr(0, 12), "Ann, 60000\r\n");
-  EXPECT_EQ(Those(kBoard + " ScoringLabelInfo frmSplash", "Visible"), "frmSplash");
+  EXPECT_FALSE(Is("Column1(0).Visible") || Is("ScoringLabelInfo.Visible") || Is("cmdHit(0).Visible"));
   // In the middle of a count, too: nothing is left of it.
-  StartBlackrush(driver, {"10S", "1S", "10H"});
-  driver.Do(Hits("001"));
+  StartBlackrush(driver, {"10S", "1S"});
+  driver.Do(Hits("00"));
   EXPECT_EQ(Joined(BoxesOf(driver.Do(kTake + "answer \"OK\"\n" + kEnterName))), "Overflow");
   driver.Do(kPlayBlackrush);
-  EXPECT_EQ(Those("ProgressBar1 lblRoundScore", "Visible"), "ProgressBar1");
+  EXPECT_TRUE(Is("ProgressBar1.Visible") && !Is("lblRoundScore.Visible"));
   EXPECT_EQ(Number("lblCardsUsed.ForeColor"), kBlue);
 }
 
@@ -465,8 +356,7 @@ TEST_F(Blackrush, EndGameLeavesTheTableAlone) {
   common().CurrentScore = 60000;
   const std::string asked = driver.Trace("click frmBlackrush.mnuPlay\nadvance 3000\nanswer \"No\"\n");
   EXPECT_EQ(Story(asked), "silence, box, open, music");
-  EXPECT_TRUE(Contains(asked, R"({"text":"You have a game in progress. Are you sure you want to quit?",)"
-                              R"("title":"Blackrush!","icon":"question","buttons":["Yes","No"]})"));
+  EXPECT_EQ(Joined(BoxesOf(asked)), "You have a game in progress. Are you sure you want to quit?");
   EXPECT_EQ(common().ElapsedSeconds, 3);  // the clock ran on
   EXPECT_EQ(Tell(kPlayBlackrush + "answer \"Yes\"\n"), "silence, box, silence, \"Game Over\", 2000");
   EXPECT_TRUE(folder.Read("BlackrushHiScores90.Txt").starts_with("Quillmark, 50000\r\n"));
@@ -497,20 +387,6 @@ TEST_F(Blackrush, TheClockRunsOnUnderTheQuestions) {
   driver.Do(
       "close frmBlackrush\nadvance 2000\nanswer \"No\"\nstate frmBlackrush 1\nadvance 1000\nstate frmBlackrush 0");
   EXPECT_EQ(common().ElapsedSeconds, 3) << "nor does a minimised window stop it";
-}
-
-TEST_F(Blackrush, TheBoardIsPlacedFromTheMiddle) {
-  driver.Do(kOpenBlackrush);
-  const std::tuple<std::string, int, int> places[] = {
-      {"Column1(0)", 270, 2355}, {"Column4(4)", 4554, 3945},    {"cmdHit(3)", 4584, 5520},
-      {"cmdPass", 6012, 5520},   {"NextCardPicture", 1815, 60}, {"lblBust", 3420, 1155}};
-  for (const auto& [width, height] : {std::pair(9060, 7155), {14000, 9000}}) {
-    driver.Do("resize frmBlackrush " + std::to_string(width) + " " + std::to_string(height));
-    for (const auto& [control, left, top] : places) {
-      EXPECT_EQ(Number(control + ".Left"), left + (width - 9060) / 2) << control;
-      EXPECT_EQ(Number(control + ".Top"), top + (height - 7155) / 2) << control;
-    }
-  }
 }
 
 }  // namespace
