@@ -2,6 +2,7 @@
 
 #include "suite/catalogue.h"
 #include "suite/select.h"
+#include "window/text.h"
 
 std::string SpokenPicture(int picture) {
   static constexpr const char* kRanks[] = {"Ace",   "Two",  "Three", "Four", "Five",  "Six", "Seven",
@@ -21,41 +22,72 @@ char RankOfPicture(int picture) {
 
 std::vector<KeyRow> GameGuide::Keys() const {
   std::vector<KeyRow> rows = BoardKeys();
-  const std::vector<KeyRow> common = {
-      {"Arrows", "Go to the nearest card that can be played; with Ctrl to any card", {}},
-      {"Space, Return", "Click on the card under the cursor", {}},
-      {"P", "Pause, resume", {{"P", "cmdPause"}}},
-      {"Escape", "Pause", {}},
-      {"F1", "The rules", {{"F1", "mnuRules"}}},
-      {"F2", "Play", {{"F2", "mnuPlay"}}},
-      {"F11", "Full screen, and back", {}},
-      {"Shift+F1", "Say how the game stands", {}},
+  const auto take = [&](KeyRow row) {
+    for (const KeyRow& own : rows)
+      if (own.keys == row.keys) return;
+    rows.push_back(std::move(row));
   };
-  rows.insert(rows.end(), common.begin(), common.end());
+  take({"Arrows", "Go to the nearest card that can be played; with Ctrl to any card", {}});
+  take({"Space, Return", "Click on the card under the cursor", {}});
+  take({"P", "Pause, resume", {{"P", "cmdPause"}}});
+  take({"Escape", "Pause", {{"Escape", "cmdPause"}}});
+  take({"F1", "The rules", {{"F1", "mnuRules"}}});
+  take({"F2", "Play", {{"F2", "mnuPlay"}}});
+  take({"F11", "Full screen, and back", {}});
+  take({"Shift+F1", "Say how the game stands", {}});
   return rows;
+}
+
+KeyRow GameGuide::RankKeys() {
+  KeyRow row{"A, 2 to 9, 0 or T, J, Q, K", "The next card of that rank that can be played", {}};
+  for (const char key : std::string("A234567890TJQK")) row.clicks.push_back({{key}, kNextOfRank});
+  return row;
+}
+
+KeyRow GameGuide::BackKey() {
+  return {"Backspace", "Take back the card selected last", {{"Backspace", kLastSelected}}};
+}
+
+KeyRow GameGuide::HitKeys(int columns) {
+  KeyRow row{"1 to " + std::to_string(columns), "Hit on that column", {}};
+  for (int i = 0; i < columns; ++i)
+    row.clicks.push_back({std::to_string(i + 1), "cmdHit(" + std::to_string(i) + ")"});
+  return row;
 }
 
 std::string GameGuide::State() const {
   std::string state;
-  const auto tell = [&](const Label& label, const std::string& before) {
-    if (!label.Exists() || !label.Visible || label.Caption.get().empty()) return;
-    if (!state.empty()) state += " ";
-    state += before + label.Caption.get() + ".";
+  const auto tell = [&](const std::string& text) {
+    if (!text.empty()) state += (state.empty() ? "" : " ") + text + ".";
   };
-  tell(window_.lblMessage, "");
-  if (window_.InGame()) {
-    tell(window_.lblCurrentRound, "Round ");
-    tell(window_.lblCurrentScore, "Score ");
-    tell(window_.lblTime, "");
-  }
-  if (const std::string board = window_.InGame() ? BoardState() : ""; !board.empty()) state += " " + board;
+  if (window_.lblMessage.Visible) tell(window_.lblMessage.Caption);
+  if (!window_.InGame()) return state;
+  const modCommon& common = window_.common;
+  tell(window_.CurrentRound > window_.plan.rounds ? "Bonus round"
+                                                  : "Round " + std::to_string(window_.CurrentRound));
+  tell("Score " + FormatNumber(common.CurrentScore));
+  if (window_.phase == Phase::Scoring) return state;
+  const long long left = common.TimeLimit - common.ElapsedSeconds;
+  tell(std::to_string(left) + (left == 1 ? " second left" : " seconds left"));
+  if (const std::string board = BoardState(); !board.empty()) state += " " + board;
   return state;
 }
 
-void GameGuide::Add(std::vector<Spot>& spots, Image& image, bool playable, bool selected) const {
-  if (!image.Visible || SpokenPicture(image.Picture).empty()) return;
-  spots.push_back(
-      {&image, SpokenPicture(image.Picture), playable && Plays(), selected, RankOfPicture(image.Picture)});
+void GameGuide::Add(std::vector<Spot>& spots, Image& image, bool playable, bool selected,
+                    const std::string& place) const {
+  const std::string text = SpokenPicture(image.Picture);
+  if (!image.Visible || text.empty()) return;
+  spots.push_back({&image, text + (place.empty() ? "" : ", " + place), playable && image.Enabled && Plays(),
+                   selected, RankOfPicture(image.Picture)});
+}
+
+void GameGuide::AddHit(std::vector<Spot>& spots, CommandButton& button, const Label& total,
+                       const Label& soft) const {
+  if (!button.Visible) return;
+  const bool isSoft = soft.Visible && !soft.Caption.get().empty();
+  const std::string text =
+      "Column " + std::to_string(button.index + 1) + ": " + total.Caption.get() + (isSoft ? ", soft" : "");
+  spots.push_back({&button, text + (button.Enabled ? "" : ", closed"), button.Enabled && Plays()});
 }
 
 // Below the splash panel.

@@ -15,6 +15,7 @@ class GameGuide : public Guide {
   explicit GameGuide(GameWindow& window) : window_(window) {}
 
   std::vector<KeyRow> Keys() const override;
+  bool Paused() const override { return window_.IsPaused(); }
   std::string State() const override;
   std::optional<Note> FirstStepsPlace() const override;
   std::string PanelText(int number) const override;
@@ -25,9 +26,17 @@ class GameGuide : public Guide {
   // What the game adds to the state.
   virtual std::string BoardState() const { return ""; }
   // Whether cards can be played now.
-  bool Plays() const { return window_.phase == Phase::Playing; }
-  // A place that shows a card, a back or an empty place; nothing is added for one that doesn't show.
-  void Add(std::vector<Spot>& spots, Image& image, bool playable, bool selected = false) const;
+  bool Plays() const { return window_.phase == Phase::Playing && !window_.common.TakingScore; }
+  // A place that shows a card, a back or an empty place, and what place it is; nothing is added for one that
+  // doesn't show. None can be played while it is disabled or no round runs.
+  void Add(std::vector<Spot>& spots, Image& image, bool playable, bool selected = false,
+           const std::string& place = "") const;
+  // The same for a button that lays a card on the column above it: "Column 2: 14, soft".
+  void AddHit(std::vector<Spot>& spots, CommandButton& button, const Label& total, const Label& soft) const;
+  // Rows that several games have.
+  static KeyRow RankKeys();  // the next card of a rank
+  static KeyRow BackKey();   // takes a selection back
+  static KeyRow HitKeys(int columns);
 
  private:
   GameWindow& window_;

@@ -10,20 +10,24 @@
 
 #include "window/form.h"
 
-// A place on the board that keys can go to and a voice can tell of.
+// A place on the board that keys can go to and a voice can tell of: mostly an image; a button where that is
+// what a player clicks to play there.
 struct Spot {
   Visual* control;
-  std::string text;       // "Ten of diamonds", "Face down", "Empty"
+  std::string text;       // "Ten of diamonds", "Face down, stock", "Empty, row 1, column 2"
   bool playable = false;  // a click on it would be taken as a move now
   bool selected = false;
   char rank = 0;  // of a face that shows: 'A', '2' to '9', 'T', 'J', 'Q', 'K'; else 0
 };
 
-// A key, or several struck one after the other, for a click.
+// A key, or several struck one after the other, for a click. Of several clicks for one key the first counts
+// that can be made.
 struct KeyClick {
   std::string keys;     // "P", "F1", "Escape", "-", "12"; letters are capitals
-  std::string control;  // "cmdPause", "mnuRules", "PlayCards(7)"
+  std::string control;  // "cmdPause", "mnuRules", "PlayCards(7)"; or one of the two below
 };
+inline constexpr char kNextOfRank[] = "*rank";        // the next place of that rank that can be played
+inline constexpr char kLastSelected[] = "*selected";  // the place selected last, which lets it go
 
 // A row of the table of keys as the player reads it. Keys that a front end serves by itself have no clicks.
 struct KeyRow {
@@ -56,6 +60,8 @@ class Guide {
   virtual std::vector<KeyRow> Keys() const { return {}; }
   // What lies on the board now, in reading order: visible places only.
   virtual std::vector<Spot> Spots() const { return {}; }
+  // Whether the player has paused the window: a key that only pauses does nothing then.
+  virtual bool Paused() const { return false; }
   // Where the window stands, in short sentences: "Round 2. Score 12,300. 45 seconds left."
   virtual std::string State() const { return ""; }
   // Texts to be added as the window stands now.

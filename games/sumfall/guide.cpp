@@ -1,5 +1,7 @@
 #include "games/sumfall/guide.h"
 
+using namespace modSumfall;
+
 namespace {
 
 class SumfallGuide : public GameGuide {
@@ -8,11 +10,18 @@ class SumfallGuide : public GameGuide {
 
   std::vector<Spot> Spots() const override {
     std::vector<Spot> spots;
-    for (int place = 0; place < modSumfall::kPlaces; ++place)
-      Add(spots, window_.FieldCardPicture(place), window_.CheckLegalFieldCardMove(place),
-          window_.FieldSelectionRectangle(place).Visible);
-    Add(spots, window_.PlayCardPicture, window_.PlayCardPicture.Picture != kEmptyPlace);
-    Add(spots, window_.UpCardPicture, window_.UpCardIndex != 0, window_.UpCardSelectionRectangle.Visible);
+    bool hasGap = false;
+    for (int place = 0; place < kPlaces; ++place) {
+      const bool selected = window_.FieldSelectionRectangle(place).Visible;
+      const bool fits = selected || Fits(window_.FieldCards[place]);
+      Add(spots, window_.FieldCardPicture(place), fits && window_.CheckLegalFieldCardMove(place), selected);
+      hasGap |= !window_.FieldCardPicture(place).Visible;
+    }
+    const bool pileIsFull = window_.UpCardIndex >= kUpCards - 1 && !hasGap;
+    Add(spots, window_.PlayCardPicture, window_.StockIndex >= 0 && !pileIsFull, false, "stock");
+    const bool selected = window_.UpCardSelectionRectangle.Visible;
+    const bool fits = window_.UpCardIndex != 0 && (selected || Fits(window_.UpCards[window_.UpCardIndex]));
+    Add(spots, window_.UpCardPicture, fits, selected, "up card");
     return spots;
   }
 
@@ -24,15 +33,20 @@ class SumfallGuide : public GameGuide {
 
  protected:
   std::vector<KeyRow> BoardKeys() const override {
-    return {{"A, 2 to 9, 0 or T, J, Q, K", "The next free card of that rank", {}},
+    return {RankKeys(),
             {"D", "Turn the next card of the stock", {{"D", "PlayCardPicture"}}},
             {"U", "The card turned up", {{"U", "UpCardPicture"}}},
-            {"Backspace", "Take back the card selected last", {}}};
+            BackKey()};
   }
 
   std::string BoardState() const override {
     return "Selected " + std::to_string(window_.CurrentTotal) + " of " + std::to_string(window_.CardGoal) +
            ".";
+  }
+
+ private:
+  bool Fits(const std::string& card) const {
+    return CardValue(card) + window_.CurrentTotal <= window_.CardGoal;
   }
 
  private:

@@ -1,0 +1,47 @@
+#include "games/spirehold/guide.h"
+
+using namespace modSpirehold;
+
+namespace {
+
+class SpireholdGuide : public GameGuide {
+ public:
+  explicit SpireholdGuide(frmSpirehold& window) : GameGuide(window), window_(window) {}
+
+  std::vector<Spot> Spots() const override {
+    std::vector<Spot> spots;
+    for (int card = 0; card < kCards; ++card) {
+      Image& image = window_.UpCardImage(card);
+      const bool fits = RankOfPicture(image.Picture) != 0 &&
+                        IsNeighbour(CardValue(window_.DeckCards.at(card)), window_.UpCardValue);
+      Add(spots, image, fits);
+    }
+    Add(spots, window_.CardStackPicture, StackStage(window_.StackIndex + 1) != nullptr, false, "stock");
+    Add(spots, window_.UpCardPicture, false, false, "up card");
+    return spots;
+  }
+
+  std::vector<std::string> FirstSteps() const override {
+    return {"Click free cards one rank above or below the card turned up; ace and king are neighbours.",
+            "Each further card of a run is worth more. A card of the stock breaks the run.",
+            "A tower falls with its topmost card. Take down three, then take the score."};
+  }
+
+ protected:
+  std::vector<KeyRow> BoardKeys() const override {
+    return {RankKeys(), {"D", "Turn the next card of the stock", {{"D", "CardStackPicture"}}}};
+  }
+
+  std::string BoardState() const override {
+    const std::string up = SpokenPicture(window_.UpCardPicture.Picture);
+    return (up.empty() ? "" : "Up card " + up + ". ") + "Run of " + std::to_string(window_.CurrentRun) +
+           ", " + std::to_string(window_.CardsRemaining) + " cards in the stock.";
+  }
+
+ private:
+  frmSpirehold& window_;
+};
+
+}  // namespace
+
+std::unique_ptr<Guide> GuideTo(frmSpirehold& window) { return std::make_unique<SpireholdGuide>(window); }
