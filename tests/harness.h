@@ -21,10 +21,9 @@
 class TestFolder {
  public:
   TestFolder() {
-    static int count = 0;
-    path_ = std::filesystem::temp_directory_path() /
-            ("cardhaven-test-" + std::to_string(getpid()) + "-" + std::to_string(++count));
-    std::filesystem::create_directories(path_);
+    std::string name = std::filesystem::temp_directory_path() / "cardhaven-test-XXXXXX";
+    if (!mkdtemp(name.data())) throw std::runtime_error("no folder for a test can be made");
+    path_ = name;
   }
   ~TestFolder() {
     std::error_code error;
