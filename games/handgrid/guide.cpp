@@ -23,7 +23,7 @@ class HandgridGuide : public GameGuide {
 
   std::vector<std::string> FirstSteps() const override {
     return {"Click where the card that shows shall lie: each row and each column is a poker hand.",
-            "Three times a game's round a card may be laid over another.",
+            "A few cards may be laid over others.",
             "Fill the grid before the time is up: its points are multiplied by the seconds left."};
   }
 
