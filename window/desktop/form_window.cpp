@@ -53,6 +53,7 @@ FormWindow::FormWindow(Form& form, DesktopFrontEnd& front) : form(form), front_(
     view.zoom = std::clamp(static_cast<int>(std::lround(zoom_ * 100)), 100, 300);
     front_.SetView(view);
   });
+  fits_ = front.GetView().fitNormal;
   ApplySize();
 }
 
@@ -200,7 +201,9 @@ void FormWindow::ApplyForm(Prop prop) {
       return;
     case Prop::Width:
     case Prop::Height:
-      return ApplySize();
+      ApplySize();
+      if (zoom_ != 1 && isVisible() && !IsFilled() && !isMinimized() && !tellsPlace_) ApplyPlace();
+      return;
     case Prop::MousePointer:
       form.MousePointer == kWaiting ? setCursor(Qt::WaitCursor) : unsetCursor();
       return canvas_->UpdatePointer();
@@ -222,23 +225,30 @@ void FormWindow::ApplyForm(Prop prop) {
 void FormWindow::FillScreen(Qt::WindowStates how) {
   if (!IsFilled()) {
     const Extent screen = front_.ScreenExtent();
+    zooming_ = true;
     setGeometry(0, 0, Pixels(screen.width), Pixels(screen.height));
+    zooming_ = false;
   }
   setWindowState((windowState() & ~Qt::WindowMinimized) | how);
 }
 
 void FormWindow::ApplySize() {
   const QSize wanted = ShownSize();
+  ApplyLimits();
+  if (form.Sizable && size() != wanted && !IsFilled() && !isMinimized()) resize(wanted);
+  if (!isVisible()) LayOutParts();
+}
+
+void FormWindow::ApplyLimits() {
+  const QSize wanted = ShownSize();
   if (!form.Sizable) {
     if (minimumSize() != wanted || maximumSize() != wanted) setFixedSize(wanted);
-  } else {
-    const bool fits = IsFilled() || front_.GetView().fitNormal;
-    const double least = fits && front_.HeedsWindowManager() ? 1 : zoom_;
-    setMinimumSize(static_cast<int>(std::lround(form.MinWidth / 15.0 * least)),
-                   static_cast<int>(std::lround(form.MinHeight / 15.0 * least)));
-    if (size() != wanted && !IsFilled() && !isMinimized()) resize(wanted);
+    return;
   }
-  if (!isVisible()) LayOutParts();
+  const bool fits = (IsFilled() || front_.GetView().fitNormal) && front_.HeedsWindowManager();
+  const double least = fits ? 1 : zoom_;
+  setMinimumSize(static_cast<int>(std::lround(form.MinWidth / 15.0 * least)),
+                 static_cast<int>(std::lround(form.MinHeight / 15.0 * least)));
 }
 
 void FormWindow::Reordered(Visual& control) { canvas_->Refresh(control); }
@@ -260,8 +270,12 @@ void FormWindow::ApplyView() {
     else
       setWindowState(windowState() & ~Qt::WindowFullScreen);
   }
+  const bool fits = front_.GetView().fitNormal;
+  if (fits && !fits_ && isVisible()) FollowFrame();
+  fits_ = fits;
   Rezoom();
-  if (IsFilled() && isVisible()) TellSizeSoon();
+  ApplyLimits();
+  if (isVisible()) TellSizeSoon();
   if (viewMenu_) viewMenu_->Apply();
   canvas_->update();
 }
@@ -293,7 +307,8 @@ double FormWindow::WantedZoom() const {
   if (!front_.HeedsWindowManager()) return 1;
   if (form.Sizable && IsFilled()) return view.fitMaximised ? FittingZoom() : std::min(wanted, FittingZoom());
   // The one that the player has dragged the window to isn't a round number.
-  if (form.Sizable && view.fitNormal && isVisible() && std::abs(zoom_ - wanted) < 0.006) return zoom_;
+  if (form.Sizable && view.fitNormal && (zoomKept_.isActive() || std::abs(zoom_ - wanted) < 0.006))
+    return zoom_;
   const QSize frame = isVisible() ? frameSize() - size() : QSize(4, 30);
   const QSize room = screen()->availableGeometry().size() - frame;
   const double width = (form.Sizable && form.MinWidth > 0 ? form.MinWidth : form.Width) / 15.0;
@@ -323,13 +338,14 @@ void FormWindow::SetZoom(double zoom) {
 
 // A window that fits what it shows to its frame: the frame is dragged, and the board grows with it.
 void FormWindow::FollowFrame() {
-  if (!form.Sizable || IsFilled() || isMinimized() || !front_.GetView().fitNormal ||
-      !front_.HeedsWindowManager() || size() == ShownSize())
+  if (!form.Sizable || IsFilled() || isMinimized() || zooming_ || !front_.GetView().fitNormal ||
+      !front_.HeedsWindowManager())
     return;
   zooming_ = true;
   SetZoom(std::min(FittingZoom(), 3.0));
   zooming_ = false;
   zoomKept_.start();
+  TellSizeSoon();
 }
 
 // What is drawn larger than the model knows of is kept on the screen.
@@ -414,7 +430,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 void FormWindow::resizeEvent(QResizeEvent*) {
   if (IsFilled() && isVisible())
     Rezoom();
-  else if (isVisible() && !left_)
+  else if (isVisible() && !left_ && size() != ShownSize())
     FollowFrame();
   LayOutParts();
   TellSizeSoon();
@@ -438,22 +454,28 @@ void FormWindow::TellSize() {
   if (size() == ShownSize()) return;
   if (!form.Sizable || !front_.HeedsWindowManager()) return;
   front_.Deliver(form, [this] {
-    if (player::WhyNot(form).empty()) player::Resize(form, Told(width()), Told(height()));
+    if (!player::WhyNot(form).empty()) return;
+    tellsPlace_ = true;
+    player::Resize(form, Told(width()), Told(height()));
+    tellsPlace_ = false;
+    TellPlace();
   });
 }
 
+void FormWindow::TellPlace() {
+  if (left_ || !isVisible() || IsFilled() || isMinimized()) return;
+  const QPoint place = pos() - Aside();
+  tellsPlace_ = true;
+  if (place.x() != Pixels(form.Left)) form.Left = place.x() * 15;
+  if (place.y() != Pixels(form.Top)) form.Top = place.y() * 15;
+  tellsPlace_ = false;
+}
+
 void FormWindow::moveEvent(QMoveEvent*) {
-  if (left_ || !isVisible() || IsFilled() || isMinimized() || !front_.HeedsWindowManager()) return;
-  const auto place = [this] { return pos() - Aside(); };
-  const auto differs = [this, place] { return place() != QPoint(Pixels(form.Left), Pixels(form.Top)); };
-  if (!differs()) return;
-  front_.Deliver(form, [this, place, differs] {
-    if (!differs() || IsFilled() || isMinimized()) return;
-    tellsPlace_ = true;
-    if (place().x() != Pixels(form.Left)) form.Left = place().x() * 15;
-    if (place().y() != Pixels(form.Top)) form.Top = place().y() * 15;
-    tellsPlace_ = false;
-  });
+  if (left_ || !isVisible() || IsFilled() || isMinimized() || !front_.HeedsWindowManager() || zooming_)
+    return;
+  if (pos() - Aside() != QPoint(Pixels(form.Left), Pixels(form.Top)))
+    front_.Deliver(form, [this] { TellPlace(); });
 }
 
 void FormWindow::changeEvent(QEvent* event) {
@@ -474,8 +496,11 @@ void FormWindow::TellState() {
   if (state == form.WindowState) return;
   front_.Deliver(form, [this, state, placeless] {
     if (!player::WhyNot(form).empty()) return;
+    zooming_ = true;
     Rezoom();
+    zooming_ = false;
     player::SetState(form, state);
+    ApplySize();
     if (placeless) form.platform.Dispatch([this] { form.CenterOnScreen(); });
   });
 }

@@ -65,6 +65,7 @@ class FormWindow : public QWidget {
   void LayOutParts();
   void ApplyForm(Prop prop);
   void ApplySize();
+  void ApplyLimits();
   void ApplyPlace();
   void ApplyPanels();
   // The zoom that the player has asked for, as far as the screen allows.
@@ -85,6 +86,7 @@ class FormWindow : public QWidget {
   void TellState();
   void TellSize();
   void TellSizeSoon();
+  void TellPlace();
   bool TakeKey(int key);
   Visual* ControlOf(const QObject* widget) const;
 
@@ -100,5 +102,6 @@ class FormWindow : public QWidget {
   QTimer zoomKept_;           // runs out when the player has let go of the frame
   double zoom_ = 1;
   bool left_ = false, sizeWaits_ = false, tellsPlace_ = false, zooming_ = false;
+  bool fits_ = false;      // what a normal window shows is fitted to its frame
   bool hasStood_ = false;  // on the screen, neither maximised nor minimised
 };
