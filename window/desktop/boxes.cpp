@@ -12,6 +12,7 @@
 
 #include "window/desktop/desktop.h"
 #include "window/desktop/form_window.h"
+#include "window/desktop/style.h"
 
 namespace {
 
@@ -35,7 +36,8 @@ void KeepOnScreen(QMessageBox& box) {
   auto* const label = box.findChild<QLabel*>("qt_msgbox_label");
   auto* const grid = qobject_cast<QGridLayout*>(box.layout());
   const QSize room = box.screen()->availableGeometry().size();
-  const int width = std::min(600, room.width() * 2 / 3), height = room.height() * 3 / 5;
+  const int most = static_cast<int>(600 * style::ZoomOf(&box));
+  const int width = std::min(most, room.width() * 2 / 3), height = room.height() * 3 / 5;
   const QRect needs =
       label ? label->fontMetrics().boundingRect(QRect(0, 0, width, 1000000),
                                                 Qt::TextWordWrap | Qt::TextWrapAnywhere, box.text())
@@ -55,6 +57,7 @@ void KeepOnScreen(QMessageBox& box) {
 class Box : public QMessageBox {
  public:
   Box(DesktopFrontEnd& front, QWidget* behind) : front_(front), behind_(behind) {
+    style::SetZoom(*this, style::ZoomOf(behind));
     create();
     if (behind) windowHandle()->setTransientParent(behind->windowHandle());
   }

@@ -9,6 +9,7 @@
 #include "window/desktop/desktop.h"
 #include "window/desktop/notes.h"
 #include "window/desktop/paint.h"
+#include "window/desktop/style.h"
 #include "window/player.h"
 
 namespace {
@@ -31,6 +32,7 @@ Canvas::Canvas(Form& form, DesktopFrontEnd& front, QWidget* parent)
 void Canvas::SetZoom(double zoom) {
   if (zoom == zoom_) return;
   zoom_ = zoom;
+  if (pointer_ > kCustom) setCursor(PointerOf(pointer_ - kCustom));
   update();
 }
 
@@ -151,10 +153,18 @@ void Canvas::UpdatePointer() {
   if (wanted == kWaiting)
     setCursor(Qt::WaitCursor);
   else if (wanted > kCustom)
-    setCursor(QCursor(front_.pictures.Get(wanted - kCustom, false, devicePixelRatioF()), kFingertip.x(),
-                      kFingertip.y()));
+    setCursor(PointerOf(wanted - kCustom));
   else
     unsetCursor();
+}
+
+QCursor Canvas::PointerOf(int picture) {
+  constexpr double kLargest = 3;  // where larger ones are, screens may cut them off
+  const double zoom = std::min(zoom_, kLargest), scale = devicePixelRatioF();
+  QPixmap pixels = front_.pictures.Get(picture, false, scale * zoom);
+  pixels.setDevicePixelRatio(scale);
+  const QPointF tip = QPointF(kFingertip) * zoom;
+  return QCursor(pixels, tip.toPoint().x(), tip.toPoint().y());
 }
 
 void Canvas::ShowToolTip(QHelpEvent& event) {
@@ -163,6 +173,7 @@ void Canvas::ShowToolTip(QHelpEvent& event) {
   for (auto it = scene.rbegin(); it != scene.rend(); ++it) {
     if (!it->rect.contains(point) || !it->clip.contains(point)) continue;
     const QString text = QString::fromStdString(it->control->ToolTipText);
+    if (!text.isEmpty()) QToolTip::setFont(style::Letters(zoom_));
     if (!text.isEmpty()) return QToolTip::showText(event.globalPos(), text, this, ToWindow(it->rect));
     if (it->control->kind == Control::Kind::Image) break;
   }

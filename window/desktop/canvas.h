@@ -51,6 +51,7 @@ class Canvas : public QWidget {
  private:
   void Press(QPoint point);
   void ShowToolTip(QHelpEvent& event);
+  QCursor PointerOf(int picture);
 
   Form& form_;
   DesktopFrontEnd& front_;

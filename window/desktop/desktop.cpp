@@ -85,8 +85,12 @@ void DesktopFrontEnd::SetView(const View& view) {
   if (view == view_) return;
   view_ = view;
   if (!folders_.view.empty() && !viewTimer_.isActive()) viewTimer_.start();
-  for (const auto& [form, window] : windows_) window->ApplyView();
+  for (const bool dialogs : {false, true})  // a dialog follows the window behind it
+    for (const auto& [form, window] : windows_)
+      if (form->Modal() == dialogs) window->ApplyView();
 }
+
+bool DesktopFrontEnd::LessMotion() const { return view_.lessMotion; }
 
 void DesktopFrontEnd::Run(Form* form, const std::function<void()>& handler) {
   if (platform.HasEnded() || (form && !Knows(*form))) return;

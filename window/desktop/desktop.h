@@ -48,6 +48,8 @@ class DesktopFrontEnd : public FrontEnd {
   const View& GetView() const { return view_; }
   // Shows all windows in this way from now on, and keeps it.
   void SetView(const View& view);
+  // Whether nothing is to move or blink for show: asked for here or in the desktop's own settings.
+  bool LessMotion() const;
   // A board has been painted.
   void Painted();
   // A window or box that is about to be hidden hands the keyboard to the next one, as well as the boxes that

@@ -6,14 +6,19 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QTimer>
+#include <QToolTip>
 #include <QWindow>
+#include <cmath>
 
 #include "window/desktop/canvas.h"
 #include "window/desktop/comfort.h"
 #include "window/desktop/desktop.h"
 #include "window/desktop/menus.h"
 #include "window/desktop/native.h"
+#include "window/desktop/style.h"
+#include "window/desktop/view_menu.h"
 #include "window/player.h"
 
 namespace {
@@ -29,6 +34,7 @@ FormWindow::FormWindow(Form& form, DesktopFrontEnd& front) : form(form), front_(
   setObjectName(QString::fromUtf8(form.name.data(), static_cast<qsizetype>(form.name.size())));
   canvas_ = new Canvas(form, front, this);
   menus_ = new Menus(form, front, *this);
+  if (front.HeedsWindowManager()) viewMenu_ = new ViewMenu(*this, front, menus_->Bar());
   for (Control* control : form.Controls()) {
     if (control->kind == Control::Kind::StatusBar) MakeStatusBar(static_cast<StatusBar&>(*control));
     if (!IsNative(control->kind)) continue;
@@ -39,6 +45,15 @@ FormWindow::FormWindow(Form& form, DesktopFrontEnd& front) : form(form), front_(
   }
   if (Guide* guide = front.GuideOf(form)) comfort_ = std::make_unique<Comfort>(*this, front, *guide);
   setWindowTitle(QString::fromStdString(form.Caption));
+  zoomKept_.setSingleShot(true);
+  zoomKept_.setInterval(500);
+  connect(&zoomKept_, &QTimer::timeout, this, [this] {
+    if (left_ || IsFilled() || !front_.GetView().fitNormal) return;
+    View view = front_.GetView();
+    view.zoom = std::clamp(static_cast<int>(std::lround(zoom_ * 100)), 100, 300);
+    front_.SetView(view);
+  });
+  fits_ = front.GetView().fitNormal;
   ApplySize();
 }
 
@@ -62,11 +77,12 @@ void FormWindow::MakeStatusBar(StatusBar& bar) {
 
 void FormWindow::LayOutParts() {
   const int top = menus_->Height();
-  const int bottom = statusBar_ && !statusBar_->isHidden() ? kStatusHeight : 0;
+  const int tall = static_cast<int>(std::lround(kStatusHeight * zoom_));
+  const int bottom = statusBar_ && !statusBar_->isHidden() ? tall : 0;
   menus_->Place(width());
   canvas_->setGeometry(0, top, width(), std::max(0, height() - top - bottom));
   if (!statusBar_) return;
-  statusBar_->setGeometry(0, height() - kStatusHeight, width(), kStatusHeight);
+  statusBar_->setGeometry(0, height() - tall, width(), tall);
   ApplyPanels();
 }
 
@@ -74,13 +90,15 @@ void FormWindow::LayOutParts() {
 void FormWindow::ApplyPanels() {
   auto bar = std::ranges::find(form.Controls(), Control::Kind::StatusBar, &Control::kind);
   if (bar == form.Controls().end()) return;
-  int left = 2;
+  const int margin = static_cast<int>(std::lround(2 * zoom_));
+  int left = margin;
   for (int i = 1; i <= 3; ++i) {
     const Panel& panel = static_cast<StatusBar*>(*bar)->Panels(i);
-    int breadth = panel.Width > 0 ? panel.Width / 15 : (width() - 4) / 3;
-    if (i == 3) breadth = std::max(40, width() - left - 2);
+    int breadth = panel.Width > 0 ? Shown(panel.Width / 15 * 15) : (width() - 2 * margin) / 3;
+    if (i == 3) breadth = std::max(40, width() - left - margin);
     QLabel* label = panels_[i - 1];
-    label->setGeometry(left, 2, breadth - 2, kStatusHeight - 4);
+    label->setIndent(2 * margin);
+    label->setGeometry(left, margin, breadth - margin, statusBar_->height() - 2 * margin);
     label->setText(QString::fromStdString(comfort_ ? comfort_->PanelText(panel) : panel.Text.get()));
     left += breadth;
   }
@@ -96,12 +114,20 @@ void FormWindow::ShowForm(QWidget* behind) {
                                 : Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                       Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint | buttons);
     setWindowModality(form.Modal() ? Qt::ApplicationModal : Qt::NonModal);
+    behind_ = form.Modal() ? behind : nullptr;
+    Rezoom();
     ApplySize();
     if (comfort_) comfort_->BeforeShow();
     create();
     if (form.Modal() && behind) windowHandle()->setTransientParent(behind->windowHandle());
-    if (form.Left != 0 || form.Top != 0) move(Pixels(form.Left), Pixels(form.Top));
+    if (form.Left != 0 || form.Top != 0) ApplyPlace();
     if (form.WindowState != window_state::kNormal) ApplyForm(Prop::WindowState);
+    if (form.Sizable && front_.GetView().fullScreen && front_.HeedsWindowManager())
+      FillScreen(Qt::WindowFullScreen);
+    if (IsFilled()) {
+      Rezoom();
+      TellSizeSoon();
+    }
   }
   show();
   raise();
@@ -171,43 +197,58 @@ void FormWindow::ApplyForm(Prop prop) {
       return setWindowTitle(QString::fromStdString(form.Caption));
     case Prop::Left:
     case Prop::Top:
-      if (isVisible() && !isMaximized() && !tellsPlace_ &&
-          pos() != QPoint(Pixels(form.Left), Pixels(form.Top)))
-        move(Pixels(form.Left), Pixels(form.Top));
+      if (isVisible() && !IsFilled() && !tellsPlace_) ApplyPlace();
       return;
     case Prop::Width:
     case Prop::Height:
-      return ApplySize();
+      ApplySize();
+      if (zoom_ != 1 && isVisible() && !IsFilled() && !isMinimized() && !tellsPlace_) ApplyPlace();
+      return;
     case Prop::MousePointer:
       form.MousePointer == kWaiting ? setCursor(Qt::WaitCursor) : unsetCursor();
       return canvas_->UpdatePointer();
-    case Prop::WindowState: {
-      const bool maximise = form.WindowState == window_state::kMaximised && !isMaximized();
-      // Where nobody manages windows the size must be asked for as well.
-      if (maximise) {
-        const Extent screen = front_.ScreenExtent();
-        setGeometry(0, 0, Pixels(screen.width), Pixels(screen.height));
+    case Prop::WindowState:
+      if (form.WindowState == window_state::kMaximised && !IsFilled()) return FillScreen(Qt::WindowMaximized);
+      if (form.WindowState != window_state::kMaximised || isMinimized()) {
+        Qt::WindowStates state = windowState() & ~(Qt::WindowMaximized | Qt::WindowMinimized);
+        if (form.WindowState == window_state::kMaximised) state |= Qt::WindowMaximized;
+        if (form.WindowState == window_state::kMinimised) state |= Qt::WindowMinimized;
+        if (state != windowState()) setWindowState(state);
       }
-      Qt::WindowStates state = windowState() & ~(Qt::WindowMaximized | Qt::WindowMinimized);
-      if (form.WindowState == window_state::kMaximised) state |= Qt::WindowMaximized;
-      if (form.WindowState == window_state::kMinimised) state |= Qt::WindowMinimized;
-      if (state != windowState()) setWindowState(state);
       return;
-    }
     default:
       return;
   }
 }
 
+// Where nobody manages windows the size must be asked for as well.
+void FormWindow::FillScreen(Qt::WindowStates how) {
+  if (!IsFilled()) {
+    const Extent screen = front_.ScreenExtent();
+    zooming_ = true;
+    setGeometry(0, 0, Pixels(screen.width), Pixels(screen.height));
+    zooming_ = false;
+  }
+  setWindowState((windowState() & ~Qt::WindowMinimized) | how);
+}
+
 void FormWindow::ApplySize() {
-  const QSize wanted(Pixels(form.Width), Pixels(form.Height));
+  const QSize wanted = ShownSize();
+  ApplyLimits();
+  if (form.Sizable && size() != wanted && !IsFilled() && !isMinimized()) resize(wanted);
+  if (!isVisible()) LayOutParts();
+}
+
+void FormWindow::ApplyLimits() {
+  const QSize wanted = ShownSize();
   if (!form.Sizable) {
     if (minimumSize() != wanted || maximumSize() != wanted) setFixedSize(wanted);
-  } else {
-    setMinimumSize(Pixels(form.MinWidth), Pixels(form.MinHeight));
-    if (size() != wanted && !isMaximized() && !isMinimized()) resize(wanted);
+    return;
   }
-  if (!isVisible()) LayOutParts();
+  const bool fits = (IsFilled() || front_.GetView().fitNormal) && front_.HeedsWindowManager();
+  const double least = fits ? 1 : zoom_;
+  setMinimumSize(static_cast<int>(std::lround(form.MinWidth / 15.0 * least)),
+                 static_cast<int>(std::lround(form.MinHeight / 15.0 * least)));
 }
 
 void FormWindow::Reordered(Visual& control) { canvas_->Refresh(control); }
@@ -221,7 +262,103 @@ void FormWindow::SelectText(TextBox& box) {
 
 void FormWindow::SurfaceChanged(PictureBox& surface) { canvas_->Refresh(surface); }
 
-void FormWindow::ApplyView() { canvas_->update(); }
+void FormWindow::ApplyView() {
+  if (isVisible() && form.Sizable && front_.HeedsWindowManager() && !isMinimized() &&
+      isFullScreen() != front_.GetView().fullScreen) {
+    if (front_.GetView().fullScreen)
+      FillScreen(Qt::WindowFullScreen);
+    else
+      setWindowState(windowState() & ~Qt::WindowFullScreen);
+  }
+  const bool fits = front_.GetView().fitNormal;
+  if (fits && !fits_ && isVisible()) FollowFrame();
+  fits_ = fits;
+  Rezoom();
+  ApplyLimits();
+  if (isVisible()) TellSizeSoon();
+  if (viewMenu_) viewMenu_->Apply();
+  canvas_->update();
+}
+
+// --- Zoom ----------------------------------------------------------------------------------------
+
+int FormWindow::Shown(int twips) const { return static_cast<int>(std::lround(twips / 15.0 * zoom_)); }
+int FormWindow::Told(int pixels) const { return static_cast<int>(std::lround(pixels * 15 / zoom_)); }
+
+QPoint FormWindow::Aside() const {
+  return {(Pixels(form.Width) - Shown(form.Width)) / 2, (Pixels(form.Height) - Shown(form.Height)) / 2};
+}
+
+FormWindow& FormWindow::Leader() {
+  auto* before = dynamic_cast<FormWindow*>(behind_.data());
+  return before ? before->Leader() : *this;
+}
+
+double FormWindow::FittingZoom() const {
+  constexpr double kLargest = 10;
+  if (form.MinWidth <= 0 || form.MinHeight <= 0) return 1;
+  return std::clamp(std::min(width() * 15.0 / form.MinWidth, height() * 15.0 / form.MinHeight), 1.0,
+                    kLargest);
+}
+
+double FormWindow::WantedZoom() const {
+  const View& view = front_.GetView();
+  const double wanted = view.zoom / 100.0;
+  if (!front_.HeedsWindowManager()) return 1;
+  if (form.Sizable && IsFilled()) return view.fitMaximised ? FittingZoom() : std::min(wanted, FittingZoom());
+  // The one that the player has dragged the window to isn't a round number.
+  if (form.Sizable && view.fitNormal && (zoomKept_.isActive() || std::abs(zoom_ - wanted) < 0.006))
+    return zoom_;
+  const QSize frame = isVisible() ? frameSize() - size() : QSize(4, 30);
+  const QSize room = screen()->availableGeometry().size() - frame;
+  const double width = (form.Sizable && form.MinWidth > 0 ? form.MinWidth : form.Width) / 15.0;
+  const double height = (form.Sizable && form.MinHeight > 0 ? form.MinHeight : form.Height) / 15.0;
+  const double asked = behind_ ? style::ZoomOf(behind_) : wanted;
+  return std::max(1.0, std::min({asked, room.width() / width, room.height() / height}));
+}
+
+void FormWindow::Rezoom() {
+  const double wanted = WantedZoom();
+  if (wanted != zoom_) SetZoom(wanted);
+}
+
+void FormWindow::SetZoom(double zoom) {
+  zoom_ = zoom;
+  style::SetZoom(*this, zoom);
+  canvas_->SetZoom(zoom);
+  menus_->SetZoom(zoom);
+  for (const auto& [control, widget] : widgets_)
+    if (control->kind != Control::Kind::StatusBar) ZoomNative(*widget, static_cast<const Visual&>(*control));
+  if (!IsFilled() && !zooming_) {
+    ApplySize();
+    if (isVisible()) ApplyPlace();
+  }
+  LayOutParts();
+}
+
+// A window that fits what it shows to its frame: the frame is dragged, and the board grows with it.
+void FormWindow::FollowFrame() {
+  if (!form.Sizable || IsFilled() || isMinimized() || zooming_ || !front_.GetView().fitNormal ||
+      !front_.HeedsWindowManager())
+    return;
+  zooming_ = true;
+  SetZoom(std::min(FittingZoom(), 3.0));
+  zooming_ = false;
+  zoomKept_.start();
+  TellSizeSoon();
+}
+
+// What is drawn larger than the model knows of is kept on the screen.
+void FormWindow::ApplyPlace() {
+  QPoint corner = QPoint(Pixels(form.Left), Pixels(form.Top)) + Aside();
+  if (zoom_ != 1) {
+    const QRect room = screen()->availableGeometry();
+    const QSize whole = isVisible() ? frameSize() : size();
+    corner.setX(std::max(room.left(), std::min(corner.x(), room.right() + 1 - whole.width())));
+    corner.setY(std::max(room.top(), std::min(corner.y(), room.bottom() + 1 - whole.height())));
+  }
+  if (pos() != corner) move(corner);
+}
 
 // Qt moves the focus on when a widget is disabled or hidden; the model has a rule of its own.
 void FormWindow::Settle() {
@@ -267,6 +404,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     return !(writes && key != Qt::Key_Escape) && TakeKey(key);
   }
+  if (event->type() == QEvent::ToolTip) QToolTip::setFont(style::Letters(zoom_));
   // Only what the player does counts: in a handler the focus follows the model.
   if (event->type() == QEvent::FocusIn && !front_.Busy() &&
       static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason &&
@@ -290,10 +428,18 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FormWindow::resizeEvent(QResizeEvent*) {
+  if (IsFilled() && isVisible())
+    Rezoom();
+  else if (isVisible() && !left_ && size() != ShownSize())
+    FollowFrame();
   LayOutParts();
-  if (left_ || !isVisible() || sizeWaits_) return;
-  // Asked once the state is known too: a window that is maximised gets its size first, then the news of its
-  // state.
+  TellSizeSoon();
+}
+
+// Asked once the state is known too: a window that is maximised gets its size first, then the news of its
+// state.
+void FormWindow::TellSizeSoon() {
+  if (left_ || sizeWaits_) return;
   sizeWaits_ = true;
   QTimer::singleShot(0, this, [this] {
     sizeWaits_ = false;
@@ -303,38 +449,58 @@ void FormWindow::resizeEvent(QResizeEvent*) {
 
 void FormWindow::TellSize() {
   if (left_ || !isVisible() || isMinimized()) return;
+  Rezoom();
   TellState();
-  if (size() == QSize(Pixels(form.Width), Pixels(form.Height))) return;
+  if (size() == ShownSize()) return;
   if (!form.Sizable || !front_.HeedsWindowManager()) return;
   front_.Deliver(form, [this] {
-    if (player::WhyNot(form).empty()) player::Resize(form, width() * 15, height() * 15);
+    if (!player::WhyNot(form).empty()) return;
+    tellsPlace_ = true;
+    player::Resize(form, Told(width()), Told(height()));
+    tellsPlace_ = false;
+    TellPlace();
   });
+}
+
+void FormWindow::TellPlace() {
+  if (left_ || !isVisible() || IsFilled() || isMinimized()) return;
+  const QPoint place = pos() - Aside();
+  tellsPlace_ = true;
+  if (place.x() != Pixels(form.Left)) form.Left = place.x() * 15;
+  if (place.y() != Pixels(form.Top)) form.Top = place.y() * 15;
+  tellsPlace_ = false;
 }
 
 void FormWindow::moveEvent(QMoveEvent*) {
-  if (left_ || !isVisible() || isMaximized() || isMinimized() || !front_.HeedsWindowManager()) return;
-  const auto differs = [this] { return pos() != QPoint(Pixels(form.Left), Pixels(form.Top)); };
-  if (!differs()) return;
-  front_.Deliver(form, [this, differs] {
-    if (!differs() || isMaximized() || isMinimized()) return;
-    tellsPlace_ = true;
-    if (x() != Pixels(form.Left)) form.Left = x() * 15;
-    if (y() != Pixels(form.Top)) form.Top = y() * 15;
-    tellsPlace_ = false;
-  });
+  if (left_ || !isVisible() || IsFilled() || isMinimized() || !front_.HeedsWindowManager() || zooming_)
+    return;
+  if (pos() - Aside() != QPoint(Pixels(form.Left), Pixels(form.Top)))
+    front_.Deliver(form, [this] { TellPlace(); });
 }
 
 void FormWindow::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::WindowStateChange) TellState();
+  if (event->type() != QEvent::WindowStateChange) return;
+  TellState();
+  TellSizeSoon();
 }
 
+// To the games a window that takes the whole screen is maximised: so it isn't their usual size that is kept.
 void FormWindow::TellState() {
   if (left_ || !isVisible() || !front_.HeedsWindowManager()) return;
-  const int state = isMinimized()   ? window_state::kMinimised
-                    : isMaximized() ? window_state::kMaximised
-                                    : window_state::kNormal;
+  const int state = isMinimized() ? window_state::kMinimised
+                    : IsFilled()  ? window_state::kMaximised
+                                  : window_state::kNormal;
+  // A window that opened maximised has never had a place of its own.
+  const bool placeless = state == window_state::kNormal && !hasStood_;
+  if (state == window_state::kNormal) hasStood_ = true;
   if (state == form.WindowState) return;
-  front_.Deliver(form, [this, state] {
-    if (player::WhyNot(form).empty()) player::SetState(form, state);
+  front_.Deliver(form, [this, state, placeless] {
+    if (!player::WhyNot(form).empty()) return;
+    zooming_ = true;
+    Rezoom();
+    zooming_ = false;
+    player::SetState(form, state);
+    ApplySize();
+    if (placeless) form.platform.Dispatch([this] { form.CenterOnScreen(); });
   });
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 #include <memory>
 #include <unordered_map>
@@ -14,6 +15,7 @@ class Comfort;
 class DesktopFrontEnd;
 class Menus;
 class QLabel;
+class ViewMenu;
 
 class FormWindow : public QWidget {
  public:
@@ -38,6 +40,12 @@ class FormWindow : public QWidget {
   void ApplyClock() { ApplyPanels(); }
   // Brings everything up to date that Qt may have changed by itself.
   void Settle();
+  // How much larger than at 100 % the window is drawn.
+  double Zoom() const { return zoom_; }
+  // Whether the window takes the whole screen, or all that the desktop leaves of it.
+  bool IsFilled() const { return isMaximized() || isFullScreen(); }
+  // The window whose zoom this one has: a dialog follows the game that it stands before.
+  FormWindow& Leader();
 
   Canvas& Board() { return *canvas_; }
   // The widget of a control; null if the canvas draws it.
@@ -57,10 +65,28 @@ class FormWindow : public QWidget {
   void LayOutParts();
   void ApplyForm(Prop prop);
   void ApplySize();
+  void ApplyLimits();
+  void ApplyPlace();
   void ApplyPanels();
+  // The zoom that the player has asked for, as far as the screen allows.
+  double WantedZoom() const;
+  // The zoom with which the usual arrangement fills the window.
+  double FittingZoom() const;
+  void SetZoom(double zoom);
+  void Rezoom();
+  void FollowFrame();
+  void FillScreen(Qt::WindowStates state);
+  // The window's pixels for the model's twips, and back.
+  int Shown(int twips) const;
+  int Told(int pixels) const;
+  QSize ShownSize() const { return {Shown(form.Width), Shown(form.Height)}; }
+  // By how much the window's corner lies beside the model's: they have the same middle.
+  QPoint Aside() const;
   void RefreshWithin(const Control& container);
   void TellState();
   void TellSize();
+  void TellSizeSoon();
+  void TellPlace();
   bool TakeKey(int key);
   Visual* ControlOf(const QObject* widget) const;
 
@@ -68,8 +94,14 @@ class FormWindow : public QWidget {
   std::unique_ptr<Comfort> comfort_;  // null if no guide tells what the player might want
   Canvas* canvas_ = nullptr;
   Menus* menus_ = nullptr;
+  ViewMenu* viewMenu_ = nullptr;  // a script's windows have none
   QWidget* statusBar_ = nullptr;
   std::vector<QLabel*> panels_;
   std::unordered_map<const Control*, QWidget*> widgets_;
-  bool left_ = false, sizeWaits_ = false, tellsPlace_ = false;
+  QPointer<QWidget> behind_;  // what a dialog stands before
+  QTimer zoomKept_;           // runs out when the player has let go of the frame
+  double zoom_ = 1;
+  bool left_ = false, sizeWaits_ = false, tellsPlace_ = false, zooming_ = false;
+  bool fits_ = false;      // what a normal window shows is fitted to its frame
+  bool hasStood_ = false;  // on the screen, neither maximised nor minimised
 };

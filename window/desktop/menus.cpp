@@ -4,9 +4,11 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "window/desktop/desktop.h"
+#include "window/desktop/style.h"
 #include "window/player.h"
 
 namespace {
@@ -58,7 +60,17 @@ void Menus::Build(const Control& parent, QWidget& holder) {
   }
 }
 
-int Menus::Height() const { return bar_ ? std::min(bar_->sizeHint().height(), kTallest) : 0; }
+int Menus::Height() const {
+  return bar_ ? std::min(bar_->sizeHint().height(), static_cast<int>(std::lround(kTallest * zoom_))) : 0;
+}
+
+void Menus::SetZoom(double zoom) {
+  zoom_ = zoom;
+  if (!bar_) return;
+  const QFont font = style::Letters(zoom);
+  bar_->setFont(font);
+  for (QMenu* menu : bar_->findChildren<QMenu*>()) menu->setFont(font);
+}
 
 void Menus::Place(int width) {
   if (bar_) bar_->setGeometry(0, 0, width, Height());

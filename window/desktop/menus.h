@@ -18,7 +18,9 @@ class Menus {
   // The height that the bar takes from its window, in pixels.
   int Height() const;
   void Place(int width);
+  void SetZoom(double zoom);
   void Apply(const Menu& menu);
+  QMenuBar* Bar() const { return bar_; }
   QAction* ActionOf(const Menu& menu) const;
 
  private:
@@ -27,5 +29,6 @@ class Menus {
   Form& form_;
   DesktopFrontEnd& front_;
   QMenuBar* bar_ = nullptr;
+  double zoom_ = 1;
   std::unordered_map<const Menu*, QAction*> actions_;
 };

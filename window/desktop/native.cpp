@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <cmath>
 
 #include "window/desktop/contrast.h"
 #include "window/desktop/desktop.h"
@@ -22,6 +23,15 @@
 namespace {
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
+
+// Where the widget stands on its board.
+QRect Place(const QWidget& widget, const Visual& control) {
+  const double zoom = style::ZoomOf(&widget);
+  const QRect rect = ModelRect(control);
+  const auto at = [&](int pixels) { return static_cast<int>(std::lround(pixels * zoom)); };
+  return {QPoint(at(rect.left()), at(rect.top())),
+          QPoint(at(rect.left() + rect.width()) - 1, at(rect.top() + rect.height()) - 1)};
+}
 
 // Carries a click to the model, then shows what the model made of it: the widget may have changed by itself.
 void Click(Visual& control, DesktopFrontEnd& front, QWidget& widget) {
@@ -165,13 +175,16 @@ void ApplyGround(QWidget& widget, const Visual& control) {
 
 // Letters small enough for the caption to fit: the places were laid out for narrower ones.
 void ApplyCaption(QPushButton& button, const std::string& caption) {
-  constexpr int kMargin = 10;
+  constexpr int kMargin = 10, kSmallest = 9;
   button.setText(Text(caption));
   const QString plain = Text(WithoutAccessKey(caption));
-  QFont font = QApplication::font();
-  const auto fits = [&] { return QFontMetrics(font).horizontalAdvance(plain) <= button.width() - kMargin; };
+  const double zoom = style::ZoomOf(&button);
+  QFont font = style::Letters(zoom);
+  const auto fits = [&] {
+    return QFontMetrics(font).horizontalAdvance(plain) <= button.width() - kMargin * zoom;
+  };
   if (!fits()) font.setStretch(QFont::SemiCondensed);
-  while (!fits() && font.pixelSize() > 9) font.setPixelSize(font.pixelSize() - 1);
+  while (!fits() && font.pixelSize() > kSmallest * zoom) font.setPixelSize(font.pixelSize() - 1);
   if (button.font() != font) button.setFont(font);
 }
 
@@ -262,7 +275,7 @@ QWidget* MakeNative(Visual& control, DesktopFrontEnd& front, QWidget* parent) {
   if (control.kind == Control::Kind::CheckBox || control.kind == Control::Kind::OptionButton)
     ApplyGround(*widget, control);
   if (control.OnMouseMove) widget->setMouseTracking(true);
-  widget->setGeometry(ModelRect(control));
+  widget->setGeometry(Place(*widget, control));
   ApplyNative(*widget, control, Prop::List);
   if (control.kind == Control::Kind::TextBox) ApplyNative(*widget, control, Prop::ForeColor);
   ApplyNative(*widget, control, Prop::Enabled);
@@ -277,9 +290,9 @@ void ApplyNative(QWidget& widget, const Visual& control, Prop prop) {
     case Prop::Top:
     case Prop::Width:
     case Prop::Height:
-      return widget.setGeometry(ModelRect(control));
+      return widget.setGeometry(Place(widget, control));
     case Prop::Visible:
-      widget.setGeometry(ModelRect(control));
+      widget.setGeometry(Place(widget, control));
       return widget.setVisible(IsShown(control));
     case Prop::Enabled:
       return widget.setEnabled(control.Enabled);
@@ -288,4 +301,9 @@ void ApplyNative(QWidget& widget, const Visual& control, Prop prop) {
     default:
       return ApplyContent(widget, control, prop);
   }
+}
+
+void ZoomNative(QWidget& widget, const Visual& control) {
+  widget.setGeometry(Place(widget, control));
+  if (control.kind == Control::Kind::CommandButton) ApplyNative(widget, control, Prop::Caption);
 }

@@ -2,10 +2,70 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
+#include <QVariant>
+#include <QWidget>
 #include <cmath>
 
+namespace {
+
+constexpr char kZoom[] = "cardhavenZoom";
+constexpr int kLetters = 12;  // pixels of a widget's letters at 100 %
+
+// Fusion, with the parts of widgets that don't follow the size of letters as large as the window's zoom asks.
+class Zoomed : public QProxyStyle {
+ public:
+  Zoomed() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    const int natural = QProxyStyle::pixelMetric(metric, option, widget);
+    switch (metric) {
+      case PM_IndicatorWidth:
+      case PM_IndicatorHeight:
+      case PM_ExclusiveIndicatorWidth:
+      case PM_ExclusiveIndicatorHeight:
+      case PM_CheckBoxLabelSpacing:
+      case PM_RadioButtonLabelSpacing:
+      case PM_ScrollBarExtent:
+      case PM_ScrollBarSliderMin:
+      case PM_MessageBoxIconSize:
+      case PM_SmallIconSize:
+      case PM_ButtonMargin:
+      case PM_MenuBarItemSpacing:
+      case PM_LayoutLeftMargin:
+      case PM_LayoutTopMargin:
+      case PM_LayoutRightMargin:
+      case PM_LayoutBottomMargin:
+      case PM_LayoutHorizontalSpacing:
+      case PM_LayoutVerticalSpacing:
+        return static_cast<int>(std::lround(natural * style::ZoomOf(widget)));
+      default:
+        return natural;
+    }
+  }
+};
+
+}  // namespace
+
 namespace style {
+
+QFont Letters(double zoom) {
+  QFont font = QApplication::font();
+  font.setPixelSize(static_cast<int>(std::lround(kLetters * zoom)));
+  return font;
+}
+
+void SetZoom(QWidget& window, double zoom) {
+  window.setProperty(kZoom, zoom);
+  window.setFont(Letters(zoom));
+}
+
+double ZoomOf(const QWidget* widget) {
+  for (; widget; widget = widget->parentWidget())
+    if (const QVariant zoom = widget->property(kZoom); zoom.isValid()) return zoom.toDouble();
+  return 1;
+}
 
 QFont Letters(int points, bool bold, const QString& family) {
   QFont font = QApplication::font();
@@ -16,7 +76,7 @@ QFont Letters(int points, bool bold, const QString& family) {
 }
 
 void Apply(QApplication& application) {
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setStyle(new Zoomed);
   QPalette palette;
   palette.setColor(QPalette::Window, QColor(0xef, 0xe9, 0xda));
   palette.setColor(QPalette::WindowText, kInk);
@@ -36,7 +96,7 @@ void Apply(QApplication& application) {
     palette.setColor(QPalette::Disabled, role, faint);
   QApplication::setPalette(palette);
   QFont font = application.font();
-  font.setPixelSize(12);
+  font.setPixelSize(kLetters);
   QApplication::setFont(font);
 }
 

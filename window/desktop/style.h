@@ -5,6 +5,7 @@
 #include <QFont>
 
 class QApplication;
+class QWidget;
 
 namespace style {
 
@@ -18,6 +19,14 @@ inline constexpr QColor kBaize(0x1d, 0x6b, 0x4a);
 // The font for labels and widgets, its size given in points at 96 dots to the inch, whatever the screen has:
 // places and sizes are told in the same measure.
 QFont Letters(int points, bool bold = false, const QString& family = {});
+
+// The font of widgets, so much larger than at 100 %.
+QFont Letters(double zoom);
+
+// What stands in this window is drawn so much larger: letters, ticks, scroll bars.
+void SetZoom(QWidget& window, double zoom);
+// The zoom of the window that holds the widget, or that its menu or list belongs to.
+double ZoomOf(const QWidget* widget);
 
 // Sets palette, style and font of the whole program.
 void Apply(QApplication& application);
