@@ -120,6 +120,7 @@ class SelectGuide : public Guide {
       games.clicks.push_back({std::to_string(i + 1), window_.gameButtons[i]->NameInForm()});
     return {games};
   }
+  bool IsChoice() const override { return true; }
 
   std::string ToolTip(const Control& control) const override {
     for (const GameEntry& game : window_.Games())

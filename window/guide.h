@@ -27,7 +27,7 @@ struct KeyClick {
   std::string control;  // "cmdPause", "mnuRules", "PlayCards(7)"; or one of the two below
 };
 inline constexpr char kNextOfRank[] = "*rank";        // the next place of that rank that can be played
-inline constexpr char kLastSelected[] = "*selected";  // the place selected last, which lets it go
+inline constexpr char kLastSelected[] = "*selected";  // lets go what was selected last
 
 // A row of the table of keys as the player reads it. Keys that a front end serves by itself have no clicks.
 struct KeyRow {
@@ -60,6 +60,11 @@ class Guide {
   virtual std::vector<KeyRow> Keys() const { return {}; }
   // What lies on the board now, in reading order: visible places only.
   virtual std::vector<Spot> Spots() const { return {}; }
+  // What a click on lets go what was selected last, where that isn't the selected place itself; else null.
+  virtual Visual* LetsGo() const { return nullptr; }
+  // Whether the window is a choice: it starts with what was chosen last, of the buttons that digits stand
+  // for.
+  virtual bool IsChoice() const { return false; }
   // Whether the player has paused the window: a key that only pauses does nothing then.
   virtual bool Paused() const { return false; }
   // Where the window stands, in short sentences: "Round 2. Score 12,300. 45 seconds left."

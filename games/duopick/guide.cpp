@@ -22,6 +22,16 @@ class DuopickGuide : public GameGuide {
     return spots;
   }
 
+  // A selected card takes no click: a free one that doesn't go with it makes the player let go of both.
+  Visual* LetsGo() const override {
+    if (window_.CardsSelected == 0) return nullptr;
+    for (int card = kCards; card-- > 0;) {
+      const bool lies = window_.PlayCard(card).Visible && (card != kUpCard || window_.cards.WastePos > 0);
+      if (lies && window_.CheckForLegalMove(card) && !Matches(card)) return &window_.PlayCard(card);
+    }
+    return nullptr;
+  }
+
   std::vector<std::string> FirstSteps() const override {
     return {"Click two free cards: a pair of one rank, or a run of neighbours, such as king and ace.",
             "The card turned up beside the stock goes with them, too.",

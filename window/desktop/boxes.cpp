@@ -108,7 +108,9 @@ Answer DesktopFrontEnd::RunBox(const MessageBox& box) {
   dialog.setIcon(IconOf(box.icon));
   KeepOnScreen(dialog);
   for (Answer each : answers) dialog.addButton(ButtonOf(each))->setIcon(QIcon());
-  dialog.setDefaultButton(ButtonOf(answers.front()));
+  // What would end or close something wants a key more for a player.
+  const bool asks = guides && box.buttons == Buttons::YesNo && box.icon == Icon::Question;
+  dialog.setDefaultButton(ButtonOf(asks ? Answer::No : answers.front()));
   dialog.setEscapeButton(ButtonOf(answers.back()));
   dialog.setWindowModality(Qt::ApplicationModal);
   QObject::connect(&dialog, &QDialog::finished, &dialog, [&] {
@@ -126,5 +128,7 @@ Answer DesktopFrontEnd::RunBox(const MessageBox& box) {
   WaitFor([&] { return !answered; });
   modals_.pop_back();
   boxes_.pop_back();
+  if (Form* modal = platform.ModalForm(); guides && modal && answers.size() == 1)
+    if (FormWindow* window = WindowOf(*modal)) window->Refused();
   return answer;
 }

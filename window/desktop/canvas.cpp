@@ -80,6 +80,7 @@ void Canvas::paintEvent(QPaintEvent* event) {
     if (event->region().intersects(ToWindow(reach))) PaintControl(easel, i);
   }
   for (const Note& note : notes_) PaintNote(painter, note, NoteLayer::Above);
+  if (paintOver) paintOver(painter);
   front_.Painted();
 }
 

@@ -4,6 +4,7 @@
 
 #include <QPixmap>
 #include <QWidget>
+#include <functional>
 #include <optional>
 #include <unordered_map>
 
@@ -35,6 +36,8 @@ class Canvas : public QWidget {
   // What is written on the board beside its controls.
   void SetNotes(std::vector<Note> notes);
   const std::vector<Note>& Notes() const { return notes_; }
+  // Draws over everything else; pixels at 100 %.
+  std::function<void(QPainter&)> paintOver;
 
   // The control that a click at this point of the window means.
   Visual* At(QPoint point) const;

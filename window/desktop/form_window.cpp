@@ -1,5 +1,6 @@
 #include "window/desktop/form_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -11,10 +12,12 @@
 #include <QToolTip>
 #include <QWindow>
 #include <cmath>
+#include <utility>
 
 #include "window/desktop/canvas.h"
 #include "window/desktop/comfort.h"
 #include "window/desktop/desktop.h"
+#include "window/desktop/keyboard.h"
 #include "window/desktop/menus.h"
 #include "window/desktop/native.h"
 #include "window/desktop/style.h"
@@ -44,6 +47,7 @@ FormWindow::FormWindow(Form& form, DesktopFrontEnd& front) : form(form), front_(
     widgets_[control] = widget;
   }
   if (Guide* guide = front.GuideOf(form)) comfort_ = std::make_unique<Comfort>(*this, front, *guide);
+  if (Guide* guide = front.GuideOf(form)) keyboard_ = new Keyboard(*this, front, *guide);
   setWindowTitle(QString::fromStdString(form.Caption));
   zoomKept_.setSingleShot(true);
   zoomKept_.setInterval(500);
@@ -132,6 +136,7 @@ void FormWindow::ShowForm(QWidget* behind) {
   show();
   raise();
   activateWindow();
+  if (keyboard_) keyboard_->Shown();
   Settle();
 }
 
@@ -139,6 +144,7 @@ void FormWindow::Leave() {
   if (comfort_) comfort_->Leave();
   comfort_.reset();
   left_ = true;
+  if (keyboard_) keyboard_->Leave();
   for (auto& [control, widget] : widgets_) {
     widget->removeEventFilter(this);
     widget->disconnect();
@@ -363,10 +369,25 @@ void FormWindow::ApplyPlace() {
 // Qt moves the focus on when a widget is disabled or hidden; the model has a rule of its own.
 void FormWindow::Settle() {
   if (left_) return;
+  if (keyboard_) {
+    keyboard_->Settle();
+    if (keyboard_->HoldsFocus()) return;
+  }
+  if (std::exchange(refused_, false)) PutBackFocus();
   const Visual* active = form.ActiveControl();
   QWidget* widget = active ? WidgetOf(*active) : nullptr;
   if (widget && focusWidget() != widget) widget->setFocus(Qt::OtherFocusReason);
   if (comfort_) comfort_->Settle();
+}
+
+// The field that was refused has the focus by now; where a button has it, the field written in last.
+void FormWindow::PutBackFocus() {
+  Visual* active = form.ActiveControl();
+  if (lastField_ && active && active->kind == Control::Kind::CommandButton) {
+    lastField_->SetFocus();
+    active = lastField_;
+  }
+  if (active && active->kind == Control::Kind::TextBox) SelectText(static_cast<TextBox&>(*active));
 }
 
 // --- What the player does ------------------------------------------------------------------------
@@ -382,8 +403,29 @@ Visual* FormWindow::ControlOf(const QObject* widget) const {
   return nullptr;
 }
 
-bool FormWindow::TakeKey(int key) {
+// A page that can only be read scrolls, whatever button has the focus.
+bool FormWindow::ScrollsPage(const QWidget* focus, QKeyEvent& event) {
+  switch (event.key()) {
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+      break;
+    default:
+      return false;
+  }
+  auto* page = findChild<QPlainTextEdit*>();
+  if (!page || page == focus || !page->isReadOnly()) return false;
+  QApplication::sendEvent(page, &event);
+  return true;
+}
+
+bool FormWindow::TakeKey(const QKeyEvent& event) {
+  const int key = event.key();
   if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Escape) return false;
+  if (event.isAutoRepeat()) return true;  // one press, one click
   const Key pressed = key == Qt::Key_Escape ? Key::Escape : Key::Return;
   front_.Deliver(form, [this, pressed] {
     if (player::WhyNot(form).empty()) player::Press(form, pressed);
@@ -392,7 +434,7 @@ bool FormWindow::TakeKey(int key) {
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-  if (left_ || !TakeKey(event->key())) QWidget::keyPressEvent(event);
+  if (left_ || !TakeKey(*event)) QWidget::keyPressEvent(event);
 }
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -401,10 +443,13 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     const bool writes = control->kind == Control::Kind::TextBox &&
                         static_cast<TextBox*>(control)->MultiLine && !static_cast<TextBox*>(control)->Locked;
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    return !(writes && key != Qt::Key_Escape) && TakeKey(key);
+    auto& key = static_cast<QKeyEvent&>(*event);
+    if (ScrollsPage(qobject_cast<QWidget*>(watched), key)) return true;
+    return !(writes && key.key() != Qt::Key_Escape) && TakeKey(key);
   }
   if (event->type() == QEvent::ToolTip) QToolTip::setFont(style::Letters(zoom_));
+  if (event->type() == QEvent::FocusIn && control->kind == Control::Kind::TextBox)
+    lastField_ = static_cast<TextBox*>(control);
   // Only what the player does counts: in a handler the focus follows the model.
   if (event->type() == QEvent::FocusIn && !front_.Busy() &&
       static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason &&

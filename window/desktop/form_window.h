@@ -13,6 +13,7 @@
 class Canvas;
 class Comfort;
 class DesktopFrontEnd;
+class Keyboard;
 class Menus;
 class QLabel;
 class ViewMenu;
@@ -38,6 +39,8 @@ class FormWindow : public QWidget {
   void ApplyView();
   // A minute has begun.
   void ApplyClock() { ApplyPanels(); }
+  // A message box without a choice has stood before the window: what it said is mostly of a field.
+  void Refused() { refused_ = true; }
   // Brings everything up to date that Qt may have changed by itself.
   void Settle();
   // How much larger than at 100 % the window is drawn.
@@ -50,6 +53,8 @@ class FormWindow : public QWidget {
   Canvas& Board() { return *canvas_; }
   // The widget of a control; null if the canvas draws it.
   QWidget* WidgetOf(const Control& control) const;
+  // Null where no guide tells which keys there are.
+  Keyboard* Keys() const { return keyboard_; }
   Menus& MenuBar() { return *menus_; }
 
  protected:
@@ -87,7 +92,9 @@ class FormWindow : public QWidget {
   void TellSize();
   void TellSizeSoon();
   void TellPlace();
-  bool TakeKey(int key);
+  bool TakeKey(const QKeyEvent& event);
+  bool ScrollsPage(const QWidget* focus, QKeyEvent& event);
+  void PutBackFocus();
   Visual* ControlOf(const QObject* widget) const;
 
   DesktopFrontEnd& front_;
@@ -104,4 +111,7 @@ class FormWindow : public QWidget {
   bool left_ = false, sizeWaits_ = false, tellsPlace_ = false, zooming_ = false;
   bool fits_ = false;      // what a normal window shows is fitted to its frame
   bool hasStood_ = false;  // on the screen, neither maximised nor minimised
+  Keyboard* keyboard_ = nullptr;
+  TextBox* lastField_ = nullptr;
+  bool refused_ = false;
 };

@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "window/desktop/desktop.h"
+#include "window/desktop/form_window.h"
+#include "window/desktop/keys_window.h"
 #include "window/desktop/style.h"
 #include "window/player.h"
 
@@ -26,12 +28,42 @@ std::vector<Menu*> EntriesOf(const Control& parent) {
 
 }  // namespace
 
-Menus::Menus(Form& form, DesktopFrontEnd& front, QWidget& window) : form_(form), front_(front) {
+Menus::Menus(Form& form, DesktopFrontEnd& front, FormWindow& window) : form_(form), front_(front) {
   if (EntriesOf(form).empty()) return;
   bar_ = new QMenuBar(&window);
   bar_->setObjectName("menuBar");
   bar_->setNativeMenuBar(false);
   Build(form, *bar_);
+  AddKeys(window);
+}
+
+// The function keys stand beside their entries, and all keys in a window of their own.
+void Menus::AddKeys(FormWindow& window) {
+  const Guide* guide = front_.GuideOf(form_);
+  if (!guide) return;
+  for (const KeyRow& row : guide->Keys())
+    for (const KeyClick& click : row.clicks) {
+      const Control* control =
+          click.keys[0] == 'F' && click.keys.size() > 1 ? form_.find(click.control) : nullptr;
+      QAction* action = control && control->kind == Control::Kind::Menu
+                            ? ActionOf(static_cast<const Menu&>(*control))
+                            : nullptr;
+      if (!action) continue;
+      action->setShortcut(QKeySequence::fromString(QString::fromStdString(click.keys)));
+      action->setAutoRepeat(false);
+    }
+  const auto* help = static_cast<const Menu*>(form_.find("mnuHelp"));
+  QAction* title = help ? ActionOf(*help) : nullptr;
+  if (!title || !title->menu()) return;
+  auto* keys = new QAction("&Keys...", title->menu());
+  keys->setObjectName("keys");
+  const QList<QAction*> entries = title->menu()->actions();
+  title->menu()->insertAction(entries.size() > 1 ? entries[1] : nullptr, keys);
+  QObject::connect(keys, &QAction::triggered, &window, [this, &window] {
+    front_.Deliver(form_, [this, &window] {
+      if (player::WhyNot(form_).empty()) ShowKeys(window, front_);
+    });
+  });
 }
 
 void Menus::Build(const Control& parent, QWidget& holder) {

@@ -9,11 +9,12 @@ class DesktopFrontEnd;
 class QAction;
 class QMenuBar;
 class QWidget;
+class FormWindow;
 
 class Menus {
  public:
   // Builds the bar from the form's menu entries; a form without any gets none.
-  Menus(Form& form, DesktopFrontEnd& front, QWidget& window);
+  Menus(Form& form, DesktopFrontEnd& front, FormWindow& window);
 
   // The height that the bar takes from its window, in pixels.
   int Height() const;
@@ -25,6 +26,7 @@ class Menus {
 
  private:
   void Build(const Control& parent, QWidget& holder);
+  void AddKeys(FormWindow& window);
 
   Form& form_;
   DesktopFrontEnd& front_;

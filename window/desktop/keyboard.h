@@ -1,0 +1,72 @@
+// The keys of a window that has a guide: a cursor that walks its board, and keys that stand for clicks. What
+// they do is what the mouse would do.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QRect>
+#include <map>
+#include <vector>
+
+#include "window/guide.h"
+
+class Canvas;
+class DesktopFrontEnd;
+class FormWindow;
+class QKeyEvent;
+class QPainter;
+class QWidget;
+
+class Keyboard : public QObject {
+ public:
+  Keyboard(FormWindow& window, DesktopFrontEnd& front, Guide& guide);
+
+  // The window is being shown.
+  void Shown();
+  // A handler has ended: the cursor stays with the places that there are, and the board takes the keyboard
+  // when cards come to it.
+  void Settle();
+  // Whether the keyboard belongs to the board, whatever control has the focus by the model.
+  bool HoldsFocus() const;
+  // The form and its guide are gone.
+  void Leave();
+
+  // Where the cursor stands; null if it doesn't show.
+  const Visual* Cursor() const;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool Take(const QKeyEvent& key, const QWidget* focus);
+  bool TakeArrow(const QKeyEvent& key);
+  bool TakeWord(const std::string& word, bool again);
+  bool TakeShared(QObject* watched, QEvent* event);
+  void Do(const std::string& keys);
+  Control* Meant(const KeyClick& click) const;
+  Visual* NextOfRank(char key) const;
+  Visual* LastSelected() const;
+  void ClickCursor();
+  void MoveTo(const Visual* control);
+  void FocusBoard();
+  void ShowRing();
+  QRect PlaceOf(const Visual& control) const;
+  QRect Ring() const;
+  void Paint(QPainter& painter) const;
+  void OrderTabs();
+  std::vector<Visual*> Choices() const;
+
+  FormWindow& window_;
+  Canvas& canvas_;
+  DesktopFrontEnd& front_;
+  Guide* guide_;
+  const std::vector<KeyRow> rows_;
+  std::vector<Spot> spots_;              // as the last handler left them
+  std::vector<const Visual*> selected_;  // in the order in which they were
+  std::map<char, const Visual*> ranks_;  // clicked last by their rank
+  const Visual* cursor_ = nullptr;
+  QRect cursorPlace_, ring_;  // the latter as it was painted last
+  bool keysUsed_ = false;     // last, and not the mouse
+  std::string begun_;         // keys of a click that takes several
+  QElapsedTimer sinceBegun_;
+};
