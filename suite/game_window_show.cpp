@@ -79,7 +79,7 @@ void GameWindow::ShowEmpty(Image& image) {
 }
 
 void GameWindow::PlaySound(const char* path) {
-  if (common.PlaySounds) common.PlayWaveFile(path);
+  common.PlaySounds ? common.PlayWaveFile(path) : platform.front.WaveWithheld(path);
 }
 
 void GameWindow::StartMusic() {

@@ -19,6 +19,7 @@ class GameGuide : public Guide {
   std::string State() const override;
   std::optional<Note> FirstStepsPlace() const override;
   std::string PanelText(int number) const override;
+  const Label* Score() const override { return &window_.lblCurrentScore; }
 
  protected:
   // The rows of the game's own board, which go before the common ones.

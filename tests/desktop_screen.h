@@ -33,12 +33,14 @@ inline bool OpenScreen() {
 class QuickDesktop : public DesktopFrontEnd {
  public:
   using DesktopFrontEnd::DesktopFrontEnd;
+  bool moves = false;             // whether cards are seen to move
   std::function<void()> onSleep;  // what happens at the screen while a handler sleeps, once
 
   void Sleep(int milliseconds) override {
     if (milliseconds > 0 && onSleep) std::exchange(onSleep, nullptr)();
     Pause(std::min(milliseconds, 3));
   }
+  bool ShowsMotion() const override { return moves; }
   void PlayWave(const std::string&) override {}
   void MediaCommand(const std::string&) override {}
 };

@@ -69,6 +69,8 @@ class Guide {
   virtual bool Paused() const { return false; }
   // Where the window stands, in short sentences: "Round 2. Score 12,300. 45 seconds left."
   virtual std::string State() const { return ""; }
+  // The label that shows what the player has so far; null for a window without one.
+  virtual const Label* Score() const { return nullptr; }
   // Texts to be added as the window stands now.
   virtual std::vector<Note> Notes() const { return {}; }
   // A sentence on a control that has no tool tip of its own; "" for none.

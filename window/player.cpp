@@ -63,6 +63,7 @@ std::string WhyNot(const Control& control) {
 }
 
 void Click(Control& control) {
+  control.form.platform.front.Clicked(control);
   if (control.kind == Control::Kind::Menu) return Run(control, static_cast<Menu&>(control).OnClick);
   auto& visual = static_cast<Visual&>(control);
   control.form.platform.Dispatch([&] {

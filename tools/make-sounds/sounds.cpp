@@ -13,6 +13,9 @@ namespace {
 constexpr double kF3 = 53, kA3 = 57, kC4 = 60, kF4 = 65, kA4 = 69, kC5 = 72, kD5 = 74, kF5 = 77, kG5 = 79,
                  kA5 = 81, kC6 = 84, kD6 = 86, kF6 = 89, kA6 = 93, kC7 = 96;
 
+// Decibels. What a player hears again and again without having done anything stays behind the rest.
+constexpr double kAside = 3;
+
 /// Hands: each person claps in a steady beat of their own, near or far, with a hollow or a flat palm.
 Wave Applause() {
   constexpr double kLength = 3.1;
@@ -74,6 +77,7 @@ Wave Chord() {
   AddBar(wave, 0.105, kA3 + 1, 1.0, 0.06, 0.4);
   AddBar(wave, 0.105, kC4 + 1, 0.5, 0.05, 0.3);
   Finish(wave, 0.001, 0.06);
+  Soften(wave, kAside);
   return wave;
 }
 
@@ -185,6 +189,7 @@ Wave Tick() {
   Wave wave = Silence(0.13);
   AddBar(wave, 0, kC5, 1.0, 0.022, 0.25);
   Finish(wave, 0.0008, 0.04);
+  Soften(wave, kAside);
   return wave;
 }
 

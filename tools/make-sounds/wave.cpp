@@ -105,6 +105,10 @@ void Finish(Wave& wave, double fade_in, double fade_out) {
   for (double& sample : wave) sample *= kPeak / peak;
 }
 
+void Soften(Wave& wave, double decibels) {
+  for (double& sample : wave) sample *= std::pow(10, -decibels / 20);
+}
+
 bool WriteWave(const std::filesystem::path& path, const Wave& wave) {
   const std::string bytes = WaveFile(wave);
   std::ofstream file(path, std::ios::binary);

@@ -25,6 +25,9 @@ void SoftLimit(Wave& wave, double drive);
 /// Takes out DC, fades the ends over the given times and brings the peak to -3 dBFS.
 void Finish(Wave& wave, double fade_in, double fade_out);
 
+/// Takes away that many decibels.
+void Soften(Wave& wave, double decibels);
+
 /// Writes 16 bit mono PCM; false when the file can't be written.
 bool WriteWave(const std::filesystem::path& path, const Wave& wave);
 /// Whether that file holds the wave. A sample may be off by one: the last digits of a sine are another matter

@@ -22,7 +22,7 @@ constexpr QPoint kFingertip(5, 1);
 }  // namespace
 
 Canvas::Canvas(Form& form, DesktopFrontEnd& front, QWidget* parent)
-    : QWidget(parent), form_(form), front_(front), board_(IsBoard(form)) {
+    : QWidget(parent), form_(form), front_(front), board_(IsBoard(form)), motion_(form, front, *this) {
   setObjectName("canvas");
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
@@ -41,6 +41,7 @@ QRect Canvas::ToWindow(const QRectF& area) const {
 }
 
 void Canvas::Refresh(const Visual& control) {
+  motion_.Changed(control);
   const auto known = reach_.find(&control);
   if (known != reach_.end()) {
     Repaint(known->second);
@@ -77,9 +78,11 @@ void Canvas::paintEvent(QPaintEvent* event) {
   for (size_t i = 0; i < scene.size(); ++i) {
     const QRect reach = Reach(*scene[i].control, front_.pictures);
     reach_[scene[i].control] = reach;
-    if (event->region().intersects(ToWindow(reach))) PaintControl(easel, i);
+    if (event->region().intersects(ToWindow(reach)) && !motion_.PaintInstead(easel, scene[i]))
+      PaintControl(easel, i);
   }
   for (const Note& note : notes_) PaintNote(painter, note, NoteLayer::Above);
+  motion_.PaintAbove(easel);
   if (paintOver) paintOver(painter);
   front_.Painted();
 }
@@ -182,6 +185,7 @@ void Canvas::ShowToolTip(QHelpEvent& event) {
 }
 
 bool Canvas::event(QEvent* event) {
+  if (event->type() == QEvent::Hide || event->type() == QEvent::Resize) motion_.Drop();
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   ShowToolTip(static_cast<QHelpEvent&>(*event));
   return true;

@@ -8,6 +8,7 @@
 #include <optional>
 #include <unordered_map>
 
+#include "window/desktop/motion.h"
 #include "window/desktop/scene.h"
 #include "window/guide.h"
 
@@ -30,6 +31,12 @@ class Canvas : public QWidget {
 
   // The control looks different from now on, or lies elsewhere.
   void Refresh(const Visual& control);
+  // What has changed since the last time is set in motion.
+  void Settle() { motion_.Settle(); }
+  // Shows that a click on the control was refused.
+  void Refuse(const Visual& control) { motion_.Refuse(control); }
+  // Whether nothing moves, so that the board is painted as it stands.
+  bool AtRest() const { return motion_.AtRest(); }
   // Shows the pointer that the control under the mouse asks for.
   void UpdatePointer();
 
@@ -63,5 +70,6 @@ class Canvas : public QWidget {
   double zoom_ = 1;
   int pointer_ = 0;  // the one that shows; above 99 that picture
   QPixmap baize_;
+  Motion motion_;
   std::unordered_map<const Visual*, QRect> reach_;  // where each control was drawn last
 };

@@ -13,6 +13,7 @@
 #include <cmath>
 #include <iostream>
 
+#include "window/desktop/canvas.h"
 #include "window/desktop/form_window.h"
 #include "window/desktop/leaving.h"
 #include "window/desktop/lettering.h"
@@ -31,6 +32,7 @@ DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles fil
       media_(folders.own, folders.installed),
       view_(ReadView(folders.view)) {
   clock_.start();
+  media_.SetVolumes(view_.waveVolume, view_.musicVolume);
   timer_.setTimerType(Qt::PreciseTimer);
   timer_.setSingleShot(true);
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { ServeTick(); });
@@ -88,6 +90,7 @@ void DesktopFrontEnd::SetView(const View& view) {
   for (const bool dialogs : {false, true})  // a dialog follows the window behind it
     for (const auto& [form, window] : windows_)
       if (form->Modal() == dialogs) window->ApplyView();
+  media_.SetVolumes(view_.waveVolume, view_.musicVolume);
 }
 
 bool DesktopFrontEnd::LessMotion() const { return view_.lessMotion; }
@@ -95,17 +98,25 @@ bool DesktopFrontEnd::LessMotion() const { return view_.lessMotion; }
 void DesktopFrontEnd::Run(Form* form, const std::function<void()>& handler) {
   if (platform.HasEnded() || (form && !Knows(*form))) return;
   busy_ = true;
-  try {
-    handler();
-  } catch (const std::exception& error) {
-    platform.End(error.what());
+  const Control* const clicked = std::exchange(clicked_, nullptr);
+  ++handlerNumber_;
+  {
+    const Hurry::Handler within(hurry_);
+    try {
+      handler();
+    } catch (const std::exception& error) {
+      platform.End(error.what());
+    }
+    SettleBoards();
   }
+  clicked_ = clicked;
   busy_ = false;
+  PlayWaveInAHurry();
   if (platform.HasEnded()) return Quit();
   for (const auto& [each, window] : windows_)
     if (each->Visible) window->Settle();
   ArmTimer();
-  if (!deeds_.empty()) QTimer::singleShot(0, &timer_, [this] { DeliverWaiting(); });
+  if (!deeds_.empty() || hurry_.Keeps()) QTimer::singleShot(0, &timer_, [this] { DeliverWaiting(); });
   Wake();
 }
 
@@ -115,7 +126,11 @@ void DesktopFrontEnd::Deliver(Form& form, std::function<void()> deed) {
 }
 
 void DesktopFrontEnd::DeliverWaiting() {
-  while (!deeds_.empty() && MayRun()) {
+  while (MayRun() && !platform.HasEnded()) {
+    if (deeds_.empty()) {
+      if (!hurry_.DeliverOne()) break;
+      continue;
+    }
     const Deed deed = std::move(deeds_.front());
     deeds_.pop_front();
     Run(deed.form, deed.run);
@@ -138,6 +153,8 @@ void DesktopFrontEnd::ServeTick() {
 // First what the windows have told, then what Qt has kept back during pauses.
 void DesktopFrontEnd::ServeInput() {
   constexpr int kRounds = 100;  // input that never ends isn't waited for
+  SettleBoards();
+  hurry_.LetThrough();
   const Idle idle(*this, Ticks::Held);
   DeliverWaiting();
   QEventLoop loop;
@@ -147,12 +164,15 @@ void DesktopFrontEnd::ServeInput() {
 // --- Waiting -------------------------------------------------------------------------------------
 
 void DesktopFrontEnd::Wait(const std::function<bool()>& waiting) {
+  SettleBoards();
+  hurry_.Anew();
+  PlayWaveInAHurry();
   const Idle idle(*this);
   QEventLoop* const outer = loop_;
   const std::function<bool()>* const outerWaiting = waiting_;
   waiting_ = &waiting;
   ArmTimer();
-  if (!deeds_.empty()) QTimer::singleShot(0, &timer_, [this] { DeliverWaiting(); });
+  if (!deeds_.empty() || hurry_.Keeps()) QTimer::singleShot(0, &timer_, [this] { DeliverWaiting(); });
   while (waiting() && !platform.HasEnded()) {
     QEventLoop loop;
     loop_ = &loop;
@@ -161,6 +181,7 @@ void DesktopFrontEnd::Wait(const std::function<bool()>& waiting) {
   loop_ = outer;
   waiting_ = outerWaiting;
   timer_.stop();
+  hurry_.Anew();
   Wake();
 }
 
@@ -170,6 +191,7 @@ void DesktopFrontEnd::Wake() {
 
 void DesktopFrontEnd::Pause(int milliseconds) {
   if (platform.HasEnded()) return;
+  SettleBoards();
   QEventLoop loop;
   if (milliseconds <= 0) {
     loop.processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -185,6 +207,33 @@ void DesktopFrontEnd::RunModal(Form& form) {
   modals_.push_back(WindowOf(form));
   WaitFor([&form] { return form.Visible.get(); });
   modals_.pop_back();
+}
+
+// --- Sounds --------------------------------------------------------------------------------------
+
+void DesktopFrontEnd::PlayWave(const std::string& path) {
+  WaveWithheld(path);
+  if (hurry_.Hurried()) {  // of many at once only the last one would be heard
+    waveInAHurry_ = path;
+    return;
+  }
+  constexpr int kCount = 500;  // milliseconds between the steps of a count at most
+  const long long now = Milliseconds();
+  const bool goesOn =
+      lastWave_.path == path && lastWave_.handler == handlerNumber_ && now - lastWave_.at <= kCount;
+  lastWave_ = {path, handlerNumber_, now, goesOn ? lastWave_.step + 1 : 0};
+  media_.PlayWave(path, lastWave_.step);
+}
+
+void DesktopFrontEnd::PlayWaveInAHurry() {
+  if (!waveInAHurry_.empty()) media_.PlayWave(std::exchange(waveInAHurry_, ""));
+}
+
+// A refusal is shown as well as heard.
+void DesktopFrontEnd::WaveWithheld(const std::string& path) {
+  if (!clicked_ || clicked_->kind != Control::Kind::Image || !path.ends_with("Chord.wav")) return;
+  if (FormWindow* window = WindowOf(clicked_->form))
+    window->Board().Refuse(static_cast<const Visual&>(*clicked_));
 }
 
 // --- The world -----------------------------------------------------------------------------------
@@ -256,6 +305,10 @@ void DesktopFrontEnd::Quit() {
 
 // --- Windows -------------------------------------------------------------------------------------
 
+void DesktopFrontEnd::SettleBoards() {
+  for (const auto& [form, window] : windows_) window->Board().Settle();
+}
+
 FormWindow* DesktopFrontEnd::FrontWindow() const {
   for (const Form* form : platform.forms)
     if (FormWindow* window = WindowOf(*form); window && form->Visible && window->isVisible()) return window;
@@ -300,6 +353,7 @@ void DesktopFrontEnd::FormHidden(Form& form) {
 void DesktopFrontEnd::FormUnloaded(Form& form) {
   FormWindow* window = WindowOf(form);
   if (!window) return;
+  if (clicked_ && &clicked_->form == &form) clicked_ = nullptr;
   windows_.erase(&form);
   std::erase_if(deeds_, [&](const Deed& deed) { return deed.form == &form; });
   LeaveActive(*window);

@@ -9,6 +9,7 @@
 #include <memory>
 #include <unordered_map>
 
+#include "window/desktop/hurry.h"
 #include "window/desktop/media.h"
 #include "window/desktop/pictures.h"
 #include "window/desktop/view.h"
@@ -59,16 +60,24 @@ class DesktopFrontEnd : public FrontEnd {
   // Whether windows follow what the window manager does to them, and cards the real pointer.
   virtual bool HeedsWindowManager() const { return true; }
   virtual bool HeedsPointer() const { return true; }
+  // Whether cards are seen to move.
+  virtual bool ShowsMotion() const { return !view_.lessMotion; }
+  // How many handlers have been run so far.
+  long long HandlerNumber() const { return handlerNumber_; }
+  // The control whose click the handler under way, or the last one, answers; null if it answers none.
+  const Control* ClickedControl() const { return clicked_; }
 
   long long Milliseconds() override { return clock_.elapsed(); }
   DateTime Now() override;
   Extent ScreenExtent() override;
   Extent TextExtent(const Label& label) override;
-  void Sleep(int milliseconds) override { Pause(milliseconds); }
+  void Sleep(int milliseconds) override { hurry_.Sleep(milliseconds); }
   void ServeInput() override;
   Answer RunBox(const MessageBox& box) override;
   void RunModal(Form& form) override;
-  void PlayWave(const std::string& path) override { media_.PlayWave(path); }
+  void PlayWave(const std::string& path) override;
+  void WaveWithheld(const std::string& path) override;
+  void Clicked(Control& control) override { clicked_ = &control; }
   void MediaCommand(const std::string& command) override { media_.Command(command); }
   std::string FindBrowser() override;
   bool OpenPage(const std::string& browser, const std::string& url) override;
@@ -130,6 +139,7 @@ class DesktopFrontEnd : public FrontEnd {
   }
 
  private:
+  friend class Hurry;
   void ServeTick();
   void DeliverWaiting();
   // Whether a handler may begin. Not once what the innermost wait waits for has come: its handler goes first.
@@ -137,6 +147,9 @@ class DesktopFrontEnd : public FrontEnd {
   FormWindow* FrontWindow() const;
   // The window that stands before all others once this one is gone; null if there is none.
   QWidget* NextWindow(const QWidget* going) const;
+  // What the handler under way has changed so far is set in motion.
+  void SettleBoards();
+  void PlayWaveInAHurry();
   void ShowIcon();
   void ShowClock();
   void Quit();
@@ -154,6 +167,15 @@ class DesktopFrontEnd : public FrontEnd {
   std::unordered_map<const Form*, FormWindow*> windows_;
   std::unordered_map<const Form*, std::unique_ptr<Guide>> guides_;
   std::deque<Deed> deeds_;
+  Hurry hurry_{*this};
+  long long handlerNumber_ = 0;
+  const Control* clicked_ = nullptr;
+  struct {
+    std::string path;
+    long long handler = -1, at = 0;
+    int step = 0;
+  } lastWave_;
+  std::string waveInAHurry_;  // waits for the end of what is run through
   std::vector<class QMessageBox*> boxes_;
   std::vector<QPointer<QWidget>> modals_;  // the boxes and the modal windows that are waited for
   QEventLoop* loop_ = nullptr;             // of the innermost wait

@@ -1,5 +1,8 @@
 #include "window/desktop/media.h"
 
+#include <cmath>
+#include <iterator>
+
 #include "window/desktop/screening.h"
 #include "window/desktop/sound.h"
 
@@ -25,7 +28,24 @@ fs::path Media::Find(const std::string& name, const char* folder) const {
   return installed_ / folder / file;
 }
 
-void Media::PlayWave(const std::string& path) { player_->PlayWave(Find(path, "sounds")); }
+Strike StrikeOf(int step) {
+  // Uneven as a hand is, and never twice the same within a second.
+  static constexpr int kWavers[] = {0, -24, 16, -8, 28, -16, 6, -28, 20, -12, 24, -20, 10};
+  static constexpr int kLevels[] = {100, 90, 96, 86, 94, 100, 88, 92, 97, 87, 95};
+  constexpr double kHeight = 700, kSlope = 30;  // a fifth at last; half of it within twenty steps
+  if (step <= 0) return {};
+  const double rise = kHeight * (1 - std::exp(-step / kSlope));
+  return {static_cast<int>(std::lround(rise)) + kWavers[step % std::size(kWavers)],
+          kLevels[step % std::size(kLevels)]};
+}
+
+void Media::PlayWave(const std::string& path, int step) {
+  const fs::path file = Find(path, "sounds");
+  const Strike strike = file.parent_path() == own_ ? Strike() : StrikeOf(step);
+  player_->PlayWave(file, strike.cents, strike.level);
+}
+
+void Media::SetVolumes(int waves, int music) { player_->SetVolumes(waves, music); }
 
 void Media::Command(const std::string& command) {
   if (command.starts_with("open ")) {

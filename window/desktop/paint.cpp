@@ -15,20 +15,7 @@ constexpr QColor kBox(0xfb, 0xf6, 0xe8);
 
 void PaintImage(const Easel& easel, const Placed& placed) {
   const auto& image = static_cast<const Image&>(*placed.control);
-  if (image.Picture == 0) return;
-  QPainter& painter = easel.painter;
-  if (image.BorderStyle == 1) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0, 0, 0, 38));
-    painter.drawRoundedRect(QRectF(placed.rect).adjusted(0, 1, 2, 3), 5, 5);
-    painter.drawRoundedRect(QRectF(placed.rect).adjusted(0.5, 1, 1, 1.5), 4, 4);
-  }
-  const QPixmap& picture = easel.pictures.Get(image.Picture, image.BorderStyle == 1, easel.scale);
-  // On whole device pixels, so that each pixel of the picture is one of the screen.
-  const QTransform& transform = painter.deviceTransform();
-  const QPointF corner = transform.map(QPointF(placed.rect.topLeft()));
-  const QPointF whole(std::round(corner.x()), std::round(corner.y()));
-  painter.drawPixmap(transform.inverted().map(whole), picture);
+  if (image.Picture != 0) PaintPicture(easel, image.Picture, image.BorderStyle == 1, placed.rect);
 }
 
 // A box let into the window: dark along the top and left, lit along the bottom and right.
@@ -253,6 +240,22 @@ void PaintLabel(const Easel& easel, size_t place) {
 }
 
 }  // namespace
+
+void PaintPicture(const Easel& easel, int index, bool framed, const QRectF& rect) {
+  QPainter& painter = easel.painter;
+  if (framed) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 38));
+    painter.drawRoundedRect(rect.adjusted(0, 1, 2, 3), 5, 5);
+    painter.drawRoundedRect(rect.adjusted(0.5, 1, 1, 1.5), 4, 4);
+  }
+  const QPixmap& picture = easel.pictures.Get(index, framed, easel.scale);
+  // On whole device pixels, so that each pixel of the picture is one of the screen.
+  const QTransform& transform = painter.deviceTransform();
+  const QPointF corner = transform.map(rect.topLeft());
+  const QPointF whole(std::round(corner.x()), std::round(corner.y()));
+  painter.drawPixmap(transform.inverted().map(whole), picture);
+}
 
 void PaintControl(const Easel& easel, size_t place) {
   const Placed& placed = easel.scene[place];

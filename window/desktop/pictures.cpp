@@ -64,6 +64,16 @@ QSize Pictures::Size(int index) const {
   return file ? QSize(file->width, file->height) : QSize(71, 96);
 }
 
+bool Pictures::IsPile(int index) const {
+  const PictureFile* file = Find(index);
+  return file && (file->file.ends_with("-full.svg") || file->file.ends_with("-half.svg"));
+}
+
+bool Pictures::IsBack(int index) const {
+  const PictureFile* file = Find(index);
+  return file && file->file.starts_with("back") && !IsPile(index);
+}
+
 const QPixmap& Pictures::Get(int index, bool framed, double scale) {
   const auto key = std::tuple(index, framed, scale);
   auto found = drawn_.find(key);

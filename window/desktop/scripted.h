@@ -19,6 +19,7 @@ class ScriptedDesktop : public DesktopFrontEnd, private DesktopHands {
 
   bool HeedsWindowManager() const override { return false; }
   bool HeedsPointer() const override { return false; }
+  bool ShowsMotion() const override { return false; }
   long long Milliseconds() override { return now_; }
   DateTime Now() override;
   void Sleep(int milliseconds) override;

@@ -15,6 +15,12 @@
 
 namespace fs = std::filesystem;
 
+/// A wave as it is to be heard.
+struct AskedWave {
+  fs::path path;
+  int cents, level;
+};
+
 /// What the caller wants and how far the two threads have come. All of it is guarded by `mutex`.
 struct SoundState {
   std::mutex mutex;
@@ -23,7 +29,9 @@ struct SoundState {
   bool started = false;
   bool quit = false;
 
-  std::vector<fs::path> waves;  // asked for and not yet tried, the newest last
+  std::vector<AskedWave> waves;  // asked for and not yet tried, the newest last
+  int wave_volume = 100, music_volume = 100;
+  bool volumes_changed = false;
 
   // The newest wish for the tune: each open or close is a new edition, which nobody has asked to play yet.
   fs::path music;
@@ -80,15 +88,22 @@ void RunWaves(const std::shared_ptr<SoundState>& state) {
   state->device_settled = true;
   state->changed.notify_all();
   while (module != nullptr && !state->quit) {
+    if (std::exchange(state->volumes_changed, false)) {
+      const int waves = state->wave_volume, music = state->music_volume;
+      lock.unlock();
+      module->set_volumes(waves, music);
+      lock.lock();
+      continue;
+    }
     if (state->waves.empty()) {
       state->changed.wait(lock);
       continue;
     }
-    const std::vector<fs::path> waves = std::exchange(state->waves, {});
+    const std::vector<AskedWave> waves = std::exchange(state->waves, {});
     lock.unlock();
     // Only the last one would be heard; those before it matter when it can't be played.
     for (auto wave = waves.rbegin(); wave != waves.rend(); ++wave)
-      if (module->play_wave(wave->c_str())) break;
+      if (module->play_wave(wave->path.c_str(), wave->cents, wave->level)) break;
     lock.lock();
   }
   state->changed.wait(lock, [&] { return state->music_done; });
@@ -174,12 +189,21 @@ void SoundPlayer::Start() {
   }
 }
 
-void SoundPlayer::PlayWave(const fs::path& path) {
+void SoundPlayer::PlayWave(const fs::path& path, int cents, int level) {
   const std::lock_guard lock(state_->mutex);
   if (state_->device_settled && state_->module == nullptr) return;
   if (!state_->started) state_->waves.clear();
   if (state_->waves.size() == kMostWaitingWaves) state_->waves.erase(state_->waves.begin());
-  state_->waves.push_back(path);
+  state_->waves.push_back({path, cents, level});
+  state_->changed.notify_all();
+}
+
+void SoundPlayer::SetVolumes(int waves, int music) {
+  const std::lock_guard lock(state_->mutex);
+  if (state_->wave_volume == waves && state_->music_volume == music) return;
+  state_->wave_volume = waves;
+  state_->music_volume = music;
+  state_->volumes_changed = true;
   state_->changed.notify_all();
 }
 

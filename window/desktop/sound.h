@@ -23,8 +23,11 @@ class SoundPlayer {
   /// Opens the device in the background. Meant for the time when the first window is on the screen.
   void Start();
 
-  /// Plays a wave; it cuts the one that plays. A file that can't be played leaves the other alone.
-  void PlayWave(const std::filesystem::path& path);
+  /// Plays a wave, higher by so many cents and at so many percent of its level; it cuts the one that plays.
+  /// A file that can't be played leaves the other alone.
+  void PlayWave(const std::filesystem::path& path, int cents = 0, int level = 100);
+  /// Percent; heard at once.
+  void SetVolumes(int waves, int music);
 
   /// Makes a tune ready in place of the last one, which falls silent.
   void OpenMusic(const std::filesystem::path& path);

@@ -9,8 +9,11 @@ struct CardHavenSoundModule {
   /// Opens the audio device; false when there is none.
   bool (*open)();
   void (*close)();
-  /// Plays a wave instead of the one that plays; false, and nothing changes, when it can't be read.
-  bool (*play_wave)(const char* path);
+  /// Plays a wave instead of the one that plays, higher by so many cents and at so many percent of its
+  /// level; false, and nothing changes, when it can't be read.
+  bool (*play_wave)(const char* path, int cents, int level);
+  /// Percent, of this wave or tune and all that follow.
+  void (*set_volumes)(int waves, int music);
   /// Reads a tune and the soundfont that is to play it; null when one of them is no good. May run beside
   /// `play_wave`.
   void* (*load_music)(const char* path, const char* soundfont);

@@ -5,11 +5,13 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cmath>
 #include <cstdarg>
 #include <cstdint>
 #include <cstring>
 #include <list>
 #include <string>
+#include <vector>
 
 #include "window/desktop/sound_module.h"
 
@@ -26,6 +28,8 @@ constexpr int kCutFrames = 176;  // 4 ms, so that a wave cut in the middle doesn
 struct Voice {
   std::atomic<bool> cut = false;
   int frames_left = 0;
+  std::vector<std::int16_t> varied;  // what it plays where that isn't the wave as it is
+  Mix_Chunk chunk = {};              // around `varied`
 };
 Voice voices[2];
 int last_voice = 0;
@@ -138,7 +142,30 @@ Mix_Chunk* Chunk(const std::string& path) {
   return chunk;
 }
 
-bool PlayWave(const char* path) {
+/// The wave at another pitch and level, in the voice's own memory. The voice must be silent.
+Mix_Chunk* Vary(Voice& voice, const Mix_Chunk& wave, int cents, int level) {
+  const auto* from = reinterpret_cast<const std::int16_t*>(wave.abuf);
+  const std::size_t frames = wave.alen / 4;
+  const double step = std::pow(2, cents / 1200.0);
+  const auto made = static_cast<std::size_t>(static_cast<double>(frames - 1) / step) + 1;
+  voice.varied.resize(2 * made);
+  for (std::size_t i = 0; i < made; ++i) {
+    const double place = static_cast<double>(i) * step;
+    const auto left = std::min(static_cast<std::size_t>(place), frames - 1);
+    const std::size_t right = std::min(left + 1, frames - 1);
+    const double share = place - static_cast<double>(left);
+    for (int side = 0; side < 2; ++side) {
+      const double sample = from[2 * left + side] * (1 - share) + from[2 * right + side] * share;
+      voice.varied[2 * i + side] = static_cast<std::int16_t>(std::lround(sample * level / 100));
+    }
+  }
+  voice.chunk.abuf = reinterpret_cast<Uint8*>(voice.varied.data());
+  voice.chunk.alen = static_cast<Uint32>(4 * made);
+  voice.chunk.volume = MIX_MAX_VOLUME;
+  return &voice.chunk;
+}
+
+bool PlayWave(const char* path, int cents, int level) {
   Mix_Chunk* chunk = Chunk(path);
   if (chunk == nullptr) return false;
   const int channel = 1 - last_voice;
@@ -148,11 +175,17 @@ bool PlayWave(const char* path) {
   Mix_HaltChannel(channel);
   next.cut = false;
   next.frames_left = kCutFrames;
+  if ((cents != 0 || level != 100) && chunk->alen >= 4) chunk = Vary(next, *chunk, cents, level);
   Mix_RegisterEffect(channel, FadeWhenCut, nullptr, &next);
   Mix_PlayChannel(channel, chunk, 0);
   old.cut = true;
   last_voice = channel;
   return true;
+}
+
+void SetVolumes(int waves, int music) {
+  Mix_Volume(-1, kWaveVolume * waves / 100);
+  Mix_VolumeMusic(kMusicVolume * music / 100);
 }
 
 bool BeginsLikeMidi(const char* path) {
@@ -192,6 +225,7 @@ void FreeMusic(void* music) {
 }  // namespace
 
 extern "C" __attribute__((visibility("default"))) const CardHavenSoundModule* CardHavenSound() {
-  static const CardHavenSoundModule module = {Open, Close, PlayWave, LoadMusic, PlayMusic, FreeMusic};
+  static const CardHavenSoundModule module = {Open,      Close,     PlayWave, SetVolumes,
+                                              LoadMusic, PlayMusic, FreeMusic};
   return &module;
 }
