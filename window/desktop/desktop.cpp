@@ -229,8 +229,9 @@ void DesktopFrontEnd::PlayWaveInAHurry() {
   if (!waveInAHurry_.empty()) media_.PlayWave(std::exchange(waveInAHurry_, ""));
 }
 
-// A refusal is shown as well as heard.
+// A refusal is shown and told as well as heard.
 void DesktopFrontEnd::WaveWithheld(const std::string& path) {
+  access_.Heard(path);
   if (!clicked_ || clicked_->kind != Control::Kind::Image || !path.ends_with("Chord.wav")) return;
   if (FormWindow* window = WindowOf(clicked_->form))
     window->Board().Refuse(static_cast<const Visual&>(*clicked_));
@@ -354,6 +355,7 @@ void DesktopFrontEnd::FormUnloaded(Form& form) {
   FormWindow* window = WindowOf(form);
   if (!window) return;
   if (clicked_ && &clicked_->form == &form) clicked_ = nullptr;
+  access_.Gone(form);
   windows_.erase(&form);
   std::erase_if(deeds_, [&](const Deed& deed) { return deed.form == &form; });
   LeaveActive(*window);
@@ -366,10 +368,12 @@ void DesktopFrontEnd::FormUnloaded(Form& form) {
 void DesktopFrontEnd::PropertyChanged(Control& control, Prop prop) {
   if (control.kind == Control::Kind::Timer && !busy_) ArmTimer();
   if (FormWindow* window = WindowOf(control.form)) window->Apply(control, prop);
+  access_.Changed(control, prop);
 }
 
 void DesktopFrontEnd::OrderChanged(Visual& control) {
   if (FormWindow* window = WindowOf(control.form)) window->Reordered(control);
+  access_.Reordered(control.form);
 }
 
 void DesktopFrontEnd::FocusMoved(Visual& control) {

@@ -9,6 +9,7 @@
 #include <memory>
 #include <unordered_map>
 
+#include "window/desktop/access.h"
 #include "window/desktop/hurry.h"
 #include "window/desktop/media.h"
 #include "window/desktop/pictures.h"
@@ -46,6 +47,7 @@ class DesktopFrontEnd : public FrontEnd {
   FormWindow* WindowOf(const Form& form) const;
   // Null if the form has none.
   Guide* GuideOf(const Form& form) const;
+  Access& Ears() { return access_; }
   const View& GetView() const { return view_; }
   // Shows all windows in this way from now on, and keeps it.
   void SetView(const View& view);
@@ -178,7 +180,8 @@ class DesktopFrontEnd : public FrontEnd {
   std::string waveInAHurry_;  // waits for the end of what is run through
   std::vector<class QMessageBox*> boxes_;
   std::vector<QPointer<QWidget>> modals_;  // the boxes and the modal windows that are waited for
-  QEventLoop* loop_ = nullptr;             // of the innermost wait
+  Access access_{*this};
+  QEventLoop* loop_ = nullptr;  // of the innermost wait
   const std::function<bool()>* waiting_ = nullptr;
   bool busy_ = false, painted_ = false;
   Ticks ticks_ = Ticks::Served;

@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QScreen>
+#include <QShortcut>
 #include <QTimer>
 #include <QToolTip>
 #include <QWindow>
@@ -59,6 +60,9 @@ FormWindow::FormWindow(Form& form, DesktopFrontEnd& front) : form(form), front_(
   });
   fits_ = front.GetView().fitNormal;
   ApplySize();
+  if (front.GuideOf(form))
+    connect(new QShortcut(Qt::SHIFT | Qt::Key_F1, this), &QShortcut::activated, this,
+            [this] { front_.Ears().TellState(*this); });
 }
 
 FormWindow::~FormWindow() { delete menus_; }
@@ -138,6 +142,7 @@ void FormWindow::ShowForm(QWidget* behind) {
   activateWindow();
   if (keyboard_) keyboard_->Shown();
   Settle();
+  front_.Ears().Shown(*this);
 }
 
 void FormWindow::Leave() {
@@ -369,6 +374,7 @@ void FormWindow::ApplyPlace() {
 // Qt moves the focus on when a widget is disabled or hidden; the model has a rule of its own.
 void FormWindow::Settle() {
   if (left_) return;
+  if (comfort_) comfort_->Settle();
   if (keyboard_) {
     keyboard_->Settle();
     if (keyboard_->HoldsFocus()) return;
@@ -377,7 +383,6 @@ void FormWindow::Settle() {
   const Visual* active = form.ActiveControl();
   QWidget* widget = active ? WidgetOf(*active) : nullptr;
   if (widget && focusWidget() != widget) widget->setFocus(Qt::OtherFocusReason);
-  if (comfort_) comfort_->Settle();
 }
 
 // The field that was refused has the focus by now; where a button has it, the field written in last.

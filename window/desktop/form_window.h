@@ -56,6 +56,7 @@ class FormWindow : public QWidget {
   // Null where no guide tells which keys there are.
   Keyboard* Keys() const { return keyboard_; }
   Menus& MenuBar() { return *menus_; }
+  DesktopFrontEnd& Front() { return front_; }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
