@@ -90,19 +90,11 @@ void GameGuide::AddHit(std::vector<Spot>& spots, CommandButton& button, const La
   spots.push_back({&button, text + (button.Enabled ? "" : ", closed"), button.Enabled && Plays()});
 }
 
-// Below the splash panel.
+// By the splash panel.
 std::optional<Note> GameGuide::FirstStepsPlace() const {
-  constexpr int kGap = 180, kHeight = 1020, kWider = 240;
   const Frame& splash = window_.frmSplash;
   if (!splash.Visible) return std::nullopt;
-  return Note{&window_,
-              splash.Left - kWider,
-              splash.Top + splash.Height + kGap,
-              splash.Width + 2 * kWider,
-              kHeight,
-              "",
-              2,
-              Note::Look::Sheet};
+  return Note{&window_, splash.Left, splash.Top, splash.Width, splash.Height, "", 2, Note::Look::Sheet};
 }
 
 // The window's own clock is up to a minute late.

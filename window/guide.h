@@ -77,7 +77,7 @@ class Guide {
   virtual std::string ToolTip(const Control& /*control*/) const { return ""; }
   // Three lines on what to do, for a player who opens the window for the first time.
   virtual std::vector<std::string> FirstSteps() const { return {}; }
-  // Where they stand; nothing while there is something else to see.
+  // What they stand below, or above where there is no room; nothing while there is something else to see.
   virtual std::optional<Note> FirstStepsPlace() const { return std::nullopt; }
   // What a panel of the status bar says at this minute; "" for what the window has written there.
   virtual std::string PanelText(int /*number*/) const { return ""; }

@@ -24,7 +24,7 @@ class TreyshiftGuide : public GameGuide {
   }
 
   std::vector<std::string> FirstSteps() const override {
-    return {"Click a card, then the place where it shall go: a column, or the storage above.",
+    return {"Click a card, then where it shall go: a column, or the storage above.",
             "Three of a rank or three in sequence make a column whole, and it is paid.",
             "Use up the deck before the time is up."};
   }

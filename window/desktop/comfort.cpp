@@ -3,10 +3,12 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
+#include <algorithm>
 
 #include "window/desktop/canvas.h"
 #include "window/desktop/desktop.h"
 #include "window/desktop/form_window.h"
+#include "window/desktop/notes.h"
 #include "window/player.h"
 
 Comfort::Comfort(FormWindow& window, DesktopFrontEnd& front, Guide& guide)
@@ -64,6 +66,24 @@ void Comfort::Leave() {
   front_.SetView(view);
 }
 
+// Below the place that was told, or above it, or else before its lower part.
+void Comfort::PlaceSheet(Note& sheet) const {
+  constexpr int kGap = 180;
+  const int height = NoteRect(sheet).height() * 15;
+  const int below = sheet.top + sheet.height + kGap, above = sheet.top - kGap - height;
+  const auto isFree = [&](int top) {
+    sheet.top = top;
+    const QRect area = NoteRect(sheet);
+    return top >= 0 && std::ranges::none_of(window_.form.Controls(), [&](const Control* control) {
+             if (control->parent != &window_.form) return false;
+             if (!IsDrawn(control->kind) && !window_.WidgetOf(*control)) return false;
+             const auto& visual = static_cast<const Visual&>(*control);
+             return visual.Visible && ModelRect(visual).intersects(area);
+           });
+  };
+  if (!isFree(below) && !isFree(above)) sheet.top = below - 2 * kGap - height;
+}
+
 // The first steps are read once a game has been played behind them.
 void Comfort::ShowNotes() {
   std::vector<Note> notes = guide_.Notes();
@@ -73,6 +93,7 @@ void Comfort::ShowNotes() {
     std::optional<Note> sheet = guide_.FirstStepsPlace();
     if (sheet) {
       for (const std::string& line : lines) sheet->text += (sheet->text.empty() ? "" : "\n") + line;
+      PlaceSheet(*sheet);
       notes.push_back(std::move(*sheet));
     } else if (showsSteps_) {
       View view = front_.GetView();

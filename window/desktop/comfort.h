@@ -24,6 +24,7 @@ class Comfort {
 
  private:
   void ShowNotes();
+  void PlaceSheet(Note& sheet) const;
   void OfferAgain();
   void KeepPlace();
 

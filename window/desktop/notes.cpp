@@ -21,11 +21,23 @@ void PaintMark(QPainter& painter, const QRectF& rect) {
   painter.drawRoundedRect(rect, 4, 4);
 }
 
+QFont FontOf(const Note& note) {
+  return style::Letters(note.look == Note::Look::Sheet ? kReading : kSmall, note.look == Note::Look::Mark);
+}
+
 }  // namespace
 
+// A sheet is as large as its text needs.
 QRect NoteRect(const Note& note) {
-  return QRect(Pixels(note.left), Pixels(note.top), Pixels(note.width), Pixels(note.height))
-      .translated(Origin(*note.within));
+  const QRect rect = QRect(Pixels(note.left), Pixels(note.top), Pixels(note.width), Pixels(note.height))
+                         .translated(Origin(*note.within));
+  if (note.look != Note::Look::Sheet) return rect;
+  QRect sheet = QFontMetrics(FontOf(note))
+                    .boundingRect(QRect(0, 0, 10'000, 10'000), 0, QString::fromStdString(note.text))
+                    .adjusted(-16, -9, 16, 9);
+  sheet.moveTop(rect.top());
+  sheet.moveLeft(rect.center().x() - sheet.width() / 2);
+  return sheet;
 }
 
 void PaintNote(QPainter& painter, const Note& note, NoteLayer layer) {
@@ -36,7 +48,7 @@ void PaintNote(QPainter& painter, const Note& note, NoteLayer layer) {
   if (note.look == Note::Look::Sheet) PaintSheet(painter, rect);
   if (beneath) PaintMark(painter, rect);
   const Qt::Alignment sides[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
-  const QFont font = style::Letters(note.look == Note::Look::Sheet ? kReading : kSmall, beneath);
+  const QFont font = FontOf(note);
   painter.setFont(font);
   painter.setPen(style::kInk);
   const QFontMetrics metrics(font);
