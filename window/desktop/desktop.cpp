@@ -14,8 +14,8 @@
 #include <iostream>
 
 #include "window/desktop/form_window.h"
-#include "window/desktop/leaving.h"
 #include "window/desktop/lettering.h"
+#include "window/leaving.h"
 
 namespace fs = std::filesystem;
 
