@@ -46,6 +46,7 @@ gone() {
   started=$(date +%s%N)
   wait "$child"
   status=$?
+  child=
   exec 3>&-
   [ "$status" = "$2" ] || fail "$1: ended with $status"
   # Ten times what it takes: this tells an end from a wait, and measures nothing.
