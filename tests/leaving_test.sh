@@ -44,8 +44,11 @@ start() {
 # HOW, the exit status that is expected
 gone() {
   started=$(date +%s%N)
+  (sleep 20 && kill -KILL "$child") 2>/dev/null &
+  patience=$!
   wait "$child"
   status=$?
+  kill "$patience"
   child=
   exec 3>&-
   [ "$status" = "$2" ] || fail "$1: ended with $status"
@@ -124,7 +127,7 @@ unset WAYLAND_DISPLAY
 
 # The session asks first; then it may end, or go on.
 mkfifo "$folder/session"
-python3 "$(dirname "$0")/session_manager.py" <"$folder/session" >"$folder/managed" &
+python3 "$(dirname "$0")/session_manager.py" "$folder/socket" <"$folder/session" >"$folder/managed" &
 manager=$!
 exec 5>"$folder/session"
 until read -r _ SESSION_MANAGER <"$folder/managed"; do sleep 0.1; done

@@ -1,13 +1,14 @@
 #!/usr/bin/env python3
 """A session manager of one client. Prints where it listens, then takes lines: "save" asks the client to keep what it has
 since the session is about to end, "end" ends it. Prints "kept" when the client has done so, "gone" when it has left.
+
+  session_manager.py SOCKET
 """
 import os
 import select
 import socket
 import struct
 import sys
-import tempfile
 
 REGISTER, REGISTERED, SAVE_YOURSELF, SAVE_DONE, DIE, SAVE_COMPLETE = 1, 2, 3, 8, 9, 18
 CORE, XSMP = 0, 1  # the second number is ours to give
@@ -20,7 +21,7 @@ def text(letters):
 
 
 def main():
-    address = os.path.join(tempfile.mkdtemp(prefix="cardhaven-session-"), "socket")
+    address = sys.argv[1]
     listener = socket.socket(socket.AF_UNIX)
     listener.bind(address)
     listener.listen()
@@ -70,7 +71,6 @@ def main():
         print("gone", flush=True)
     finally:
         os.remove(address)
-        os.rmdir(os.path.dirname(address))
 
 
 if __name__ == "__main__":
