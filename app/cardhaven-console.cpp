@@ -1,13 +1,20 @@
 // The program without a screen.
+#include <poll.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <iostream>
 #include <memory>
 #include <stdexcept>
+#include <streambuf>
 
 #include "app/options.h"
 #include "games/games.h"
 #include "suite/suite.h"
 #include "window/console/console.h"
+#include "window/leaving.h"
 
 namespace {
 
@@ -19,16 +26,64 @@ class Console : public ConsoleFrontEnd {
   bool failed = false;
 };
 
+// Standard input, until a signal comes.
+class Input : public std::streambuf {
+  int_type underflow() override {
+    while (true) {
+      pollfd waits[] = {{leaving::Wire(), POLLIN, 0}, {STDIN_FILENO, POLLIN, 0}};
+      if (poll(waits, 2, -1) < 0 && errno == EINTR) continue;
+      if (leaving::IsWanted()) leaving::Now(EXIT_SUCCESS);
+      const ssize_t got = read(STDIN_FILENO, chunk_, sizeof chunk_);
+      if (got < 0 && (errno == EINTR || errno == EAGAIN)) continue;
+      if (got <= 0) return traits_type::eof();
+      setg(chunk_, chunk_, chunk_ + got);
+      return traits_type::to_int_type(*chunk_);
+    }
+  }
+  char chunk_[4096];
+};
+
+// Standard output, whose reader may not read on.
+class Output : public std::streambuf {
+ public:
+  Output() { setp(chunk_, chunk_ + sizeof chunk_); }
+
+ private:
+  int_type overflow(int_type letter) override {
+    if (sync() != 0) return traits_type::eof();
+    return traits_type::eq_int_type(letter, traits_type::eof()) ? traits_type::not_eof(letter)
+                                                                : sputc(traits_type::to_char_type(letter));
+  }
+  int sync() override {
+    for (const char* at = pbase(); at < pptr();) {
+      const leaving::Held writing;
+      const ssize_t written = write(STDOUT_FILENO, at, static_cast<size_t>(pptr() - at));
+      if (written < 0 && errno == EINTR) continue;
+      if (written < 0) return -1;
+      at += written;
+    }
+    setp(chunk_, chunk_ + sizeof chunk_);
+    return 0;
+  }
+  char chunk_[8192];
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::ios::sync_with_stdio(false);
+  std::signal(SIGPIPE, SIG_IGN);  // output that nobody gets is a failure, and no sudden end
   Options options;
   if (const auto status = ReadCommandLine(Program::Console, argc, argv, options)) return *status;
   try {
     const std::filesystem::path folder = FindAppPath(options);
-    Console console({options.start, options.screen}, std::cin, std::cout);
+    Input input;
+    Output output;
+    std::istream in(&input);
+    std::ostream out(&output);
+    Console console({options.start, options.screen}, in, out);
     Platform& platform = console.platform;
+    leaving::Heed();
+    leaving::SetPlatform(&platform);
     if (options.seed) platform.random.Seed(*options.seed);
     platform.CommandLine = options.savedGame;
     std::unique_ptr<Suite> suite;
@@ -39,7 +94,8 @@ int main(int argc, char** argv) {
     } catch (const std::exception& error) {
       platform.End(error.what());
     }
-    if (!std::cout.flush()) throw std::runtime_error("the output can't be written");
+    leaving::SetPlatform(nullptr);
+    if (!out.flush()) throw std::runtime_error("the output can't be written");
     return console.failed ? EXIT_FAILURE : EXIT_SUCCESS;
   } catch (const std::exception& error) {
     std::cerr << "cardhaven-console: " << error.what() << std::endl;

@@ -120,7 +120,7 @@ std::string GameWindow::KeepSettings() {
                                 }) > 0;
   };
   common.files.Keep(common.files.PathOf(plan.names.settingsFile),
-                    {[text](const std::string&) { return text; }, makesSense, true});
+                    {[text](const std::string&) { return text; }, makesSense, true, true});
   return text;
 }
 

@@ -59,9 +59,10 @@ HighScores Readable(std::string_view text, const std::string& defaultScore) {
   return scores.empty() ? FreshHighScores(defaultScore) : scores;
 }
 
-// What can still be read of a damaged table is kept in the new one; the damaged one stays beside it.
+// What can still be read of a damaged table is kept in the new one; the damaged one stays beside it. `note`
+// is the entry that the change makes, as a line of the table.
 void KeepTable(GameWindow& window, const std::string& tableName, std::function<HighScores(HighScores)> change,
-               const std::string& defaultScore, bool replaces = false) {
+               const std::string& defaultScore, bool replaces = false, const std::string& note = "") {
   Files& files = window.common.files;
   files.Keep(files.PathOf(window.TableFile(tableName)),
              {[change = std::move(change), defaultScore](const std::string& old) {
@@ -72,21 +73,29 @@ void KeepTable(GameWindow& window, const std::string& tableName, std::function<H
                 ParseHighScores(old, damaged);
                 return !damaged;
               },
-              replaces});
+              replaces, false, note,
+              [defaultScore](const std::string& old, const std::string& left) {
+                bool damaged = false;
+                HighScores scores = Readable(old, defaultScore);
+                for (const HighScore& entry : ParseHighScores(left, damaged))
+                  scores = WithEntry(scores, entry);
+                return FormatHighScores(scores);
+              }});
 }
 
 }  // namespace
 
 HighScores ReadHighScores(GameWindow& window, const std::string& tableName, const std::string& defaultScore) {
   Files& files = window.common.files;
+  const auto path = files.PathOf(window.TableFile(tableName));
+  const auto asItIs = [](HighScores scores) { return scores; };
+  if (Files::HasNotes(path)) KeepTable(window, tableName, asItIs, defaultScore);
   std::string text;
-  const ReadOutcome outcome = files.Read(files.PathOf(window.TableFile(tableName)), text);
+  const ReadOutcome outcome = files.Read(path, text);
   bool damaged = false;
   const bool isWhole = outcome == ReadOutcome::Read && !ParseHighScores(text, damaged).empty() && !damaged;
   // Another copy may have made the table meanwhile: then it stays as it is.
-  if (!isWhole && outcome != ReadOutcome::Refused)
-    KeepTable(
-        window, tableName, [](HighScores scores) { return scores; }, defaultScore);
+  if (!isWhole && outcome != ReadOutcome::Refused) KeepTable(window, tableName, asItIs, defaultScore);
   return Readable(text, defaultScore);
 }
 
@@ -115,7 +124,7 @@ void UpdateHighScoreTable(const std::string& tableName, GameWindow& window, cons
     KeepTable(
         window, tableName,
         [entry = HighScore{name, score}](const HighScores& scores) { return WithEntry(scores, entry); },
-        defaultScore);
+        defaultScore, false, placed ? FormatHighScores({{name, score}}) : "");
   };
   const std::optional<size_t> place = PlaceOf(ReadHighScores(window, tableName, defaultScore), score);
   const bool placed = place.has_value();

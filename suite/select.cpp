@@ -55,6 +55,9 @@ void frmSelect::Form_Load() {
 
 void frmSelect::Form_Terminate() {
   Discard();  // the window goes first: nothing happens any more once the program has ended
+  // What could not be kept so far has no later.
+  common_.files.mustHurry = [] { return true; };
+  common_.files.TryAgain();
   platform.End();
 }
 

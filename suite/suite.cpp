@@ -5,12 +5,16 @@
 Suite::Suite(Platform& platform, const SuiteOptions& options, std::vector<GameEntry> games)
     : common(platform, options.AppPath), games_(std::move(games)), selector_(common, games_) {
   platform.OnFailure = [this](const std::string& description) { Fail(description); };
+  platform.OnKeep = [this] {
+    if (common.window) common.window->KeepSettings();
+  };
   platform.OnLeave = [this] { Leave(); };
   platform.AfterHandler = [this] { AfterHandler(); };
 }
 
 Suite::~Suite() {
   common.platform.OnFailure = nullptr;
+  common.platform.OnKeep = nullptr;
   common.platform.OnLeave = nullptr;
   common.platform.AfterHandler = nullptr;
 }
@@ -21,8 +25,7 @@ void Suite::Start() {
 
 // What closing the windows would have kept is kept; the round in progress is given up.
 void Suite::Leave() {
-  constexpr int kPatience = 50;
-  common.files.patience = kPatience;
+  common.files.mustHurry = [] { return true; };
   if (common.EnterWaitingScore) common.EnterWaitingScore();
   if (common.window) common.window->KeepSettings();
   common.files.TryAgain();

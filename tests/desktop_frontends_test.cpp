@@ -74,3 +74,16 @@ TEST(Desktop, SaysWhatIsWrong) {
     EXPECT_NE(Output(std::string(program) + " --help").find("SAVED-GAME"), std::string::npos);
   }
 }
+
+TEST(Desktop, SaysNothingWhereThereIsNoSound) {
+  TestFolder folder;
+  for (const char* driver : {"-u SDL_AUDIODRIVER", "SDL_AUDIODRIVER=alsa", "SDL_AUDIODRIVER=nonsense"})
+    EXPECT_EQ(
+        Output(
+            "(sleep 1; echo quit) | env " + std::string(driver) +
+            " ALSA_CONFIG_PATH=/dev/null ASAN_OPTIONS=detect_leaks=0 QT_QPA_PLATFORM=offscreen " CARDHAVEN_DESKTOP
+            " --console --folder " +
+            folder.Path().string() + " 2>&1 >/dev/null"),
+        "exit 0\n")
+        << driver;
+}

@@ -1,11 +1,14 @@
 // What a player does while handlers run, and what becomes of it.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QMenu>
 #include <QMessageBox>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include "games/games.h"
 #include "games/sumfall/sumfall.h"
@@ -15,6 +18,7 @@
 #include "tests/harness.h"
 #include "window/desktop/media.h"
 #include "window/desktop/pictures.h"
+#include "window/desktop/screening.h"
 
 #ifdef __SANITIZE_ADDRESS__
 // The font library keeps a block of its own till the end, which is no leak of ours.
@@ -315,6 +319,23 @@ TEST_F(Input, EscapeAndTheCloseBoxAnswerBoxes) {
   }
 }
 
+TEST_F(Input, ABoxStaysOnTheScreenWhateverItSays) {
+  std::string lines;
+  for (int i = 0; i < 500; ++i) lines += "one more line\n";
+  for (const std::string& text : {lines, std::string(20000, 'x')}) {
+    AtNextBox([&](QMessageBox& box) {
+      const QRect screen = box.screen()->availableGeometry();
+      EXPECT_TRUE(screen.contains(box.frameGeometry())) << box.width() << " by " << box.height();
+      for (const QAbstractButton* button : box.buttons())
+        EXPECT_TRUE(box.rect().contains(button->geometry()));
+      const auto* shown = box.findChild<QPlainTextEdit*>();
+      EXPECT_TRUE(shown && shown->verticalScrollBar()->isVisible()) << "the rest can be seen too";
+      input::Key(box, Qt::Key_Return, {}, "\r");
+    });
+    EXPECT_EQ(front.platform.MsgBox(text, "Ask", Icon::Question, Buttons::YesNo), Answer::Yes);
+  }
+}
+
 TEST_F(Input, ABoxOutlivesTheWindowBehindIt) {
   for (const bool hidden : {true, false}) {
     auto game = std::make_unique<frmTable>(front.platform, "frmGame");
@@ -439,7 +460,45 @@ TEST(OwnFiles, GoBeforeTheSuites) {
 
   own.Write("Chord.wav", "mine");
   const Media media(own.Path(), installed.Path());
+  const auto largest = [&](const char* name, std::uintmax_t size) {
+    own.Write(name, "mine");
+    std::filesystem::resize_file(own.Path() / name, size);
+  };
+  largest("Large.wav", kLargestWave);
+  largest("Large.MID", kLargestTune);
+  EXPECT_EQ(media.Find("\\Large.wav", "sounds"), own.Path() / "Large.wav");
+  EXPECT_EQ(media.Find("\\Large.MID", "music"), own.Path() / "Large.MID");
   EXPECT_EQ(media.Find("\\Chord.wav", "sounds"), own.Path() / "Chord.wav");
   EXPECT_EQ(media.Find("\\Snap.wav", "sounds"), installed.Path() / "sounds/Snap.wav");
   EXPECT_EQ(media.Find("\\Tune.MID", "music"), installed.Path() / "music/Tune.MID");
+}
+
+TEST(OwnFiles, AreRefusedWhereTheyMightDoHarm) {
+  const struct {
+    const char* why;
+    std::function<void(const std::filesystem::path&)> make;
+  } cases[] = {
+      {"it is too large",
+       [](const auto& path) {
+         const bool wave = path.extension() == ".wav";
+         std::ofstream(path) << "mine";
+         std::filesystem::resize_file(path, (wave ? 16 << 20 : 1 << 20) + 1);
+       }},
+      {"it is no plain file", [](const auto& path) { mkfifo(path.c_str(), 0600); }},
+      {"it is no plain file", [](const auto& path) { std::filesystem::create_directory(path); }},
+      {"it is no plain file", [](const auto& path) { std::filesystem::create_symlink("/dev/zero", path); }},
+  };
+  const std::pair<const char*, const char*> files[] = {{"Chord.wav", "sounds"}, {"Tune.MID", "music"}};
+  for (const auto& each : cases)
+    for (const auto& [name, kind] : files) {
+      TestFolder own;
+      each.make(own.Path() / name);
+      const Media media(own.Path(), "/installed");
+      testing::internal::CaptureStderr();
+      for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(media.Find(std::string("\\") + name, kind),
+                  std::filesystem::path("/installed") / kind / name);
+      EXPECT_EQ(testing::internal::GetCapturedStderr(),
+                "cardhaven: " + (own.Path() / name).string() + " isn't used: " + each.why + "\n");
+    }
 }

@@ -1,4 +1,4 @@
-#!/bin/sh
+#!/bin/bash
 # Where the program keeps its files, and that those of earlier versions move there.
 #
 #   folder_test.sh CONSOLE-PROGRAM
@@ -52,3 +52,8 @@ run --folder "$folder/named"
 status=0
 echo "get frmSelect.Caption" | "$folder/app/program" --folder "$folder/named" >/dev/full 2>"$folder/said" || status=$?
 [ "$status" = 1 ] && grep -q "output can't be written" "$folder/said" || fail "a full disk ended with $status"
+status=$( (
+  (yes "dump frmSelect" | "$folder/app/program" --folder "$folder/named" 2>"$folder/said"
+    echo "${PIPESTATUS[1]}" >&3) | head -n 1 >/dev/null
+) 3>&1)
+[ "$status" = 1 ] && grep -q "output can't be written" "$folder/said" || fail "a reader that has gone ended it with $status"

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include "tests/sumfall_cards.h"
@@ -156,9 +157,11 @@ TEST(Settings, AFileThatMakesNoSenseIsKeptBeside) {
   }
   TestFolder folder;
   std::filesystem::create_directory(folder.Path() / kIni);
+  mkfifo((folder.Path() / "HiScores90_11.Txt").c_str(), 0600);
   Driver driver(folder.Path());
   EXPECT_TRUE(BoxesOf(driver.Do(kOpenSumfall)).empty());
   EXPECT_EQ(folder.Read(kIni), kDefaults);
+  EXPECT_TRUE(std::filesystem::is_fifo(folder.Path() / "HiScores90_11.Txt.bad"));
   TestFolder empty;
   empty.Write(kIni, "");
   Driver other(empty.Path());
@@ -201,6 +204,18 @@ TEST(Settings, AFileThatCantBeReadNowStays) {
   EXPECT_EQ(folder.Read(kIni), IniText({{"Time", "60"}})) << "not overwritten before anybody saw it";
   driver.Do(kOpenSumfall);
   EXPECT_EQ(driver.Get("frmSumfall.mnu60.Checked"), true);
+}
+
+TEST(Settings, WhatALinkNamesElsewhereIsLeftAloneUnlessItIsAFile) {
+  TestFolder folder, elsewhere;
+  mkfifo((elsewhere.Path() / "pipe").c_str(), 0600);
+  std::filesystem::create_symlink(elsewhere.Path() / "pipe", folder.Path() / kIni);
+  Driver driver(folder.Path());
+  const auto boxes = BoxesOf(driver.Do(kOpenSumfall + "answer \"OK\""));
+  ASSERT_EQ(boxes.size(), 1u);
+  EXPECT_TRUE(Contains(boxes[0], kIni + " can't be replaced"));
+  EXPECT_TRUE(std::filesystem::is_fifo(elsewhere.Path() / "pipe"));
+  EXPECT_FALSE(elsewhere.Has("pipe.bad"));
 }
 
 TEST(Files, WhatAKilledCopyLeftIsSwept) {

@@ -254,6 +254,31 @@ TEST(Tables, WithoutTheLockAnEntryWaits) {
   EXPECT_EQ(folder.Read(kTable), "Other, 80000\r\nMe, 60000\r\nQuillmark, 50000\r\n\r\n");
 }
 
+TEST(Tables, WhatCouldNotBeEnteredIsLeftBesideForTheNextStart) {
+  TestFolder folder;
+  {
+    const FolderLock other(folder.Path(), 1000, nullptr);
+    Driver driver(folder.Path());
+    driver.common().files.patience = 30;
+    driver.Do(kOpenSumfall + "answer \"OK\"\nanswer \"OK\"");
+    for (int score : {60000, 61000})
+      FinishWith(driver, score,
+                 "type frmHiScoreName.lblPlayerName \"P" + std::to_string(score) +
+                     "\"\nclick frmHiScoreName.cmdOK\nanswer \"OK\"\nclick frmHighScores.cmdDone\n");
+    driver.Do("close frmSumfall\nanswer \"Yes\"\nclose frmSelect");
+    EXPECT_FALSE(folder.Has(kTable));
+    folder.Write(kTable, "Other, 80000\r\nQuillmark, 50000\r\n\r\n");
+    folder.Write("HiScores90_11.late-0123456789abcdef.Txt", "rubbish");
+  }
+  for (int start = 0; start < 2; ++start) Driver(folder.Path()).Do(kOpenSumfall);
+  EXPECT_EQ(folder.Read(kTable),
+            "Other, 80000\r\nP61000, 61000\r\nP60000, 60000\r\nQuillmark, 50000\r\n\r\n");
+  EXPECT_EQ(folder.Read("HiScores90_11.late-0123456789abcdef.Txt.bad"), "rubbish");
+  int files = 0;
+  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(folder.Path())) ++files;
+  EXPECT_EQ(files, 3) << "the table, the settings and the rubbish";
+}
+
 TEST(Tables, NamesFromElsewhereAreCut) {
   bool damaged = false;
   std::string umlauts, cut;

@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr off_t kLargestFile = 1 << 20;
-constexpr char kTemporary[] = ".new-";
+constexpr char kTemporary[] = ".new-", kNote[] = ".late-";
 constexpr size_t kSuffixLetters = 16;
 
 // Goes on with a call that a signal has interrupted.
@@ -46,7 +46,7 @@ class Descriptor {
   int number_;
 };
 
-bool WriteAll(int descriptor, const std::string& text) {
+bool WriteAll(int descriptor, const std::string& text, bool hurries) {
   size_t written = 0;
   while (written < text.size()) {
     const ssize_t count =
@@ -54,7 +54,7 @@ bool WriteAll(int descriptor, const std::string& text) {
     if (count < 0) return false;
     written += static_cast<size_t>(count);
   }
-  return Insist([&] { return fsync(descriptor); }) == 0;
+  return hurries || Insist([&] { return fsync(descriptor); }) == 0;
 }
 
 void SyncFolder(const fs::path& folder) {
@@ -93,7 +93,7 @@ std::string RandomSuffix() {
 
 enum class Written { Yes, NotBeside, NotOver };
 
-Written Replace(const fs::path& path, const std::string& text) {
+Written Replace(const fs::path& path, const std::string& text, bool hurries = false) {
   const fs::path target = TargetOf(path);
   struct stat old = {};
   const bool exists = lstat(target.c_str(), &old) == 0;
@@ -107,13 +107,13 @@ Written Replace(const fs::path& path, const std::string& text) {
     if (descriptor < 0) return Written::NotBeside;
     flock(descriptor, LOCK_EX | LOCK_NB);  // tells those who sweep that its writer lives
     if (exists) fchmod(descriptor, old.st_mode & 0777);
-    const bool written = WriteAll(descriptor, text);
+    const bool written = WriteAll(descriptor, text, hurries);
     bool renamed = false;
     // Closed behind the renaming, so that the lock lasts; what the disk refuses it has told by then.
     if (written) renamed = Insist([&] { return rename(beside.c_str(), target.c_str()); }) == 0;
     const int why = errno;
     if (renamed) {
-      SyncFolder(target.parent_path());
+      if (!hurries) SyncFolder(target.parent_path());
       return Written::Yes;
     }
     unlink(beside.c_str());
@@ -129,6 +129,8 @@ bool PutAside(const fs::path& path) {
   const fs::path target = TargetOf(path);
   struct stat bad = {};
   if (lstat(target.c_str(), &bad) != 0) return errno == ENOENT;
+  // What a link names outside our folder is ours only if it is a file.
+  if (target != path && !S_ISREG(bad.st_mode)) return false;
   constexpr int kMostAside = 1000;
   for (int number = 1; number <= kMostAside; ++number) {
     const fs::path aside = target.string() + ".bad" + (number == 1 ? "" : "-" + std::to_string(number));
@@ -152,6 +154,36 @@ bool PutAside(const fs::path& path) {
     if (errno != EEXIST) return false;
   }
   return false;
+}
+
+std::vector<std::string> NamesIn(const fs::path& folder) {
+  std::vector<std::string> names;
+  DIR* const entries = opendir(folder.c_str());
+  if (!entries) return names;
+  while (const dirent* entry = readdir(entries)) names.emplace_back(entry->d_name);
+  closedir(entries);
+  return names;
+}
+
+// "Table.late-0123456789abcdef.Txt": what belongs into "Table.Txt".
+std::vector<fs::path> NotesFor(const fs::path& path) {
+  const fs::path target = TargetOf(path);
+  const std::string begin = target.stem().string() + kNote, end = target.extension().string();
+  std::vector<fs::path> notes;
+  for (const std::string& name : NamesIn(target.parent_path()))
+    if (name.size() == begin.size() + kSuffixLetters + end.size() && name.starts_with(begin) &&
+        name.ends_with(end))
+      notes.push_back(target.parent_path() / name);
+  return notes;
+}
+
+void LeaveNotes(const fs::path& path, const std::vector<FileChange>& changes) {
+  const fs::path target = TargetOf(path);
+  for (const FileChange& change : changes)
+    if (!change.note.empty())
+      Replace(target.parent_path() /
+                  (target.stem().string() + kNote + RandomSuffix() + target.extension().string()),
+              change.note, true);
 }
 
 // The name of a temporary file of this suite, whose writer is gone.
@@ -239,6 +271,8 @@ bool Files::Write(const fs::path& path, const std::string& text) {
   return Replace(path, text) == Written::Yes;
 }
 
+bool Files::HasNotes(const fs::path& path) { return !NotesFor(path).empty(); }
+
 void Files::Keep(const fs::path& path, FileChange change) {
   auto& changes = waiting_[path];
   if (change.replaces) changes.clear();
@@ -256,10 +290,9 @@ void Files::Settle(const fs::path& path) {
   auto& changes = waiting_[path];
   if (unread_.contains(path) && changes.front().replaces) return;
   const auto refusal = Change(path, changes);
-  if (refusal)
-    Refuse(*refusal, path);
-  else
-    waiting_.erase(path);
+  if (refusal) Refuse(*refusal, path);
+  if (refusal && Hurries()) LeaveNotes(path, changes);  // there is no later
+  if (!refusal || Hurries()) waiting_.erase(path);
 }
 
 // Makes the changes to what the file holds now, or tells what stands against it.
@@ -270,8 +303,8 @@ std::optional<FileRefusal::What> Files::Change(const fs::path& path, std::vector
   const FolderLock lock(folder, stuck_ ? std::min(patience, kShortWait) : patience, mustHurry);
   if (!lock.FolderIsThere()) return What::WriteFolder;
   stuck_ = !lock.Held();
-  if (stuck_) return What::Lock;
-  Sweep(folder);
+  if (stuck_ && !(Hurries() && changes.back().mayGoWithoutLock)) return What::Lock;
+  if (!Hurries()) Sweep(folder);
   std::string old;
   const ReadOutcome outcome = ReadDisk(path, old);
   if (outcome == ReadOutcome::Refused) return What::Read;
@@ -280,12 +313,22 @@ std::optional<FileRefusal::What> Files::Change(const fs::path& path, std::vector
       outcome == ReadOutcome::Unusable || (outcome == ReadOutcome::Read && !changes.front().makesSense(old));
   if (nonsense && !PutAside(path)) return What::ReplaceFile;
   std::string text = old;
+  std::vector<fs::path> notes;
+  if (changes.front().addNote)
+    for (const fs::path& note : NotesFor(path))
+      if (std::string left; ReadDisk(note, left) == ReadOutcome::Read) {
+        if (!changes.front().makesSense(left) && !PutAside(note)) continue;
+        text = changes.front().addNote(text, left);
+        notes.push_back(note);
+      }
   for (const FileChange& change : changes) text = change.apply(text);
   if (outcome != ReadOutcome::Read || text != old) {
-    const Written written = Replace(path, text);
+    const Written written = Replace(path, text, Hurries());
     if (written == Written::NotBeside && folder == folder_) return What::WriteFolder;
     if (written != Written::Yes) return What::ReplaceFile;
   }
+  // Who is killed right here has an entry twice, and none is lost.
+  for (const fs::path& note : notes) unlink(note.c_str());
   known_[path] = text;
   return std::nullopt;
 }
@@ -293,13 +336,8 @@ std::optional<FileRefusal::What> Files::Change(const fs::path& path, std::vector
 // Takes away what copies of the program that were killed while they wrote have left; once a folder.
 void Files::Sweep(const fs::path& folder) {
   if (!swept_.insert(folder).second) return;
-  DIR* const entries = opendir(folder.c_str());
-  if (!entries) return;
-  std::vector<std::string> leftovers;
-  while (const dirent* entry = readdir(entries))
-    if (IsLeftover(folder, entry->d_name)) leftovers.emplace_back(entry->d_name);
-  closedir(entries);
-  for (const std::string& name : leftovers) unlink((folder / name).c_str());
+  for (const std::string& name : NamesIn(folder))
+    if (IsLeftover(folder, name)) unlink((folder / name).c_str());
 }
 
 void Files::Refuse(FileRefusal::What what, const fs::path& path) {

@@ -27,6 +27,12 @@ struct FileChange {
   std::function<bool(const std::string& old)> makesSense;
   // Takes nothing over from the old text. Not made to a file whose old text nobody could read.
   bool replaces = false;
+  // Nobody else's is in that file: where there is no time to wait for the lock it is made without.
+  bool mayGoWithoutLock = false;
+  // Where the change can't be made and there is no later, this is left in a file beside; and how whoever has
+  // the lock next adds what others have left so.
+  std::string note = {};
+  std::function<std::string(const std::string& old, const std::string& note)> addNote = nullptr;
 };
 
 // What the disk refused, for the player.
@@ -50,6 +56,8 @@ class Files {
   // Replaces the file, which is the old one or the new one whole at any moment; where it is a symbolic link,
   // what that names. False if that can't be done.
   static bool Write(const std::filesystem::path& path, const std::string& text);
+  // Whether copies of the program that had no time have left notes, which the next change of the file adds.
+  static bool HasNotes(const std::filesystem::path& path);
   // Changes a file that the suite keeps by itself, while no other copy of the program does. Where the disk
   // refuses, the change waits for the next try, until the program ends.
   void Keep(const std::filesystem::path& path, FileChange change);
@@ -63,7 +71,8 @@ class Files {
   // How long another copy of the program is waited for, in milliseconds. A longer wait has no better chances:
   // what holds a lock that long is stuck.
   int patience = 30'000;
-  // Asked during that wait: whether there is no time for it any more.
+  // Whether there is no time any more, for that wait or for the disk: what is handed to the system reaches
+  // the disk without us.
   std::function<bool()> mustHurry;
 
  private:
@@ -72,6 +81,7 @@ class Files {
   std::optional<FileRefusal::What> Change(const std::filesystem::path& path,
                                           std::vector<FileChange>& changes);
   void Sweep(const std::filesystem::path& folder);
+  bool Hurries() const { return mustHurry && mustHurry(); }
   void Refuse(FileRefusal::What what, const std::filesystem::path& path);
 
   std::filesystem::path folder_;

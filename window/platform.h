@@ -100,6 +100,9 @@ class Platform : public Observer {
   std::string CommandLine;  // a saved game's file name, or ""
   // Told of a failure that no handler caught, with its description.
   std::function<void(const std::string&)> OnFailure;
+  // Called when the session may be about to end: what closing the windows would keep is kept, nobody is asked
+  // or told, and play goes on.
+  std::function<void()> OnKeep;
   // Called when the program has to go at once, also in the middle of a handler: nobody is asked or told.
   std::function<void()> OnLeave;
   // Called behind each handler that wasn't started within another, unless the program has ended.

@@ -18,7 +18,7 @@ import sys
 import tempfile
 import time
 
-TABLE, INI = "HiScores90_11.Txt", "Sumfall.Ini"
+TABLE, INI, SAVED = "HiScores90_11.Txt", "Sumfall.Ini", "mine.sfl"
 FRESH = "Quillmark, 50000\r\n" * 10 + "\r\n"
 LOW = "".join(f"P{n}, {n}\r\n" for n in range(10, 0, -1)) + "\r\n"  # any score has a place in it
 OPEN = ["click frmSelect.cmdSumfall"]
@@ -27,6 +27,10 @@ OK = ['answer "OK"'] * 3
 CLOSE = ["close frmSumfall", 'answer "Yes"'] + OK
 GAME = ["click frmSumfall.cmdPlay", "click frmSumfall.cmdTakeScore", "click frmSumfall.cmdTakeScore",
         "get frmSumfall.lblCurrentScore.Caption"] + OK
+SAVE = ["click frmSumfall.mnuSave", 'type frmSave.txtGameName "mine"', 'type frmSave.txtUserName "Me"',
+        "click frmSave.cmdOK"] + OK + ["click frmSave.cmdCancel"]
+REOPEN = ["click frmSumfall.mnuOpen", 'type frmOpen.txtGameName "mine"', "click frmOpen.cmdOK"] + OK + \
+         ["click frmOpen.cmdCancel"]
 ENTER = ['type frmHiScoreName.lblPlayerName "Me"', "click frmHiScoreName.cmdOK"] + OK + ["click frmHighScores.cmdDone"]
 
 SCENARIOS = {
@@ -35,7 +39,11 @@ SCENARIOS = {
     "table entry": ({TABLE: LOW}, OPEN + OK + GAME + ENTER + CLOSE),
     "damaged table": ({TABLE: "P10, 10\r\nrubbish\r\n"}, OPEN + OK + GAME + ENTER + CLOSE),
     "damaged settings": ({INI: "rubbish", TABLE: LOW}, OPEN + OK + CLOSE),
+    "saved game": ({TABLE: LOW, SAVED: "[Card Goal]\r\n11\r\n"}, OPEN + OK + GAME + ENTER + OK + SAVE + REOPEN + CLOSE),
+    "two copies": ({TABLE: LOW}, OPEN + OK + GAME + ENTER + CLOSE),
 }
+# What "saved game" writes where nothing stands against it.
+new_saved = None
 KINDS = {"kill": "kill", "killed after": "killed-after", "short": "short", "EINTR": str(errno.EINTR),
          "EIO": str(errno.EIO), "ENOSPC": str(errno.ENOSPC), "EACCES": str(errno.EACCES), "EMFILE": str(errno.EMFILE)}
 
@@ -69,6 +77,30 @@ def play(options, folder, lines, **environment):
                           capture_output=True, env=env, timeout=120, check=False)
 
 
+def play_beside(options, folder, scenario, **environment):
+    """Plays a scenario; in that of two copies another one enters a score meanwhile, without a fault."""
+    lines = SCENARIOS[scenario][1]
+    if scenario != "two copies":
+        return play(options, folder, lines, **environment), None
+    other = subprocess.Popen([options.console, "--seed", "2", "--folder", folder], stdin=subprocess.PIPE,
+                             stdout=subprocess.PIPE, text=True)
+    try:
+        print(*OPEN, *GAME, sep="\n", file=other.stdin, flush=True)
+        while "show frmHiScoreName" not in (line := other.stdout.readline()):
+            if not line:
+                return play(options, folder, lines, **environment), "another copy has ended by itself"
+        print(*[line.replace('"Me"', '"You"') for line in ENTER + CLOSE], sep="\n", file=other.stdin)
+        other.stdin.close()  # both are at it now
+        ran = play(options, folder, lines, **environment)
+        other.stdout.read()
+        ended = other.wait(120)
+        return ran, f"the copy without faults ended with {ended}" if ended else None
+    finally:
+        other.kill()
+        other.wait()
+        other.stdout.close()
+
+
 def prepare(folder, files):
     for name, text in files.items():
         with open(os.path.join(folder, name), "w", newline="", encoding="utf-8") as file:
@@ -79,23 +111,35 @@ def whole_settings(text):
     return text is not None and all(f"[{name}]\r\n" in text for name in ("Color", "Time", "Deck", "Height"))
 
 
-def findings(options, folder, scenario, kind, ran):
+def findings(options, folder, scenario, kind, ran, beside):
     files, lines = SCENARIOS[scenario]
+    if beside:
+        yield beside
     killed = kind.startswith("kill")
     if ran.returncode != (-9 if killed else 0):
         yield f"ended with {ran.returncode}: {ran.stderr[-300:]}"
-    told = "can't be" in ran.stdout or "in use by" in ran.stdout
-    table, settings = read(folder, TABLE), read(folder, INI)
-    for name, text, is_whole in ((TABLE, table, entries(table) is not None), (INI, settings, whole_settings(settings))):
+    boxes = [line for line in ran.stdout.split("\n") if line.startswith("* msgbox")]
+    def told(name):
+        return any(name in box or "the folder" in box for box in boxes)
+    table, settings, saved = (read(folder, name) for name in (TABLE, INI, SAVED))
+    for name, text, is_whole in ((TABLE, table, entries(table) is not None), (INI, settings, whole_settings(settings)),
+                                 (SAVED, saved, saved == new_saved)):
         if text is None and name in files:
             yield f"{name} is gone"
         if text is not None and text != files.get(name) and not is_whole:
             yield f"{name} is neither old nor new: {text[:60]!r}"
-    if not killed and not told:
-        if "click frmHiScoreName.cmdOK" in lines and not any(name == "Me" for name, _ in entries(table) or []):
-            yield "the score is lost, and nobody was told"
-        if "click frmSumfall.mnuHot" in lines and (settings is None or "[Deck]\r\n4" not in settings):
+    names = [name for name, _ in entries(table) or []]
+    if not killed:
+        if "click frmHiScoreName.cmdOK" in lines and names.count("Me") != 1 and not told(TABLE):
+            yield f"the score is there {names.count('Me')} times, and nobody was told"
+        if "click frmSumfall.mnuHot" in lines and (settings is None or "[Deck]\r\n4" not in settings) and not told(INI):
             yield "the settings are lost, and nobody was told"
+        if SAVED in files and saved != new_saved and not told("Unable to save"):
+            yield "the game isn't saved, and nobody was told"
+        if SAVED in files and saved == new_saved and not told("saved by Me") and not told("Unable to open"):
+            yield "the saved game doesn't open, and nobody was told"
+    if scenario == "two copies" and names.count("You") != 1:
+        yield f"the other copy's score is there {names.count('You')} times"
     for name, text in files.items():
         new = read(folder, name)
         beside = [read(folder, each) for each in os.listdir(folder) if each.startswith(name + ".bad")]
@@ -103,7 +147,7 @@ def findings(options, folder, scenario, kind, ran):
             yield f"what stood in {name} is lost"
     if table is not None and TABLE in files and (read_table := entries(table)) is not None:
         kept = sum(name.startswith("P") for name, _ in read_table)
-        if kept < min(9, files[TABLE].count(", ")):
+        if kept < min(10 - (scenario == "two copies") - 1, files[TABLE].count(", ")):
             yield f"{TABLE} has lost entries: {table!r}"
     clean = play(options, folder, OPEN)
     left = [name for name in os.listdir(folder) if ".new-" in name]
@@ -120,21 +164,25 @@ def point(options, scenario, kind, at):
     with tempfile.TemporaryDirectory(prefix="cardhaven-fault-") as folder:
         prepare(folder, SCENARIOS[scenario][0])
         try:
-            ran = play(options, folder, SCENARIOS[scenario][1], FAULT_AT=str(at), FAULT_KIND=KINDS[kind])
-            return [f"{scenario}, {kind} at call {at}: {what}" for what in findings(options, folder, scenario, kind, ran)]
+            ran, beside = play_beside(options, folder, scenario, FAULT_AT=str(at), FAULT_KIND=KINDS[kind])
+            return [f"{scenario}, {kind} at call {at}: {what}"
+                    for what in findings(options, folder, scenario, kind, ran, beside)]
         except subprocess.TimeoutExpired:
             return [f"{scenario}, {kind} at call {at}: hangs"]
 
 
 def count(options, scenario):
+    global new_saved
     with tempfile.TemporaryDirectory(prefix="cardhaven-fault-") as folder:
         prepare(folder, SCENARIOS[scenario][0])
         counter = folder + ".count"
-        ran = play(options, folder, SCENARIOS[scenario][1], FAULT_COUNT=counter)
+        ran, beside = play_beside(options, folder, scenario, FAULT_COUNT=counter)
         with open(counter, encoding="utf-8") as file:
             calls = int(file.read())
         os.remove(counter)
-        wrong = list(findings(options, folder, scenario, "none", ran))
+        if scenario == "saved game" and "[Round 1 Deck]" in (read(folder, SAVED) or ""):
+            new_saved = read(folder, SAVED)
+        wrong = list(findings(options, folder, scenario, "none", ran, beside))
         return calls, [f"{scenario}, without a fault: {what}" for what in wrong]
 
 
@@ -170,10 +218,11 @@ def main():
     options = parser.parse_args()
     options.console, options.shim = os.path.abspath(options.console), os.path.abspath(options.shim)
     started = time.monotonic()
-    wrong, points = [], []
+    wrong, points, calls_of = [], [], {}
     for scenario in SCENARIOS:
         calls, bad = count(options, scenario)
         wrong += bad
+        calls_of[scenario] = calls
         points += [(scenario, kind, at) for kind in KINDS for at in range(1, calls + 1)]
         if not calls:
             wrong.append(f"{scenario}: no calls were seen")
@@ -193,6 +242,7 @@ def main():
     if options.copies:
         wrong += copies(options, options.copies, 1)
         print(f"{options.copies} copies on a disk that takes 400 ms")
+    print(f"calls: {json.dumps(calls_of)}")
     print(f"{sum(ran.values())} of {len(points)} points: {json.dumps(ran)}; {len(wrong)} findings; "
           f"{time.monotonic() - started:.0f} s")
     for what in wrong:

@@ -5,6 +5,7 @@
  *   FAULT_KIND    "kill" (before the call), "killed-after" it, "short", or the number of an error
  *   FAULT_COUNT   a file into which the number of calls is written at the end
  *   FAULT_SYNC    milliseconds that each fsync takes
+ *   FAULT_LATER   the fsyncs are as fast as ever until there is a file of this name
  */
 #define _GNU_SOURCE
 #include <dlfcn.h>
@@ -110,7 +111,8 @@ ssize_t write(int descriptor, const void *buffer, size_t size) {
 
 int fsync(int descriptor) {
   const int ours = OursToo(descriptor), fate = Fate(ours);
-  if (ours && getenv("FAULT_SYNC")) usleep(1000 * atoi(getenv("FAULT_SYNC")));
+  const char *later = getenv("FAULT_LATER");
+  if (ours && getenv("FAULT_SYNC") && (!later || access(later, F_OK) == 0)) usleep(1000 * atoi(getenv("FAULT_SYNC")));
   if (fate == Fail) return -1;
   const int result = REAL(fsync)(descriptor);
   DIE_AFTER(fate);

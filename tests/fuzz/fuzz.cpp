@@ -1,14 +1,16 @@
 // Feeds texts from nowhere to all that reads texts: settings, tables, saved games, command lines, console
 // lines and, where the desktop is built, the screening of pictures.
 //
-// Built with CARDHAVEN_LIBFUZZER (clang -fsanitize=fuzzer) it is a libFuzzer target; else a plain loop:
+// A plain loop; the corpus has a folder for each reader:
 //
 //   fuzz CORPUS [SECONDS]   each file of the corpus, then changed ones, with a fixed seed
 //
-// A corpus has a folder for each reader; the first letter of an input tells libFuzzer's runs which it is for.
+// Built with CARDHAVEN_LIBFUZZER it is a libFuzzer target for the reader that FUZZ_READER names: see
+// bench/fuzz.
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
@@ -112,8 +114,14 @@ constexpr Reader kReaders[] = {
 
 #ifdef CARDHAVEN_LIBFUZZER
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  if (size > 0)
-    kReaders[data[0] % std::size(kReaders)].read({reinterpret_cast<const char*>(data) + 1, size - 1});
+  static const Reader* const reader = std::ranges::find(
+      kReaders, std::string_view(std::getenv("FUZZ_READER") ? std::getenv("FUZZ_READER") : ""),
+      [](const Reader& each) { return std::string_view(each.name); });
+  if (reader == std::end(kReaders)) {
+    std::fputs("FUZZ_READER names no reader\n", stderr);
+    std::exit(2);
+  }
+  reader->read({reinterpret_cast<const char*>(data), size});
   return 0;
 }
 #else

@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdlib>
 #include <istream>
+#include <ostream>
+
+#include "window/leaving.h"
 
 namespace {
 
@@ -12,7 +16,7 @@ struct InputEnded {};
 }  // namespace
 
 ConsoleFrontEnd::ConsoleFrontEnd(const ConsoleOptions& options, std::istream& in, std::ostream& out)
-    : options_(options), in_(in), script_(platform, *this, out) {
+    : options_(options), in_(in), out_(out), script_(platform, *this, out) {
   platform.trace = &script_;
 }
 
@@ -26,7 +30,7 @@ void ConsoleFrontEnd::Run() {
 
 bool ConsoleFrontEnd::ObeyOne() {
   std::string line;
-  if (!std::getline(in_, line)) return false;
+  if (!out_ || !std::getline(in_, line)) return false;
   script_.Execute(line);
   return !script_.Quit();
 }
@@ -62,6 +66,7 @@ void ConsoleFrontEnd::Advance(int milliseconds) {
   targets_.push_back(now_ + milliseconds);
   const size_t mine = targets_.size() - 1;
   while (!platform.HasEnded()) {
+    if (leaving::IsWanted()) leaving::Now(EXIT_SUCCESS);
     const auto due = platform.timers.NextDue();
     if (!due || *due > targets_[mine]) break;
     now_ = std::max(now_, *due);
@@ -70,6 +75,8 @@ void ConsoleFrontEnd::Advance(int milliseconds) {
   now_ = std::max(now_, targets_[mine]);
   targets_.pop_back();
 }
+
+bool ConsoleFrontEnd::MustLeave() const { return leaving::IsWanted(); }
 
 DateTime ConsoleFrontEnd::Now() {
   using namespace std::chrono;

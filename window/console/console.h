@@ -25,6 +25,7 @@ class ConsoleFrontEnd : public FrontEnd, private Hands {
   Extent ScreenExtent() override { return options_.screen; }
   Extent TextExtent(const Label& label) override;
   void Sleep(int milliseconds) override { now_ += milliseconds; }
+  bool MustLeave() const override;
   ::Answer RunBox(const MessageBox& box) override;
   void RunModal(Form& form) override;
   void PlayWave(const std::string&) override {}
@@ -43,6 +44,7 @@ class ConsoleFrontEnd : public FrontEnd, private Hands {
 
   ConsoleOptions options_;
   std::istream& in_;
+  std::ostream& out_;
   long long now_ = 0;
   std::optional<::Answer> answer_;
   std::vector<long long> targets_;  // until when the `advance` commands under way go on, outermost first

@@ -15,8 +15,8 @@
 
 #include "window/desktop/canvas.h"
 #include "window/desktop/form_window.h"
-#include "window/desktop/leaving.h"
 #include "window/desktop/lettering.h"
+#include "window/leaving.h"
 
 namespace fs = std::filesystem;
 

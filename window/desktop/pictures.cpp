@@ -5,9 +5,9 @@
 #include <QSvgRenderer>
 #include <cmath>
 
-#include "window/desktop/leaving.h"
 #include "window/desktop/screening.h"
 #include "window/desktop/style.h"
+#include "window/leaving.h"
 
 namespace fs = std::filesystem;
 
@@ -19,7 +19,7 @@ constexpr double kCorner = 4;  // radius of a framed card's corners
 bool Render(const fs::path& path, QPainter& painter, const QRectF& rect) {
   std::string text, why;
   if (!ReadMediaFile(path, kLargestPicture, text, why)) return false;
-  const leaving::Drawing drawing;
+  const leaving::Held drawing;
   QSvgRenderer renderer;
   if (why.empty()) why = WhyNotDraw(text);
   if (why.empty() && !renderer.load(QByteArray::fromStdString(text))) why = "it is no picture";

@@ -5,8 +5,9 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "window/desktop/leaving.h"
+#include "window/desktop/session.h"
 #include "window/desktop/style.h"
+#include "window/leaving.h"
 
 namespace {
 
@@ -50,7 +51,7 @@ int RunDesktop(int argc, char** argv, const DesktopOptions& options, const Pictu
   noTheme.reset();
   screenIsOpen = true;
   style::Apply(application);
-  leaving::Heed(application);
+  const bool heeds = leaving::Heed();
 
   std::unique_ptr<DesktopFrontEnd> front;
   if (options.script)
@@ -60,6 +61,7 @@ int RunDesktop(int argc, char** argv, const DesktopOptions& options, const Pictu
   if (!options.script) front->guides = options.guides;
   std::shared_ptr<void> kept;  // goes before the front end does
   leaving::SetPlatform(&front->platform);
+  if (heeds) HeedSession(application, front->platform);
   const int status = front->Run([&] { kept = start(front->platform); });
   leaving::SetPlatform(nullptr);
   return status;

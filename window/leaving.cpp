@@ -1,16 +1,14 @@
-#include "window/desktop/leaving.h"
+#include "window/leaving.h"
 
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <QApplication>
-#include <QEvent>
-#include <QSocketNotifier>
 #include <atomic>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
-#include <iostream>
+#include <mutex>
+#include <system_error>
 #include <thread>
 
 #include "window/platform.h"
@@ -21,60 +19,57 @@ namespace {
 using namespace std::chrono_literals;
 
 // A signal finds nothing but these.
-int signalEnds[2], watchEnds[2];
+int signalEnds[2] = {-1, -1}, watchEnds[2] = {-1, -1};
 std::atomic<bool> wanted = false;
-std::atomic<int> drawing = 0;
 std::atomic<Platform*> whose = nullptr;
 std::atomic_flag begun;
+// Who has it may touch what the suite keeps: the thread that heeds, but for the times when it is held.
+std::mutex suite;
+bool heeds = false;
+int holds = 0;
 
 void OnSignal(int) {
+  const int before = errno;
   wanted = true;
   const char byte = 0;
   for (int end : {signalEnds[1], watchEnds[1]}) [[maybe_unused]] const ssize_t written = write(end, &byte, 1);
+  errno = before;
 }
 
-// A picture that is drawn without end would make the program deaf. What is kept doesn't change meanwhile, and
-// so can be written by this thread. A disk that is slow is waited for, but not for ever.
+// A thread that is held would make the program deaf: then this one writes what is kept. A disk that is slow
+// is waited for, but not for ever.
 void Watch() {
   char byte;
   if (read(watchEnds[0], &byte, 1) != 1) return;
-  std::this_thread::sleep_for(100ms);
-  if (!begun.test() && drawing > 0) Now(EXIT_SUCCESS);
-  std::this_thread::sleep_for(2s);
+  constexpr int kTries = 21;
+  for (int i = 0; i < kTries; ++i) {
+    std::this_thread::sleep_for(100ms);
+    if (suite.try_lock()) Now(EXIT_SUCCESS);
+  }
   std::_Exit(EXIT_SUCCESS);
 }
-
-// The session manager's word comes as an event.
-class SessionEnd : public QObject {
- public:
-  using QObject::QObject;
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Quit) Now(EXIT_SUCCESS);
-    return false;
-  }
-};
 
 }  // namespace
 
 void SetPlatform(Platform* platform) { whose = platform; }
 bool IsWanted() { return wanted; }
+int Wire() { return signalEnds[0]; }
 
 void Now(int status) {
   // The other thread is at it, and will end this one.
   if (begun.test_and_set())
     while (true) pause();
+  wanted = true;
   if (Platform* platform = whose; platform && platform->OnLeave) platform->OnLeave();
   std::_Exit(status);
 }
 
-void Heed(QApplication& application) {
+bool Heed() {
   if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, signalEnds) != 0 ||
       socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, watchEnds) != 0)
-    return;
-  // The windows are served between handlers only, so that a signal never comes while a file is being written.
-  auto* notifier = new QSocketNotifier(signalEnds[0], QSocketNotifier::Read, &application);
-  QObject::connect(notifier, &QSocketNotifier::activated, notifier, [] { Now(EXIT_SUCCESS); });
-  application.installEventFilter(new SessionEnd(&application));
+    return false;
+  suite.lock();
+  heeds = true;
   // Where the display is lost, the libraries below end the program.
   std::atexit([] {
     if (whose) Now(EXIT_FAILURE);
@@ -82,15 +77,20 @@ void Heed(QApplication& application) {
   try {
     std::thread(Watch).detach();
   } catch (const std::system_error&) {
-    // Without it only a picture without end is deaf.
+    // Without it only a thread that is held is deaf.
   }
   struct sigaction action = {};
   action.sa_handler = OnSignal;
   action.sa_flags = SA_RESTART;
   for (int number : {SIGTERM, SIGINT, SIGHUP}) sigaction(number, &action, nullptr);
+  return true;
 }
 
-Drawing::Drawing() { ++drawing; }
-Drawing::~Drawing() { --drawing; }
+Held::Held() {
+  if (heeds && holds++ == 0) suite.unlock();
+}
+Held::~Held() {
+  if (heeds && --holds == 0) suite.lock();  // for ever, if the program is leaving
+}
 
 }  // namespace leaving

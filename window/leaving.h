@@ -1,0 +1,28 @@
+// The end of the program from outside: a signal, the end of the session, a display that is lost.
+#pragma once
+
+class Platform;
+
+namespace leaving {
+
+// From now on SIGTERM, SIGINT and SIGHUP are heeded, by the thread that calls this. False if they can't be.
+bool Heed();
+// Can be read once a signal has come; then, between handlers, `Now` is to be called. -1 without `Heed`.
+int Wire();
+// Whose `OnLeave` is called.
+void SetPlatform(Platform* platform);
+// The program has been told to go.
+bool IsWanted();
+// What the suite keeps is written, then the program is gone.
+[[noreturn]] void Now(int status);
+
+// While one stands that thread waits for something that may take for ever: a library at a file from
+// elsewhere, a reader of our output. What the suite keeps doesn't change meanwhile.
+class Held {
+ public:
+  Held();
+  ~Held();
+  Held(const Held&) = delete;
+};
+
+}  // namespace leaving
