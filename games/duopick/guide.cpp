@@ -33,9 +33,8 @@ class DuopickGuide : public GameGuide {
   }
 
   std::vector<std::string> FirstSteps() const override {
-    return {"Click two free cards: a pair of one rank, or a run of neighbours, such as king and ace.",
-            "The card turned up beside the stock goes with them, too.",
-            "Clear the top row before the time is up; points come at the end of the round."};
+    return {"Click two free cards: a pair, or neighbours in rank.",
+            "The card turned up beside the stock counts, too.", "Clear the top row before the time is up."};
   }
 
  protected:

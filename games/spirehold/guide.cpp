@@ -22,9 +22,9 @@ class SpireholdGuide : public GameGuide {
   }
 
   std::vector<std::string> FirstSteps() const override {
-    return {"Click free cards one rank above or below the card turned up; ace and king are neighbours.",
-            "Each further card of a run is worth more. A card of the stock breaks the run.",
-            "A tower falls with its topmost card. Take down three, then take the score."};
+    return {"Click free cards one rank above or below the card turned up.",
+            "A run pays more with each card; the stock breaks it.",
+            "Take down the three towers, then take the score."};
   }
 
  protected:

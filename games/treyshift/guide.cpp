@@ -24,8 +24,8 @@ class TreyshiftGuide : public GameGuide {
   }
 
   std::vector<std::string> FirstSteps() const override {
-    return {"Click a card, then where it shall go: a column, or the storage above.",
-            "Three of a rank or three in sequence make a column whole, and it is paid.",
+    return {"Click a card, then a column or a place of the storage.",
+            "Three of a rank, or three in sequence, are paid and go.",
             "Use up the deck before the time is up."};
   }
 
