@@ -104,7 +104,9 @@ TEST_F(Spirehold, TheStackEndsWithTheFirstUpCardAndThenWithNothing) {
     EXPECT_EQ(Story(kTurn), turn <= 24 ? "Click" : "Click, Chord");
     EXPECT_EQ(Text("lblCards.Caption"), std::to_string(std::max(0, 24 - turn)));
     EXPECT_EQ(Text("lblCurrentRun.Caption"), "Current Run: 0");
-    if (turn >= 24) EXPECT_EQ(Game().UpCardValue, turn == 24 ? 7 : 0);
+    if (turn >= 24) {
+      EXPECT_EQ(Game().UpCardValue, turn == 24 ? 7 : 0);
+    }
   }
   EXPECT_EQ(driver.Get(kWin + "UpCardPicture.Picture"), driver.common().ImageList2("7H"));
   std::string clicks;
