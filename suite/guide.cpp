@@ -55,6 +55,8 @@ KeyRow GameGuide::HitKeys(int columns) {
   return row;
 }
 
+bool GameGuide::IsOrnament(const Control& control) const { return control.name == "imgSplashImage"; }
+
 std::string GameGuide::State() const {
   std::string state;
   const auto tell = [&](const std::string& text) {
@@ -105,6 +107,8 @@ namespace {
 class SelectGuide : public Guide {
  public:
   explicit SelectGuide(frmSelect& window) : window_(window) {}
+
+  bool IsOrnament(const Control& control) const override { return control.name == "imgSplashImage"; }
 
   std::vector<KeyRow> Keys() const override {
     KeyRow games{"1 to " + std::to_string(window_.gameButtons.size()), "Open that game", {}};

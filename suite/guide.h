@@ -17,6 +17,7 @@ class GameGuide : public Guide {
   std::vector<KeyRow> Keys() const override;
   bool Paused() const override { return window_.IsPaused(); }
   std::string State() const override;
+  bool IsOrnament(const Control& control) const override;
   std::optional<Note> FirstStepsPlace() const override;
   std::string PanelText(int number) const override;
   const Label* Score() const override { return &window_.lblCurrentScore; }

@@ -83,6 +83,8 @@ class Guide {
   virtual std::string PanelText(int /*number*/) const { return ""; }
   // The box for a text that the player may want to give again the next time; null for none.
   virtual TextBox* OffersAgain() const { return nullptr; }
+  // Whether it is a picture that moves to please the eye and tells nothing.
+  virtual bool IsOrnament(const Control& /*control*/) const { return false; }
   // Whether the window comes back where the player has left it.
   virtual bool KeepsPlace() const { return false; }
 };

@@ -35,13 +35,13 @@ constexpr std::array<std::array<Court, 3>, 4> kCourts = {{
 
 }  // namespace
 
-void DrawCourt(std::string& out, Suit suit, int rank) {
+void DrawCourt(std::string& out, Suit suit, int rank, Colours colours) {
   const Court& court = kCourts[static_cast<int>(suit)][rank - 11];
   Box(out, kPanel, 15, 3, 39, 88);
   Open(out, Join({"transform=\"translate(34.5 47)\" stroke=\"", kInk,
                   "\" stroke-width=\".6\" stroke-linejoin=\"round\""}));
   Open(out, "id=\"h\"");
-  DrawSuit(out, suit, -14.1, -38.2, 8.2);
+  DrawSuit(out, suit, -14.1, -38.2, 8.2, colours);
   court.draw(out);
   Close(out);
   Use(out, "h", "rotate(180)");

@@ -71,15 +71,15 @@ void DrawPips(std::string& out, int rank) {
 }
 
 /// A star with four points and a dot in its middle, cut out of the sign of an ace.
-void DrawStar(std::string& out, Suit suit, double y, double size) {
+void DrawStar(std::string& out, std::string_view colour, double y, double size) {
   Open(out, Join({"transform=\"", Place(0, y, size / 6), "\""}));
   Flat(out, kPaper, "M0-6C1.2-3 3-1.2 6 0 3 1.2 1.2 3 0 6-1.2 3-3 1.2-6 0-3-1.2-1.2-3 0-6Z");
-  Dot(out, SuitColour(suit), 0, 0, 1.3);
+  Dot(out, colour, 0, 0, 1.3);
   Close(out);
 }
 
 /// The ace: one large sign, engraved with an inner line and a star, the spade richest of all.
-void DrawAce(std::string& out, Suit suit) {
+void DrawAce(std::string& out, Suit suit, std::string_view colour) {
   const bool spade = suit == Suit::kSpades;
   const double scale = spade ? 1.12 : 1.1;
   Open(out, Join({"transform=\"", Place(kMiddleX, kMiddleY, scale),
@@ -95,24 +95,24 @@ void DrawAce(std::string& out, Suit suit) {
            "5 7 2.4 5.8 1.2 3.2ZM-1.2 3.2C-3.6 3-6.4 4.2-8 7.2-5 7-2.4 5.8-1.2 3.2Z");
       Dot(out, kPaper, 9.2, 3.4, 1.2);
       Dot(out, kPaper, -9.2, 3.4, 1.2);
-      DrawStar(out, suit, -3.4, 6.2);
+      DrawStar(out, colour, -3.4, 6.2);
       break;
     case Suit::kHearts:
       Line(out, kPaper, .6,
            "M0 13.4C-4.1 7.7-14.3 1-14.3-6.8-14.3-11.4-11.8-14.1-8.3-14.1-4.6-14.1-1.7-11.6 0-6.6 "
            "1.7-11.6 4.6-14.1 8.3-14.1 11.8-14.1 14.3-11.4 14.3-6.8 14.3 1 4.1 7.7 0 13.4Z");
-      DrawStar(out, suit, .6, 5.4);
+      DrawStar(out, colour, .6, 5.4);
       break;
     case Suit::kClubs:
       Line(out, kPaper, .6,
            "M-2.5-4A5.8 5.8 0 1 1 2.5-4M3.7 1.9A5.8 5.8 0 1 1 3.7 6.8M-3.7 1.9A5.8 5.8 0 1 0-3.7 6.8");
-      DrawStar(out, suit, 2.2, 4.6);
+      DrawStar(out, colour, 2.2, 4.6);
       break;
     case Suit::kDiamonds:
       Line(out, kPaper, .6,
            "M0-14.8C3.1-9.6 6.7-4.3 11.6 0 6.7 4.3 3.1 9.6 0 14.8-3.1 9.6-6.7 4.3-11.6 0"
            "-6.7-4.3-3.1-9.6 0-14.8Z");
-      DrawStar(out, suit, 0, 5.4);
+      DrawStar(out, colour, 0, 5.4);
       break;
   }
   Close(out);
@@ -135,16 +135,16 @@ void DrawIndices(std::string& out, int rank) {
 
 }  // namespace
 
-std::string DrawFace(Suit suit, int rank) {
+std::string DrawFace(Suit suit, int rank, Colours colours) {
   std::string out;
   BeginPicture(out, kWidth, kHeight);
   out.append("<defs><path id=\"s\" d=\"").append(SuitPath(suit)).append("\"/>");
   out.append("<path id=\"t\" d=\"").append(SmallSuitPath(suit)).append("\"/></defs>\n");
   Box(out, kPaper, 0, 0, kWidth, kHeight);
-  if (rank > 10) DrawCourt(out, suit, rank);
-  Open(out, Join({"fill=\"", SuitColour(suit), "\""}));
+  if (rank > 10) DrawCourt(out, suit, rank, colours);
+  Open(out, Join({"fill=\"", SuitColour(suit, colours), "\""}));
   DrawIndices(out, rank);
-  if (rank == 1) DrawAce(out, suit);
+  if (rank == 1) DrawAce(out, suit, SuitColour(suit, colours));
   if (rank > 1 && rank <= 10) DrawPips(out, rank);
   Close(out);
   EndPicture(out);

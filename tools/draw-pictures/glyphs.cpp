@@ -100,7 +100,9 @@ std::string_view SuitPath(Suit suit) { return kSuitPaths[static_cast<int>(suit)]
 
 std::string_view SmallSuitPath(Suit suit) { return kSmallSuitPaths[static_cast<int>(suit)]; }
 
-std::string_view SuitColour(Suit suit) {
+std::string_view SuitColour(Suit suit, Colours colours) {
+  if (colours == Colours::kFour && suit == Suit::kClubs) return kClubGreen;
+  if (colours == Colours::kFour && suit == Suit::kDiamonds) return kDiamondBlue;
   return suit == Suit::kHearts || suit == Suit::kDiamonds ? kRed : kBlack;
 }
 
@@ -108,9 +110,9 @@ std::string_view RankPath(int rank) { return kRankPaths[rank - 1]; }
 
 double RankWidth(int rank) { return rank == 10 ? 12 : 8; }
 
-void DrawSuit(std::string& out, Suit suit, double x, double y, double height) {
+void DrawSuit(std::string& out, Suit suit, double x, double y, double height, Colours colours) {
   Open(out, Join({"transform=\"translate(", Num(x), " ", Num(y), ") scale(", Num(height / 12.3), ")\""}));
-  Flat(out, SuitColour(suit), SuitPath(suit));
+  Flat(out, SuitColour(suit, colours), SuitPath(suit));
   Close(out);
 }
 

@@ -42,6 +42,21 @@ bool Write(const std::filesystem::path& path, const std::string& text) {
   return false;
 }
 
+/// The faces that look otherwise where each suit has a colour of its own.
+bool WriteFourColours(const std::filesystem::path& folder) {
+  using pictures::Suit;
+  std::error_code ignored;
+  std::filesystem::create_directories(folder, ignored);
+  for (Suit suit : {Suit::kClubs, Suit::kDiamonds}) {
+    for (int rank = 1; rank <= pictures::kRankCount; ++rank) {
+      const std::string name =
+          std::to_string(rank) + pictures::kSuitLetters[static_cast<std::size_t>(suit)] + ".svg";
+      if (!Write(folder / name, pictures::DrawFace(suit, rank, pictures::Colours::kFour))) return false;
+    }
+  }
+  return true;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -62,6 +77,7 @@ int main(int argc, char** argv) {
   for (std::size_t i = 0; i < entries.size(); ++i) {
     if (!Write(pictures_dir / entries[i].file, texts[i])) return 1;
   }
+  if (!WriteFourColours(pictures_dir / "four-colour")) return 1;
   if (argc == 2) return 0;
   const std::filesystem::path icons_dir = argv[2];
   std::filesystem::create_directories(icons_dir, ignored);

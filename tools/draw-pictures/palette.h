@@ -8,6 +8,10 @@ inline constexpr char kPanel[] = "#F8EFD8";
 inline constexpr char kInk[] = "#221D24";
 inline constexpr char kBlack[] = "#17161B";
 inline constexpr char kRed[] = "#C8102E";
+// Of the clubs and diamonds where each suit has a colour of its own. With the black and the red they stay
+// apart for eyes that don't tell red from green, and read well on the paper.
+inline constexpr char kClubGreen[] = "#00805A";
+inline constexpr char kDiamondBlue[] = "#1550E0";
 inline constexpr char kWine[] = "#86122A";
 inline constexpr char kRose[] = "#EC9A94";
 inline constexpr char kGold[] = "#EFBE45";

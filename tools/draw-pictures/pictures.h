@@ -14,10 +14,10 @@ enum class Pile { kSingle, kHalf, kFull };
 std::string DrawBack(int design, Pile pile);
 
 /// An ace or a number card, or a court card from 11 to 13.
-std::string DrawFace(Suit suit, int rank);
+std::string DrawFace(Suit suit, int rank, Colours colours = Colours::kTwo);
 
 /// Appends the figure of a court card: the panel in the middle of the face with both halves.
-void DrawCourt(std::string& out, Suit suit, int rank);
+void DrawCourt(std::string& out, Suit suit, int rank, Colours colours);
 
 /// The place of a card where no card lies.
 std::string DrawEmptyPlace();

@@ -63,7 +63,10 @@ void Canvas::SetNotes(std::vector<Note> notes) {
 void Canvas::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const double scale = devicePixelRatioF();
-  if (board_) {
+  const bool strong = front_.GetView().highContrast;
+  if (board_ && strong) {
+    painter.fillRect(event->rect(), style::kStrongGround);
+  } else if (board_) {
     if (baize_.deviceIndependentSize().toSize() != size() || baize_.devicePixelRatio() != scale)
       baize_ = Baize(size(), scale);
     painter.drawPixmap(QPoint(0, 0), baize_);
@@ -72,16 +75,22 @@ void Canvas::paintEvent(QPaintEvent* event) {
   }
   painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(zoom_, zoom_);
-  const Scene scene = Arrange(form_, front_.pictures);
-  const Easel easel{painter, front_.pictures, scene, board_, scale * zoom_};
-  for (const Note& note : notes_) PaintNote(painter, note, NoteLayer::Beneath);
+  if (!front_.LessMotion()) {
+    calm_.reset();
+  } else {
+    if (!calm_) calm_ = std::make_unique<Calm>([this](const Visual& control) { Refresh(control); });
+    if (const Guide* guide = front_.GuideOf(form_)) calm_->Keep(form_, *guide);
+  }
+  const Scene scene = Arrange(form_, front_.pictures, calm_ ? calm_->Kept() : Stills());
+  const Easel easel{painter, front_.pictures, scene, board_, scale * zoom_, strong, calm_.get()};
+  for (const Note& note : notes_) PaintNote(painter, note, NoteLayer::Beneath, strong);
   for (size_t i = 0; i < scene.size(); ++i) {
     const QRect reach = Reach(*scene[i].control, front_.pictures);
     reach_[scene[i].control] = reach;
     if (event->region().intersects(ToWindow(reach)) && !motion_.PaintInstead(easel, scene[i]))
       PaintControl(easel, i);
   }
-  for (const Note& note : notes_) PaintNote(painter, note, NoteLayer::Above);
+  for (const Note& note : notes_) PaintNote(painter, note, NoteLayer::Above, strong);
   motion_.PaintAbove(easel);
   if (paintOver) paintOver(painter);
   front_.Painted();

@@ -5,6 +5,7 @@
 #include <QPixmap>
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <unordered_map>
 
@@ -71,5 +72,6 @@ class Canvas : public QWidget {
   int pointer_ = 0;  // the one that shows; above 99 that picture
   QPixmap baize_;
   Motion motion_;
+  std::unique_ptr<Calm> calm_;                      // where less is to move
   std::unordered_map<const Visual*, QRect> reach_;  // where each control was drawn last
 };

@@ -27,6 +27,13 @@ double Contrast(const QColor& a, const QColor& b) {
   return (light + 0.05) / (dark + 0.05);
 }
 
+QColor Strong(const QColor& told) {
+  constexpr double kStrong = 7;
+  if (Contrast(told, style::kStrongGround) >= kStrong) return told;
+  const bool warns = told.red() > 120 && told.green() < 100 && told.blue() < 100;
+  return warns ? style::kStrongMark : QColor(Qt::white);
+}
+
 QColor GroundFor(const QColor& letters) {
   if (Contrast(letters, style::kIvory) >= kReadable) return style::kIvory;
   return Contrast(letters, style::kDeepInk) >= Contrast(letters, style::kIvory) ? style::kDeepInk

@@ -16,6 +16,7 @@
 #include "window/desktop/canvas.h"
 #include "window/desktop/form_window.h"
 #include "window/desktop/lettering.h"
+#include "window/desktop/style.h"
 #include "window/leaving.h"
 
 namespace fs = std::filesystem;
@@ -31,6 +32,7 @@ DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles fil
       folders_(folders),
       media_(folders.own, folders.installed),
       view_(ReadView(folders.view)) {
+  ApplyLook();
   clock_.start();
   media_.SetVolumes(view_.waveVolume, view_.musicVolume);
   timer_.setTimerType(Qt::PreciseTimer);
@@ -87,6 +89,7 @@ void DesktopFrontEnd::SetView(const View& view) {
   if (view == view_) return;
   view_ = view;
   if (!folders_.view.empty() && !viewTimer_.isActive()) viewTimer_.start();
+  ApplyLook();
   for (const bool dialogs : {false, true})  // a dialog follows the window behind it
     for (const auto& [form, window] : windows_)
       if (form->Modal() == dialogs) window->ApplyView();
@@ -94,6 +97,12 @@ void DesktopFrontEnd::SetView(const View& view) {
 }
 
 bool DesktopFrontEnd::LessMotion() const { return view_.lessMotion; }
+
+void DesktopFrontEnd::ApplyLook() {
+  pictures.SetFourColours(view_.fourColours);
+  pictures.SetStrongEdges(view_.highContrast);
+  style::SetHighContrast(view_.highContrast);
+}
 
 void DesktopFrontEnd::Run(Form* form, const std::function<void()>& handler) {
   if (platform.HasEnded() || (form && !Knows(*form))) return;

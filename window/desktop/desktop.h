@@ -142,6 +142,7 @@ class DesktopFrontEnd : public FrontEnd {
 
  private:
   friend class Hurry;
+  void ApplyLook();
   void ServeTick();
   void DeliverWaiting();
   // Whether a handler may begin. Not once what the innermost wait waits for has come: its handler goes first.

@@ -288,6 +288,9 @@ void FormWindow::ApplyView() {
   ApplyLimits();
   if (isVisible()) TellSizeSoon();
   if (viewMenu_) viewMenu_->Apply();
+  for (const auto& [control, widget] : widgets_)
+    if (control->kind != Control::Kind::StatusBar)
+      RestyleNative(*widget, static_cast<const Visual&>(*control));
   canvas_->update();
 }
 

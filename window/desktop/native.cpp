@@ -154,8 +154,9 @@ void ApplyList(QListWidget& widget, const ListControl& list, Prop prop) {
 
 // The letters of a text box on a ground on which they read well.
 void ApplyInk(QWidget& widget, const TextBox& box) {
-  const QColor ink = ToColour(box.ForeColor);
-  QPalette palette = QApplication::palette(&widget);
+  QPalette palette = QApplication::palette();
+  const bool strong = palette.color(QPalette::Window) == style::kStrongGround;
+  const QColor told = ToColour(box.ForeColor), ink = strong ? Strong(told) : told;
   for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
     palette.setColor(group, QPalette::Text, ink);
   if (Contrast(ink, palette.color(QPalette::Base)) < kLegible)
@@ -166,7 +167,8 @@ void ApplyInk(QWidget& widget, const TextBox& box) {
 // The caption of a tick box stands on what lies beneath it.
 void ApplyGround(QWidget& widget, const Visual& control) {
   if (!IsOnBaize(control)) return;
-  QPalette palette = QApplication::palette(&widget);
+  QPalette palette = QApplication::palette();
+  if (palette.color(QPalette::Window) == style::kStrongGround) return widget.setPalette(palette);
   for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
     palette.setColor(group, QPalette::WindowText, style::kIvory);
   palette.setColor(QPalette::Disabled, QPalette::WindowText, style::kIvory.darker(125));
@@ -301,6 +303,12 @@ void ApplyNative(QWidget& widget, const Visual& control, Prop prop) {
     default:
       return ApplyContent(widget, control, prop);
   }
+}
+
+void RestyleNative(QWidget& widget, const Visual& control) {
+  if (control.kind == Control::Kind::CheckBox || control.kind == Control::Kind::OptionButton)
+    ApplyGround(widget, control);
+  if (control.kind == Control::Kind::TextBox) ApplyNative(widget, control, Prop::ForeColor);
 }
 
 void ZoomNative(QWidget& widget, const Visual& control) {

@@ -13,5 +13,7 @@ bool IsNative(Control::Kind kind);
 QWidget* MakeNative(Visual& control, DesktopFrontEnd& front, QWidget* parent);
 // Shows a changed property in the widget.
 void ApplyNative(QWidget& widget, const Visual& control, Prop prop);
+// The program has other colours.
+void RestyleNative(QWidget& widget, const Visual& control);
 // The board has another zoom: place and letters follow it.
 void ZoomNative(QWidget& widget, const Visual& control);

@@ -7,17 +7,17 @@ namespace {
 
 constexpr int kSmall = 8, kReading = 9;  // points
 
-void PaintSheet(QPainter& painter, const QRectF& rect) {
-  painter.setPen(QPen(style::kGold, 1));
-  painter.setBrush(style::kIvory);
+void PaintSheet(QPainter& painter, const QRectF& rect, bool strong) {
+  painter.setPen(strong ? QPen(Qt::white, 1.5) : QPen(style::kGold, 1));
+  painter.setBrush(strong ? style::kStrongGround : style::kIvory);
   painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
 }
 
-void PaintMark(QPainter& painter, const QRectF& rect) {
+void PaintMark(QPainter& painter, const QRectF& rect, bool strong) {
   QColor band = style::kGold;
   band.setAlpha(110);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(band);
+  painter.setPen(strong ? QPen(style::kStrongMark, 2) : QPen(Qt::NoPen));
+  painter.setBrush(strong ? style::kStrongGround : band);
   painter.drawRoundedRect(rect, 4, 4);
 }
 
@@ -40,17 +40,17 @@ QRect NoteRect(const Note& note) {
   return sheet;
 }
 
-void PaintNote(QPainter& painter, const Note& note, NoteLayer layer) {
+void PaintNote(QPainter& painter, const Note& note, NoteLayer layer, bool strong) {
   const bool beneath = note.look == Note::Look::Mark;
   if (beneath != (layer == NoteLayer::Beneath)) return;
   const QRectF rect(NoteRect(note));
   painter.save();
-  if (note.look == Note::Look::Sheet) PaintSheet(painter, rect);
-  if (beneath) PaintMark(painter, rect);
+  if (note.look == Note::Look::Sheet) PaintSheet(painter, rect, strong);
+  if (beneath) PaintMark(painter, rect, strong);
   const Qt::Alignment sides[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
   const QFont font = FontOf(note);
   painter.setFont(font);
-  painter.setPen(style::kInk);
+  painter.setPen(strong ? QColor(Qt::white) : style::kInk);
   const QFontMetrics metrics(font);
   QStringList lines;
   for (const QString& line : QString::fromStdString(note.text).split('\n'))

@@ -12,4 +12,4 @@ enum class NoteLayer { Beneath, Above };
 // All that the note covers; pixels at 100 %.
 QRect NoteRect(const Note& note);
 // Draws the note if it belongs to that layer.
-void PaintNote(QPainter& painter, const Note& note, NoteLayer layer);
+void PaintNote(QPainter& painter, const Note& note, NoteLayer layer, bool strong = false);

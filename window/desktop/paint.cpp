@@ -14,12 +14,20 @@ constexpr int kBigLetters = 14;  // points from which letters get an outline ins
 constexpr QColor kBox(0xfb, 0xf6, 0xe8);
 
 void PaintImage(const Easel& easel, const Placed& placed) {
-  const auto& image = static_cast<const Image&>(*placed.control);
-  if (image.Picture != 0) PaintPicture(easel, image.Picture, image.BorderStyle == 1, placed.rect);
+  if (placed.picture != 0) PaintPicture(easel, placed.picture, placed.framed, placed.rect);
+}
+
+// Black with a white edge.
+void PaintStrongBox(QPainter& painter, const QRectF& rect) {
+  painter.setPen(QPen(Qt::white, 1.5));
+  painter.setBrush(style::kStrongGround);
+  painter.drawRoundedRect(rect, 2, 2);
 }
 
 // A box let into the window: dark along the top and left, lit along the bottom and right.
-void PaintSunken(QPainter& painter, const QRectF& rect, const QColor& fill) {
+void PaintSunken(const Easel& easel, const QRectF& rect, const QColor& fill) {
+  QPainter& painter = easel.painter;
+  if (easel.strong) return PaintStrongBox(painter, rect);
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(255, 255, 255, 90));
   painter.drawRoundedRect(rect.adjusted(0, 0, 1, 1), 1, 1);
@@ -37,22 +45,24 @@ void PaintSunken(QPainter& painter, const QRectF& rect, const QColor& fill) {
 void PaintShape(const Easel& easel, const Placed& placed) {
   const auto& shape = static_cast<const Shape&>(*placed.control);
   QPainter& painter = easel.painter;
-  const QColor border = ToColour(shape.BorderColor);
+  const QColor told = ToColour(shape.BorderColor), border = easel.strong ? Strong(told) : told;
   if (shape.Width == 0 || shape.Height == 0) {
     painter.setPen(QPen(border, shape.BorderWidth));
     const QPointF half(0.5, 0.5), start = placed.rect.topLeft() + half;
     painter.drawLine(start, start + QPointF(placed.rect.width(), placed.rect.height()));
     return;
   }
-  if (shape.Sunken) return PaintSunken(painter, placed.rect, shape.Filled ? ToColour(shape.FillColor) : kBox);
+  if (shape.Sunken) return PaintSunken(easel, placed.rect, shape.Filled ? ToColour(shape.FillColor) : kBox);
   const double inset = shape.BorderWidth / 2.0;
   const QRectF rect = QRectF(placed.rect).adjusted(inset, inset, -inset, -inset);
   if (!shape.Filled && shape.BorderWidth > 1) {
     // The mark of a selection: a thin light line on either side lets every colour show on every card.
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(255, 255, 255, 150), shape.BorderWidth + 2));
+    const QColor edge = easel.strong ? QColor(Qt::black) : QColor(255, 255, 255, 150);
+    painter.setPen(QPen(edge, shape.BorderWidth + (easel.strong ? 4 : 2)));
     painter.drawRoundedRect(rect, 4, 4);
   }
+  if (easel.strong && shape.Filled) return PaintStrongBox(painter, rect);
   painter.setPen(shape.BorderWidth > 0 ? QPen(border, shape.BorderWidth) : QPen(Qt::NoPen));
   painter.setBrush(shape.Filled ? QBrush(ToColour(shape.FillColor)) : QBrush(Qt::NoBrush));
   painter.drawRoundedRect(rect, 4, 4);
@@ -65,7 +75,7 @@ void PaintProgress(const Easel& easel, const Placed& placed) {
   const double part = std::clamp((bar.Value - bar.Min) / range, 0.0, 1.0);
   QPainter& painter = easel.painter;
   const QRectF groove = QRectF(placed.rect).adjusted(1, 1, -1, -1);
-  PaintSunken(painter, groove, kBox);
+  PaintSunken(easel, groove, kBox);
   QRectF filling = groove.adjusted(2, 2, -2, -2);
   filling.setWidth(filling.width() * part);
   if (filling.width() < 1) return;
@@ -73,12 +83,13 @@ void PaintProgress(const Easel& easel, const Placed& placed) {
   shine.setColorAt(0, style::kBaize.lighter(135));
   shine.setColorAt(1, style::kBaize.darker(115));
   painter.setPen(Qt::NoPen);
-  painter.setBrush(shine);
+  painter.setBrush(easel.strong ? QBrush(style::kStrongMark) : QBrush(shine));
   painter.drawRoundedRect(filling, 1.5, 1.5);
 }
 
 void PaintPanel(const Easel& easel, const QRectF& rect) {
   QPainter& painter = easel.painter;
+  if (easel.strong) return PaintStrongBox(painter, rect.adjusted(1, 1, -1, -1));
   painter.setPen(Qt::NoPen);
   for (int step = 4; step > 0; --step) {
     painter.setBrush(QColor(0, 0, 0, 18));
@@ -109,17 +120,18 @@ void PaintGroup(const Easel& easel, const QRectF& rect, const std::string& capti
   const QRectF title(outline.left() + 12, rect.top(),
                      text.isEmpty() ? 0 : metrics.horizontalAdvance(text) + 10, metrics.height());
   painter.setPen(Qt::NoPen);
-  painter.setBrush(easel.board ? QColor(0, 0, 0, 56) : QColor(255, 255, 255, 70));
+  painter.setBrush(easel.board ? QColor(0, 0, 0, 56) : QColor(255, 255, 255, easel.strong ? 0 : 70));
   painter.drawRoundedRect(outline, 8, 8);
   painter.save();
   if (!text.isEmpty())
     painter.setClipRegion(QRegion(rect.toAlignedRect()) - title.toAlignedRect(), Qt::IntersectClip);
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(easel.board ? style::kGold : QColor(0xb5, 0xa8, 0x8a), 1));
+  const QColor line = easel.board ? style::kGold : QColor(0xb5, 0xa8, 0x8a);
+  painter.setPen(easel.strong ? QPen(Qt::white, 1.5) : QPen(line, 1));
   painter.drawRoundedRect(outline, 8, 8);
   painter.restore();
   painter.setFont(font);
-  painter.setPen(easel.board ? style::kIvory : style::kInk);
+  painter.setPen(easel.strong ? QColor(Qt::white) : easel.board ? style::kIvory : style::kInk);
   painter.drawText(title, Qt::AlignCenter, text);
 }
 
@@ -135,6 +147,9 @@ void PaintSurface(const Easel& easel, const Placed& placed) {
     centre = corner + QPointF(stroke.x, stroke.y) / 15;
     radius = stroke.radius / 15;
   }
+  const Stroke* last = nullptr;
+  for (const Stroke& stroke : surface.strokes)
+    if (stroke.kind == Stroke::Kind::Pie) last = &stroke;
   painter.setClipRect(placed.rect, Qt::IntersectClip);
   QRadialGradient disc(centre - QPointF(radius, radius) * 0.3, radius * 1.5);
   disc.setColorAt(0, QColor(0xff, 0xff, 0xfb));
@@ -143,7 +158,11 @@ void PaintSurface(const Easel& easel, const Placed& placed) {
   painter.setBrush(disc);
   painter.drawEllipse(centre, radius, radius);
   for (const Stroke& stroke : surface.strokes) {
-    const QColor colour = ToColour(stroke.colour);
+    int told = stroke.colour;
+    // Of a pie in slices it is the last one that blinks.
+    if (stroke.kind == Stroke::Kind::Pie && &stroke == last && easel.calm)
+      told = easel.calm->Colour(surface, std::to_string(stroke.start), told);
+    const QColor colour = ToColour(told);
     const QPointF middle = corner + QPointF(stroke.x, stroke.y) / 15;
     const double reach = stroke.radius / 15;
     switch (stroke.kind) {
@@ -210,18 +229,38 @@ void PaintOutlined(QPainter& painter, const TextBlock& block, const QColor& colo
   painter.fillPath(letters, colour);
 }
 
+// On black, with an edge where it stands over a card.
+void PaintStrongLabel(const Easel& easel, size_t place, const TextBlock& block, const QColor& colour) {
+  if (block.lines.empty()) return;
+  QPainter& painter = easel.painter;
+  const bool opaque = IsOpaque(*easel.scene[place].control);
+  const QRectF plate = opaque ? QRectF(easel.scene[place].rect) : block.bounds.adjusted(-5, -1, 5, 1);
+  const bool overCards =
+      std::any_of(easel.scene.begin(), easel.scene.begin() + place,
+                  [&](const Placed& below) { return below.picture != 0 && plate.intersects(below.rect); });
+  painter.setPen(overCards || opaque ? QPen(Qt::white, 1.5) : QPen(Qt::NoPen));
+  painter.setBrush(style::kStrongGround);
+  painter.drawRoundedRect(plate, 3, 3);
+  painter.setFont(block.font);
+  painter.setPen(colour);
+  for (const TextLine& line : block.lines) painter.drawText(line.baseline, line.text);
+}
+
 void PaintLabel(const Easel& easel, size_t place) {
   const Placed& placed = easel.scene[place];
   const auto& label = static_cast<const Label&>(*placed.control);
   const TextBlock block = LayOut(label, placed.rect);
   QPainter& painter = easel.painter;
+  const int told =
+      easel.calm ? easel.calm->Colour(label, label.Caption, label.ForeColor) : label.ForeColor.get();
+  if (easel.strong) return PaintStrongLabel(easel, place, block, Strong(ToColour(told)));
   if (IsOpaque(label)) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(ToColour(label.BackColor));
     painter.drawRoundedRect(QRectF(placed.rect), 2, 2);
   }
   if (block.lines.empty()) return;
-  const QColor colour = ToColour(label.ForeColor);
+  const QColor colour = ToColour(told);
   QColor known;
   const QColor* ground = GroundBeneath(easel, place, block.bounds.center(), known);
   const bool readable = ground && Contrast(colour, *ground) >= (IsOpaque(label) ? kLegible : kReadable);
@@ -243,13 +282,13 @@ void PaintLabel(const Easel& easel, size_t place) {
 
 void PaintPicture(const Easel& easel, int index, bool framed, const QRectF& rect) {
   QPainter& painter = easel.painter;
-  if (framed) {
+  if (framed && !easel.strong) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(0, 0, 0, 38));
     painter.drawRoundedRect(rect.adjusted(0, 1, 2, 3), 5, 5);
     painter.drawRoundedRect(rect.adjusted(0.5, 1, 1, 1.5), 4, 4);
   }
-  const QPixmap& picture = easel.pictures.Get(index, framed, easel.scale);
+  const QPixmap picture = easel.pictures.Get(index, framed, easel.scale);
   // On whole device pixels, so that each pixel of the picture is one of the screen.
   const QTransform& transform = painter.deviceTransform();
   const QPointF corner = transform.map(rect.topLeft());

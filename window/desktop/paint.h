@@ -10,8 +10,10 @@ struct Easel {
   QPainter& painter;
   Pictures& pictures;
   const Scene& scene;
-  bool board;    // on baize; else on the paper of a dialog
-  double scale;  // device pixels to a pixel
+  bool board;            // on baize; else on the paper of a dialog
+  double scale;          // device pixels to a pixel
+  bool strong = false;   // high contrast
+  Calm* calm = nullptr;  // where less is to blink
 };
 
 // Draws the control at this place of the scene.

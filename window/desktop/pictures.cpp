@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QSvgRenderer>
+#include <algorithm>
 #include <cmath>
 
 #include "window/desktop/screening.h"
@@ -13,6 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr char kFourColours[] = "four-colour";
 constexpr double kCorner = 4;  // radius of a framed card's corners
 
 // What is refused is told in one line; nothing is said of a file that isn't there.
@@ -74,11 +76,27 @@ bool Pictures::IsBack(int index) const {
   return file && file->file.starts_with("back") && !IsPile(index);
 }
 
-const QPixmap& Pictures::Get(int index, bool framed, double scale) {
-  const auto key = std::tuple(index, framed, scale);
-  auto found = drawn_.find(key);
-  if (found == drawn_.end()) found = drawn_.emplace(key, Draw(index, framed, scale)).first;
+QPixmap Pictures::Get(int index, bool framed, double scale) {
+  constexpr size_t kScales = 3;  // of the selector, a game, and a pointer
+  auto known = std::ranges::find(drawn_, scale, [](const auto& each) { return each.first; });
+  if (known == drawn_.end()) {
+    if (drawn_.size() >= kScales) drawn_.erase(drawn_.begin());
+    drawn_.push_back({scale, {}});
+  } else if (known + 1 != drawn_.end()) {
+    std::rotate(known, known + 1, drawn_.end());
+  }
+  auto& drawn = drawn_.back().second;
+  auto found = drawn.find({index, framed});
+  if (found == drawn.end()) found = drawn.emplace(std::pair(index, framed), Draw(index, framed, scale)).first;
   return found->second;
+}
+
+void Pictures::SetFourColours(bool four) {
+  if (std::exchange(fourColours_, four) != four) drawn_.clear();
+}
+
+void Pictures::SetStrongEdges(bool strong) {
+  if (std::exchange(strongEdges_, strong) != strong) drawn_.clear();
 }
 
 QPixmap Pictures::Draw(int index, bool framed, double scale) const {
@@ -94,8 +112,12 @@ QPixmap Pictures::Draw(int index, bool framed, double scale) const {
     const QRectF inner =
         framed ? QRectF(QPointF(1, 1), QSizeF(natural)) : QRectF(QPointF(0, 0), QSizeF(natural));
     const PictureFile* file = Find(index);
-    const bool drawn = file && (Render(own_ / file->file, painter, inner) ||
-                                Render(installed_ / file->file, painter, inner));
+    bool drawn = false;
+    for (const fs::path& folder : {own_, installed_}) {
+      if (!file || drawn) break;
+      if (fourColours_) drawn = Render(folder / kFourColours / file->file, painter, inner);
+      if (!drawn) drawn = Render(folder / file->file, painter, inner);
+    }
     if (!drawn)
       DrawSubstitute(
           painter, inner,
@@ -110,8 +132,8 @@ QPixmap Pictures::Draw(int index, bool framed, double scale) const {
     painter.setPen(Qt::NoPen);
     painter.setBrush(QBrush(image));
     painter.drawRoundedRect(QRectF(rounded.rect()), kCorner * scale, kCorner * scale);
-    const double pen = std::max(1.0, std::floor(scale));
-    painter.setPen(QPen(QColor(0x3a, 0x36, 0x30), pen));
+    const double pen = std::max(1.0, std::floor(strongEdges_ ? 2 * scale : scale));
+    painter.setPen(QPen(strongEdges_ ? QColor(Qt::black) : QColor(0x3a, 0x36, 0x30), pen));
     painter.setBrush(Qt::NoBrush);
     const double half = pen / 2, radius = kCorner * scale - half;
     painter.drawRoundedRect(QRectF(rounded.rect()).adjusted(half, half, -half, -half), radius, radius);

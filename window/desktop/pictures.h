@@ -6,7 +6,8 @@
 #include <QSize>
 #include <filesystem>
 #include <map>
-#include <tuple>
+#include <utility>
+#include <vector>
 
 #include "window/pictures.h"
 
@@ -15,7 +16,8 @@ QImage DrawFile(const std::filesystem::path& file, QSize size);
 
 class Pictures {
  public:
-  // Files are looked for in the first folder, then in the second.
+  // Files are looked for in the first folder, then in the second; with a colour for each suit in their
+  // subfolders "four-colour" before.
   Pictures(PictureFiles files, std::filesystem::path own, std::filesystem::path installed);
 
   // Pixels at 100 %.
@@ -25,7 +27,11 @@ class Pictures {
   bool IsPile(int index) const;
   // The picture for a screen of that scale; with a thin frame around it, which makes it 2 pixels larger
   // either way. A picture without a usable file is an outlined card that names it.
-  const QPixmap& Get(int index, bool framed, double scale);
+  QPixmap Get(int index, bool framed, double scale);
+  // Whether each suit has a colour of its own from now on.
+  void SetFourColours(bool four);
+  // Whether the edges of cards are thick.
+  void SetStrongEdges(bool strong);
 
  private:
   QPixmap Draw(int index, bool framed, double scale) const;
@@ -33,5 +39,7 @@ class Pictures {
 
   PictureFiles files_;
   std::filesystem::path own_, installed_;
-  std::map<std::tuple<int, bool, double>, QPixmap> drawn_;
+  bool fourColours_ = false, strongEdges_ = false;
+  // By scale; the one used last comes last. A window that is dragged larger passes through many.
+  std::vector<std::pair<double, std::map<std::pair<int, bool>, QPixmap>>> drawn_;
 };

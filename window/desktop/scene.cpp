@@ -15,17 +15,34 @@ bool IsOverlay(const Visual& control) {
          control.kind == Control::Kind::ProgressBar;
 }
 
-void ArrangeWithin(const Control& container, const QRect& clip, const Pictures& pictures, Scene& scene) {
+Still Seen(const Visual& control, const Stills& stills) {
+  if (const auto kept = stills.find(&control); kept != stills.end()) return kept->second;
+  if (control.kind != Control::Kind::Image) return {0, false, control.z};
+  const auto& image = static_cast<const Image&>(control);
+  return {image.Picture, image.BorderStyle == 1, image.z};
+}
+
+QRect RectOf(const Visual& control, const Still& still, const Pictures& pictures) {
+  const QRect rect = ModelRect(control);
+  if (still.picture == 0) return rect;
+  const int frame = still.framed ? 2 : 0;
+  return {rect.topLeft(), pictures.Size(still.picture) + QSize(frame, frame)};
+}
+
+void ArrangeWithin(const Control& container, const QRect& clip, const Pictures& pictures,
+                   const Stills& stills, Scene& scene) {
   std::vector<Visual*> children;
   for (Control* control : container.form.Controls())
     if (control->parent == &container && IsDrawn(control->kind) && static_cast<Visual*>(control)->Visible)
       children.push_back(static_cast<Visual*>(control));
-  std::ranges::stable_sort(children, {},
-                           [](const Visual* child) { return std::pair(IsOverlay(*child), child->z); });
+  std::ranges::stable_sort(children, {}, [&](const Visual* child) {
+    return std::pair(IsOverlay(*child), stills.empty() ? child->z : Seen(*child, stills).z);
+  });
   for (Visual* child : children) {
-    const QRect rect = DrawnRect(*child, pictures);
-    scene.push_back({child, rect, clip});
-    if (IsOverlay(*child)) ArrangeWithin(*child, clip & rect, pictures, scene);
+    const Still still = Seen(*child, stills);
+    const QRect rect = RectOf(*child, still, pictures);
+    scene.push_back({child, rect, clip, still.picture, still.framed});
+    if (IsOverlay(*child)) ArrangeWithin(*child, clip & rect, pictures, stills, scene);
   }
 }
 
@@ -58,12 +75,7 @@ QRect ModelRect(const Visual& control) {
 }
 
 QRect DrawnRect(const Visual& control, const Pictures& pictures) {
-  const QRect rect = ModelRect(control);
-  if (control.kind != Control::Kind::Image) return rect;
-  const auto& image = static_cast<const Image&>(control);
-  if (image.Picture == 0) return rect;
-  const int frame = image.BorderStyle == 1 ? 2 : 0;
-  return {rect.topLeft(), pictures.Size(image.Picture) + QSize(frame, frame)};
+  return RectOf(control, Seen(control, {}), pictures);
 }
 
 bool IsShown(const Visual& control) {
@@ -86,9 +98,9 @@ bool IsDrawn(Control::Kind kind) {
   }
 }
 
-Scene Arrange(const Form& form, const Pictures& pictures) {
+Scene Arrange(const Form& form, const Pictures& pictures, const Stills& stills) {
   Scene scene;
-  ArrangeWithin(form, kEverywhere, pictures, scene);
+  ArrangeWithin(form, kEverywhere, pictures, stills, scene);
   return scene;
 }
 

@@ -6,6 +6,7 @@
 #include <QRect>
 #include <vector>
 
+#include "window/desktop/calm.h"
 #include "window/form.h"
 
 class Pictures;
@@ -14,7 +15,9 @@ class Pictures;
 struct Placed {
   Visual* control;
   QRect rect;
-  QRect clip;  // of the frames that hold it
+  QRect clip;           // of the frames that hold it
+  int picture = 0;      // of an image
+  bool framed = false;  // that picture
 };
 using Scene = std::vector<Placed>;
 
@@ -31,8 +34,8 @@ bool IsShown(const Visual& control);
 // Whether the canvas draws controls of this kind; all others are widgets of their own.
 bool IsDrawn(Control::Kind kind);
 
-// All visible controls that the canvas draws, bottom first.
-Scene Arrange(const Form& form, const Pictures& pictures);
+// All visible controls that the canvas draws, bottom first; those that are kept still as they were.
+Scene Arrange(const Form& form, const Pictures& pictures, const Stills& stills = {});
 // The control that the mouse means at this point; null if it means none.
 Visual* HitTest(const Scene& scene, QPoint point);
 // Whether the control stands on the baize of a board, not on paper.

@@ -1,9 +1,11 @@
 #include "window/desktop/style.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 #include <QVariant>
 #include <QWidget>
 #include <cmath>
@@ -44,6 +46,58 @@ class Zoomed : public QProxyStyle {
         return natural;
     }
   }
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    if (!IsStrong(*option)) return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    switch (element) {
+      case PE_PanelButtonCommand: {
+        const bool lit = option->state & (State_MouseOver | State_Sunken) && option->state & State_Enabled;
+        painter->fillRect(option->rect, lit ? QColor(0x40, 0x40, 0x40) : style::kStrongGround);
+        return Outline(*option, painter, option->rect);
+      }
+      case PE_IndicatorCheckBox:
+        painter->fillRect(option->rect, style::kStrongGround);
+        Outline(*option, painter, option->rect);
+        if (option->state & State_On) {
+          painter->fillRect(option->rect.adjusted(4, 4, -4, -4), option->palette.color(QPalette::WindowText));
+        }
+        return;
+      default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+    if (element == PE_FrameLineEdit || element == PE_Frame || element == PE_FrameMenu ||
+        element == PE_IndicatorRadioButton)
+      Outline(*option, painter, option->rect, element == PE_IndicatorRadioButton);
+  }
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (!IsStrong(*option)) return;
+    if (control == CC_ComboBox) Outline(*option, painter, option->rect);
+    if (control == CC_ScrollBar)
+      Outline(*option, painter, subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget));
+  }
+
+ private:
+  // Fusion's own edges are a shade darker than what they are around, and nothing is darker than black.
+  static bool IsStrong(const QStyleOption& option) {
+    return option.palette.color(QPalette::Window) == style::kStrongGround;
+  }
+
+  static void Outline(const QStyleOption& option, QPainter* painter, const QRect& rect, bool round = false) {
+    const bool focused = option.state & State_HasFocus && option.state & State_Enabled;
+    const QColor colour = focused ? style::kStrongMark : option.palette.color(QPalette::WindowText);
+    const double breadth = focused ? 3 : 1.5, half = breadth / 2;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(colour, breadth));
+    const QRectF edge = QRectF(rect).adjusted(half, half, -half, -half);
+    round ? painter->drawEllipse(edge) : painter->drawRect(edge);
+    painter->restore();
+  }
 };
 
 }  // namespace
@@ -75,8 +129,9 @@ QFont Letters(int points, bool bold, const QString& family) {
   return font;
 }
 
-void Apply(QApplication& application) {
-  QApplication::setStyle(new Zoomed);
+namespace {
+
+QPalette Usual() {
   QPalette palette;
   palette.setColor(QPalette::Window, QColor(0xef, 0xe9, 0xda));
   palette.setColor(QPalette::WindowText, kInk);
@@ -91,10 +146,39 @@ void Apply(QApplication& application) {
   palette.setColor(QPalette::ToolTipBase, kIvory);
   palette.setColor(QPalette::ToolTipText, kInk);
   palette.setColor(QPalette::PlaceholderText, QColor(0x80, 0x78, 0x6c));
-  const QColor faint(0x8c, 0x85, 0x78);
+  const QColor faint(0x68, 0x62, 0x57);
   for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
     palette.setColor(QPalette::Disabled, role, faint);
-  QApplication::setPalette(palette);
+  return palette;
+}
+
+QPalette HighContrast() {
+  const QColor dim(0xb8, 0xb8, 0xb8);
+  QPalette palette(QColor(0x26, 0x26, 0x26), kStrongGround);
+  for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                                   QPalette::BrightText, QPalette::ToolTipText, QPalette::Light}) {
+    palette.setColor(role, Qt::white);
+    palette.setColor(QPalette::Disabled, role, dim);
+  }
+  for (QPalette::ColorRole role :
+       {QPalette::Base, QPalette::AlternateBase, QPalette::Window, QPalette::ToolTipBase})
+    palette.setColor(role, kStrongGround);
+  palette.setColor(QPalette::Highlight, kStrongMark);
+  palette.setColor(QPalette::HighlightedText, Qt::black);
+  palette.setColor(QPalette::PlaceholderText, dim);
+  return palette;
+}
+
+}  // namespace
+
+void SetHighContrast(bool high) {
+  const QPalette palette = high ? HighContrast() : Usual();
+  if (QApplication::palette() != palette) QApplication::setPalette(palette);
+}
+
+void Apply(QApplication& application) {
+  QApplication::setStyle(new Zoomed);
+  SetHighContrast(false);
   QFont font = application.font();
   font.setPixelSize(kLetters);
   QApplication::setFont(font);

@@ -16,6 +16,9 @@ inline constexpr QColor kPaper(0xf6, 0xf0, 0xe0);
 inline constexpr QColor kGold(0xd9, 0xb4, 0x5b);
 inline constexpr QColor kBaize(0x1d, 0x6b, 0x4a);
 
+inline constexpr QColor kStrongGround(0, 0, 0);  // of everything, where high contrast is asked for
+inline constexpr QColor kStrongMark(0xff, 0xe0, 0x00);
+
 // The font for labels and widgets, its size given in points at 96 dots to the inch, whatever the screen has:
 // places and sizes are told in the same measure.
 QFont Letters(int points, bool bold = false, const QString& family = {});
@@ -30,5 +33,7 @@ double ZoomOf(const QWidget* widget);
 
 // Sets palette, style and font of the whole program.
 void Apply(QApplication& application);
+// White on black from now on, or the usual colours.
+void SetHighContrast(bool high);
 
 }  // namespace style
