@@ -12,7 +12,9 @@
 #include <algorithm>
 #include <cmath>
 #include <iostream>
+#include <utility>
 
+#include "window/desktop/animations.h"
 #include "window/desktop/canvas.h"
 #include "window/desktop/form_window.h"
 #include "window/desktop/lettering.h"
@@ -87,16 +89,45 @@ Guide* DesktopFrontEnd::GuideOf(const Form& form) const {
 
 void DesktopFrontEnd::SetView(const View& view) {
   if (view == view_) return;
-  view_ = view;
+  View before = std::exchange(view_, view);
   if (!folders_.view.empty() && !viewTimer_.isActive()) viewTimer_.start();
+  // Where it was and what was done last changes nothing that is seen.
+  before.selector = view.selector;
+  before.lastGame = view.lastGame;
+  before.seen = view.seen;
+  before.lastName = view.lastName;
+  if (before == view) return;
   ApplyLook();
+  ApplyView();
+}
+
+void DesktopFrontEnd::ApplyView() {
   for (const bool dialogs : {false, true})  // a dialog follows the window behind it
     for (const auto& [form, window] : windows_)
       if (form->Modal() == dialogs) window->ApplyView();
   media_.SetVolumes(view_.waveVolume, view_.musicVolume);
 }
 
-bool DesktopFrontEnd::LessMotion() const { return view_.lessMotion; }
+bool DesktopFrontEnd::LessMotion() const { return view_.lessMotion || DesktopStopsMotion(); }
+
+// Once at the start, and whenever the player comes back, perhaps from the desktop's settings.
+void DesktopFrontEnd::HeedAnimations() {
+  const auto ask = [this] {
+    const bool before = LessMotion();
+    filesStopMotion_ = animations::AreOffInFiles();
+    if (LessMotion() != before) ApplyView();
+    animations::AskPortal(timer_, [this](bool off) {
+      const bool before = LessMotion();
+      portalStopsMotion_ = off;
+      if (LessMotion() != before) ApplyView();
+    });
+  };
+  ask();
+  QObject::connect(qApp, &QGuiApplication::applicationStateChanged, &timer_,
+                   [ask](Qt::ApplicationState state) {
+                     if (state == Qt::ApplicationActive) ask();
+                   });
+}
 
 void DesktopFrontEnd::ApplyLook() {
   pictures.SetFourColours(view_.fourColours);
@@ -290,6 +321,7 @@ void DesktopFrontEnd::Painted() {
     media_.Start();
     ShowIcon();
     if (guides) ShowClock();
+    if (guides) HeedAnimations();
   });
 }
 

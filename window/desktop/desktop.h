@@ -53,6 +53,8 @@ class DesktopFrontEnd : public FrontEnd {
   void SetView(const View& view);
   // Whether nothing is to move or blink for show: asked for here or in the desktop's own settings.
   bool LessMotion() const;
+  // Whether the desktop asks for it, whatever the View menu says.
+  bool DesktopStopsMotion() const { return filesStopMotion_ || portalStopsMotion_; }
   // A board has been painted.
   void Painted();
   // A window or box that is about to be hidden hands the keyboard to the next one, as well as the boxes that
@@ -143,6 +145,8 @@ class DesktopFrontEnd : public FrontEnd {
  private:
   friend class Hurry;
   void ApplyLook();
+  void ApplyView();
+  void HeedAnimations();
   void ServeTick();
   void DeliverWaiting();
   // Whether a handler may begin. Not once what the innermost wait waits for has come: its handler goes first.
@@ -184,7 +188,7 @@ class DesktopFrontEnd : public FrontEnd {
   Access access_{*this};
   QEventLoop* loop_ = nullptr;  // of the innermost wait
   const std::function<bool()>* waiting_ = nullptr;
-  bool busy_ = false, painted_ = false;
+  bool busy_ = false, painted_ = false, filesStopMotion_ = false, portalStopsMotion_ = false;
   Ticks ticks_ = Ticks::Served;
   int status_ = 0;
 };

@@ -66,7 +66,7 @@ class Zoomed : public QProxyStyle {
       default:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
-    if (element == PE_FrameLineEdit || element == PE_Frame || element == PE_FrameMenu ||
+    if (element == PE_FrameLineEdit || element == PE_Frame || element == PE_PanelMenu ||
         element == PE_IndicatorRadioButton)
       Outline(*option, painter, option->rect, element == PE_IndicatorRadioButton);
   }

@@ -37,7 +37,9 @@ ViewMenu::ViewMenu(FormWindow& window, DesktopFrontEnd& front, QMenuBar* bar)
   menu->addSeparator();
   AddSwitch(menu, "viewFourColours", "Four-&Colour Suits", &View::fourColours);
   AddSwitch(menu, "viewHighContrast", "&High Contrast", &View::highContrast);
-  AddSwitch(menu, "viewLessMotion", "Less M&otion", &View::lessMotion);
+  lessMotion_ = Add(
+      menu, "viewLessMotion", "Less M&otion", [](View& view) { view.lessMotion = !view.lessMotion; },
+      [this](const View&) { return front_.LessMotion(); });
   menu->addSeparator();
   AddVolume(*menu, "viewWaves", "Sound &Volume", &View::waveVolume);
   AddVolume(*menu, "viewMusic", "&Music Volume", &View::musicVolume);
@@ -96,6 +98,7 @@ void ViewMenu::AddVolume(QMenu& menu, const char* name, const QString& text, int
 }
 
 void ViewMenu::Apply() {
+  if (lessMotion_) lessMotion_->setEnabled(!front_.DesktopStopsMotion());
   for (const Entry& entry : entries_) entry.action->setChecked(entry.isTicked(front_.GetView()));
 }
 

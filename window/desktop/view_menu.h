@@ -41,4 +41,5 @@ class ViewMenu : public QObject {
   FormWindow& window_;
   DesktopFrontEnd& front_;
   std::vector<Entry> entries_;
+  QAction* lessMotion_ = nullptr;
 };
