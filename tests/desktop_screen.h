@@ -82,10 +82,13 @@ inline void SendMouse(QWindow& window, QEvent::Type type, QPointF point, Qt::Mou
     qt_handleMouseEvent(&window, point, global, held, Qt::LeftButton, type, {}, time);
 }
 
+// The time of presses, where it matters; else each comes `pause` after the last one.
+inline std::function<int()> clock;
+
 // Presses and releases the left button at that place of a window. `pause` is the time since the last event.
 inline void Press(QWidget& widget, QPoint point, int pause = 1000) {
   static int time = 0;
-  time += pause;
+  time = clock ? clock() : time + pause;
   QWindow& window = *widget.window()->windowHandle();
   const QPointF place = widget.mapTo(widget.window(), point);
   SendMouse(window, QEvent::MouseButtonPress, place, Qt::LeftButton, time);

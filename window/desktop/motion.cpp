@@ -75,13 +75,13 @@ long long Motion::Score() const {
 
 // The pile from which new cards come, if there is just one.
 const Image* Motion::Pile() const {
-  const Image* pile = nullptr;
+  std::vector<const Image*> piles, backs;  // the last card of a pile looks like any other back
   for (const auto& [image, face] : known_) {
-    if (!front_.pictures.IsPile(face.picture)) continue;
-    if (pile) return nullptr;
-    pile = image;
+    if (front_.pictures.IsPile(face.picture)) piles.push_back(image);
+    if (front_.pictures.IsBack(face.picture)) backs.push_back(image);
   }
-  return pile;
+  const std::vector<const Image*>& found = piles.empty() ? backs : piles;
+  return found.size() == 1 ? found.front() : nullptr;
 }
 
 void Motion::Changed(const Visual& control) {
@@ -293,7 +293,7 @@ void Motion::Step() {
 
 // The first frame has gone a step already, so that the board answers at once.
 double Motion::Progress(const Piece& piece) const {
-  static constexpr int kLengths[] = {kGlide, kTurn, kFade, kSum, kFlash};
+  static constexpr int kLengths[] = {kTurn, kFade, kGlide, kFlash, kSum};
   const double length = kLengths[static_cast<int>(piece.kind)];
   return std::clamp(static_cast<double>(now_ - piece.begun + kFrame) / length, 0.0, 1.0);
 }
@@ -341,33 +341,41 @@ bool Motion::PaintInstead(const Easel& easel, const Placed& placed) const {
 
 void Motion::PaintAbove(const Easel& easel) const {
   QPainter& painter = easel.painter;
-  for (const Piece::Kind kind : {Piece::Kind::Fade, Piece::Kind::Glide, Piece::Kind::Flash, Piece::Kind::Sum})
-    for (const Piece& piece : pieces_) {
-      if (piece.kind != kind) continue;
-      const QRectF area = AreaOf(piece);
-      const double progress = Progress(piece);
-      painter.save();
-      switch (kind) {
-        case Piece::Kind::Fade:
-          painter.setOpacity(1 - progress * progress);
-          [[fallthrough]];
-        case Piece::Kind::Glide:
-          PaintPicture(easel, piece.shown.picture, piece.shown.framed, area);
-          break;
-        case Piece::Kind::Flash:
-          if (!IsShown(*piece.control)) break;
-          painter.setOpacity(1 - progress * progress);
-          painter.setBrush(Qt::NoBrush);
-          painter.setPen(QPen(QColor(255, 255, 255, 170), 5));
-          painter.drawRoundedRect(area.adjusted(1, 1, -1, -1), 5, 5);
-          painter.setPen(QPen(kRefused, 3));
-          painter.drawRoundedRect(area.adjusted(1, 1, -1, -1), 5, 5);
-          break;
-        default:
-          painter.setOpacity(std::clamp(2.5 * (1 - progress), 0.0, 1.0));
-          painter.drawPixmap(area, piece.sum, QRectF(piece.sum.rect()));
-          break;
-      }
-      painter.restore();
+  // Cards on their way lie on each other as they will when they have come.
+  const auto height = [&](const Piece& piece) {
+    const auto found = std::ranges::find(easel.scene, piece.control, &Placed::control);
+    return std::pair(piece.kind, found - easel.scene.begin());
+  };
+  std::vector<const Piece*> order;
+  for (const Piece& piece : pieces_)
+    if (piece.kind != Piece::Kind::Turn) order.push_back(&piece);
+  std::ranges::stable_sort(order, {}, [&](const Piece* piece) { return height(*piece); });
+  for (const Piece* each : order) {
+    const Piece& piece = *each;
+    const QRectF area = AreaOf(piece);
+    const double progress = Progress(piece);
+    painter.save();
+    switch (piece.kind) {
+      case Piece::Kind::Fade:
+        painter.setOpacity(1 - progress * progress);
+        [[fallthrough]];
+      case Piece::Kind::Glide:
+        PaintPicture(easel, piece.shown.picture, piece.shown.framed, area);
+        break;
+      case Piece::Kind::Flash:
+        if (!IsShown(*piece.control)) break;
+        painter.setOpacity(1 - progress * progress);
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(QColor(255, 255, 255, 170), 5));
+        painter.drawRoundedRect(area.adjusted(1, 1, -1, -1), 5, 5);
+        painter.setPen(QPen(kRefused, 3));
+        painter.drawRoundedRect(area.adjusted(1, 1, -1, -1), 5, 5);
+        break;
+      default:
+        painter.setOpacity(std::clamp(2.5 * (1 - progress), 0.0, 1.0));
+        painter.drawPixmap(area, piece.sum, QRectF(piece.sum.rect()));
+        break;
     }
+    painter.restore();
+  }
 }

@@ -52,9 +52,9 @@ class Motion {
     bool covered = false;  // a card glides onto it
   };
   struct Piece {
-    enum class Kind { Glide, Turn, Fade, Sum, Flash } kind;
-    const Visual* control = nullptr;  // where the card lands; the one that refused
-    Face shown, beneath;              // what moves; what it glides over or has turned from
+    enum class Kind { Turn, Fade, Glide, Flash, Sum } kind;  // as they lie on each other
+    const Visual* control = nullptr;                         // where the card lands; the one that refused
+    Face shown, beneath;  // what moves; what it glides over or has turned from
     QRectF from, to;
     long long begun = 0;
     QPixmap sum = {};

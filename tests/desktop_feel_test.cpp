@@ -1,0 +1,240 @@
+// Counts that are hurried, cards that glide, refusals that flash: what a player sees and does while handlers
+// run, by real events.
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QStyleHints>
+
+#include "games/games.h"
+#include "suite/catalogue.h"
+#include "suite/suite.h"
+#include "tests/desktop_screen.h"
+#include "tests/harness.h"
+#include "window/desktop/media.h"
+
+namespace {
+
+// A table whose count takes long enough to be hurried.
+class frmCount : public Form {
+ public:
+  explicit frmCount(Platform& platform) : Form(platform, "frmCount") {
+    Width = 6000;
+    Height = 4500;
+    Card.Move(300, 300, 1065, 1455);
+    Other.Move(1800, 300, 1065, 1455);
+    Pile.Move(3300, 300, 1065, 1455);
+    cmdCount.Move(300, 2400, 1500, 400);
+    cmdNext.Move(2100, 2400, 1500, 400);
+    cmdNext.Caption = "&Next";
+    for (Image* image : {&Card, &Other}) image->BorderStyle = 1;
+    Card.Picture = kFirstFace;
+    Other.Picture = kFirstFace + 1;
+    Pile.Picture = kPalmTree.full;
+    Card.OnClick = [this] { log += "card "; };
+    cmdNext.OnClick = [this] { log += "next "; };
+    cmdCount.OnClick = [this] { Count(); };
+  }
+
+  void Count() {
+    log += "( ";
+    for (int i = 0; i < steps; ++i) {
+      total += 100;
+      this->platform.sndPlaySound("\\Snap.wav");
+      this->platform.Sleep(100);
+    }
+    if (then) then();
+    log += ") ";
+  }
+  void Form_QueryUnload(bool& cancel) override {
+    cancel = true;
+    log += "close ";
+  }
+
+  int steps = 20, total = 0;
+  std::function<void()> then;
+  std::string log;
+  Image Card{*this, "Card"}, Other{*this, "Other"}, Pile{*this, "Pile"};
+  CommandButton cmdCount{*this, "cmdCount"}, cmdNext{*this, "cmdNext"};
+};
+
+class CountGuide : public Guide {
+ public:
+  explicit CountGuide(frmCount& form) : score(form, "lblSum") {}
+  const Label* Score() const override { return &score; }
+  Label score;
+};
+
+// With waits that are as long as told, and no sound.
+class PatientDesktop : public DesktopFrontEnd {
+ public:
+  using DesktopFrontEnd::DesktopFrontEnd;
+  using DesktopFrontEnd::Wait;
+  bool moves = false;
+  int waves = 0;
+  bool ShowsMotion() const override { return moves; }
+};
+
+class Feel : public testing::Test {
+ protected:
+  void SetUp() override {
+    form.Show();
+    input::Settle();
+    // Keys come with the time of Qt's own clock.
+    struct Clock : QObject {
+      long long time = 0;
+      bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress)
+          time = static_cast<long long>(static_cast<QKeyEvent*>(event)->timestamp());
+        return false;
+      }
+    } theirs;
+    qApp->installEventFilter(&theirs);
+    input::Key(*front.WindowOf(form), Qt::Key_F35);
+    input::Settle();
+    input::clock = [this, ahead = theirs.time - front.Milliseconds()] {
+      return static_cast<int>(front.Milliseconds() + ahead);
+    };
+  }
+  void TearDown() override { input::clock = nullptr; }
+  Canvas& Board() { return front.WindowOf(form)->Board(); }
+  QLabel* Word() { return Board().findChild<QLabel*>("hurry"); }
+  // Does something at the screen a while after the count has begun.
+  void After(int milliseconds, const std::function<void()>& deed) {
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &context, deed);
+  }
+  // Counts, and lets all that follows happen. The milliseconds that the count took.
+  long long Count() {
+    form.log.clear();
+    form.total = 0;
+    long long took = 0;
+    const auto begun = front.Milliseconds();
+    front.Deliver(form, [&] {
+      form.Count();
+      took = front.Milliseconds() - begun;
+    });
+    input::Settle();
+    return took;
+  }
+
+  const bool open = OpenScreen();
+  TestFolder folder;
+  PatientDesktop front{{folder.Path(), CARDHAVEN_TEST_DATA}, Catalogue()};
+  frmCount form{front.platform};
+  QObject context;
+};
+
+}  // namespace
+
+TEST_F(Feel, ALongCountIsHurriedByAClickSpaceOrEscapeWhichGoNoFurther) {
+  const struct {
+    const char* what;
+    std::function<void()> meanwhile;  // at 1.2 seconds
+    bool hurries;
+    std::string then;
+  } cases[] = {
+      {"a click on a card", [&] { input::Click(front, form.Card); }, true, ""},
+      {"two clicks", [&] { input::Click(front, form.Card), input::Click(front, form.Card, 20); }, true, ""},
+      {"a button", [&] { input::Click(front, form.cmdNext); }, true, ""},
+      {"Space", [&] { input::Key(*front.WindowOf(form), Qt::Key_Space, {}, " "); }, true, ""},
+      {"Escape", [&] { input::Key(*front.WindowOf(form), Qt::Key_Escape); }, true, ""},
+      {"another key, which is kept",
+       [&] { input::Key(*front.WindowOf(form), Qt::Key_N, Qt::AltModifier, "n"); }, false, "next "},
+      {"a key, then a click",
+       [&] {
+         input::Key(*front.WindowOf(form), Qt::Key_N, Qt::AltModifier, "n");
+         input::Click(front, form.Card);
+       },
+       true, "next "},
+      {"nothing", [] {}, false, ""},
+  };
+  for (const auto& each : cases) {
+    bool word = false;
+    After(1200, [&] {
+      word = Word() && Word()->isVisible();
+      each.meanwhile();
+    });
+    const long long took = Count();
+    EXPECT_TRUE(word) << each.what;
+    EXPECT_EQ(took < 1900, each.hurries) << each.what << ": " << took;
+    EXPECT_EQ(form.total, 2000) << each.what;
+    const std::string expected = "( ) " + each.then;
+    EXPECT_TRUE(input::Await([&] { return form.log == expected; })) << each.what << ": " << form.log;
+    input::Settle();
+    EXPECT_EQ(form.log, expected) << each.what;
+    EXPECT_EQ(Word(), nullptr) << each.what;
+    // What follows is answered as ever.
+    input::Click(front, form.Card);
+    input::Settle();
+    EXPECT_EQ(form.log, expected + "card ") << each.what;
+  }
+}
+
+TEST_F(Feel, AShortWaitKeepsEveryClick) {
+  form.steps = 6;
+  bool word = false;
+  After(500, [&] {
+    word = Word();
+    input::Click(front, form.Card);
+    input::Click(front, form.Card);
+  });
+  EXPECT_GE(Count(), 600);
+  EXPECT_FALSE(word);
+  EXPECT_EQ(form.log, "( ) card card ");
+}
+
+TEST_F(Feel, WhatWasPressedWithinADoubleClickOfTheBeginningIsKept) {
+  const int interval = QGuiApplication::styleHints()->mouseDoubleClickInterval();
+  ASSERT_LT(interval, 800);
+  // A fast player's last click comes to the round that follows, as ever.
+  After(interval / 2, [&] { input::Click(front, form.Card); });
+  EXPECT_GE(Count(), 2000);
+  EXPECT_TRUE(input::Await([&] { return form.log == "( ) card "; })) << form.log;
+  // A later one was meant for the count, though nobody looked at it yet.
+  After(interval + 100, [&] { input::Click(front, form.Card); });
+  EXPECT_LT(Count(), 1900);
+  EXPECT_EQ(form.log, "( ) ");
+}
+
+TEST_F(Feel, ABoxInACountIsNotAnsweredByTheClickThatHurried) {
+  form.then = [&] {
+    form.log += "box ";
+    form.platform.MsgBox("Well done", "Count");
+    form.log += "closed ";
+    for (int i = 0; i < 5; ++i) form.platform.Sleep(100);  // anew: too short to be hurried
+  };
+  After(1200, [&] {
+    input::Key(*front.WindowOf(form), Qt::Key_Space, {}, " ");
+    input::Key(*front.WindowOf(form), Qt::Key_Escape);
+    input::Click(front, form.Card);
+  });
+  std::string before;
+  long long answered = 0;
+  const std::function<void()> answer = [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box) return After(20, answer);
+    After(150, [&, box = QPointer<QMessageBox>(box)] {
+      before = box ? form.log : "gone";
+      answered = front.Milliseconds();
+      if (box) box->button(QMessageBox::Ok)->click();
+    });
+  };
+  After(1300, answer);
+  Count();
+  EXPECT_EQ(before, "( box ");
+  EXPECT_GE(front.Milliseconds() - answered, 500);
+  EXPECT_EQ(form.log, "( box closed ) ");
+}
+
+TEST_F(Feel, ClosingInAHurryAsksOnceAndAtTheEnd) {
+  After(1200, [&] {
+    QWindow& window = *front.WindowOf(form)->windowHandle();
+    input::Click(front, form.Card);
+    QCloseEvent close;
+    QCoreApplication::sendEvent(&window, &close);
+  });
+  EXPECT_LT(Count(), 1900);
+  EXPECT_TRUE(input::Await([&] { return form.log == "( ) close "; })) << form.log;
+}
