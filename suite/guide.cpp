@@ -29,11 +29,13 @@ std::vector<KeyRow> GameGuide::Keys() const {
   };
   take({"Arrows", "Go to the nearest card that can be played; with Ctrl to any card", {}});
   take({"Space, Return", "Click on the card under the cursor", {}});
+  take({"Tab", "Go to the buttons; the board comes first", {}});
   take({"P", "Pause, resume", {{"P", "cmdPause"}}});
   take({"Escape", "Pause", {{"Escape", "cmdPause"}}});
   take({"F1", "The rules", {{"F1", "mnuRules"}}});
   take({"F2", "Play", {{"F2", "mnuPlay"}}});
   take({"F11", "Full screen, and back", {}});
+  take({"Ctrl with +, -, 0", "Larger, smaller, as at first", {}});
   take({"Shift+F1", "Say how the game stands", {}});
   return rows;
 }

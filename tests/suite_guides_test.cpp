@@ -1,6 +1,7 @@
 // What the guides tell of the boards is so: places, keys, and which clicks are taken.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "games/guides.h"
@@ -85,6 +86,92 @@ TEST_P(Guided, WhatCanBePlayedIsTakenAndTheRestIsRefused) {
   }
   EXPECT_GT(taken, 50);
   EXPECT_GT(refused, 25);
+}
+
+// --- The tables of keys in the documents -----------------------------------------------------------
+
+struct KeyTable {
+  std::string title;
+  std::vector<KeyRow> rows;
+};
+
+// The selector's keys, each game's own, and those that most games have.
+std::vector<KeyTable> AllKeys() {
+  TestFolder folder;
+  Driver driver(folder.Path());
+  std::vector<KeyTable> tables;
+  tables.push_back({"Selector", MakeGuide(*driver.platform().FindForm("frmSelect"))->Keys()});
+  std::vector<std::vector<KeyRow>> games;
+  for (const GameEntry& game : AllGames()) {
+    driver.Do(std::string("click frmSelect.") + game.button);
+    games.push_back(MakeGuide(*driver.common().window)->Keys());
+    driver.Do("close " + std::string(driver.common().window->name) + "\nanswer \"Yes\"");
+  }
+  const auto same = [](const KeyRow& a) {
+    return [&a](const KeyRow& b) { return a.keys == b.keys && a.does == b.does; };
+  };
+  const auto isCommon = [&](const KeyRow& row) {
+    return 2 * std::ranges::count_if(games,
+                                     [&](const auto& rows) { return std::ranges::any_of(rows, same(row)); }) >
+           std::ssize(games);
+  };
+  for (size_t i = 0; i < games.size(); ++i) {
+    std::vector<KeyRow> own;
+    for (const KeyRow& row : games[i])
+      if (!isCommon(row)) own.push_back(row);
+    std::string title = AllGames()[i].title;
+    tables.push_back({title.substr(0, title.size() - 1), own});  // without its mark
+  }
+  std::vector<KeyRow> common;
+  for (const KeyRow& row : games.front())
+    if (isCommon(row)) common.push_back(row);
+  tables.insert(tables.begin() + 1, {"Every game, unless it says otherwise", common});
+  return tables;
+}
+
+std::string AsMarkdown(const std::vector<KeyTable>& tables) {
+  std::string text = "\n| Where | Key | What it does |\n|---|---|---|\n";
+  for (const KeyTable& table : tables) {
+    std::string title = table.title;
+    for (const KeyRow& row : table.rows)
+      text += "| " + std::exchange(title, "") + " | " + row.keys + " | " + row.does + " |\n";
+  }
+  return text + "\n";
+}
+
+std::string AsManual(const std::vector<KeyTable>& tables) {
+  const auto escaped = [](const std::string& words) {
+    std::string text;
+    for (const char letter : words) text += letter == '-' ? "\\-" : std::string(1, letter);
+    return text;
+  };
+  std::string text = "\n";
+  for (const KeyTable& table : tables) {
+    text += ".SS " + table.title + "\n";
+    for (const KeyRow& row : table.rows)
+      text += ".TP\n.B \"" + escaped(row.keys) + "\"\n" + escaped(row.does) + "\n";
+  }
+  return text;
+}
+
+// What stands in a document between its two marks.
+std::string Between(const std::filesystem::path& file, const std::string& begin, const std::string& end) {
+  std::ifstream in(file, std::ios::binary);
+  const std::string text{std::istreambuf_iterator<char>(in), {}};
+  const size_t from = text.find(begin), to = text.find(end);
+  if (from == std::string::npos || to == std::string::npos) return "no marks in " + file.string();
+  return text.substr(from + begin.size(), to - from - begin.size());
+}
+
+// Where they differ, paste what is expected.
+TEST(KeyTables, OfReadmeAndManualAreThoseOfTheGuides) {
+  const std::filesystem::path root = CARDHAVEN_SOURCE;
+  const std::vector<KeyTable> tables = AllKeys();
+  ASSERT_EQ(tables.size(), AllGames().size() + 2);
+  EXPECT_EQ(Between(root / "README.md", "<!-- keys -->", "<!-- /keys -->"), AsMarkdown(tables))
+      << AsMarkdown(tables);
+  EXPECT_EQ(Between(root / "packaging/cardhaven.6", ".\\\" keys", ".\\\" /keys"), AsManual(tables))
+      << AsManual(tables);
 }
 
 INSTANTIATE_TEST_SUITE_P(Games, Guided, ::testing::ValuesIn(Buttons()),

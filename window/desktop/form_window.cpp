@@ -378,6 +378,7 @@ void FormWindow::ApplyPlace() {
 void FormWindow::Settle() {
   if (left_) return;
   if (comfort_) comfort_->Settle();
+  if (qobject_cast<QMenuBar*>(focusWidget())) return;  // which gives the focus back by itself
   if (keyboard_) {
     keyboard_->Settle();
     if (keyboard_->HoldsFocus()) return;

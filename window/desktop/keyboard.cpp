@@ -143,14 +143,17 @@ void Keyboard::Settle() {
   ShowRing();
 }
 
-bool Keyboard::HoldsFocus() const { return guide_ && !spots_.empty() && window_.focusWidget() == &canvas_; }
+bool Keyboard::HoldsFocus() const { return guide_ && !spots_.empty() && boardHasFocus_; }
 
 void Keyboard::FocusBoard() {
-  if (!spots_.empty() && !canvas_.hasFocus()) canvas_.setFocus(Qt::OtherFocusReason);
+  if (spots_.empty()) return;
+  boardHasFocus_ = true;
+  if (window_.focusWidget() != &canvas_) canvas_.setFocus(Qt::OtherFocusReason);
 }
 
 bool Keyboard::eventFilter(QObject* watched, QEvent* event) {
   if (!guide_) return false;
+  if (event->type() == QEvent::FocusIn && watched != &window_) boardHasFocus_ = watched == &canvas_;
   switch (event->type()) {
     case QEvent::ShortcutOverride:  // any key, before menus and access keys get it
       keysUsed_ = true;
@@ -271,8 +274,9 @@ void Keyboard::Do(const std::string& keys) {
         if (!control || !player::WhyNot(*control).empty()) continue;
         if (keys == "Escape" && click.control == "cmdPause" && guide_->Paused()) continue;
         if (click.control == kNextOfRank) ranks_[keys[0]] = static_cast<Visual*>(control);
+        const bool follows = click.control == kNextOfRank || IsDigits(keys);
         for (const Spot& spot : spots_)
-          if (spot.control == control) MoveTo(control->kind == Control::Kind::Menu ? nullptr : spot.control);
+          if (follows && spot.control == control) MoveTo(spot.control);
         return player::Click(*control);
       }
   });
@@ -328,7 +332,7 @@ void Keyboard::ClickCursor() {
 bool Keyboard::TakeArrow(const QKeyEvent& key) {
   if (spots_.empty()) return false;
   begun_.clear();
-  const bool showed = Cursor() != nullptr || canvas_.hasFocus();
+  const bool showed = boardHasFocus_;
   FocusBoard();
   if (!cursor_ || !showed) return true;
   const QPoint ahead(key.key() == Qt::Key_Right  ? 1

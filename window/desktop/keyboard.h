@@ -65,8 +65,9 @@ class Keyboard : public QObject {
   std::vector<const Visual*> selected_;  // in the order in which they were
   std::map<char, const Visual*> ranks_;  // clicked last by their rank
   const Visual* cursor_ = nullptr;
-  QRect cursorPlace_, ring_;  // the latter as it was painted last
-  bool keysUsed_ = false;     // last, and not the mouse
-  std::string begun_;         // keys of a click that takes several
+  QRect cursorPlace_, ring_;    // the latter as it was painted last
+  bool boardHasFocus_ = false;  // or had it when a menu was opened
+  bool keysUsed_ = false;       // last, and not the mouse
+  std::string begun_;           // keys of a click that takes several
   QElapsedTimer sinceBegun_;
 };
