@@ -374,7 +374,6 @@ QRect Keyboard::PlaceOf(const Visual& control) const {
   return IsDrawn(control.kind) ? DrawnRect(control, front_.pictures) : ModelRect(control);
 }
 
-// What the ring goes around: the cursor's place, or a widget on the board that has the keyboard.
 QRect Keyboard::Ring() const {
   if (!keysUsed_) return {};
   if (const Visual* cursor = Cursor()) return PlaceOf(*cursor);

@@ -33,6 +33,9 @@ class Keyboard : public QObject {
 
   // Where the cursor stands; null if it doesn't show.
   const Visual* Cursor() const;
+  // What the ring goes around, in pixels at 100 %: the cursor's place, or a widget on the board that has the
+  // keyboard. Null while the mouse is used.
+  QRect Ring() const;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -51,7 +54,6 @@ class Keyboard : public QObject {
   void FocusBoard();
   void ShowRing();
   QRect PlaceOf(const Visual& control) const;
-  QRect Ring() const;
   void Paint(QPainter& painter) const;
   void OrderTabs();
   std::vector<Visual*> Choices() const;

@@ -1,0 +1,298 @@
+// The games by keys alone: the cursor, and which key is which click.
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTableWidget>
+#include <set>
+
+#include "games/duopick/duopick.h"
+#include "games/games.h"
+#include "games/guides.h"
+#include "games/handgrid/handgrid.h"
+#include "games/sumfall/sumfall.h"
+#include "games/treyshift/treyshift.h"
+#include "suite/suite.h"
+#include "tests/desktop_screen.h"
+#include "tests/harness.h"
+#include "window/desktop/contrast.h"
+#include "window/desktop/keyboard.h"
+#include "window/player.h"
+
+namespace {
+
+class Keys : public testing::Test {
+ protected:
+  void SetUp() override {
+    front.guides = MakeGuide;
+    front.platform.random.Seed(7);
+    suite.Start();
+    input::Settle();
+  }
+  // A key at the window that a player would mean.
+  void Press(int key, Qt::KeyboardModifiers held = {}, const QString& text = {}) {
+    QWidget* window = QApplication::activeModalWidget();
+    if (!window) window = front.WindowOf(Front());
+    input::Key(*window, key, held, text.isEmpty() && key < 0x80 ? QString(QChar(key)) : text);
+    input::Settle();
+  }
+  void Type(const QString& keys) {
+    for (const QChar& key : keys) Press(key.toUpper().unicode(), {}, key);
+  }
+  // Does something that opens a box or a dialog, and `meanwhile` when that stands.
+  void Amid(const std::function<void()>& opens, const std::function<void()>& meanwhile) {
+    QTimer::singleShot(30, [this, meanwhile] {
+      ASSERT_TRUE(QApplication::activeModalWidget());
+      meanwhile();
+      while (QWidget* left = QApplication::activeModalWidget()) left->close();
+    });
+    opens();
+    input::Settle();
+  }
+  Form& Front() { return *front.platform.forms.front(); }
+  GameWindow& Game() { return *suite.common.window; }
+  template <class Window>
+  Window& Open(const char* digit) {
+    Type(digit);
+    Press(Qt::Key_F2);
+    EXPECT_EQ(Game().phase, Phase::Playing) << digit;
+    return static_cast<Window&>(Game());
+  }
+  const Visual* Cursor() { return front.WindowOf(Game())->Keys()->Cursor(); }
+  std::vector<Spot> Spots() { return front.GuideOf(Game())->Spots(); }
+  std::string Focus() { return front.WindowOf(Front())->focusWidget()->objectName().toStdString(); }
+
+  const bool open = OpenScreen();
+  TestFolder folder;
+  QuickDesktop front{{folder.Path(), CARDHAVEN_TEST_DATA}, Catalogue()};
+  Suite suite{front.platform, {folder.Path()}, AllGames()};
+};
+
+}  // namespace
+
+TEST_F(Keys, OpenAGameFromTheSelectorWhichRemembersIt) {
+  EXPECT_EQ(Focus(), "cmdSumfall");
+  std::vector<std::string> order;
+  for (int i = 0; i < 9; ++i, Press(Qt::Key_Tab)) order.push_back(Focus());
+  EXPECT_EQ(order[7], "cmdLaunchBrowser");
+  EXPECT_EQ(order[8], "cmdClose");
+  for (const auto& [digit, title] : {std::pair{"5", "Spirehold!"}, std::pair{"7", "Treyshift!"}}) {
+    Type(digit);
+    EXPECT_EQ(suite.common.AppTitle, title);
+    const auto close = [this] { front.WindowOf(Game())->close(); };
+    // "Giving up so soon?": the answer with which nothing ends comes first.
+    Amid(close, [this] { Press(Qt::Key_Return); });
+    EXPECT_TRUE(Game().Loaded());
+    Amid(close, [this] { Press(Qt::Key_Left), Press(Qt::Key_Return); });
+    EXPECT_EQ(Focus(), digit[0] == '5' ? "cmdSpirehold" : "cmdTreyshift");
+  }
+  Press(Qt::Key_S, Qt::AltModifier);  // three buttons have it
+  EXPECT_TRUE(input::Await([this] { return suite.common.AppTitle == "Sumfall!"; }));
+}
+
+// Which cards a walk by arrows reaches.
+TEST_F(Keys, WalkToWhateverCanBePlayed) {
+  const int arrows[] = {Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down};
+  for (const char* digit : {"1", "2", "4", "5", "6", "7"}) {
+    Open<GameWindow>(digit);
+    EXPECT_EQ(Focus(), "canvas");
+    for (const Qt::KeyboardModifiers held : {Qt::NoModifier, Qt::ControlModifier}) {
+      std::set<const Visual*> wanted, seen;
+      for (const Spot& spot : Spots())
+        if (spot.playable || held) wanted.insert(spot.control);
+      uint32_t chance = 1;
+      for (int step = 0; step < 1200 && !std::ranges::includes(seen, wanted); ++step) {
+        chance = chance * 1664525u + 1013904223u;
+        Press(arrows[chance >> 30], held);
+        if (Cursor()) seen.insert(Cursor());
+      }
+      for (const Visual* each : wanted) EXPECT_TRUE(seen.contains(each)) << digit << each->FullName();
+      if (!held) EXPECT_EQ(seen.size(), wanted.size()) << digit;
+    }
+    Game().Discard();
+    suite.common.selector->Show();
+    suite.common.GameInProgress = false;
+    input::Settle();
+  }
+}
+
+TEST_F(Keys, TakeCardsByRankAndGiveThemBack) {
+  auto& game = Open<frmSumfall>("1");
+  const auto ranks = [this](bool playable) {
+    std::map<char, std::vector<Visual*>> found;
+    for (const Spot& spot : Spots())
+      if (spot.rank && spot.playable == playable) found[spot.rank].push_back(spot.control);
+    return found;
+  };
+  // A rank that comes twice: the second press means the other one.
+  char twice = 0;
+  for (const auto& [rank, cards] : ranks(true))
+    if (cards.size() > 1 && rank < '6') twice = rank;
+  ASSERT_NE(twice, 0);
+  Type(QString(QChar(twice)));
+  EXPECT_EQ(game.CurrentTotal, twice - '0');
+  const Visual* first = Cursor();
+  Press(twice, Qt::KeypadModifier, QString(QChar(twice)));
+  EXPECT_EQ(game.CurrentTotal, 2 * (twice - '0'));
+  EXPECT_NE(Cursor(), first);
+  Press(Qt::Key_Backspace);
+  Press(Qt::Key_Backspace);
+  Press(Qt::Key_Backspace);
+  EXPECT_EQ(game.CurrentTotal, 0);
+  // A key that is held down clicks once.
+  QWidget& window = *front.WindowOf(game);
+  for (int i = 0; i < 5; ++i) {
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_D, Qt::NoModifier, "d", i > 0);
+    QApplication::sendEvent(window.focusWidget(), &held);
+  }
+  EXPECT_EQ(game.lblCardCount.Caption, "Cards: 29");
+  // Space on the cursor, which a mouse click takes along and hides.
+  input::Click(front, game.UpCardPicture);
+  input::Settle();
+  EXPECT_TRUE(game.UpCardSelectionRectangle.Visible);
+  EXPECT_EQ(Cursor(), nullptr);
+  Press(Qt::Key_Space);
+  EXPECT_FALSE(game.UpCardSelectionRectangle.Visible);
+  EXPECT_EQ(Cursor(), &game.UpCardPicture);
+  // What is pressed while a handler waits comes when it has ended, as clicks do.
+  front.onSleep = [&] { input::Key(window, Qt::Key_D, {}, "d"); };
+  game.ClockTimer.OnTimer = [&] {
+    game.ClockTimer.Enabled = false;
+    front.platform.Sleep(10);
+    EXPECT_EQ(game.lblCardCount.Caption, "Cards: 29");
+  };
+  game.ClockTimer.Interval = 1;
+  game.ClockTimer.Enabled = false;
+  game.ClockTimer.Enabled = true;
+  EXPECT_TRUE(input::Await([&] { return game.lblCardCount.Caption == "Cards: 28"; }));
+  Press(Qt::Key_Escape);
+  EXPECT_TRUE(game.IsPaused());
+  Press(Qt::Key_Escape);
+  EXPECT_TRUE(game.IsPaused());
+  Type("p");
+  EXPECT_FALSE(game.IsPaused());
+}
+
+TEST_F(Keys, StandForPlacesWhereAGameHasDigits) {
+  auto& grid = Open<frmHandgrid>("6");
+  Type("3");
+  EXPECT_EQ(Cursor(), &grid.PlayCards(10));
+  Type("5");
+  EXPECT_FALSE(grid.PlayedCards[14].empty());
+  Type("4x44");  // another key between them, and it begins anew
+  EXPECT_FALSE(grid.PlayedCards[18].empty());
+  EXPECT_EQ(std::ranges::count_if(grid.PlayedCards, [](auto& card) { return !card.empty(); }), 2);
+  grid.Discard();
+  suite.common.selector->Show();
+  input::Settle();
+  auto& shift = Open<frmTreyshift>("7");
+  Type("d");
+  EXPECT_TRUE(shift.Selected);
+  Press(Qt::Key_Escape);
+  EXPECT_FALSE(shift.Selected);
+  EXPECT_FALSE(shift.IsPaused());
+  Type("d2dwd2");
+  EXPECT_FALSE(shift.FieldCards[1].empty() || shift.FieldCards[5].empty() || shift.TempCards[1].empty());
+  Press(Qt::Key_Escape);
+  EXPECT_TRUE(shift.IsPaused());
+  shift.Discard();
+  suite.common.selector->Show();
+  input::Settle();
+  auto& duopick = Open<frmDuopick>("4");
+  Press(Qt::Key_Space);
+  EXPECT_EQ(duopick.CardsSelected, 1);
+  Press(Qt::Key_Backspace);  // what is selected takes no click here
+  EXPECT_EQ(duopick.CardsSelected, 0);
+  EXPECT_EQ(duopick.PairsCount + duopick.RunsCount, 0);
+}
+
+TEST_F(Keys, AreShownInMenusAndInAWindowThatPauses) {
+  auto& game = Open<frmSumfall>("1");
+  FormWindow& window = *front.WindowOf(game);
+  auto* help = window.findChild<QMenu*>("mnuHelp");
+  QStringList entries;
+  for (const QAction* entry : help->actions())
+    entries.push_back(entry->text() + entry->shortcut().toString());
+  EXPECT_EQ(entries.join("|"), "&Rules...F1|&Keys...|&About...");
+  help->actions()[1]->trigger();
+  input::Settle();
+  EXPECT_TRUE(game.IsPaused());
+  auto* table = window.findChild<QTableWidget*>();
+  ASSERT_TRUE(table);
+  EXPECT_EQ(table->rowCount(), std::ssize(front.GuideOf(game)->Keys()));
+  Press(Qt::Key_Escape);
+  EXPECT_FALSE(game.IsPaused());
+  EXPECT_EQ(Focus(), "canvas");
+
+  Amid([this] { Press(Qt::Key_F1); },
+       [this] {
+         auto* rules = QApplication::activeModalWidget()->findChild<QPlainTextEdit*>();
+         Press(Qt::Key_PageDown);
+         EXPECT_GT(rules->verticalScrollBar()->value(), 0);
+       });
+  Press(Qt::Key_F11);
+  EXPECT_TRUE(front.GetView().fullScreen);
+}
+
+TEST_F(Keys, GoBackToAFieldThatWasRefused) {
+  Type("1");
+  Amid([this] { front.Deliver(Game(), [this] { player::Click(Game().mnuCustom); }); },
+       [this] {
+         Press(Qt::Key_Tab);
+         auto* field = QApplication::activeModalWidget()->findChild<QLineEdit*>("txtCompletion");
+         Type("0");  // takes the place of what was there
+         EXPECT_EQ(field->text(), "0");
+         QTimer::singleShot(30, [this] { Press(Qt::Key_Return); });  // the box
+         Press(Qt::Key_Return);
+         EXPECT_TRUE(field->hasFocus());
+         EXPECT_EQ(field->selectedText(), "0");
+       });
+}
+
+// The ring stands out from what it is painted on, in rendered pixels: on baize, cards and backs.
+TEST_F(Keys, ShowWhereTheyAre) {
+  const auto differs = [](const QImage& before, const QImage& after, int& strong, int& changed) {
+    changed = strong = 0;
+    for (int y = 0; y < before.height(); ++y)
+      for (int x = 0; x < before.width(); ++x) {
+        const QColor was = before.pixelColor(x, y), is = after.pixelColor(x, y);
+        if (was == is) continue;
+        ++changed;
+        strong += Contrast(was, is) >= 3;
+      }
+  };
+  for (const char* digit : {"1", "2", "3", "4", "5", "6", "7"}) {
+    Open<GameWindow>(digit);
+    Game().Timer1.Enabled = Game().Timer2.Enabled = false;
+    Canvas& board = front.WindowOf(Game())->Board();
+    const auto grab = [&] {
+      QImage image(board.size(), QImage::Format_RGB32);
+      board.render(&image, {}, {}, {});
+      return image;
+    };
+    const auto hide = [&] {  // as the mouse does
+      input::Press(board, QPoint(2, 2));
+      input::Settle();
+    };
+    for (int stop = 0; stop < 4; ++stop) {  // the cursor, then the buttons
+      hide();
+      const QImage without = grab();
+      stop == 0 ? Press(Qt::Key_Right) : Press(Qt::Key_Tab);
+      for (int i = 1; i < stop; ++i) Press(Qt::Key_Tab);
+      int strong = 0, changed = 0;
+      differs(without, grab(), strong, changed);
+      const QRect ring = front.WindowOf(Game())->Keys()->Ring();
+      ASSERT_FALSE(ring.isNull()) << digit << stop;
+      // A line two pixels thick at least goes around.
+      EXPECT_GT(strong, 2 * 2 * (ring.width() + ring.height())) << digit << " " << Focus() << " " << changed;
+    }
+    Game().Discard();
+    suite.common.selector->Show();
+    suite.common.GameInProgress = false;
+    input::Settle();
+  }
+}
