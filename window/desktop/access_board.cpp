@@ -109,6 +109,7 @@ std::vector<QAccessibleInterface*> BoardAccess::Rest() const {
   const auto put = [&](const QRect& rect, QAccessibleInterface* item) {
     if (item) placed.push_back({rect, item});
   };
+  const auto names = NamesOfLabels(Window().form);
   for (Control* control : Window().form.Controls()) {
     if (IsDrawn(control->kind) && !IsShown(static_cast<Visual&>(*control))) continue;
     switch (control->kind) {
@@ -118,7 +119,7 @@ std::vector<QAccessibleInterface*> BoardAccess::Rest() const {
           if (label.form.find(label.name, label.index - 1)) break;
           put(ModelRect(label),
               Keep({&label, 0}, [&](BoardAccess& board) { return MakeTableItem(board, label); }));
-        } else if (!NameOfLabel(label).isEmpty()) {
+        } else if (names.contains(&label)) {
           put(ModelRect(label),
               Keep({&label, 0}, [&](BoardAccess& board) { return MakeTextItem(board, label); }));
         }
@@ -210,8 +211,9 @@ QAccessibleInterface* BoardAccess::childAt(int x, int y) const {
 QAccessibleInterface* BoardAccess::focusChild() const { return QAccessibleWidget::focusChild(); }
 
 QString BoardAccess::text(QAccessible::Text text) const {
-  return text == QAccessible::Name && Lives() && IsBoard(Window().form) ? "Board"
-                                                                        : QAccessibleWidget::text(text);
+  return text == QAccessible::Name && Lives() && Front().GuideOf(Window().form) && IsBoard(Window().form)
+             ? "Board"
+             : QAccessibleWidget::text(text);
 }
 
 // --- News ----------------------------------------------------------------------------------------

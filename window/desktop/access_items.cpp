@@ -119,8 +119,10 @@ class TextItem : public Clickable {
 
  protected:
   QString Name() const override {
-    return control_.kind == Control::Kind::Label ? NameOfLabel(static_cast<const Label&>(control_))
-                                                 : Spoken(static_cast<const Frame&>(control_).Caption);
+    if (control_.kind == Control::Kind::Frame) return Spoken(static_cast<const Frame&>(control_).Caption);
+    const auto names = NamesOfLabels(control_.form);
+    const auto found = names.find(&static_cast<const Label&>(control_));
+    return found == names.end() ? QString() : found->second;
   }
   bool TakesClick() const override { return control_.kind == Control::Kind::Label && control_.OnClick; }
 };
@@ -141,10 +143,7 @@ class BarItem : public ControlItem, public QAccessibleValueInterface {
   void setCurrentValue(const QVariant&) override {}
 
  protected:
-  QString Name() const override {
-    const Label* label = LabelOf(bar_);
-    return label ? Spoken(label->Caption) : QString();
-  }
+  QString Name() const override { return LabelTextOf(bar_); }
 
  private:
   const ProgressBar& bar_;

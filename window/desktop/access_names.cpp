@@ -12,53 +12,57 @@
 
 namespace {
 
-bool EndsWithColon(const Label& label) {
-  return QString::fromStdString(label.Caption).trimmed().endsWith(':');
-}
-
-// Figures that say nothing without what stands beside them.
-bool IsFigure(const Label& label) {
-  const QString text = Spoken(label.Caption);
-  return !text.isEmpty() && std::ranges::none_of(text, [](QChar letter) { return letter.isLetter(); });
-}
-
-// What can stand beside figures.
-bool IsTitle(const Label& label) {
-  const QString text = Spoken(label.Caption);
-  return !IsFigure(label) && !text.isEmpty() && !text.back().isDigit();
-}
+constexpr int kNever = std::numeric_limits<int>::max();
 
 bool HasLetter(const QString& text) {
   return std::ranges::any_of(text, [](QChar letter) { return letter.isLetter(); });
 }
 
-bool Shows(const Label& label) { return IsShown(label) && !Spoken(label.Caption).isEmpty(); }
+// A label that shows.
+struct Lettered {
+  const Label* label;
+  QRect rect;
+  QString text;
 
-// Whether `label` stands beside `rect` on the left, or above it, and how far away. Beside goes before above.
-int Distance(const QRect& label, const QRect& rect) {
-  constexpr int kFarthest = 400, kFarthestAbove = 60, kAbove = 1000;
-  const bool sameLine =
-      std::abs(label.center().y() - rect.center().y()) <= std::max(label.height(), rect.height()) / 2;
-  if (sameLine && label.left() < rect.left() && rect.left() - label.right() <= kFarthest)
-    return std::max(0, rect.left() - label.right());
-  const int gap = rect.top() - label.bottom();
-  if (label.top() < rect.top() && gap <= kFarthestAbove && label.left() < rect.right() &&
-      rect.left() < label.right())
-    return kAbove + std::max(0, gap);
-  return std::numeric_limits<int>::max();
+  // Figures say nothing without what stands beside them.
+  bool IsFigure() const { return !HasLetter(text); }
+  bool IsTitle() const { return !IsFigure() && !text.back().isDigit() && !IsMessage(*label); }
+};
+
+std::vector<Lettered> LabelsOn(const Form& form) {
+  std::vector<Lettered> labels;
+  for (const Control* each : form.Controls()) {
+    if (each->kind != Control::Kind::Label) continue;
+    const auto& label = static_cast<const Label&>(*each);
+    if (const QString text = Spoken(label.Caption); !text.isEmpty() && IsShown(label))
+      labels.push_back({&label, ModelRect(label), text});
+  }
+  return labels;
 }
 
-const Label* NearestLabel(const Visual& control, bool title) {
+// How far a label stands from what it tells of, if it stands to the left of it or above.
+int Distance(const QRect& label, const QRect& rect, int farthestLeft, int costAbove) {
+  constexpr int kFarthestAbove = 60;
+  const bool sameLine =
+      std::abs(label.center().y() - rect.center().y()) <= std::max(label.height(), rect.height()) / 2;
+  if (sameLine && label.left() < rect.left())
+    return rect.left() - label.right() <= farthestLeft ? std::max(0, rect.left() - label.right()) : kNever;
+  const int gap = rect.top() - label.bottom();
+  const bool above = label.top() < rect.top() && label.left() < rect.right() && rect.left() < label.right();
+  return above && gap <= kFarthestAbove ? costAbove + std::max(0, gap) : kNever;
+}
+
+template <class Fits>
+const Lettered* Nearest(const std::vector<Lettered>& labels, const Visual& control, int farthestLeft,
+                        int costAbove, Fits fits) {
   const QRect rect = ModelRect(control);
-  const Label* nearest = nullptr;
-  int distance = std::numeric_limits<int>::max();
-  for (const Control* each : control.form.Controls()) {
-    if (each->kind != Control::Kind::Label || each == &control || each->parent != control.parent) continue;
-    const auto& label = static_cast<const Label&>(*each);
-    if (!Shows(label) || (title && (!IsTitle(label) || IsMessage(label)))) continue;
-    if (const int here = Distance(ModelRect(label), rect); here < distance) {
-      distance = here;
-      nearest = &label;
+  const Lettered* nearest = nullptr;
+  int least = kNever;
+  for (const Lettered& each : labels) {
+    if (each.label == &control || each.label->parent != control.parent || !fits(each)) continue;
+    if (const int here = Distance(each.rect, rect, farthestLeft, costAbove); here < least) {
+      least = here;
+      nearest = &each;
     }
   }
   return nearest;
@@ -70,8 +74,9 @@ QString WithoutColon(QString text) {
   return text;
 }
 
-// "ColumnTotal" of an array of labels, spoken: "Column total 3".
-QString SpokenPlace(const Label& label) {
+// What a label is called in the game, spoken: "lblTimeBonus" is "Time bonus", the third `ColumnTotal` "Column
+// total 3".
+QString SpokenName(const Label& label) {
   QString name;
   for (const char letter : label.name.starts_with("lbl") ? label.name.substr(3) : label.name)
     if (std::isupper(static_cast<unsigned char>(letter)) && !name.isEmpty())
@@ -79,24 +84,14 @@ QString SpokenPlace(const Label& label) {
     else
       name += QChar(letter);
   if (name == "Col") name = "Column";
+  if (label.index < 0) return name;
   int first = label.index;
   while (first > 0 && label.form.find(label.name, first - 1)) --first;
   return name + " " + QString::number(label.index - first + 1);
 }
 
-// The value that a label with a colon tells of; null if it stands for itself.
-const Label* ValueOf(const Label& caption) {
-  for (const Control* each : caption.form.Controls()) {
-    if (each->kind != Control::Kind::Label || each == &caption || each->parent != caption.parent) continue;
-    const auto& label = static_cast<const Label&>(*each);
-    if (Shows(label) && !EndsWithColon(label) && label.index < 0 && NearestLabel(label, true) == &caption)
-      return &label;
-  }
-  return nullptr;
-}
-
 QString NameOfBox(const Visual& control) {
-  if (const Label* label = NearestLabel(control, false)) return WithoutColon(Spoken(label->Caption));
+  if (const QString label = LabelTextOf(control); !label.isEmpty()) return label;
   switch (control.kind) {
     case Control::Kind::DriveListBox:
       return "Places";
@@ -115,21 +110,39 @@ QString Spoken(const std::string& text) {
   return QString::fromStdString(WithoutAccessKey(text)).simplified();
 }
 
-const Label* LabelOf(const Visual& control) { return NearestLabel(control, false); }
+QString LabelTextOf(const Visual& control) {
+  const std::vector<Lettered> labels = LabelsOn(control.form);
+  const Lettered* label =
+      Nearest(labels, control, 400, 1000, [](const Lettered& each) { return !each.IsFigure(); });
+  return label ? WithoutColon(label->text) : QString();
+}
 
-QString NameOfLabel(const Label& label) {
-  const QString text = Spoken(label.Caption);
-  if (text.isEmpty()) return "";
-  if (EndsWithColon(label)) return ValueOf(label) ? "" : text;
-  if (label.index >= 0 && IsBoard(label.form)) return SpokenPlace(label) + ": " + text;
-  if (IsMessage(label) || text.contains(':')) return text;
-  const Label* caption = NearestLabel(label, true);
-  return caption && ValueOf(*caption) == &label ? Spoken(caption->Caption) + " " + text : text;
+std::map<const Label*, QString> NamesOfLabels(const Form& form) {
+  const std::vector<Lettered> labels = LabelsOn(form);
+  const bool board = IsBoard(form);
+  std::map<const Label*, QString> names;
+  for (const Lettered& each : labels) names[each.label] = each.text;
+  if (!board) return names;
+  for (const Lettered& each : labels) {
+    const Lettered* title =
+        each.IsFigure() && each.label->index < 0
+            ? Nearest(labels, *each.label, 100, 30,
+                      [&](const Lettered& other) { return other.IsTitle() && other.label->index < 0; })
+            : nullptr;
+    if (title) {
+      names[each.label] = WithoutColon(title->text) + ": " + each.text;
+      names.erase(title->label);
+    } else if (each.IsFigure() || each.label->index >= 0) {
+      names[each.label] = SpokenName(*each.label) + ": " + each.text;
+    }
+  }
+  return names;
 }
 
 bool IsMessage(const Label& label) {
   constexpr int kLarge = 12;  // points
-  return label.parent == &label.form && IsBoard(label.form) && !EndsWithColon(label) && label.index < 0 &&
+  return label.parent == &label.form && IsBoard(label.form) && label.index < 0 &&
+         !QString::fromStdString(label.Caption).trimmed().endsWith(':') &&
          (label.FontSize >= kLarge || label.name.starts_with("ScoringLabel")) &&
          HasLetter(QString::fromStdString(label.Caption));
 }
@@ -152,8 +165,7 @@ void NameWidgets(FormWindow& window) {
       case Control::Kind::CheckBox:
         break;
       case Control::Kind::OptionButton:
-        if (const Label* label = NearestLabel(visual, true))
-          description = WithoutColon(Spoken(label->Caption));
+        description = LabelTextOf(visual);
         break;
       default:
         name = NameOfBox(visual);

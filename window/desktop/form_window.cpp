@@ -152,7 +152,7 @@ void FormWindow::Leave() {
   if (keyboard_) keyboard_->Leave();
   for (auto& [control, widget] : widgets_) {
     widget->removeEventFilter(this);
-    widget->disconnect();
+    disconnect(widget, nullptr, widget, nullptr);  // not what Qt itself has tied to its end
   }
   canvas_->setEnabled(false);
   hide();

@@ -1,8 +1,10 @@
 #include "window/desktop/menus.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -82,9 +84,13 @@ void Menus::Build(const Control& parent, QWidget& holder) {
       holder.addAction(action);
       QObject::connect(action, &QAction::triggered, [this, entry] {
         Apply(*entry);  // Qt has set a tick by itself
-        front_.Deliver(form_, [entry] {
-          if (player::WhyNot(*entry).empty()) player::Click(*entry);
-        });
+        const auto click = [this, entry] {
+          front_.Deliver(form_, [entry] {
+            if (player::WhyNot(*entry).empty()) player::Click(*entry);
+          });
+        };
+        // Whoever asks for it over a bus gets no answer before this is done, and it may open a window.
+        QAccessible::isActive() ? QTimer::singleShot(0, bar_, click) : click();
       });
     }
     actions_[entry] = action;
