@@ -111,7 +111,9 @@ TEST_F(Keys, WalkToWhateverCanBePlayed) {
         if (Cursor()) seen.insert(Cursor());
       }
       for (const Visual* each : wanted) EXPECT_TRUE(seen.contains(each)) << digit << each->FullName();
-      if (!held) EXPECT_EQ(seen.size(), wanted.size()) << digit;
+      if (!held) {
+        EXPECT_EQ(seen.size(), wanted.size()) << digit;
+      }
     }
     Game().Discard();
     suite.common.selector->Show();

@@ -312,11 +312,6 @@ bool DesktopFrontEnd::OpenPage(const std::string& browser, const std::string& ur
 
 bool DesktopFrontEnd::MustLeave() const { return leaving::IsWanted(); }
 
-void DesktopFrontEnd::PlayWave(const std::string& path) {
-  access_.Heard(path);
-  media_.PlayWave(path);
-}
-
 void DesktopFrontEnd::Painted() {
   if (painted_) return;
   painted_ = true;
