@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QShortcutEvent>
+#include <QTimer>
 #include <algorithm>
 
 #include "window/desktop/canvas.h"
@@ -390,8 +391,10 @@ void Keyboard::ShowRing() {
   ring_ = ring;
 }
 
-void Keyboard::Paint(QPainter& painter) const {
+void Keyboard::Paint(QPainter& painter) {
   const QRect ring = Ring();
+  // A card that goes while a handler waits takes the ring along, which is larger than what is painted now.
+  if (ring != ring_) QTimer::singleShot(0, this, [this] { ShowRing(); });
   if (ring.isNull()) return;
   const double out = 0.5 + kEdgeWidth + kRingWidth / 2;
   const QRectF path = QRectF(ring).adjusted(-out, -out, out, out);

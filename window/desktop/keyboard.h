@@ -54,7 +54,7 @@ class Keyboard : public QObject {
   void FocusBoard();
   void ShowRing();
   QRect PlaceOf(const Visual& control) const;
-  void Paint(QPainter& painter) const;
+  void Paint(QPainter& painter);
   void OrderTabs();
   std::vector<Visual*> Choices() const;
 
