@@ -15,6 +15,7 @@ class GameGuide : public Guide {
   explicit GameGuide(GameWindow& window) : window_(window) {}
 
   std::vector<KeyRow> Keys() const override;
+  bool InGame() const override { return window_.InGame(); }
   bool Paused() const override { return window_.IsPaused(); }
   std::string State() const override;
   bool IsOrnament(const Control& control) const override;

@@ -65,6 +65,8 @@ class Guide {
   // Whether the window is a choice: it starts with what was chosen last, of the buttons that digits stand
   // for.
   virtual bool IsChoice() const { return false; }
+  // Whether a game goes on: the keyboard stays with the board, also while nothing lies there.
+  virtual bool InGame() const { return false; }
   // Whether the player has paused the window: a key that only pauses does nothing then.
   virtual bool Paused() const { return false; }
   // Where the window stands, in short sentences: "Round 2. Score 12,300. 45 seconds left."

@@ -48,7 +48,8 @@ FormWindow::FormWindow(Form& form, DesktopFrontEnd& front) : form(form), front_(
     widgets_[control] = widget;
   }
   if (Guide* guide = front.GuideOf(form)) comfort_ = std::make_unique<Comfort>(*this, front, *guide);
-  if (Guide* guide = front.GuideOf(form)) keyboard_ = new Keyboard(*this, front, *guide);
+  if (Guide* guide = front.GuideOf(form); guide && !guide->Keys().empty())
+    keyboard_ = new Keyboard(*this, front, *guide);
   setWindowTitle(QString::fromStdString(form.Caption));
   zoomKept_.setSingleShot(true);
   zoomKept_.setInterval(500);

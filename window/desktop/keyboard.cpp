@@ -109,7 +109,8 @@ void Keyboard::Leave() {
 
 void Keyboard::Settle() {
   if (!guide_) return;
-  const bool wasEmpty = spots_.empty();
+  const bool wasOpen = open_;
+  open_ = guide_->InGame();
   spots_ = guide_->Spots();
   std::erase_if(selected_, [&](const Visual* each) {
     return std::ranges::none_of(spots_, [&](const Spot& s) { return s.control == each && s.selected; });
@@ -117,13 +118,12 @@ void Keyboard::Settle() {
   for (const Spot& spot : spots_)
     if (spot.selected && std::ranges::find(selected_, spot.control) == selected_.end())
       selected_.push_back(spot.control);
+  canvas_.setFocusPolicy(open_ ? Qt::StrongFocus : Qt::NoFocus);
+  if (open_ && !wasOpen) FocusBoard();
   if (spots_.empty()) {
     begun_.clear();
     cursor_ = nullptr;
-    canvas_.setFocusPolicy(Qt::NoFocus);
   } else {
-    canvas_.setFocusPolicy(Qt::StrongFocus);
-    if (wasEmpty) FocusBoard();
     const auto stands = [this](const Spot& spot) { return spot.control == cursor_; };
     if (std::ranges::none_of(spots_, stands)) {
       // The nearest to where it stood; at first the first one.
@@ -144,10 +144,10 @@ void Keyboard::Settle() {
   ShowRing();
 }
 
-bool Keyboard::HoldsFocus() const { return guide_ && !spots_.empty() && boardHasFocus_; }
+bool Keyboard::HoldsFocus() const { return guide_ && open_ && boardHasFocus_; }
 
 void Keyboard::FocusBoard() {
-  if (spots_.empty()) return;
+  if (!open_) return;
   boardHasFocus_ = true;
   if (window_.focusWidget() != &canvas_) canvas_.setFocus(Qt::OtherFocusReason);
 }
@@ -224,7 +224,7 @@ bool Keyboard::Take(const QKeyEvent& key, const QWidget* focus) {
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (held != Qt::NoModifier || focus != &canvas_ || spots_.empty()) return false;
+      if (held != Qt::NoModifier || focus != &canvas_ || !open_) return false;
       if (!key.isAutoRepeat()) ClickCursor();
       return true;
     default:
@@ -331,7 +331,7 @@ void Keyboard::ClickCursor() {
 // --- The cursor ----------------------------------------------------------------------------------
 
 bool Keyboard::TakeArrow(const QKeyEvent& key) {
-  if (spots_.empty()) return false;
+  if (!open_) return false;
   begun_.clear();
   const bool showed = boardHasFocus_;
   FocusBoard();

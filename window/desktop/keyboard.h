@@ -24,7 +24,7 @@ class Keyboard : public QObject {
   // The window is being shown.
   void Shown();
   // A handler has ended: the cursor stays with the places that there are, and the board takes the keyboard
-  // when cards come to it.
+  // when a game begins.
   void Settle();
   // Whether the keyboard belongs to the board, whatever control has the focus by the model.
   bool HoldsFocus() const;
@@ -68,6 +68,7 @@ class Keyboard : public QObject {
   std::map<char, const Visual*> ranks_;  // clicked last by their rank
   const Visual* cursor_ = nullptr;
   QRect cursorPlace_, ring_;    // the latter as it was painted last
+  bool open_ = false;           // a game goes on
   bool boardHasFocus_ = false;  // or had it when a menu was opened
   bool keysUsed_ = false;       // last, and not the mouse
   std::string begun_;           // keys of a click that takes several
