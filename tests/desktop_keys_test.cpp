@@ -11,6 +11,7 @@
 #include <set>
 
 #include "games/duopick/duopick.h"
+#include "games/fivestack/fivestack.h"
 #include "games/games.h"
 #include "games/guides.h"
 #include "games/handgrid/handgrid.h"
@@ -210,6 +211,26 @@ TEST_F(Keys, StandForPlacesWhereAGameHasDigits) {
   Press(Qt::Key_Backspace);  // what is selected takes no click here
   EXPECT_EQ(duopick.CardsSelected, 0);
   EXPECT_EQ(duopick.PairsCount + duopick.RunsCount, 0);
+}
+
+// While a round is paid its board is empty, and no key falls through to a button that would end the game.
+TEST_F(Keys, StayWithABoardThatIsEmptyForAWhile) {
+  auto& game = Open<frmFivestack>("2");
+  front.onSleep = [&] {
+    for (const int key : {Qt::Key_Right, Qt::Key_Return}) input::Key(*front.WindowOf(game), key);
+  };
+  bool asked = false;
+  QTimer guard;
+  QObject::connect(&guard, &QTimer::timeout, [&] {
+    if (QWidget* box = QApplication::activeModalWidget()) asked = box->close();
+  });
+  guard.start(20);
+  front.Deliver(game, [&] { player::Click(game.cmdGiveUp); });
+  EXPECT_TRUE(input::Await([&] { return game.phase == Phase::Playing; }));
+  input::Settle();
+  EXPECT_FALSE(asked);
+  EXPECT_EQ(game.CurrentRound, 2);
+  EXPECT_EQ(Focus(), "canvas");
 }
 
 TEST_F(Keys, AreShownInMenusAndInAWindowThatPauses) {

@@ -9,6 +9,7 @@ or when the name that was typed isn't in its table. All seven take some four min
 """
 import os
 import random
+import signal
 import subprocess
 import sys
 import tempfile
@@ -176,6 +177,7 @@ def play(player, key, title, table, moves, seconds, ends):
 
 
 def main():
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("told to end"))
     program, pictures, wanted = sys.argv[1], (sys.argv + [""])[2], sys.argv[3:]
     if pictures:
         os.makedirs(pictures, exist_ok=True)
