@@ -62,7 +62,10 @@ const Lettered* Nearest(const std::vector<Lettered>& labels, const Visual& contr
   const Lettered* nearest = nullptr;
   int least = kNever;
   for (const Lettered& each : labels) {
-    if (each.label == &control || each.label->parent != control.parent || !fits(each)) continue;
+    // What stands on a picture belongs to what stands around it.
+    const bool together =
+        each.label->parent == control.parent || control.parent->kind == Control::Kind::PictureBox;
+    if (each.label == &control || !together || !fits(each)) continue;
     if (const int here = Distance(each.rect, rect, farthestLeft, costAbove); here < least) {
       least = here;
       nearest = &each;
