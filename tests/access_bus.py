@@ -226,7 +226,7 @@ class Node:
             child.dump(depth + 1)
 
 
-def open_accessibility(session_address):
+def accessible_bus(session_address):
     """Turns the desktop's accessibility on and connects to its bus."""
     session = Bus(session_address)
     session.call("org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set", "ssv",

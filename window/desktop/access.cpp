@@ -46,10 +46,12 @@ void Access::Gone(const Form& form) {
   std::erase_if(said_, [&](const auto& each) { return &each.first->form == &form; });
 }
 
-void Access::Heard(const std::string& wave) {
-  if (wave != "\\Chord.wav" || !QAccessible::isActive()) return;
-  refused_ = true;
-  if (!flush_.isActive()) flush_.start();
+void Access::Heard(const std::string& wave, const Control* clicked) {
+  if (!wave.ends_with("Chord.wav") || !clicked || !QAccessible::isActive()) return;
+  FormWindow* window = front_.WindowOf(clicked->form);
+  if (!window) return;
+  const Spot spot = BoardAccessOf(*window)->SpotOf(static_cast<const Visual&>(*clicked));
+  Announce(*window, spot.text.empty() ? "Refused" : "Refused: " + QString::fromStdString(spot.text));
 }
 
 void Access::Flush() {
@@ -61,8 +63,6 @@ void Access::Flush() {
     BoardAccessOf(*window)->TellChanges();
     TellMessages(*window);
   }
-  if (std::exchange(refused_, false) && !front_.platform.forms.empty())
-    if (FormWindow* window = front_.WindowOf(*front_.platform.forms.front())) Announce(*window, "Refused");
 }
 
 // A count changes nothing but figures: it is said when it begins.
@@ -83,10 +83,11 @@ void Access::TellMessages(FormWindow& window) {
 
 void Access::CursorMoved(FormWindow& window) {
   if (!QAccessible::isActive()) return;
-  if (QAccessibleInterface* item = BoardAccessOf(window)->focusChild()) {
-    QAccessibleEvent event(item, QAccessible::Focus);
-    QAccessible::updateAccessibility(&event);
-  }
+  QAccessibleInterface* const item = BoardAccessOf(window)->CursorItem();
+  const QAccessible::Id id = item ? QAccessible::uniqueId(item) : 0;
+  if (std::exchange(focus_, id) == id || !item) return;
+  QAccessibleEvent event(item, QAccessible::Focus);
+  QAccessible::updateAccessibility(&event);
 }
 
 void Access::TellState(FormWindow& window) {

@@ -27,9 +27,9 @@ class Access : private QAccessible::ActivationObserver {
   // A window stands there, or is gone.
   void Shown(FormWindow& window);
   void Gone(const Form& form);
-  // A wave was asked for: that of a refusal is told in words as well.
-  void Heard(const std::string& wave);
-  // The card that keys mean is another one.
+  // A click on that control, if any, came to this wave: that of a refusal is told in words as well.
+  void Heard(const std::string& wave, const Control* clicked);
+  // The card that keys mean may be another one.
   void CursorMoved(FormWindow& window);
   // How the game stands, for ears and eyes.
   void TellState(FormWindow& window);
@@ -47,5 +47,5 @@ class Access : private QAccessible::ActivationObserver {
   std::unordered_set<const Form*> dirty_;
   // Labels that show a message, and what was last said of each, without its figures.
   std::unordered_map<const Control*, QString> said_;
-  bool refused_ = false;
+  QAccessible::Id focus_ = 0;  // the item that was told to have it last
 };

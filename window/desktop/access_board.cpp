@@ -9,6 +9,8 @@
 #include "window/desktop/canvas.h"
 #include "window/desktop/desktop.h"
 #include "window/desktop/form_window.h"
+#include "window/desktop/keyboard.h"
+#include "window/desktop/notes.h"
 #include "window/desktop/scene.h"
 
 namespace {
@@ -72,9 +74,7 @@ std::vector<Spot> BoardAccess::Spots() const {
   return Lives() ? Ask(Front().GuideOf(Window().form), &Guide::Spots) : std::vector<Spot>();
 }
 
-std::vector<Note> BoardAccess::Notes() const {
-  return Lives() ? Ask(Front().GuideOf(Window().form), &Guide::Notes) : std::vector<Note>();
-}
+std::vector<Note> BoardAccess::Notes() const { return Lives() ? Board().Notes() : std::vector<Note>(); }
 
 Spot BoardAccess::SpotOf(const Visual& control) const {
   for (Spot& spot : Spots())
@@ -96,6 +96,10 @@ QAccessibleInterface* BoardAccess::Keep(Key key, Make make) const {
   QAccessibleInterface* item = make(const_cast<BoardAccess&>(*this));
   items_[key] = QAccessible::registerAccessibleInterface(item);
   return item;
+}
+
+QAccessibleInterface* BoardAccess::CardItem(Visual& control) const {
+  return Keep({&control, 0}, [&](BoardAccess& board) { return MakeCardItem(board, control); });
 }
 
 // The texts and widgets in the order in which they are read: line by line.
@@ -146,12 +150,12 @@ std::vector<QAccessibleInterface*> BoardAccess::Rest() const {
   }
   const std::vector<Note> notes = Notes();
   for (size_t i = 0; i < notes.size(); ++i) {
+    const QString text = QString::fromStdString(notes[i].text);
+    const bool isNumber = std::ranges::all_of(text, [](QChar letter) { return letter.isDigit(); });
+    if (isNumber) continue;  // the rows of a table have theirs
     const int number = static_cast<int>(i);
-    QAccessibleInterface* item =
-        Keep({nullptr, number}, [&](BoardAccess& board) { return MakeNoteItem(board, number); });
-    const QRect rect(Pixels(notes[i].left), Pixels(notes[i].top), Pixels(notes[i].width),
-                     Pixels(notes[i].height));
-    put(rect.translated(Origin(*notes[i].within)), item);
+    put(NoteRect(notes[i]),
+        Keep({nullptr, number}, [&](BoardAccess& board) { return MakeNoteItem(board, number); }));
   }
   std::ranges::stable_sort(placed, {}, [](const Placed& each) { return each.rect.center().y(); });
   for (auto line = placed.begin(); line != placed.end();) {
@@ -171,9 +175,7 @@ std::vector<QAccessibleInterface*> BoardAccess::Children() const {
   std::vector<QAccessibleInterface*> children;
   if (!Lives()) return children;
   for (const Spot& spot : Spots())
-    if (IsDrawn(spot.control->kind))
-      children.push_back(
-          Keep({spot.control, 0}, [&](BoardAccess& board) { return MakeCardItem(board, *spot.control); }));
+    if (IsDrawn(spot.control->kind)) children.push_back(CardItem(*spot.control));
   std::ranges::copy(Rest(), std::back_inserter(children));
   for (const QAccessible::Id id : sayings_) children.push_back(QAccessible::accessibleInterface(id));
   return children;
@@ -208,7 +210,18 @@ QAccessibleInterface* BoardAccess::childAt(int x, int y) const {
   return nullptr;
 }
 
-QAccessibleInterface* BoardAccess::focusChild() const { return QAccessibleWidget::focusChild(); }
+QAccessibleInterface* BoardAccess::CursorItem() const {
+  if (!Lives() || !Board().hasFocus() || !Window().Keys()) return nullptr;
+  const Visual* stands = Window().Keys()->Stands();
+  for (const Spot& spot : Spots())
+    if (spot.control == stands && IsDrawn(spot.control->kind)) return CardItem(*spot.control);
+  return nullptr;
+}
+
+QAccessibleInterface* BoardAccess::focusChild() const {
+  QAccessibleInterface* const card = CursorItem();
+  return card ? card : QAccessibleWidget::focusChild();
+}
 
 QString BoardAccess::text(QAccessible::Text text) const {
   return text == QAccessible::Name && Lives() && Front().GuideOf(Window().form) && IsBoard(Window().form)

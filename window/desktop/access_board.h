@@ -31,6 +31,8 @@ class BoardAccess : public QAccessibleWidget {
   Spot SpotOf(const Visual& control) const;
   std::vector<Spot> Spots() const;
   std::vector<Note> Notes() const;
+  // The card that a key would click; null while the keyboard is elsewhere.
+  QAccessibleInterface* CursorItem() const;
   // The screen's area of an area of the board.
   QRect OnScreen(const QRect& area) const;
 
@@ -57,6 +59,7 @@ class BoardAccess : public QAccessibleWidget {
 
   std::vector<QAccessibleInterface*> Children() const;
   std::vector<QAccessibleInterface*> Rest() const;
+  QAccessibleInterface* CardItem(Visual& control) const;
   template <class Make>
   QAccessibleInterface* Keep(Key key, Make make) const;
 

@@ -7,6 +7,8 @@
 #include "window/desktop/canvas.h"
 #include "window/desktop/desktop.h"
 #include "window/desktop/form_window.h"
+#include "window/desktop/keyboard.h"
+#include "window/desktop/notes.h"
 #include "window/player.h"
 
 namespace {
@@ -64,7 +66,7 @@ class Clickable : public ControlItem, public QAccessibleActionInterface {
   using ControlItem::ControlItem;
 
   void* interface_cast(QAccessible::InterfaceType type) override {
-    return type == QAccessible::ActionInterface && isValid() && TakesClick()
+    return type == QAccessible::ActionInterface && isValid() && !actionNames().empty()
                ? static_cast<QAccessibleActionInterface*>(this)
                : nullptr;
   }
@@ -75,6 +77,7 @@ class Clickable : public ControlItem, public QAccessibleActionInterface {
   void doAction(const QString& name) override {
     if (!isValid() || name != pressAction() || !TakesClick()) return;
     QTimer::singleShot(0, &board_.Board(), [this] {
+      if (board_.Front().TakeAsHurry()) return;
       if (!isValid() || !board_.Board().SpotOf(control_)) return;  // no mouse could reach it
       board_.Front().Deliver(control_.form, [&control = control_] {
         if (player::WhyNot(control).empty()) player::Click(control);
@@ -90,7 +93,15 @@ class Clickable : public ControlItem, public QAccessibleActionInterface {
 class CardItem : public Clickable {
  public:
   using Clickable::Clickable;
-  QAccessible::Role role() const override { return QAccessible::Button; }
+  QAccessible::Role role() const override {
+    return TakesClick() ? QAccessible::Button : QAccessible::StaticText;
+  }
+  QStringList actionNames() const override { return Clickable::actionNames() << setFocusAction(); }
+  void doAction(const QString& name) override {
+    if (name == setFocusAction() && isValid() && board_.Window().Keys())
+      return board_.Window().Keys()->GoTo(control_);
+    Clickable::doAction(name);
+  }
 
  protected:
   QString Name() const override {
@@ -106,7 +117,7 @@ class CardItem : public Clickable {
     state.selected = spot.selected;
     state.disabled = !control_.Enabled;
     state.focusable = board_.Board().focusPolicy() != Qt::NoFocus;
-    state.focused = board_.focusChild() == this;
+    state.focused = board_.CursorItem() == this;
   }
 };
 
@@ -156,12 +167,7 @@ class NoteItem : public Item {
  protected:
   QString Name() const override { return QString::fromStdString(Told().text).simplified(); }
   bool Shows() const override { return Told().within; }
-  QRect Area() const override {
-    const Note note = Told();
-    return note.within ? QRect(Pixels(note.left), Pixels(note.top), Pixels(note.width), Pixels(note.height))
-                             .translated(Origin(*note.within))
-                       : QRect();
-  }
+  QRect Area() const override { return Told().within ? NoteRect(Told()) : QRect(); }
 
  private:
   Note Told() const {
@@ -257,6 +263,8 @@ class RowItem : public Item {
   QString Name() const override {
     QString name = QString::number(number_ + 1) + ".";
     for (const Label* label : Labels()) name += " " + Spoken(label->Caption);
+    for (const Note& note : board_.Notes())
+      if (note.look == Note::Look::Mark && NoteRect(note).contains(Area().center())) name += ", just entered";
     return name;
   }
   QRect Area() const override {

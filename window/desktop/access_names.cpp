@@ -26,7 +26,10 @@ struct Lettered {
 
   // Figures say nothing without what stands beside them.
   bool IsFigure() const { return !HasLetter(text); }
-  bool IsTitle() const { return !IsFigure() && !text.back().isDigit() && !IsMessage(*label); }
+  // "Time: 45" has its own.
+  bool IsTitle() const {
+    return !IsFigure() && !(text.contains(':') && text.back().isDigit()) && !IsMessage(*label);
+  }
 };
 
 std::vector<Lettered> LabelsOn(const Form& form) {
@@ -59,7 +62,10 @@ const Lettered* Nearest(const std::vector<Lettered>& labels, const Visual& contr
   const Lettered* nearest = nullptr;
   int least = kNever;
   for (const Lettered& each : labels) {
-    if (each.label == &control || each.label->parent != control.parent || !fits(each)) continue;
+    // What stands on a picture belongs to what stands around it.
+    const bool together =
+        each.label->parent == control.parent || control.parent->kind == Control::Kind::PictureBox;
+    if (each.label == &control || !together || !fits(each)) continue;
     if (const int here = Distance(each.rect, rect, farthestLeft, costAbove); here < least) {
       least = here;
       nearest = &each;
@@ -123,19 +129,23 @@ std::map<const Label*, QString> NamesOfLabels(const Form& form) {
   std::map<const Label*, QString> names;
   for (const Lettered& each : labels) names[each.label] = each.text;
   if (!board) return names;
+  std::vector<const Label*> told;
   for (const Lettered& each : labels) {
-    const Lettered* title =
-        each.IsFigure() && each.label->index < 0
-            ? Nearest(labels, *each.label, 100, 30,
-                      [&](const Lettered& other) { return other.IsTitle() && other.label->index < 0; })
-            : nullptr;
-    if (title) {
-      names[each.label] = WithoutColon(title->text) + ": " + each.text;
-      names.erase(title->label);
-    } else if (each.IsFigure() || each.label->index >= 0) {
+    if (each.label->index >= 0) {
       names[each.label] = SpokenName(*each.label) + ": " + each.text;
+    } else if (each.IsFigure()) {
+      // In a frame figures may stand beside figures, as in a table.
+      const bool framed = each.label->parent->kind == Control::Kind::Frame;
+      const auto fits = [&](const Lettered& other) {
+        return other.label->index < 0 &&
+               (other.IsTitle() || (framed && other.rect.right() < each.rect.left()));
+      };
+      const Lettered* title = Nearest(labels, *each.label, 100, 30, fits);
+      names[each.label] = (title ? WithoutColon(title->text) : SpokenName(*each.label)) + ": " + each.text;
+      if (title) told.push_back(title->label);
     }
   }
+  for (const Label* label : told) names.erase(label);
   return names;
 }
 
@@ -156,12 +166,15 @@ void NameWidgets(FormWindow& window) {
     const auto& visual = static_cast<const Visual&>(*control);
     QString name, description;
     switch (control->kind) {
-      case Control::Kind::CommandButton:
+      case Control::Kind::CommandButton: {
+        const std::string& caption = static_cast<const CommandButton&>(*control).Caption;
+        const QString spoken = Spoken(caption);
+        if (spoken != QString::fromStdString(WithoutAccessKey(caption)))
+          name = spoken;  // it has blanks around it
         for (const Spot& spot : spots)
-          if (spot.control == control)
-            name = Spoken(static_cast<const CommandButton&>(*control).Caption) + ", " +
-                   QString::fromStdString(spot.text);
+          if (spot.control == control) name = spoken + ", " + QString::fromStdString(spot.text);
         break;
+      }
       case Control::Kind::CheckBox:
         break;
       case Control::Kind::OptionButton:

@@ -271,7 +271,7 @@ void DesktopFrontEnd::PlayWaveInAHurry() {
 
 // A refusal is shown and told as well as heard.
 void DesktopFrontEnd::WaveWithheld(const std::string& path) {
-  access_.Heard(path);
+  access_.Heard(path, clicked_);
   if (!clicked_ || clicked_->kind != Control::Kind::Image || !path.ends_with("Chord.wav")) return;
   if (FormWindow* window = WindowOf(clicked_->form))
     window->Board().Refuse(static_cast<const Visual&>(*clicked_));

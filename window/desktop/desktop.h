@@ -40,6 +40,8 @@ class DesktopFrontEnd : public FrontEnd {
 
   // Runs what the player did on a form: now, or as soon as the handler that is under way has ended or waits.
   void Deliver(Form& form, std::function<void()> deed);
+  // A press that came by no mouse or key: whether it only lets the handler under way run on without waiting.
+  bool TakeAsHurry() { return hurry_.TakePress(); }
   // Whether a handler is under way that doesn't wait for the player.
   bool Busy() const { return busy_; }
   // Whether the form is there and loaded.

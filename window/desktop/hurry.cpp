@@ -80,6 +80,13 @@ Hurry::Handler::~Handler() {
   hurry_.state_ = outer_;
 }
 
+bool Hurry::TakePress() {
+  if (!loop_) return false;
+  state_.hurried = true;
+  loop_->quit();
+  return true;
+}
+
 void Hurry::LetThrough() {
   delete word_;
   if (state_.hurried) Drain();

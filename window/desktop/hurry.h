@@ -48,6 +48,8 @@ class Hurry : public QObject {
     Hurry& hurry_;
     const State outer_;
   };
+  // A press that came by no mouse or key. False if it hurries nothing now.
+  bool TakePress();
   // The handler under way is about to let input through: what was pressed in a hurry doesn't get there.
   void LetThrough();
   // The handler under way waits for the player, or has done so: a new second begins.

@@ -359,6 +359,13 @@ bool Keyboard::TakeArrow(const QKeyEvent& key) {
   return true;
 }
 
+void Keyboard::GoTo(const Visual& control) {
+  if (std::ranges::none_of(spots_, [&](const Spot& spot) { return spot.control == &control; })) return;
+  keysUsed_ = true;
+  FocusBoard();
+  MoveTo(&control);
+}
+
 void Keyboard::MoveTo(const Visual* control) {
   if (!control) return;
   cursor_ = control;
@@ -384,6 +391,7 @@ QRect Keyboard::Ring() const {
 }
 
 void Keyboard::ShowRing() {
+  front_.Ears().CursorMoved(window_);
   const QRect ring = Ring();
   if (ring == ring_) return;
   for (const QRect& each : {ring_, ring})

@@ -31,6 +31,10 @@ class Keyboard : public QObject {
   // The form and its guide are gone.
   void Leave();
 
+  // Where the next click by a key would go; null if the keyboard belongs to another control.
+  const Visual* Stands() const { return HoldsFocus() ? cursor_ : nullptr; }
+  // The cursor goes to this place, and the keyboard to the board.
+  void GoTo(const Visual& control);
   // Where the cursor stands; null if it doesn't show.
   const Visual* Cursor() const;
   // What the ring goes around, in pixels at 100 %: the cursor's place, or a widget on the board that has the

@@ -85,7 +85,7 @@ QWidget* MakeTextBox(TextBox& box, DesktopFrontEnd& front, QWidget* parent) {
   }
   auto* widget = new Clickable<QLineEdit>(box, front, parent);
   widget->setReadOnly(box.Locked);
-  QObject::connect(widget, &QLineEdit::textEdited, widget,
+  QObject::connect(widget, &QLineEdit::textChanged, widget,
                    [&](const QString& text) { Edit(box, front, text); });
   return widget;
 }
