@@ -324,7 +324,8 @@ double FormWindow::WantedZoom() const {
   // The one that the player has dragged the window to isn't a round number.
   if (form.Sizable && view.fitNormal && (zoomKept_.isActive() || std::abs(zoom_ - wanted) < 0.006))
     return zoom_;
-  const QSize frame = isVisible() ? frameSize() - size() : QSize(4, 30);
+  // A window that comes back from the full screen doesn't know its frame yet.
+  const QSize frame = QSize(4, 30).expandedTo(isVisible() ? frameSize() - size() : QSize());
   const QSize room = screen()->availableGeometry().size() - frame;
   const double width = (form.Sizable && form.MinWidth > 0 ? form.MinWidth : form.Width) / 15.0;
   const double height = (form.Sizable && form.MinHeight > 0 ? form.MinHeight : form.Height) / 15.0;
