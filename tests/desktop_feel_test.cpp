@@ -22,6 +22,7 @@ class frmCount : public Form {
  public:
   explicit frmCount(Platform& platform) : Form(platform, "frmCount") {
     Width = 6000;
+    Sizable = true;
     Height = 4500;
     Card.Move(300, 300, 1065, 1455);
     Other.Move(1800, 300, 1065, 1455);
@@ -57,30 +58,31 @@ class frmCount : public Form {
   std::function<void()> then;
   std::string log;
   Image Card{*this, "Card"}, Other{*this, "Other"}, Pile{*this, "Pile"};
+  ControlArray<Image, 9> Row{*this, "Row"};
+  Label lblSum{*this, "lblSum"};
   CommandButton cmdCount{*this, "cmdCount"}, cmdNext{*this, "cmdNext"};
 };
 
 class CountGuide : public Guide {
  public:
-  explicit CountGuide(frmCount& form) : score(form, "lblSum") {}
-  const Label* Score() const override { return &score; }
-  Label score;
-};
+  explicit CountGuide(frmCount& form) : form_(form) {}
+  const Label* Score() const override { return &form_.lblSum; }
 
-// With waits that are as long as told, and no sound.
-class PatientDesktop : public DesktopFrontEnd {
- public:
-  using DesktopFrontEnd::DesktopFrontEnd;
-  using DesktopFrontEnd::Wait;
-  bool moves = false;
-  int waves = 0;
-  bool ShowsMotion() const override { return moves; }
+ private:
+  frmCount& form_;
 };
 
 class Feel : public testing::Test {
  protected:
   void SetUp() override {
+    front.guides = [](Form& each) { return std::make_unique<CountGuide>(static_cast<frmCount&>(each)); };
+    for (int i = 0; i < 9; ++i) {
+      form.Row(i).Move(300 + 600 * i, 3000, 1065, 1455);
+      form.Row(i).BorderStyle = 1;
+    }
+    form.lblSum.Caption = "1,000";
     form.Show();
+    Do([] {});
     input::Settle();
     // Keys come with the time of Qt's own clock.
     struct Clock : QObject {
@@ -119,9 +121,32 @@ class Feel : public testing::Test {
     return took;
   }
 
+  // What has been painted, as it stands on the screen.
+  QImage Screen() {
+    FormWindow& window = *front.WindowOf(form);
+    return window.screen()->grabWindow(window.winId()).toImage();
+  }
+  // Runs a handler, and shows its first frame.
+  void Do(const std::function<void()>& deed) {
+    front.Deliver(form, deed);
+    QApplication::processEvents();
+  }
+  // Whether the screen shows what a board painted anew shows.
+  bool LeavesNothing() {
+    if (!input::Await([&] { return Board().AtRest(); })) return false;
+    const auto paint = [&] {
+      input::Await([&, since = front.Milliseconds()] { return front.Milliseconds() > since + 40; });
+    };
+    paint();
+    const QImage left = Screen();
+    Board().update();
+    paint();
+    return left == Screen();
+  }
+
   const bool open = OpenScreen();
   TestFolder folder;
-  PatientDesktop front{{folder.Path(), CARDHAVEN_TEST_DATA}, Catalogue()};
+  DesktopFrontEnd front{{folder.Path(), CARDHAVEN_TEST_DATA}, Catalogue()};
   frmCount form{front.platform};
   QObject context;
 };
@@ -237,4 +262,116 @@ TEST_F(Feel, ClosingInAHurryAsksOnceAndAtTheEnd) {
   });
   EXPECT_LT(Count(), 1900);
   EXPECT_TRUE(input::Await([&] { return form.log == "( ) close "; })) << form.log;
+}
+
+TEST_F(Feel, CardsAreSeenToMoveButAreThereAtOnce) {
+  const int first = kFirstFace + 20;
+  const struct {
+    const char* what;
+    std::function<void()> deed;
+    bool moves;
+  } cases[] = {
+      {"laid on another place", [&] { form.Other.Picture = form.Card.Picture, form.Card.Picture = 0; }, true},
+      {"moved", [&] { form.Other.Top += 900; }, true},
+      {"drawn from the pile", [&] { form.Card.Picture = first; }, true},
+      {"turned over", [&] { form.Card.BorderStyle = 0, form.Card.Picture = kPalmTree.back; }, true},
+      {"turned up", [&] { form.Card.BorderStyle = 1, form.Card.Picture = first + 1; }, true},
+      {"cleared away", [&] { form.Card.Visible = false; }, true},
+      {"there again", [&] { form.Card.Visible = true; }, true},
+      {"covered with the whole board",
+       [&] {
+         SetVisible({&form.Card, &form.Pile}, false);
+       },
+       false},
+      {"laid out with the whole board",
+       [&] {
+         SetVisible({&form.Card, &form.Pile}, true);
+       },
+       false},
+      {"dealt",
+       [&] {
+         for (int i = 0; i < 9; ++i) form.Row(i).Picture = first + i;
+       },
+       false},
+      {"nothing", [&] { form.lblSum.Caption = "900"; }, false},
+  };
+  for (const auto& each : cases) {
+    Do(each.deed);
+    EXPECT_EQ(Board().AtRest(), !each.moves) << each.what;
+    const QImage moving = Screen();
+    EXPECT_TRUE(LeavesNothing()) << each.what;
+    EXPECT_EQ(Screen() != moving, each.moves) << each.what;
+  }
+  // A card on its way is clicked where it will lie.
+  Do([&] { form.Other.Picture = first + 30, form.Card.Move(3000, 1900, 1065, 1455); });
+  form.log.clear();
+  input::Click(front, form.Card);
+  input::Settle();
+  EXPECT_EQ(form.log, "card ");
+  // Nothing goes on behind what stops it, and nothing is left of it.
+  const std::function<void()> stops[] = {
+      [&] { Do([&] {
+              SetVisible({&form.Card, &form.Pile}, false);
+            }); },
+      [&] { form.Hide(), form.Show(); },
+      [&] { front.WindowOf(form)->resize(500, 400); },
+      [&] {
+        View view = front.GetView();
+        view.lessMotion = true;
+        front.SetView(view);
+        Do([&] { form.Card.Left += 300; });
+      },
+  };
+  for (const auto& stop : stops) {
+    SetVisible({&form.Card, &form.Pile}, true);
+    Do([&] { form.Card.Left += 300; });
+    EXPECT_TRUE(LeavesNothing());
+    Do([&] { form.Card.Left += 300; });
+    EXPECT_FALSE(Board().AtRest());
+    stop();
+    EXPECT_TRUE(Board().AtRest());
+    EXPECT_TRUE(LeavesNothing());
+  }
+}
+
+TEST_F(Feel, SumsFloatAndRefusalsFlashForAMomentOnly) {
+  const auto red = [&] {
+    const QRect rect = DrawnRect(form.Card, front.pictures);
+    const QColor edge = Screen().pixelColor(Board().mapTo(Board().window(), rect.center()).x(),
+                                            Board().mapTo(Board().window(), rect.topLeft()).y() + 1);
+    return edge.red() > 180 && edge.green() < 110;
+  };
+  for (const bool sounds : {true, false}) {
+    form.Card.OnClick = [&] {
+      sounds ? form.platform.sndPlaySound("\\Chord.wav") : front.WaveWithheld("\\Chord.wav");
+    };
+    EXPECT_FALSE(red());
+    input::Click(front, form.Card);
+    EXPECT_TRUE(input::Await(red)) << sounds;
+    EXPECT_TRUE(LeavesNothing());
+    EXPECT_FALSE(red());
+  }
+  // What a card brought floats up where it went; a fall doesn't, nor what is paid without one.
+  const auto lasts = [&](const std::function<void()>& deed) {
+    const auto begun = front.Milliseconds();
+    Do(deed);
+    EXPECT_TRUE(LeavesNothing());
+    return front.Milliseconds() - begun > 600;
+  };
+  EXPECT_TRUE(lasts([&] { form.Card.Visible = false, form.lblSum.Caption = "1,700"; }));
+  EXPECT_FALSE(lasts([&] { form.lblSum.Caption = "2,000"; }));
+  EXPECT_FALSE(lasts([&] { form.Other.Visible = false, form.lblSum.Caption = "1,500"; }));
+}
+
+TEST(Strike, RisesAlongACountAndIsNeverTwiceTheSame) {
+  EXPECT_EQ(StrikeOf(0).cents, 0);
+  EXPECT_EQ(StrikeOf(0).level, 100);
+  for (int step = 1; step < 90; ++step) {
+    const Strike strike = StrikeOf(step), next = StrikeOf(step + 1);
+    EXPECT_TRUE(strike.cents != next.cents || strike.level != next.level) << step;
+    EXPECT_LE(strike.cents, 730);
+    EXPECT_GE(strike.level, 80);
+    EXPECT_GT(StrikeOf(step + 20).cents, strike.cents - 56) << step;
+  }
+  EXPECT_GT(StrikeOf(45).cents, 400);
 }

@@ -67,7 +67,7 @@ class DesktopFrontEnd : public FrontEnd {
   virtual bool HeedsWindowManager() const { return true; }
   virtual bool HeedsPointer() const { return true; }
   // Whether cards are seen to move.
-  virtual bool ShowsMotion() const { return !view_.lessMotion; }
+  virtual bool ShowsMotion() const { return !LessMotion(); }
   // How many handlers have been run so far.
   long long HandlerNumber() const { return handlerNumber_; }
   // The control whose click the handler under way, or the last one, answers; null if it answers none.
