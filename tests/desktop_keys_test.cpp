@@ -17,6 +17,7 @@
 #include "games/handgrid/handgrid.h"
 #include "games/sumfall/sumfall.h"
 #include "games/treyshift/treyshift.h"
+#include "suite/dialogs.h"
 #include "suite/suite.h"
 #include "tests/desktop_screen.h"
 #include "tests/harness.h"
@@ -46,7 +47,7 @@ class Keys : public testing::Test {
   }
   // Does something that opens a box or a dialog, and `meanwhile` when that stands.
   void Amid(const std::function<void()>& opens, const std::function<void()>& meanwhile) {
-    QTimer::singleShot(30, [this, meanwhile] {
+    QTimer::singleShot(30, [meanwhile] {
       ASSERT_TRUE(QApplication::activeModalWidget());
       meanwhile();
       while (QWidget* left = QApplication::activeModalWidget()) left->close();
@@ -87,7 +88,7 @@ TEST_F(Keys, OpenAGameFromTheSelectorWhichRemembersIt) {
     const auto close = [this] { front.WindowOf(Game())->close(); };
     // "Giving up so soon?": the answer with which nothing ends comes first.
     Amid(close, [this] { Press(Qt::Key_Return); });
-    EXPECT_TRUE(Game().Loaded());
+    ASSERT_TRUE(suite.common.window);
     Amid(close, [this] { Press(Qt::Key_Left), Press(Qt::Key_Return); });
     EXPECT_EQ(Focus(), digit[0] == '5' ? "cmdSpirehold" : "cmdTreyshift");
   }
@@ -233,6 +234,24 @@ TEST_F(Keys, StayWithABoardThatIsEmptyForAWhile) {
   EXPECT_EQ(Focus(), "canvas");
 }
 
+// Who goes on pressing keys at a stuck board is told so once, and paid.
+TEST_F(Keys, DontKeepAStuckBoardFromBeingPaid) {
+  auto& game = Open<frmTreyshift>("7");
+  for (std::string& code : game.TempCards) code = "1S";
+  for (int slot = modTreyshift::kThirdRow; slot < modTreyshift::kFieldSlots; ++slot)
+    game.FieldCards[slot] = "2S";
+  int told = 0;
+  const std::function<void()> meanwhile = [&] {
+    if (game.lblScoring.Caption != "No more legal moves left!" || ++told > 20) return;
+    input::Key(*front.WindowOf(game), Qt::Key_Q, {}, "q");
+    front.onSleep = meanwhile;
+  };
+  front.onSleep = meanwhile;
+  Type("q");
+  EXPECT_TRUE(input::Await([&] { return game.CurrentRound == 2 && game.phase == Phase::Playing; }));
+  EXPECT_EQ(told, 1);
+}
+
 TEST_F(Keys, AreShownInMenusAndInAWindowThatPauses) {
   auto& game = Open<frmSumfall>("1");
   FormWindow& window = *front.WindowOf(game);
@@ -263,17 +282,20 @@ TEST_F(Keys, AreShownInMenusAndInAWindowThatPauses) {
 
 TEST_F(Keys, GoBackToAFieldThatWasRefused) {
   Type("1");
+  const auto refuse = [this](const char* name, const char* text) {
+    auto* field = QApplication::activeModalWidget()->findChild<QLineEdit*>(name);
+    field->setFocus(Qt::TabFocusReason);
+    field->selectAll();
+    Type(text);
+    QTimer::singleShot(30, [this] { Press(Qt::Key_Return); });  // the box
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(field->hasFocus()) << name;
+    EXPECT_EQ(field->selectedText(), text);
+  };
   Amid([this] { front.Deliver(Game(), [this] { player::Click(Game().mnuCustom); }); },
-       [this] {
-         Press(Qt::Key_Tab);
-         auto* field = QApplication::activeModalWidget()->findChild<QLineEdit*>("txtCompletion");
-         Type("0");  // takes the place of what was there
-         EXPECT_EQ(field->text(), "0");
-         QTimer::singleShot(30, [this] { Press(Qt::Key_Return); });  // the box
-         Press(Qt::Key_Return);
-         EXPECT_TRUE(field->hasFocus());
-         EXPECT_EQ(field->selectedText(), "0");
-       });
+       [&] { refuse("txtCompletion", "0"); });
+  Amid([this] { front.Deliver(Game(), [this] { frmHiScoreName(suite.common).Show(true); }); },
+       [&] { refuse("lblPlayerName", "a,p5"); });
 }
 
 // The ring stands out from what it is painted on, in rendered pixels: on baize, cards and backs.
