@@ -17,6 +17,7 @@
 #include "games/handgrid/handgrid.h"
 #include "games/sumfall/sumfall.h"
 #include "games/treyshift/treyshift.h"
+#include "suite/dialogs.h"
 #include "suite/suite.h"
 #include "tests/desktop_screen.h"
 #include "tests/harness.h"
@@ -87,7 +88,7 @@ TEST_F(Keys, OpenAGameFromTheSelectorWhichRemembersIt) {
     const auto close = [this] { front.WindowOf(Game())->close(); };
     // "Giving up so soon?": the answer with which nothing ends comes first.
     Amid(close, [this] { Press(Qt::Key_Return); });
-    EXPECT_TRUE(Game().Loaded());
+    ASSERT_TRUE(suite.common.window);
     Amid(close, [this] { Press(Qt::Key_Left), Press(Qt::Key_Return); });
     EXPECT_EQ(Focus(), digit[0] == '5' ? "cmdSpirehold" : "cmdTreyshift");
   }
@@ -263,17 +264,20 @@ TEST_F(Keys, AreShownInMenusAndInAWindowThatPauses) {
 
 TEST_F(Keys, GoBackToAFieldThatWasRefused) {
   Type("1");
+  const auto refuse = [this](const char* name, const char* text) {
+    auto* field = QApplication::activeModalWidget()->findChild<QLineEdit*>(name);
+    field->setFocus(Qt::TabFocusReason);
+    field->selectAll();
+    Type(text);
+    QTimer::singleShot(30, [this] { Press(Qt::Key_Return); });  // the box
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(field->hasFocus()) << name;
+    EXPECT_EQ(field->selectedText(), text);
+  };
   Amid([this] { front.Deliver(Game(), [this] { player::Click(Game().mnuCustom); }); },
-       [this] {
-         Press(Qt::Key_Tab);
-         auto* field = QApplication::activeModalWidget()->findChild<QLineEdit*>("txtCompletion");
-         Type("0");  // takes the place of what was there
-         EXPECT_EQ(field->text(), "0");
-         QTimer::singleShot(30, [this] { Press(Qt::Key_Return); });  // the box
-         Press(Qt::Key_Return);
-         EXPECT_TRUE(field->hasFocus());
-         EXPECT_EQ(field->selectedText(), "0");
-       });
+       [&] { refuse("txtCompletion", "0"); });
+  Amid([this] { front.Deliver(Game(), [this] { frmHiScoreName(suite.common).Show(true); }); },
+       [&] { refuse("lblPlayerName", "a,p5"); });
 }
 
 // The ring stands out from what it is painted on, in rendered pixels: on baize, cards and backs.
