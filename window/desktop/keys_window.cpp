@@ -12,6 +12,7 @@
 
 #include "window/desktop/desktop.h"
 #include "window/desktop/form_window.h"
+#include "window/desktop/style.h"
 #include "window/player.h"
 
 namespace {
@@ -82,6 +83,7 @@ void ShowKeys(FormWindow& window, DesktopFrontEnd& front) {
 
   auto* dialog = new QDialog(&window);
   dialog->setObjectName("frmKeys");
+  style::SetZoom(*dialog, style::ZoomOf(&window));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setWindowTitle("Keys");
   dialog->setWindowModality(Qt::ApplicationModal);
