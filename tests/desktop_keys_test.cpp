@@ -47,7 +47,7 @@ class Keys : public testing::Test {
   }
   // Does something that opens a box or a dialog, and `meanwhile` when that stands.
   void Amid(const std::function<void()>& opens, const std::function<void()>& meanwhile) {
-    QTimer::singleShot(30, [this, meanwhile] {
+    QTimer::singleShot(30, [meanwhile] {
       ASSERT_TRUE(QApplication::activeModalWidget());
       meanwhile();
       while (QWidget* left = QApplication::activeModalWidget()) left->close();
@@ -232,6 +232,24 @@ TEST_F(Keys, StayWithABoardThatIsEmptyForAWhile) {
   EXPECT_FALSE(asked);
   EXPECT_EQ(game.CurrentRound, 2);
   EXPECT_EQ(Focus(), "canvas");
+}
+
+// Who goes on pressing keys at a stuck board is told so once, and paid.
+TEST_F(Keys, DontKeepAStuckBoardFromBeingPaid) {
+  auto& game = Open<frmTreyshift>("7");
+  for (std::string& code : game.TempCards) code = "1S";
+  for (int slot = modTreyshift::kThirdRow; slot < modTreyshift::kFieldSlots; ++slot)
+    game.FieldCards[slot] = "2S";
+  int told = 0;
+  const std::function<void()> meanwhile = [&] {
+    if (game.lblScoring.Caption != "No more legal moves left!" || ++told > 20) return;
+    input::Key(*front.WindowOf(game), Qt::Key_Q, {}, "q");
+    front.onSleep = meanwhile;
+  };
+  front.onSleep = meanwhile;
+  Type("q");
+  EXPECT_TRUE(input::Await([&] { return game.CurrentRound == 2 && game.phase == Phase::Playing; }));
+  EXPECT_EQ(told, 1);
 }
 
 TEST_F(Keys, AreShownInMenusAndInAWindowThatPauses) {

@@ -201,7 +201,13 @@ bool frmTreyshift::IsStuck() const {
          std::all_of(FieldCards.begin() + kThirdRow, FieldCards.end(), isFilled);
 }
 
+// A click that has waited meanwhile doesn't tell it again: who goes on clicking would never come to the end.
 void frmTreyshift::EndStuckRound() {
+  if (std::exchange(endsStuck_, true)) return;
+  struct Reset {
+    bool& flag;
+    ~Reset() { flag = false; }
+  } const reset{endsStuck_};
   NoMovesLeft();
   TakeScore();
 }

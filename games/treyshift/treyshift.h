@@ -123,4 +123,6 @@ class frmTreyshift : public GameWindow {
   void ShowScoringLabel(bool visible);
   void ShowCardCount();
   void CenterFigures();
+
+  bool endsStuck_ = false;  // the stuck round is about to be paid
 };
