@@ -39,7 +39,7 @@ def fivestack(chance):
 
 
 def blackrush(chance):
-    return [" ".join(chance.choices("1234", k=8)), "minus", "Left space"]
+    return [" ".join(chance.choices("1234", k=3)), "minus", "Left space"]
 
 
 def handgrid(chance):
@@ -141,6 +141,7 @@ def play(player, key, title, table, moves, seconds, ends):
         while time.monotonic() - round_start < seconds and player.focus()[1] != NAME_DIALOG:
             for keys in moves(chance):
                 player.press(keys, 20)
+                time.sleep(0.1)  # a bust takes its time
             if not shown and time.monotonic() - start > 3:
                 player.press("Right")
                 time.sleep(0.2)
