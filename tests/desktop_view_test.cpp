@@ -86,7 +86,7 @@ TEST_F(ViewTest, ZoomEnlargesWindowsAndTheModelKeepsItsTwips) {
   ASSERT_TRUE(input::Await([&] { return game.InGame(); }));
   auto& sumfall = static_cast<frmSumfall&>(game);
   const int before = sumfall.UpCardPicture.Picture;
-  input::Click(front, sumfall.PlayCardPicture);
+  input::Press(WindowOf(game).Board(), QRectF(ModelRect(sumfall.PlayCardPicture)).center().toPoint() * 1.25);
   EXPECT_TRUE(input::Await([&] { return sumfall.UpCardPicture.Picture != before; }));
   EXPECT_EQ(TwipsOf(game), QSize(9540, 7200));
 
