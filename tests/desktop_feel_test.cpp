@@ -162,6 +162,12 @@ TEST_F(Feel, ALongCountIsHurriedByAClickSpaceOrEscapeWhichGoNoFurther) {
   } cases[] = {
       {"a click on a card", [&] { input::Click(front, form.Card); }, true, ""},
       {"two clicks", [&] { input::Click(front, form.Card), input::Click(front, form.Card, 20); }, true, ""},
+      {"a click, and another one while the rest runs through",
+       [&] {
+         input::Click(front, form.Card);
+         form.then = [&] { input::Click(front, form.Card); };
+       },
+       true, ""},
       {"a button", [&] { input::Click(front, form.cmdNext); }, true, ""},
       {"Space", [&] { input::Key(*front.WindowOf(form), Qt::Key_Space, {}, " "); }, true, ""},
       {"Escape", [&] { input::Key(*front.WindowOf(form), Qt::Key_Escape); }, true, ""},
@@ -182,6 +188,7 @@ TEST_F(Feel, ALongCountIsHurriedByAClickSpaceOrEscapeWhichGoNoFurther) {
       each.meanwhile();
     });
     const long long took = Count();
+    form.then = nullptr;
     EXPECT_TRUE(word) << each.what;
     EXPECT_EQ(took < 1900, each.hurries) << each.what << ": " << took;
     EXPECT_EQ(form.total, 2000) << each.what;
