@@ -122,7 +122,7 @@ TEST_F(ViewTest, MaximisedWindowsFitAndComeBackAsTheyWere) {
   EXPECT_EQ(game.WindowState, window_state::kMaximised);
   EXPECT_EQ(window.Zoom(), room.width() / 636.0);
   EXPECT_EQ(game.Width, 9540);
-  EXPECT_EQ(game.Height, std::lround(room.height() * 15 / window.Zoom()));
+  EXPECT_EQ(game.Height, static_cast<int>(std::lround(room.height() * 15 / window.Zoom())));
   Choose(game, "viewFit");
   EXPECT_EQ(window.Zoom(), 1);
   EXPECT_EQ(TwipsOf(game), room * 15);
