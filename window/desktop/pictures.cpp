@@ -71,6 +71,11 @@ bool Pictures::IsPile(int index) const {
   return file && (file->file.ends_with("-full.svg") || file->file.ends_with("-half.svg"));
 }
 
+bool Pictures::IsPlace(int index) const {
+  const PictureFile* file = Find(index);
+  return file && file->file.starts_with("empty");
+}
+
 bool Pictures::IsBack(int index) const {
   const PictureFile* file = Find(index);
   return file && file->file.starts_with("back") && !IsPile(index);
