@@ -1,26 +1,14 @@
 #include "games/fivestack/guide.h"
 
-using namespace modFivestack;
+#include "suite/column_guide.h"
 
 namespace {
 
-class FivestackGuide : public GameGuide {
+class FivestackGuide : public ColumnGuide<frmFivestack, modFivestack::kColumns> {
  public:
-  explicit FivestackGuide(frmFivestack& window) : GameGuide(window), window_(window) {}
-
-  std::vector<Spot> Spots() const override {
-    std::vector<Spot> spots;
-    Add(spots, window_.PlayCardPicture, false, false, "stock");
-    Add(spots, window_.NextCardPicture, false, false, "next card");
-    ControlArray<Image, kCardsOfColumn>* const columns[] = {
-        &window_.Column1, &window_.Column2, &window_.Column3, &window_.Column4, &window_.Column5};
-    for (int i = 0; i < kColumns; ++i) {
-      for (int slot = 0; slot < kCardsOfColumn; ++slot)
-        Add(spots, (*columns[i])(slot), false, false, "column " + std::to_string(i + 1));
-      AddHit(spots, window_.cmdHit(i), window_.ColumnTotal(i), window_.ColumnSoft(i));
-    }
-    return spots;
-  }
+  explicit FivestackGuide(frmFivestack& window)
+      : ColumnGuide(window,
+                    {&window.Column1, &window.Column2, &window.Column3, &window.Column4, &window.Column5}) {}
 
   std::vector<std::string> FirstSteps() const override {
     return {"Hit lays the card that shows on its column; no column may go over 21.",
@@ -29,20 +17,9 @@ class FivestackGuide : public GameGuide {
   }
 
  protected:
-  std::vector<KeyRow> BoardKeys() const override {
-    return {HitKeys(kColumns),
-            {"-", "Pass", {{"-", "cmdPass"}}},
-            {"Arrows", "Go to the Hit button of another column; with Ctrl to any card", {}},
-            {"Space, Return", "Click where the cursor is", {}}};
-  }
-
   std::string BoardState() const override {
-    return "Next card " + SpokenPicture(window_.NextCardPicture.Picture) + ". Card total " +
-           std::to_string(window_.CardTotal) + ".";
+    return NextCard() + " Card total " + std::to_string(window_.CardTotal) + ".";
   }
-
- private:
-  frmFivestack& window_;
 };
 
 }  // namespace
