@@ -253,6 +253,8 @@ TEST_F(Keys, DontKeepAStuckBoardFromBeingPaid) {
 }
 
 TEST_F(Keys, AreShownInMenusAndInAWindowThatPauses) {
+  Press(Qt::Key_F11);  // the selector is never larger than it is
+  EXPECT_FALSE(front.GetView().fullScreen);
   auto& game = Open<frmSumfall>("1");
   FormWindow& window = *front.WindowOf(game);
   auto* help = window.findChild<QMenu*>("mnuHelp");
@@ -276,6 +278,8 @@ TEST_F(Keys, AreShownInMenusAndInAWindowThatPauses) {
          Press(Qt::Key_PageDown);
          EXPECT_GT(rules->verticalScrollBar()->value(), 0);
        });
+  const auto* fullScreen = window.findChild<QAction*>("viewFullScreen");
+  EXPECT_EQ(fullScreen->text() + fullScreen->shortcut().toString(), "Full &ScreenF11");
   Press(Qt::Key_F11);
   EXPECT_TRUE(front.GetView().fullScreen);
 }

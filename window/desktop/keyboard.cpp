@@ -6,7 +6,6 @@
 #include <QPainter>
 #include <QPointer>
 #include <QPushButton>
-#include <QShortcut>
 #include <QShortcutEvent>
 #include <QTimer>
 #include <algorithm>
@@ -59,13 +58,6 @@ Keyboard::Keyboard(FormWindow& window, DesktopFrontEnd& front, Guide& guide)
   canvas_.paintOver = [this](QPainter& painter) { Paint(painter); };
   OrderTabs();
   connect(qApp, &QApplication::focusChanged, this, [this] { ShowRing(); });
-  auto* fullScreen = new QShortcut(QKeySequence(Qt::Key_F11), &window);
-  fullScreen->setAutoRepeat(false);
-  connect(fullScreen, &QShortcut::activated, this, [this] {
-    View view = front_.GetView();
-    view.fullScreen = !view.fullScreen;
-    front_.SetView(view);
-  });
 }
 
 // The buttons for which digits stand come before the others.

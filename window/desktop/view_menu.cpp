@@ -33,7 +33,9 @@ ViewMenu::ViewMenu(FormWindow& window, DesktopFrontEnd& front, QMenuBar* bar)
         if (const auto fit = Fit()) view.*fit = !(view.*fit);
       },
       [this](const View& view) { return Fit() && view.*Fit(); });
-  AddSwitch(menu, "viewFullScreen", "Full &Screen\tF11", &View::fullScreen);
+  QAction* fullScreen = AddSwitch(menu, "viewFullScreen", "Full &Screen", &View::fullScreen);
+  fullScreen->setShortcut(QKeySequence("F11"));
+  fullScreen->setAutoRepeat(false);
   menu->addSeparator();
   AddSwitch(menu, "viewFourColours", "Four-&Colour Suits", &View::fourColours);
   AddSwitch(menu, "viewHighContrast", "&High Contrast", &View::highContrast);
@@ -81,8 +83,8 @@ void ViewMenu::AddZooms(QMenu* menu) {
         });
 }
 
-void ViewMenu::AddSwitch(QMenu* menu, const char* name, const QString& text, bool View::*flag) {
-  Add(
+QAction* ViewMenu::AddSwitch(QMenu* menu, const char* name, const QString& text, bool View::*flag) {
+  return Add(
       menu, name, text, [flag](View& view) { view.*flag = !(view.*flag); },
       [flag](const View& view) { return view.*flag; });
 }

@@ -31,7 +31,7 @@ class ViewMenu : public QObject {
   QAction* Add(QMenu* menu, const char* name, const QString& text, std::function<void(View&)> choose,
                std::function<bool(const View&)> isTicked = {});
   void AddZooms(QMenu* menu);
-  void AddSwitch(QMenu* menu, const char* name, const QString& text, bool View::*flag);
+  QAction* AddSwitch(QMenu* menu, const char* name, const QString& text, bool View::*flag);
   void AddVolume(QMenu& menu, const char* name, const QString& text, int View::*volume);
   void ChooseZoom(View& view, int percent) const;
   int NextZoom(bool larger) const;
