@@ -82,6 +82,21 @@ bool IsKeptFile(const std::string& name) {
          (known.ends_with(".Txt") && known.find("Scores") != std::string::npos);
 }
 
+// Gives a file another name that nobody bears. Never a link: where it leads may hang on where it lies.
+bool MoveUnder(const fs::path& file, const fs::path& name) {
+  std::error_code error;
+  if (fs::is_symlink(file, error)) return false;
+  return renameat2(AT_FDCWD, file.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE) == 0;
+}
+
+bool ReachesDisk(const fs::path& path) {
+  const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (descriptor < 0) return false;
+  const bool reached = fsync(descriptor) == 0;
+  close(descriptor);
+  return reached;
+}
+
 // Earlier versions kept files beside the program. They move to where they are kept now; what is there already
 // goes before them.
 void CarryOver(const fs::path& from, const fs::path& to) {
@@ -94,11 +109,12 @@ void CarryOver(const fs::path& from, const fs::path& to) {
       files.push_back(entry->path());
   for (const fs::path& file : files) {
     const fs::path place = to / file.filename();
-    if (fs::exists(fs::symlink_status(place, error))) continue;
-    // A copy first, which becomes the file only when it is whole; nobody's file is written over.
+    if (fs::exists(fs::symlink_status(place, error)) || MoveUnder(file, place)) continue;
+    // To another disk goes a copy first, which becomes the file only when it is whole and lies there;
+    // nobody's file is written over.
     const fs::path beside = place.string() + ".carried-" + std::to_string(getpid());
-    const bool moved = fs::copy_file(file, beside, error) &&
-                       renameat2(AT_FDCWD, beside.c_str(), AT_FDCWD, place.c_str(), RENAME_NOREPLACE) == 0;
+    const bool moved = fs::copy_file(file, beside, error) && ReachesDisk(beside) &&
+                       MoveUnder(beside, place) && ReachesDisk(to);
     fs::remove(beside, error);
     if (moved) fs::remove(file, error);
   }

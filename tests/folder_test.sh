@@ -25,8 +25,13 @@ echo older >"$folder/app/mine.sfl"
 echo stays >"$folder/app/notes.Txt"
 mkdir -p "$kept"
 echo newer >"$kept/mine.sfl"
+inode=$(stat -c %i "$folder/app/$table")
+echo list >"$folder/HiScores60.Txt"
+ln -s ../HiScores60.Txt "$folder/app/HiScores60.Txt"
 run
 is "$kept/$table" "A, 70000"
+[ "$(stat -c %i "$kept/$table")" = "$inode" ] || fail "a table was copied, and is lost if the power fails before it is written"
+is "$kept/HiScores60.Txt" list
 is "$kept/mine.sfl" newer
 is "$folder/app/mine.sfl" older
 is "$folder/app/notes.Txt" stays
