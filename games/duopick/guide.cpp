@@ -57,7 +57,6 @@ class DuopickGuide : public GameGuide {
            MatchOf(window_.FirstCardValue, CardValue(window_.cards.DeckCards[card])) != Match::None;
   }
 
- private:
   frmDuopick& window_;
 };
 

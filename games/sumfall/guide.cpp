@@ -49,7 +49,6 @@ class SumfallGuide : public GameGuide {
     return CardValue(card) + window_.CurrentTotal <= window_.CardGoal;
   }
 
- private:
   frmSumfall& window_;
 };
 

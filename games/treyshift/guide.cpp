@@ -71,7 +71,6 @@ class TreyshiftGuide : public GameGuide {
     return CanMove() && (slot < kThirdRow || lowest.Picture == 0);
   }
 
- private:
   frmTreyshift& window_;
 };
 

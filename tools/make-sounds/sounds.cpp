@@ -13,7 +13,7 @@ namespace {
 constexpr double kF3 = 53, kA3 = 57, kC4 = 60, kF4 = 65, kA4 = 69, kC5 = 72, kD5 = 74, kF5 = 77, kG5 = 79,
                  kA5 = 81, kC6 = 84, kD6 = 86, kF6 = 89, kA6 = 93, kC7 = 96;
 
-// Decibels. What a player hears again and again without having done anything stays behind the rest.
+// Decibels. Refusals and deselections, of which a player hears many, stay behind the rest.
 constexpr double kAside = 3;
 
 /// Hands: each person claps in a steady beat of their own, near or far, with a hollow or a flat palm.

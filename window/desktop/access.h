@@ -33,11 +33,11 @@ class Access : private QAccessible::ActivationObserver {
   void CursorMoved(FormWindow& window);
   // How the game stands, for ears and eyes.
   void TellState(FormWindow& window);
-  // Says a sentence.
-  void Announce(FormWindow& window, const QString& text);
 
  private:
   void accessibilityActiveChanged(bool active) override;
+  // Says a sentence.
+  void Announce(FormWindow& window, const QString& text);
   void Mark(const Form& form);
   void Flush();
   void TellMessages(FormWindow& window);

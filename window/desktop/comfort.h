@@ -19,10 +19,10 @@ class Comfort {
   // The window is hidden for good.
   void Leave();
   std::string PanelText(const Panel& panel) const;
-  // The tool tip of a widget that has none of its own.
-  void ApplyToolTip(QWidget& widget, const Visual& control) const;
 
  private:
+  // The tool tip of a widget that has none of its own.
+  void ApplyToolTip(QWidget& widget, const Visual& control) const;
   void ShowNotes();
   void PlaceSheet(Note& sheet) const;
   void OfferAgain();
