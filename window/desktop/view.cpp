@@ -48,8 +48,8 @@ View ReadView(const fs::path& file) {
   return view;
 }
 
-bool WriteView(const fs::path& file, const View& view) {
-  if (file.empty()) return false;
+void WriteView(const fs::path& file, const View& view) {
+  if (file.empty()) return;
   QSettings settings(Name(file), QSettings::IniFormat);
   settings.setValue("view/zoom", view.zoom);
   settings.setValue("view/fitMaximised", view.fitMaximised);
@@ -64,6 +64,4 @@ bool WriteView(const fs::path& file, const View& view) {
   if (!view.lastGame.isEmpty()) settings.setValue("last/game", view.lastGame);
   if (!view.seen.isEmpty()) settings.setValue("last/seen", view.seen);
   if (!view.lastName.isEmpty()) settings.setValue("last/name", view.lastName);
-  settings.sync();
-  return settings.status() == QSettings::NoError;
 }

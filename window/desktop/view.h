@@ -30,5 +30,5 @@ struct View {
 std::filesystem::path ViewFile();
 // What is missing in the file, or makes no sense there, is as at first.
 View ReadView(const std::filesystem::path& file);
-// False if it can't be written.
-bool WriteView(const std::filesystem::path& file, const View& view);
+// Where it can't be written, the view lasts until the program ends.
+void WriteView(const std::filesystem::path& file, const View& view);
