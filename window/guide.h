@@ -41,7 +41,7 @@ struct Note {
   enum class Look {
     Plain,  // small letters
     Mark,   // a band beneath what stands there, its text strong
-    Sheet   // a small sheet with one centred line a line
+    Sheet   // a small sheet, its lines centred
   };
   const Control* within;         // the form or frame in whose coordinates it stands
   int left, top, width, height;  // twips

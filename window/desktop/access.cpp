@@ -35,7 +35,7 @@ void Access::Mark(const Form& form) {
   if (!flush_.isActive()) flush_.start();
 }
 
-void Access::Changed(const Control& control, Prop) {
+void Access::Changed(const Control& control) {
   if (control.kind != Control::Kind::Timer) Mark(control.form);
 }
 

@@ -22,7 +22,7 @@ class Access : private QAccessible::ActivationObserver {
   Access(const Access&) = delete;
 
   // What the model has done; told to listeners as soon as the handler waits or has ended.
-  void Changed(const Control& control, Prop prop);
+  void Changed(const Control& control);
   void Reordered(const Form& form) { Mark(form); }
   // A window stands there, or is gone.
   void Shown(FormWindow& window);

@@ -409,7 +409,7 @@ void DesktopFrontEnd::FormUnloaded(Form& form) {
 void DesktopFrontEnd::PropertyChanged(Control& control, Prop prop) {
   if (control.kind == Control::Kind::Timer && !busy_) ArmTimer();
   if (FormWindow* window = WindowOf(control.form)) window->Apply(control, prop);
-  access_.Changed(control, prop);
+  access_.Changed(control);
 }
 
 void DesktopFrontEnd::OrderChanged(Visual& control) {
