@@ -71,6 +71,27 @@ TEST_F(Comforts, TheSelectorSaysWhatGamesAreAboutAndComesBackWhereItStood) {
   EXPECT_LT(third.Shown("frmSelect").x(), 10'000);
 }
 
+TEST_F(Comforts, TwoCopiesKeepWhatEachHasChanged) {
+  const auto begin = [&] {
+    return std::make_unique<QuickDesktop>(
+        DesktopFolders{folder.Path(), CARDHAVEN_TEST_DATA, folder.Path() / "desktop.ini"}, Catalogue());
+  };
+  auto one = begin(), other = begin();
+  const auto set = [](DesktopFrontEnd& front, const std::function<void(View&)>& change) {
+    View view = front.GetView();
+    change(view);
+    front.SetView(view);
+  };
+  set(*one, [](View& view) { view.waveVolume = 25, view.lastName = "Ann", view.seen << "frmSumfall"; });
+  set(*other,
+      [](View& view) { view.musicVolume = 50, view.lastGame = "cmdDuopick", view.seen << "frmDuopick"; });
+  one.reset();
+  other.reset();
+  const View kept = begin()->GetView();
+  EXPECT_EQ(std::tuple(kept.waveVolume, kept.musicVolume, kept.lastName, kept.lastGame, kept.seen.size()),
+            std::tuple(25, 50, "Ann", "cmdDuopick", 2));
+}
+
 TEST_F(Comforts, FirstStepsAreShownUntilTheFirstGame) {
   const auto steps = [](Start& start) {
     start.Click("frmSelect", "cmdSumfall");

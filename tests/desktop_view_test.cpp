@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyleOptionMenuItem>
@@ -149,6 +150,46 @@ TEST_F(ViewTest, MaximisedWindowsFitAndComeBackAsTheyWere) {
   EXPECT_NEAR(game.Height, 8000, 2);
   EXPECT_TRUE(input::Await([&] { return front.GetView().zoom == 120; }));
   EXPECT_EQ(window.size(), QSize(763, 640));
+}
+
+TEST_F(ViewTest, AWindowThatWasMinimisedAndFetchedBackDuringACountStays) {
+  GameWindow& game = OpenGame();
+  FormWindow& window = WindowOf(game);
+  front.Deliver(game, [&] {
+    window.setWindowState(Qt::WindowMinimized);
+    input::Settle();
+    window.setWindowState({});
+    input::Settle();
+  });
+  input::Settle();
+  EXPECT_FALSE(window.isMinimized());
+  EXPECT_EQ(game.WindowState, window_state::kNormal);
+}
+
+TEST_F(ViewTest, AWindowThatIsMaximisedBehindABoxTellsItLater) {
+  GameWindow& game = OpenGame();
+  FormWindow& window = WindowOf(game);
+  const QRect before = window.geometry();
+  const auto behindABox = [&](const std::vector<Qt::WindowStates>& states) {
+    QTimer::singleShot(0, &window, [&] {
+      for (const Qt::WindowStates state : states) {
+        window.setWindowState(state);
+        input::Settle();
+      }
+      qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->accept();
+    });
+    front.Deliver(game, [&] { suite.common.MsgBox("Wait."); });
+    input::Settle();
+  };
+  behindABox({Qt::WindowMaximized, {}});
+  EXPECT_EQ(window.geometry(), before);
+  behindABox({Qt::WindowMaximized});
+  EXPECT_EQ(game.WindowState, window_state::kMaximised);
+  EXPECT_EQ(game.Height, std::lround(window.height() * 15 / window.Zoom()));
+  window.setWindowState({});
+  input::Settle();
+  EXPECT_EQ(window.geometry(), before);
+  EXPECT_EQ(TwipsOf(game), QSize(9540, 7200));
 }
 
 TEST_F(ViewTest, AGameThatOpenedMaximisedIsRestoredInTheMiddle) {

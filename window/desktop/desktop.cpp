@@ -33,7 +33,8 @@ DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles fil
     : pictures(std::move(files), folders.own, folders.installed / "pictures"),
       folders_(folders),
       media_(folders.own, folders.installed),
-      view_(ReadView(folders.view)) {
+      view_(ReadView(folders.view)),
+      kept_(view_) {
   ApplyLook();
   clock_.start();
   media_.SetVolumes(view_.waveVolume, view_.musicVolume);
@@ -42,7 +43,7 @@ DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles fil
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { ServeTick(); });
   viewTimer_.setSingleShot(true);
   viewTimer_.setInterval(kViewDelay);
-  QObject::connect(&viewTimer_, &QTimer::timeout, &timer_, [this] { WriteView(folders_.view, view_); });
+  QObject::connect(&viewTimer_, &QTimer::timeout, &timer_, [this] { KeepView(); });
   clockTimer_.setSingleShot(true);
   QObject::connect(&clockTimer_, &QTimer::timeout, &timer_, [this] { ShowClock(); });
   QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -53,7 +54,7 @@ DesktopFrontEnd::~DesktopFrontEnd() {
     window->Leave();
     delete window;
   }
-  if (viewTimer_.isActive()) WriteView(folders_.view, view_);
+  if (viewTimer_.isActive()) KeepView();
 }
 
 // Just after the next minute has begun.
@@ -99,6 +100,11 @@ void DesktopFrontEnd::SetView(const View& view) {
   if (before == view) return;
   ApplyLook();
   ApplyView();
+}
+
+void DesktopFrontEnd::KeepView() {
+  WriteView(folders_.view, view_, kept_);
+  kept_ = view_;
 }
 
 void DesktopFrontEnd::ApplyView() {

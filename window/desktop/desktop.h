@@ -147,6 +147,7 @@ class DesktopFrontEnd : public FrontEnd {
  private:
   friend class Hurry;
   void ApplyLook();
+  void KeepView();
   void ApplyView();
   void HeedAnimations();
   void ServeTick();
@@ -172,7 +173,7 @@ class DesktopFrontEnd : public FrontEnd {
   QElapsedTimer clock_;
   QTimer timer_, viewTimer_, clockTimer_;
   Media media_;
-  View view_;
+  View view_, kept_;  // as it is, and as it was read or written last
   std::unordered_map<const Form*, FormWindow*> windows_;
   std::unordered_map<const Form*, std::unique_ptr<Guide>> guides_;
   std::deque<Deed> deeds_;

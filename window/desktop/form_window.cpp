@@ -17,6 +17,7 @@
 #include "window/desktop/menus.h"
 #include "window/desktop/native.h"
 #include "window/desktop/view_menu.h"
+#include "window/player.h"
 
 namespace {
 
@@ -51,6 +52,13 @@ FormWindow::FormWindow(Form& form, DesktopFrontEnd& front) : form(form), front_(
     View view = front_.GetView();
     view.zoom = std::clamp(static_cast<int>(std::lround(zoom_ * 100)), 100, 300);
     front_.SetView(view);
+  });
+  // A window that comes back from the full screen gets its frame a moment later, and its place is that of the
+  // frame.
+  framed_.setSingleShot(true);
+  framed_.setInterval(200);
+  connect(&framed_, &QTimer::timeout, this, [this] {
+    if (!left_ && isVisible() && !IsFilled() && !isMinimized()) ApplyPlace();
   });
   fits_ = front.GetView().fitNormal;
   ApplySize();
@@ -120,9 +128,10 @@ void FormWindow::ShowForm(QWidget* behind) {
     Rezoom();
     ApplySize();
     if (comfort_) comfort_->BeforeShow();
+    // Before the window is there: the place is that of its frame, whose size isn't known yet.
+    if (form.Left != 0 || form.Top != 0) ApplyPlace();
     create();
     if (form.Modal() && behind) windowHandle()->setTransientParent(behind->windowHandle());
-    if (form.Left != 0 || form.Top != 0) ApplyPlace();
     if (form.WindowState != window_state::kNormal) ApplyForm(Prop::WindowState);
     if (form.Sizable && front_.GetView().fullScreen && front_.HeedsWindowManager())
       FillScreen(Qt::WindowFullScreen);
@@ -261,6 +270,7 @@ void FormWindow::ApplyView() {
 // Qt moves the focus on when a widget is disabled or hidden; the model has a rule of its own.
 void FormWindow::Settle() {
   if (left_) return;
+  if (untold_ && player::WhyNot(form).empty()) TellSizeSoon();
   if (comfort_) comfort_->Settle();
   if (qobject_cast<QMenuBar*>(focusWidget())) return;  // which gives the focus back by itself
   if (keyboard_) {

@@ -90,6 +90,8 @@ class FormWindow : public QWidget {
   QPoint Aside() const;
   void RefreshWithin(const Control& container);
   void TellState();
+  int StateNow() const;
+  bool MustWait();
   void TellSize();
   void TellSizeSoon();
   void TellPlace();
@@ -108,8 +110,10 @@ class FormWindow : public QWidget {
   std::unordered_map<const Control*, QWidget*> widgets_;
   QPointer<QWidget> behind_;  // what a dialog stands before
   QTimer zoomKept_;           // runs out when the player has let go of the frame
+  QTimer framed_;             // runs while the frame of a restored window isn't known
   double zoom_ = 1;
   bool left_ = false, sizeWaits_ = false, tellsPlace_ = false, zooming_ = false;
+  bool untold_ = false;    // news that no one could take yet
   bool fits_ = false;      // what a normal window shows is fitted to its frame
   bool hasStood_ = false;  // on the screen, neither maximised nor minimised
   Keyboard* keyboard_ = nullptr;

@@ -147,14 +147,18 @@ void FormWindow::TellSizeSoon() {
   });
 }
 
+// Behind a dialog or box the model takes no news; they are told when it has gone.
+bool FormWindow::MustWait() { return untold_ = !player::WhyNot(form).empty(); }
+
 void FormWindow::TellSize() {
+  untold_ = false;
   if (left_ || !isVisible() || isMinimized()) return;
   Rezoom();
   TellState();
   if (size() == ShownSize()) return;
   if (!form.Sizable || !front_.HeedsWindowManager()) return;
   front_.Deliver(form, [this] {
-    if (!player::WhyNot(form).empty()) return;
+    if (MustWait()) return;
     tellsPlace_ = true;
     player::Resize(form, Told(width()), Told(height()));
     tellsPlace_ = false;
@@ -163,7 +167,7 @@ void FormWindow::TellSize() {
 }
 
 void FormWindow::TellPlace() {
-  if (left_ || !isVisible() || IsFilled() || isMinimized()) return;
+  if (left_ || !isVisible() || IsFilled() || isMinimized() || framed_.isActive()) return;
   const QPoint place = pos() - Aside();
   tellsPlace_ = true;
   if (place.x() != Pixels(form.Left)) form.Left = place.x() * 15;
@@ -180,27 +184,39 @@ void FormWindow::moveEvent(QMoveEvent*) {
 
 void FormWindow::changeEvent(QEvent* event) {
   if (event->type() != QEvent::WindowStateChange) return;
+  if (!left_ && isVisible() && !isMinimized()) {  // before the place is told that comes with the new state
+    zooming_ = true;
+    Rezoom();
+    zooming_ = false;
+  }
   TellState();
   TellSizeSoon();
+}
+
+int FormWindow::StateNow() const {
+  return isMinimized() ? window_state::kMinimised
+         : IsFilled()  ? window_state::kMaximised
+                       : window_state::kNormal;
 }
 
 // To the games a window that takes the whole screen is maximised: so it isn't their usual size that is kept.
 void FormWindow::TellState() {
   if (left_ || !isVisible() || !front_.HeedsWindowManager()) return;
-  const int state = isMinimized() ? window_state::kMinimised
-                    : IsFilled()  ? window_state::kMaximised
-                                  : window_state::kNormal;
+  const int state = StateNow();
   // A window that opened maximised has never had a place of its own.
   const bool placeless = state == window_state::kNormal && !hasStood_;
   if (state == window_state::kNormal) hasStood_ = true;
   if (state == form.WindowState) return;
-  front_.Deliver(form, [this, state, placeless] {
-    if (!player::WhyNot(form).empty()) return;
+  front_.Deliver(form, [this, placeless] {
+    const int state = StateNow();  // it may have changed while the news waited
+    if (state == form.WindowState || MustWait()) return;
     zooming_ = true;
     Rezoom();
     zooming_ = false;
     player::SetState(form, state);
     ApplySize();
-    if (placeless) form.platform.Dispatch([this] { form.CenterOnScreen(); });
+    if (placeless && state == window_state::kNormal)
+      form.platform.Dispatch([this] { form.CenterOnScreen(); });
+    if (state == window_state::kNormal) framed_.start();
   });
 }

@@ -48,20 +48,27 @@ View ReadView(const fs::path& file) {
   return view;
 }
 
-void WriteView(const fs::path& file, const View& view) {
+void WriteView(const fs::path& file, const View& view, const View& before) {
   if (file.empty()) return;
   QSettings settings(Name(file), QSettings::IniFormat);
-  settings.setValue("view/zoom", view.zoom);
-  settings.setValue("view/fitMaximised", view.fitMaximised);
-  settings.setValue("view/fitNormal", view.fitNormal);
-  settings.setValue("view/fullScreen", view.fullScreen);
-  settings.setValue("view/fourColours", view.fourColours);
-  settings.setValue("view/highContrast", view.highContrast);
-  settings.setValue("view/lessMotion", view.lessMotion);
-  settings.setValue("sound/waves", view.waveVolume);
-  settings.setValue("sound/music", view.musicVolume);
-  if (view.selector) settings.setValue("last/selector", *view.selector);
-  if (!view.lastGame.isEmpty()) settings.setValue("last/game", view.lastGame);
-  if (!view.seen.isEmpty()) settings.setValue("last/seen", view.seen);
-  if (!view.lastName.isEmpty()) settings.setValue("last/name", view.lastName);
+  const auto write = [&](const char* key, const auto& now, const auto& was) {
+    if (now != was || !settings.contains(key)) settings.setValue(key, now);
+  };
+  write("view/zoom", view.zoom, before.zoom);
+  write("view/fitMaximised", view.fitMaximised, before.fitMaximised);
+  write("view/fitNormal", view.fitNormal, before.fitNormal);
+  write("view/fullScreen", view.fullScreen, before.fullScreen);
+  write("view/fourColours", view.fourColours, before.fourColours);
+  write("view/highContrast", view.highContrast, before.highContrast);
+  write("view/lessMotion", view.lessMotion, before.lessMotion);
+  write("sound/waves", view.waveVolume, before.waveVolume);
+  write("sound/music", view.musicVolume, before.musicVolume);
+  if (view.selector && view.selector != before.selector) settings.setValue("last/selector", *view.selector);
+  if (view.lastGame != before.lastGame) settings.setValue("last/game", view.lastGame);
+  if (view.seen != before.seen) {
+    QStringList seen = settings.value("last/seen").toStringList() + view.seen;
+    seen.removeDuplicates();
+    settings.setValue("last/seen", seen);
+  }
+  if (view.lastName != before.lastName) settings.setValue("last/name", view.lastName);
 }
