@@ -17,7 +17,7 @@ class HallOfFameGuide : public Guide {
     for (size_t place = 0; place < kTablePlaces; ++place) {
       const Label& name = window_.ScoreList(2 * place);
       const Label& score = window_.ScoreList(2 * place + 1);
-      if (name.Caption.get().empty()) continue;
+      if (score.Caption.get().empty()) continue;
       if (place == taken)
         notes.push_back({&window_, kBandLeft, name.Top - kGap, score.Left + score.Width, name.Height + kGap,
                          "", 0, Note::Look::Mark});

@@ -1,4 +1,6 @@
 // What the desktop adds to windows for their player, over two starts of the program.
+#include <sys/stat.h>
+
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -90,6 +92,22 @@ TEST_F(Comforts, TwoCopiesKeepWhatEachHasChanged) {
   const View kept = begin()->GetView();
   EXPECT_EQ(std::tuple(kept.waveVolume, kept.musicVolume, kept.lastName, kept.lastGame, kept.seen.size()),
             std::tuple(25, 50, "Ann", "cmdDuopick", 2));
+}
+
+TEST_F(Comforts, TheFileOfTheViewIsAPlainOneOrNone) {
+  const std::filesystem::path file = folder.Path() / "desktop.ini", pipe = folder.Path() / "pipe";
+  folder.Write("desktop.ini", "[view]\nzoom=99999\nfullScreen=banana\nlessMotion=true\nfitMaximised=7\n");
+  const View read = ReadView(file);
+  EXPECT_EQ(std::tuple(read.zoom, read.fullScreen, read.lessMotion, read.fitMaximised),
+            std::tuple(300, false, true, true));
+  std::filesystem::remove(file);
+  mkfifo(pipe.c_str(), 0600);
+  std::filesystem::create_symlink(pipe, file);
+  View other;
+  other.zoom = 200;
+  WriteView(file, other, View());
+  EXPECT_TRUE(std::filesystem::is_fifo(pipe)) << "it was replaced";
+  EXPECT_EQ(ReadView(file), View());
 }
 
 TEST_F(Comforts, FirstStepsAreShownUntilTheFirstGame) {

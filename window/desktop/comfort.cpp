@@ -60,7 +60,7 @@ void Comfort::OfferAgain() {
 
 // The form may be half gone: nothing is asked of the guide.
 void Comfort::Leave() {
-  if (written_.empty()) return;
+  if (written_.find_first_not_of(' ') == std::string::npos) return;
   View view = front_.GetView();
   view.lastName = QString::fromStdString(written_);
   front_.SetView(view);

@@ -13,6 +13,13 @@ constexpr qint64 kLargestFile = 64 * 1024;
 
 QString Name(const fs::path& file) { return QString::fromStdString(file.string()); }
 
+// What stands there under that name and is no plain file would be replaced by one.
+bool MayBeWritten(const fs::path& file) {
+  std::error_code error;
+  const fs::file_status status = fs::status(file, error);
+  return !file.empty() && (!fs::exists(status) || fs::is_regular_file(status));
+}
+
 }  // namespace
 
 fs::path ViewFile() {
@@ -25,7 +32,10 @@ View ReadView(const fs::path& file) {
   const QFileInfo info(Name(file));
   if (file.empty() || !info.isFile() || info.size() > kLargestFile) return view;
   const QSettings settings(Name(file), QSettings::IniFormat);
-  const auto flag = [&](const char* key, bool& value) { value = settings.value(key, value).toBool(); };
+  const auto flag = [&](const char* key, bool& value) {
+    const QString read = settings.value(key).toString();
+    if (read == "true" || read == "false") value = read == "true";
+  };
   const auto percent = [&](const char* key, int& value, int lowest, int highest) {
     bool good = false;
     const int read = settings.value(key).toInt(&good);
@@ -49,7 +59,7 @@ View ReadView(const fs::path& file) {
 }
 
 void WriteView(const fs::path& file, const View& view, const View& before) {
-  if (file.empty()) return;
+  if (!MayBeWritten(file)) return;
   QSettings settings(Name(file), QSettings::IniFormat);
   const auto write = [&](const char* key, const auto& now, const auto& was) {
     if (now != was || !settings.contains(key)) settings.setValue(key, now);
