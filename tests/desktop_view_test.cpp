@@ -185,7 +185,7 @@ TEST_F(ViewTest, AWindowThatIsMaximisedBehindABoxTellsItLater) {
   EXPECT_EQ(window.geometry(), before);
   behindABox({Qt::WindowMaximized});
   EXPECT_EQ(game.WindowState, window_state::kMaximised);
-  EXPECT_EQ(game.Height, std::lround(window.height() * 15 / window.Zoom()));
+  EXPECT_EQ(game.Height, static_cast<int>(std::lround(window.height() * 15 / window.Zoom())));
   window.setWindowState({});
   input::Settle();
   EXPECT_EQ(window.geometry(), before);
