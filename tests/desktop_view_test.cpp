@@ -129,6 +129,8 @@ TEST_F(ViewTest, MaximisedWindowsFitAndComeBackAsTheyWere) {
   EXPECT_EQ(TwipsOf(game), room * 15);
   EXPECT_FALSE(front.GetView().fitMaximised);
   Choose(game, "viewFit");
+  Choose(game, "viewLarger");  // there is no room for more
+  EXPECT_TRUE(front.GetView().fitMaximised);
   Choose(game, "viewFullScreen");
   EXPECT_TRUE(window.isFullScreen());
   Choose(game, "viewFullScreen");

@@ -110,10 +110,13 @@ bool View::*ViewMenu::Fit() const {
   return leader.IsFilled() ? &View::fitMaximised : &View::fitNormal;
 }
 
-// Who asks for a size of their own no longer wants the one that fits.
+// Who asks for a size of their own no longer wants the one that fits, unless the screen has room for no more.
 void ViewMenu::ChooseZoom(View& view, int percent) const {
+  const auto fit = Fit();
+  const bool isFull = fit && view.*fit && window_.Leader().IsFilled();
+  if (isFull && percent >= std::lround(window_.Leader().Zoom() * 100)) return;
   view.zoom = percent;
-  if (const auto fit = Fit()) view.*fit = false;
+  if (fit) view.*fit = false;
 }
 
 // From what is seen, which may be less than what was asked for.
