@@ -45,26 +45,17 @@ void BM_Hit(benchmark::State& state) {
 }
 BENCHMARK(BM_Hit);
 
-// From Play to "Game Over", with all that is counted and announced on the way.
 void BM_WholeGame(benchmark::State& state) {
-  Table table;
-  frmBlackrush& game = *table.game;
-  long long clicks = 0;
-  for (auto _ : state) {
-    player::Click(game.cmdPlay);
-    while (game.common.GameInProgress) {
-      ++clicks;
-      const int column = BestColumn(game);
-      if (column >= 0)
-        player::Click(game.cmdHit(column));
-      else if (game.cmdPass.Enabled)
-        player::Click(game.cmdPass);
-      else
-        player::Click(game.cmdTakeScore);
-    }
-  }
-  state.counters["clicks"] =
-      benchmark::Counter(static_cast<double>(clicks), benchmark::Counter::kAvgIterations);
+  PlayWholeGames<Table>(state, [](frmBlackrush& game) {
+    const int column = BestColumn(game);
+    if (column >= 0)
+      player::Click(game.cmdHit(column));
+    else if (game.cmdPass.Enabled)
+      player::Click(game.cmdPass);
+    else
+      player::Click(game.cmdTakeScore);
+    return 1;
+  });
 }
 BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
 

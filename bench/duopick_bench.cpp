@@ -65,29 +65,20 @@ void BM_StackClick(benchmark::State& state) {
 }
 BENCHMARK(BM_StackClick);
 
-// From Play to "Game Over", with all that is counted and announced on the way.
 void BM_WholeGame(benchmark::State& state) {
-  Table table;
-  frmDuopick& game = *table.game;
-  long long clicks = 0;
-  for (auto _ : state) {
-    player::Click(game.cmdPlay);
-    while (game.common.GameInProgress) {
-      const auto [first, second] = LegalCards(game);
-      if (first >= 0) {
-        player::Click(game.PlayCard(first));
-        player::Click(game.PlayCard(second));
-        ++clicks;
-      } else if (game.cards.StackIndex < kDealt) {
-        player::Click(game.CardStackPicture);
-      } else {
-        player::Click(game.cmdTakeScore);
-      }
-      ++clicks;
+  PlayWholeGames<Table>(state, [](frmDuopick& game) {
+    const auto [first, second] = LegalCards(game);
+    if (first >= 0) {
+      player::Click(game.PlayCard(first));
+      player::Click(game.PlayCard(second));
+      return 2;
     }
-  }
-  state.counters["clicks"] =
-      benchmark::Counter(static_cast<double>(clicks), benchmark::Counter::kAvgIterations);
+    if (game.cards.StackIndex < kDealt)
+      player::Click(game.CardStackPicture);
+    else
+      player::Click(game.cmdTakeScore);
+    return 1;
+  });
 }
 BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
 

@@ -59,24 +59,15 @@ void BM_PassClick(benchmark::State& state) {
 }
 BENCHMARK(BM_PassClick);
 
-// From Play to "Game Over", with all that is counted and announced on the way.
 void BM_WholeGame(benchmark::State& state) {
-  Table table;
-  frmFivestack& game = *table.game;
-  long long clicks = 0;
-  for (auto _ : state) {
-    player::Click(game.cmdPlay);
-    while (game.common.GameInProgress) {
-      ++clicks;
-      const int column = BestColumn(game);
-      if (column >= 0)
-        player::Click(game.cmdHit(column));
-      else
-        player::Click(game.cmdGiveUp);
-    }
-  }
-  state.counters["clicks"] =
-      benchmark::Counter(static_cast<double>(clicks), benchmark::Counter::kAvgIterations);
+  PlayWholeGames<Table>(state, [](frmFivestack& game) {
+    const int column = BestColumn(game);
+    if (column >= 0)
+      player::Click(game.cmdHit(column));
+    else
+      player::Click(game.cmdGiveUp);
+    return 1;
+  });
 }
 BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
 

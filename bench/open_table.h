@@ -2,6 +2,8 @@
 // memory.
 #pragma once
 
+#include <benchmark/benchmark.h>
+
 #include "bench/null_front_end.h"
 #include "games/games.h"
 #include "suite/suite.h"
@@ -21,3 +23,18 @@ struct OpenTable {
   Suite suite{platform, {"/nowhere/to/be/found"}, AllGames()};
   Window* game;
 };
+
+// Whole games, from Play to "Game Over", with all that is counted and announced on the way. `turn(game)`
+// makes the next move and returns its clicks.
+template <class Table, class Turn>
+void PlayWholeGames(benchmark::State& state, const Turn& turn) {
+  Table table;
+  auto& game = *table.game;
+  long long clicks = 0;
+  for (auto _ : state) {
+    player::Click(game.cmdPlay);
+    while (game.common.GameInProgress) clicks += turn(game);
+  }
+  state.counters["clicks"] =
+      benchmark::Counter(static_cast<double>(clicks), benchmark::Counter::kAvgIterations);
+}

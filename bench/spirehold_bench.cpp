@@ -55,26 +55,17 @@ void BM_StackClick(benchmark::State& state) {
 }
 BENCHMARK(BM_StackClick);
 
-// From Play to "Game Over", with all that is counted and announced on the way.
 void BM_WholeGame(benchmark::State& state) {
-  Table table;
-  frmSpirehold& game = *table.game;
-  long long clicks = 0;
-  for (auto _ : state) {
-    player::Click(game.cmdPlay);
-    while (game.common.GameInProgress) {
-      ++clicks;
-      const int card = LegalCard(game);
-      if (card >= 0)
-        player::Click(game.UpCardImage(card));
-      else if (game.StackIndex < 52)
-        player::Click(game.CardStackPicture);
-      else
-        player::Click(game.cmdTakeScore);
-    }
-  }
-  state.counters["clicks"] =
-      benchmark::Counter(static_cast<double>(clicks), benchmark::Counter::kAvgIterations);
+  PlayWholeGames<Table>(state, [](frmSpirehold& game) {
+    const int card = LegalCard(game);
+    if (card >= 0)
+      player::Click(game.UpCardImage(card));
+    else if (game.StackIndex < 52)
+      player::Click(game.CardStackPicture);
+    else
+      player::Click(game.cmdTakeScore);
+    return 1;
+  });
 }
 BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
 

@@ -30,6 +30,18 @@ struct ScoringField {
   int unit = 1;  // of the setting in one of the field: 1000 where seconds are kept as milliseconds
 };
 
+// The field of the games in which cards may be passed.
+constexpr ScoringField PassesField(int standard) {
+  return {"txtNumberOfCardsToPass",
+          "lblNumberOfCardsToPass",
+          "Number of cards user may pass (0 - 10):",
+          standard,
+          0,
+          10,
+          {"Sorry, you cannot pass fewer than 0 cards.", 0, 0},
+          {"Sorry, you cannot pass more than 10 cards.", 10, 10}};
+}
+
 struct ScoringNames {
   const char* window;
   const char* frame = "frmScoringOptions";

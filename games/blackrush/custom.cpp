@@ -10,14 +10,7 @@ enum Field : size_t { kPasses, kWait, kCardsUsed, kTwentyOneBonus, kDeck, kGimme
 
 // In the order in which they are looked at.
 constexpr ScoringField kFields[] = {
-    {"txtNumberOfCardsToPass",
-     "lblNumberOfCardsToPass",
-     "Number of cards user may pass (0 - 10):",
-     kCardsToPass,
-     0,
-     10,
-     {"Sorry, you cannot pass fewer than 0 cards.", 0, 0},
-     {"Sorry, you cannot pass more than 10 cards.", 10, 10}},
+    PassesField(kCardsToPass),
     // More than a minute doesn't fit the setting, so that the player is told of an overflow instead.
     {"txtWaitPeriod",
      "lblWaitPeriod",

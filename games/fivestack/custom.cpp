@@ -10,14 +10,7 @@ constexpr int kLargestScore = 2147483647, kLargestTimeBonus = 10000;
 
 // The bounds of the last two depend on each other, see `Judge`; the table tells those that stand fast.
 constexpr ScoringField kFields[] = {
-    {"txtNumberOfCardsToPass",
-     "lblNumberOfCardsToPass",
-     "Number of cards user may pass (0 - 10):",
-     kCardsToPass,
-     0,
-     10,
-     {"Sorry, you cannot pass fewer than 0 cards.", 0, 0},
-     {"Sorry, you cannot pass more than 10 cards.", 10, 10}},
+    PassesField(kCardsToPass),
     // The label says 10, and 30 is what is allowed.
     {"txtWaitPeriod",
      "lblWaitPeriod",

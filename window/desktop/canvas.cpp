@@ -83,14 +83,18 @@ void Canvas::paintEvent(QPaintEvent* event) {
   }
   const Scene scene = Arrange(form_, front_.pictures, calm_ ? calm_->Kept() : Stills());
   const Easel easel{painter, front_.pictures, scene, board_, scale * zoom_, strong, calm_.get()};
-  for (const Note& note : notes_) PaintNote(painter, note, NoteLayer::Beneath, strong);
+  const auto paintNotes = [&](NoteLayer layer) {
+    for (const Note& note : notes_)
+      if (event->region().intersects(ToWindow(NoteRect(note)))) PaintNote(painter, note, layer, strong);
+  };
+  paintNotes(NoteLayer::Beneath);
   for (size_t i = 0; i < scene.size(); ++i) {
     const QRect reach = Reach(*scene[i].control, front_.pictures);
     reach_[scene[i].control] = reach;
     if (event->region().intersects(ToWindow(reach)) && !motion_.PaintInstead(easel, scene[i]))
       PaintControl(easel, i);
   }
-  for (const Note& note : notes_) PaintNote(painter, note, NoteLayer::Above, strong);
+  paintNotes(NoteLayer::Above);
   motion_.PaintAbove(easel);
   if (paintOver) paintOver(painter);
   front_.Painted();

@@ -87,14 +87,15 @@ void Comfort::PlaceSheet(Note& sheet) const {
 // The first steps are read once a game has been played behind them.
 void Comfort::ShowNotes() {
   std::vector<Note> notes = guide_.Notes();
-  const QString name = window_.objectName();
-  if (const std::vector<std::string> lines = guide_.FirstSteps();
-      !lines.empty() && !front_.GetView().seen.contains(name)) {
+  if (const QString name = window_.objectName(); !front_.GetView().seen.contains(name)) {
     std::optional<Note> sheet = guide_.FirstStepsPlace();
     if (sheet) {
-      for (const std::string& line : lines) sheet->text += (sheet->text.empty() ? "" : "\n") + line;
-      PlaceSheet(*sheet);
-      notes.push_back(std::move(*sheet));
+      for (const std::string& line : guide_.FirstSteps())
+        sheet->text += (sheet->text.empty() ? "" : "\n") + line;
+      if (!sheet->text.empty()) {
+        PlaceSheet(*sheet);
+        notes.push_back(std::move(*sheet));
+      }
     } else if (showsSteps_) {
       View view = front_.GetView();
       view.seen << name;

@@ -41,9 +41,12 @@ FormWindow::FormWindow(Form& form, DesktopFrontEnd& front) : form(form), front_(
     widget->installEventFilter(this);
     widgets_[control] = widget;
   }
-  if (Guide* guide = front.GuideOf(form)) comfort_ = std::make_unique<Comfort>(*this, front, *guide);
-  if (Guide* guide = front.GuideOf(form); guide && !guide->Keys().empty())
-    keyboard_ = new Keyboard(*this, front, *guide);
+  if (Guide* guide = front.GuideOf(form)) {
+    comfort_ = std::make_unique<Comfort>(*this, front, *guide);
+    if (!guide->Keys().empty()) keyboard_ = new Keyboard(*this, front, *guide);
+    connect(new QShortcut(Qt::SHIFT | Qt::Key_F1, this), &QShortcut::activated, this,
+            [this] { front_.Ears().TellState(*this); });
+  }
   setWindowTitle(QString::fromStdString(form.Caption));
   zoomKept_.setSingleShot(true);
   zoomKept_.setInterval(500);
@@ -62,9 +65,6 @@ FormWindow::FormWindow(Form& form, DesktopFrontEnd& front) : form(form), front_(
   });
   fits_ = front.GetView().fitNormal;
   ApplySize();
-  if (front.GuideOf(form))
-    connect(new QShortcut(Qt::SHIFT | Qt::Key_F1, this), &QShortcut::activated, this,
-            [this] { front_.Ears().TellState(*this); });
 }
 
 FormWindow::~FormWindow() { delete menus_; }
