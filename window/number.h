@@ -42,6 +42,9 @@ class Checked {
   Checked(double value) : value_(Fit(RoundHalfEven(value))) {}
 
   constexpr operator long long() const { return value_; }
+  static constexpr bool Fits(long long value) {
+    return value >= std::numeric_limits<Rep>::min() && value <= std::numeric_limits<Rep>::max();
+  }
 
   Checked& operator+=(long long amount) { return *this = Add(value_, amount); }
   Checked& operator-=(long long amount) {
@@ -53,7 +56,7 @@ class Checked {
 
  private:
   static constexpr Rep Fit(long long value) {
-    if (value < std::numeric_limits<Rep>::min() || value > std::numeric_limits<Rep>::max()) RaiseOverflow();
+    if (!Fits(value)) RaiseOverflow();
     return static_cast<Rep>(value);
   }
   static Checked Add(long long a, long long b) {
