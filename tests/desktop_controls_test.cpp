@@ -6,8 +6,8 @@
 #include "suite/catalogue.h"
 #include "tests/desktop_screen.h"
 #include "tests/harness.h"
-#include "window/desktop/contrast.h"
-#include "window/desktop/scene.h"
+#include "window/desktop/painting/contrast.h"
+#include "window/desktop/painting/scene.h"
 
 namespace {
 

@@ -13,7 +13,7 @@
 #include "suite/suite.h"
 #include "tests/desktop_screen.h"
 #include "tests/harness.h"
-#include "window/desktop/media.h"
+#include "window/desktop/sound/media.h"
 
 namespace {
 

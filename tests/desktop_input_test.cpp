@@ -16,9 +16,9 @@
 #include "suite/suite.h"
 #include "tests/desktop_screen.h"
 #include "tests/harness.h"
-#include "window/desktop/media.h"
-#include "window/desktop/pictures.h"
-#include "window/desktop/screening.h"
+#include "window/desktop/painting/pictures.h"
+#include "window/desktop/painting/screening.h"
+#include "window/desktop/sound/media.h"
 
 #ifdef __SANITIZE_ADDRESS__
 // The font library keeps a block of its own till the end, which is no leak of ours.

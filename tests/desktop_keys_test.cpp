@@ -21,8 +21,8 @@
 #include "suite/suite.h"
 #include "tests/desktop_screen.h"
 #include "tests/harness.h"
-#include "window/desktop/contrast.h"
-#include "window/desktop/keyboard.h"
+#include "window/desktop/input/keyboard.h"
+#include "window/desktop/painting/contrast.h"
 #include "window/player.h"
 
 namespace {

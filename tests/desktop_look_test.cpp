@@ -23,12 +23,12 @@
 #include "suite/dialogs.h"
 #include "tests/desktop_screen.h"
 #include "tests/harness.h"
-#include "window/desktop/canvas.h"
-#include "window/desktop/contrast.h"
 #include "window/desktop/desktop.h"
-#include "window/desktop/form_window.h"
-#include "window/desktop/lettering.h"
-#include "window/desktop/style.h"
+#include "window/desktop/painting/contrast.h"
+#include "window/desktop/painting/lettering.h"
+#include "window/desktop/painting/style.h"
+#include "window/desktop/view/canvas.h"
+#include "window/desktop/view/form_window.h"
 #include "window/player.h"
 
 namespace {

@@ -10,10 +10,10 @@
 #include <QWindow>
 #include <functional>
 
-#include "window/desktop/canvas.h"
 #include "window/desktop/desktop.h"
-#include "window/desktop/form_window.h"
-#include "window/desktop/style.h"
+#include "window/desktop/painting/style.h"
+#include "window/desktop/view/canvas.h"
+#include "window/desktop/view/form_window.h"
 
 inline bool OpenScreen() {
   static int count = 1;

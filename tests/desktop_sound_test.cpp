@@ -17,7 +17,7 @@
 #include <thread>
 #include <vector>
 
-#include "window/desktop/sound.h"
+#include "window/desktop/sound/sound.h"
 
 namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;

@@ -16,7 +16,7 @@
 #include "suite/select.h"
 #include "tests/desktop_screen.h"
 #include "tests/harness.h"
-#include "window/desktop/contrast.h"
+#include "window/desktop/painting/contrast.h"
 #include "window/player.h"
 
 namespace {

@@ -31,7 +31,7 @@
 #include "suite/suite.h"
 #include "window/console/console.h"
 #ifdef CARDHAVEN_FUZZ_DESKTOP
-#include "window/desktop/screening.h"
+#include "window/desktop/painting/screening.h"
 #endif
 
 namespace {

@@ -14,11 +14,11 @@
 #include <iostream>
 #include <utility>
 
-#include "window/desktop/animations.h"
-#include "window/desktop/canvas.h"
-#include "window/desktop/form_window.h"
-#include "window/desktop/lettering.h"
-#include "window/desktop/style.h"
+#include "window/desktop/painting/lettering.h"
+#include "window/desktop/painting/style.h"
+#include "window/desktop/view/animations.h"
+#include "window/desktop/view/canvas.h"
+#include "window/desktop/view/form_window.h"
 #include "window/leaving.h"
 
 namespace fs = std::filesystem;

@@ -9,11 +9,11 @@
 #include <memory>
 #include <unordered_map>
 
-#include "window/desktop/access.h"
-#include "window/desktop/hurry.h"
-#include "window/desktop/media.h"
-#include "window/desktop/pictures.h"
-#include "window/desktop/view.h"
+#include "window/desktop/input/hurry.h"
+#include "window/desktop/painting/pictures.h"
+#include "window/desktop/sound/media.h"
+#include "window/desktop/speech/access.h"
+#include "window/desktop/view/view.h"
 #include "window/guide.h"
 #include "window/platform.h"
 

@@ -10,10 +10,10 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 
-#include "window/desktop/canvas.h"
 #include "window/desktop/desktop.h"
-#include "window/desktop/form_window.h"
-#include "window/desktop/menus.h"
+#include "window/desktop/view/canvas.h"
+#include "window/desktop/view/form_window.h"
+#include "window/desktop/view/menus.h"
 #include "window/lists.h"
 #include "window/player.h"
 

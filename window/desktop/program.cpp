@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "window/desktop/painting/style.h"
 #include "window/desktop/session.h"
-#include "window/desktop/style.h"
 #include "window/leaving.h"
 
 namespace {

@@ -10,7 +10,7 @@
 #include <cerrno>
 #include <cstdlib>
 
-#include "window/desktop/boxes.h"
+#include "window/desktop/view/boxes.h"
 
 namespace {
 

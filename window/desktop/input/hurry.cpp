@@ -1,0 +1,257 @@
+#include "window/desktop/input/hurry.h"
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QStyleHints>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+
+#include "window/desktop/desktop.h"
+#include "window/desktop/painting/style.h"
+#include "window/desktop/view/canvas.h"
+#include "window/desktop/view/form_window.h"
+
+// Qt's way in for a key that goes the whole way, shortcuts included, as its test library declares it.
+void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key, Qt::KeyboardModifiers modifiers,
+                       const QString& text, bool autoRepeat, ushort count);
+
+namespace {
+
+constexpr int kPatience = 1000;    // milliseconds that pass before the player is offered to go on
+constexpr size_t kMostKept = 500;  // more than hands can do in a wait
+constexpr int kMostRounds = 100;
+
+// The input that Qt keeps back when it is told to.
+bool IsInput(QEvent::Type type) {
+  switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
+    case QEvent::ContextMenu:
+    case QEvent::Close:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool IsPress(QEvent::Type type) {
+  return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+}
+
+bool IsKey(QEvent::Type type) {
+  return type == QEvent::KeyPress || type == QEvent::KeyRelease || type == QEvent::ShortcutOverride;
+}
+
+// A window that a box or dialog stands before takes no input.
+bool IsBlocked(const QWindow& window) {
+  const QWindow* modal = QGuiApplication::modalWindow();
+  return modal && modal != &window && !modal->isAncestorOf(&window, QWindow::IncludeTransients);
+}
+
+}  // namespace
+
+Hurry::Hurry(DesktopFrontEnd& front) : front_(front) { qApp->installEventFilter(this); }
+
+Hurry::~Hurry() { delete word_; }
+
+Hurry::Handler::Handler(Hurry& hurry) : hurry_(hurry), outer_(std::exchange(hurry.state_, {})) {}
+
+Hurry::Handler::~Handler() {
+  hurry_.Anew();
+  hurry_.state_ = outer_;
+}
+
+bool Hurry::TakePress() {
+  if (!loop_) return false;
+  state_.hurried = true;
+  loop_->quit();
+  return true;
+}
+
+void Hurry::LetThrough() {
+  delete word_;
+  if (state_.hurried) Drain();
+  state_.delivering = false;
+}
+
+void Hurry::Anew() {
+  LetThrough();
+  state_ = {};
+}
+
+// --- Waiting -------------------------------------------------------------------------------------
+
+void Hurry::Sleep(int milliseconds) {
+  if (state_.hurried || front_.platform.HasEnded()) return;
+  QElapsedTimer taken;
+  taken.start();
+  if (state_.blocked == 0) state_.began = front_.Milliseconds();
+  const int alone = std::clamp(kPatience - state_.blocked, 0, std::max(0, milliseconds));
+  if (alone > 0 || milliseconds <= 0) front_.Pause(alone);
+  if (alone < milliseconds) LookWhileWaiting(milliseconds - alone);
+  if (milliseconds > 0) state_.blocked += std::max(1, static_cast<int>(taken.elapsed()));
+}
+
+void Hurry::LookWhileWaiting(int milliseconds) {
+  if (!word_) ShowWord();
+  front_.SettleBoards();
+  QEventLoop loop;
+  QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+  loop_ = &loop;
+  looking_ = true;
+  QAbstractEventDispatcher::instance()->wakeUp();  // for what was kept back so far
+  loop.exec();
+  looking_ = false;
+  loop_ = nullptr;
+  if (state_.hurried) delete word_;
+}
+
+// What was pressed while the rest of the handler ran was meant for what it ran through.
+void Hurry::Drain() {
+  QEventLoop loop;
+  looking_ = true;
+  for (int i = 0; i < kMostRounds && !front_.platform.HasEnded() && loop.processEvents(); ++i) continue;
+  looking_ = false;
+}
+
+void Hurry::ShowWord() {
+  FormWindow* window = front_.FrontWindow();
+  if (!window) return;
+  Canvas& board = window->Board();
+  word_ = new QLabel("Click to skip", &board);
+  word_->setObjectName("hurry");
+  word_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  QFont font = style::Letters(11, true);
+  font.setPixelSize(std::lround(font.pixelSize() * board.Zoom()));
+  word_->setFont(font);
+  word_->setStyleSheet(QString("QLabel { color: %1; background: rgba(13, 11, 14, 215); border: 1px solid %2;"
+                               " border-radius: %3px; padding: %4px %5px }")
+                           .arg(style::kIvory.name(), style::kGold.name())
+                           .arg(std::lround(9 * board.Zoom()))
+                           .arg(std::lround(3 * board.Zoom()))
+                           .arg(std::lround(14 * board.Zoom())));
+  word_->adjustSize();
+  const int above = static_cast<int>(std::lround(10 * board.Zoom()));
+  word_->move((board.width() - word_->width()) / 2, board.height() - word_->height() - above);
+  word_->show();
+  word_->raise();
+}
+
+// --- Input ---------------------------------------------------------------------------------------
+
+// Events carry the time of another clock. The one that came quickest so far tells how far ahead ours is.
+void Hurry::Learn(const QEvent& event) {
+  if (!event.isInputEvent()) return;
+  const auto time = static_cast<long long>(static_cast<const QInputEvent&>(event).timestamp());
+  if (time == 0) return;
+  constexpr long long kStarted = 5000;  // anew, or gone round
+  const long long ahead = front_.Milliseconds() - time;
+  if (!ahead_ || ahead < *ahead_ || ahead > *ahead_ + kStarted) ahead_ = ahead;
+}
+
+// Not the second press of a double click, nor one that was under way when the wait began.
+bool Hurry::IsDeliberate(const QEvent& event) const {
+  const auto time = static_cast<long long>(static_cast<const QInputEvent&>(event).timestamp());
+  if (state_.hurried || time == 0 || !ahead_) return true;
+  return time + *ahead_ >= state_.began + QGuiApplication::styleHints()->mouseDoubleClickInterval();
+}
+
+bool Hurry::Hurries(const QEvent& event) const {
+  if (IsPress(event.type())) return IsDeliberate(event);
+  if (event.type() != QEvent::KeyPress) return false;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  constexpr auto kOthers = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  return (key.key() == Qt::Key_Space || key.key() == Qt::Key_Escape) && !(key.modifiers() & kOthers) &&
+         !key.isAutoRepeat() && IsDeliberate(event);
+}
+
+// Whether the event is the rest of a press that was taken as hurry.
+bool Hurry::Swallow(QEvent& event) {
+  if (IsPress(event.type()) || event.type() == QEvent::MouseButtonRelease) {
+    const bool known = buttons_.erase(static_cast<QMouseEvent&>(event).button()) > 0;
+    return known && event.type() == QEvent::MouseButtonRelease;
+  }
+  if (!IsKey(event.type())) return false;
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  if (!keys_.contains(key.key())) return false;
+  if (key.isAutoRepeat()) {
+    event.accept();
+    return true;
+  }
+  if (event.type() == QEvent::ShortcutOverride) return false;
+  keys_.erase(key.key());
+  return event.type() == QEvent::KeyRelease;
+}
+
+bool Hurry::eventFilter(QObject* watched, QEvent* event) {
+  if (!watched->isWindowType() || !event->spontaneous() || !IsInput(event->type())) return false;
+  if (Swallow(*event)) return true;
+  const bool own =
+      !looking_ && sent_ && IsKey(event->type()) && static_cast<QKeyEvent*>(event)->key() == *sent_;
+  if (own || (!looking_ && kept_.empty())) {
+    if (!own) Learn(*event);
+    return false;
+  }
+  if (event->type() == QEvent::ShortcutOverride) {
+    event->accept();  // no shortcut now
+    return true;
+  }
+  if (looking_ && Hurries(*event)) {
+    if (IsPress(event->type()))
+      buttons_.insert(static_cast<QMouseEvent*>(event)->button());
+    else
+      keys_.insert(static_cast<QKeyEvent*>(event)->key());
+    state_.hurried = true;
+    if (loop_) loop_->quit();
+    return true;
+  }
+  Keep(static_cast<QWindow&>(*watched), *event);
+  event->setAccepted(event->type() != QEvent::Close);
+  return true;
+}
+
+void Hurry::Keep(QWindow& window, const QEvent& event) {
+  const bool move = event.type() == QEvent::MouseMove;
+  if (move && !kept_.empty() && kept_.back().window == &window &&
+      kept_.back().event->type() == QEvent::MouseMove)
+    kept_.pop_back();  // only where it ends counts
+  if (kept_.size() < kMostKept) kept_.push_back({&window, std::unique_ptr<QEvent>(event.clone())});
+}
+
+bool Hurry::DeliverOne() {
+  if (kept_.empty() || state_.delivering) return false;
+  const Kept next = std::move(kept_.front());
+  kept_.pop_front();
+  if (!next.window || IsBlocked(*next.window)) return true;
+  state_.delivering = true;
+  if (IsKey(next.event->type())) {
+    const auto& key = static_cast<const QKeyEvent&>(*next.event);
+    sent_ = key.key();
+    qt_handleKeyEvent(next.window, key.type(), key.key(), key.modifiers(), key.text(), key.isAutoRepeat(),
+                      static_cast<ushort>(key.count()));
+    sent_.reset();
+  } else {
+    QCoreApplication::sendEvent(next.window, next.event.get());
+  }
+  state_.delivering = false;
+  return true;
+}

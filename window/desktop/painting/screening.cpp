@@ -1,0 +1,148 @@
+#include "window/desktop/painting/screening.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QXmlStreamReader>
+#include <cstdio>
+#include <map>
+#include <mutex>
+#include <set>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr long long kMostElements = 50'000;  // with all repetitions
+
+// "#..." and "data:" stay within the file.
+bool StaysWithin(QStringView reference) {
+  reference = reference.trimmed();
+  return reference.startsWith(u'#') || reference.startsWith(u"data:", Qt::CaseInsensitive);
+}
+
+// Every url(...) of a style or an attribute.
+bool UrlsStayWithin(QStringView value) {
+  qsizetype at = 0;
+  while ((at = value.indexOf(u"url(", at, Qt::CaseInsensitive)) >= 0) {
+    at += 4;
+    QStringView inside = value.mid(at).trimmed();
+    if (inside.startsWith(u'"') || inside.startsWith(u'\'')) inside = inside.mid(1);
+    if (!StaysWithin(inside)) return false;
+  }
+  return !value.contains(u"@import", Qt::CaseInsensitive);
+}
+
+struct Part {
+  long long own = 1;                 // elements
+  std::vector<std::string> repeats;  // by their names
+};
+
+// How many elements drawing a part takes; too many where a part holds itself.
+long long Weigh(const std::string& name, const std::map<std::string, Part>& parts,
+                std::map<std::string, long long>& known, int depth) {
+  constexpr int kDeepest = 100;
+  const auto part = parts.find(name);
+  if (part == parts.end()) return 1;
+  if (depth > kDeepest) return kMostElements + 1;
+  if (const auto found = known.find(name); found != known.end()) return found->second;
+  known[name] = kMostElements + 1;  // met again below itself
+  long long weight = part->second.own;
+  for (const std::string& each : part->second.repeats)
+    weight = std::min(kMostElements + 1, weight + Weigh(each, parts, known, depth + 1));
+  return known[name] = weight;
+}
+
+}  // namespace
+
+std::string WhyNotUse(const fs::path& path, std::uintmax_t largest) {
+  std::error_code error;
+  if (!fs::is_regular_file(path, error)) return "it is no plain file";
+  if (fs::file_size(path, error) > largest || error) return "it is too large";
+  return "";
+}
+
+bool ReadMediaFile(const fs::path& path, std::uintmax_t largest, std::string& text, std::string& why) {
+  struct stat status = {};
+  if (stat(path.c_str(), &status) != 0) return false;
+  why = WhyNotUse(path, largest);
+  if (!why.empty()) return true;
+  const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+  if (descriptor < 0 || fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+    why = "it can't be read";
+  } else {
+    char chunk[65536];
+    ssize_t count = 0;
+    while (text.size() <= largest && (count = read(descriptor, chunk, sizeof chunk)) > 0)
+      text.append(chunk, static_cast<size_t>(count));
+    if (count < 0) why = "it can't be read";
+    if (text.size() > largest) why = "it is too large";
+  }
+  if (descriptor >= 0) close(descriptor);
+  return true;
+}
+
+std::string WhyNotDraw(std::string_view svg) {
+  QXmlStreamReader reader(QByteArray(svg.data(), static_cast<qsizetype>(svg.size())));
+  std::map<std::string, Part> parts;
+  std::vector<std::string> open;  // the named elements around; "" is the whole picture
+  std::vector<bool> named;
+  open.emplace_back();
+  parts[""];
+  while (!reader.atEnd()) {
+    switch (reader.readNext()) {
+      case QXmlStreamReader::DTD:
+        if (!reader.entityDeclarations().isEmpty()) return "it declares entities";
+        break;
+      case QXmlStreamReader::StartElement: {
+        const auto attributes = reader.attributes();
+        const std::string id = attributes.value(QLatin1String("id")).toString().toStdString();
+        for (const std::string& around : open) ++parts[around].own;
+        named.push_back(!id.empty());
+        if (!id.empty()) {
+          open.push_back(id);
+          parts[id];
+        }
+        constexpr size_t kDeepest = 200;
+        if (named.size() > kDeepest) return "it is nested too deeply";
+        for (const auto& attribute : attributes) {
+          const bool refers = attribute.name() == u"href" || attribute.name() == u"src";
+          if ((refers && !StaysWithin(attribute.value())) || !UrlsStayWithin(attribute.value()))
+            return "it refers to another file";
+          if (refers && attribute.value().trimmed().startsWith(u'#')) {
+            const std::string target = attribute.value().trimmed().mid(1).toString().toStdString();
+            for (const std::string& around : open) parts[around].repeats.push_back(target);
+          }
+        }
+        break;
+      }
+      case QXmlStreamReader::EndElement:
+        if (named.back()) open.pop_back();
+        named.pop_back();
+        break;
+      case QXmlStreamReader::Characters:
+        if (!UrlsStayWithin(reader.text())) return "it refers to another file";
+        break;
+      case QXmlStreamReader::ProcessingInstruction:
+        if (reader.processingInstructionTarget() == u"xml-stylesheet") return "it refers to another file";
+        break;
+      default:
+        break;
+    }
+    constexpr size_t kMostRepeats = 20'000;
+    if (parts[""].repeats.size() > kMostRepeats) return "it repeats too much";
+  }
+  if (reader.hasError()) return "it is no picture";
+  std::map<std::string, long long> known;
+  return Weigh("", parts, known, 0) > kMostElements ? "it repeats too much" : "";
+}
+
+void TellRefused(const fs::path& path, const std::string& why) {
+  static std::mutex guard;
+  static std::set<fs::path> told;
+  const std::lock_guard lock(guard);
+  if (told.insert(path).second)
+    std::fprintf(stderr, "cardhaven: %s isn't used: %s\n", path.c_str(), why.c_str());
+}

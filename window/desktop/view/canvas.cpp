@@ -1,0 +1,205 @@
+#include "window/desktop/view/canvas.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include "window/desktop/desktop.h"
+#include "window/desktop/painting/baize.h"
+#include "window/desktop/painting/notes.h"
+#include "window/desktop/painting/paint.h"
+#include "window/desktop/painting/style.h"
+#include "window/player.h"
+
+namespace {
+
+constexpr int kWaiting = 11, kCustom = 99;
+
+// The tip of the pointing hand, in pixels from its picture's top left.
+constexpr QPoint kFingertip(5, 1);
+
+}  // namespace
+
+Canvas::Canvas(Form& form, DesktopFrontEnd& front, QWidget* parent)
+    : QWidget(parent), form_(form), front_(front), board_(IsBoard(form)), motion_(form, front, *this) {
+  setObjectName("canvas");
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMouseTracking(true);
+  setFocusPolicy(Qt::NoFocus);
+}
+
+void Canvas::SetZoom(double zoom) {
+  if (zoom == zoom_) return;
+  zoom_ = zoom;
+  if (pointer_ > kCustom) setCursor(PointerOf(pointer_ - kCustom));
+  update();
+}
+
+QRect Canvas::ToWindow(const QRectF& area) const {
+  return QRectF(area.topLeft() * zoom_, area.size() * zoom_).toAlignedRect();
+}
+
+void Canvas::Refresh(const Visual& control) {
+  motion_.Changed(control);
+  const auto known = reach_.find(&control);
+  if (known != reach_.end()) {
+    Repaint(known->second);
+    if (!IsShown(control)) reach_.erase(known);
+  }
+  if (!IsShown(control)) return;
+  const QRect reach = Reach(control, front_.pictures);
+  reach_[&control] = reach;
+  Repaint(reach);
+}
+
+void Canvas::SetNotes(std::vector<Note> notes) {
+  if (notes == notes_) return;
+  for (const Note& note : notes_) Repaint(NoteRect(note));
+  notes_ = std::move(notes);
+  for (const Note& note : notes_) Repaint(NoteRect(note));
+}
+
+void Canvas::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  const double scale = devicePixelRatioF();
+  const bool strong = front_.GetView().highContrast;
+  if (board_ && strong) {
+    painter.fillRect(event->rect(), style::kStrongGround);
+  } else if (board_) {
+    if (baize_.deviceIndependentSize().toSize() != size() || baize_.devicePixelRatio() != scale)
+      baize_ = Baize(size(), scale);
+    painter.drawPixmap(QPoint(0, 0), baize_);
+  } else {
+    painter.fillRect(event->rect(), palette().window());
+  }
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(zoom_, zoom_);
+  if (!front_.LessMotion()) {
+    calm_.reset();
+  } else {
+    if (!calm_) calm_ = std::make_unique<Calm>([this](const Visual& control) { Refresh(control); });
+    if (const Guide* guide = front_.GuideOf(form_)) calm_->Keep(form_, *guide);
+  }
+  const Scene scene = Arrange(form_, front_.pictures, calm_ ? calm_->Kept() : Stills());
+  const Easel easel{painter, front_.pictures, scene, board_, scale * zoom_, strong, calm_.get()};
+  const auto paintNotes = [&](NoteLayer layer) {
+    for (const Note& note : notes_)
+      if (event->region().intersects(ToWindow(NoteRect(note)))) PaintNote(painter, note, layer, strong);
+  };
+  paintNotes(NoteLayer::Beneath);
+  for (size_t i = 0; i < scene.size(); ++i) {
+    const QRect reach = Reach(*scene[i].control, front_.pictures);
+    reach_[scene[i].control] = reach;
+    if (event->region().intersects(ToWindow(reach)) && !motion_.PaintInstead(easel, scene[i]))
+      PaintControl(easel, i);
+  }
+  paintNotes(NoteLayer::Above);
+  motion_.PaintAbove(easel);
+  if (paintOver) paintOver(painter);
+  front_.Painted();
+}
+
+Visual* Canvas::At(QPoint point) const { return HitTest(Arrange(form_, front_.pictures), ToBoard(point)); }
+
+std::optional<QPoint> Canvas::SpotOf(const Visual& control) const {
+  constexpr int kGrid = 15;
+  const Scene scene = Arrange(form_, front_.pictures);
+  const QRect area = DrawnRect(control, front_.pictures);
+  const auto inWindow = [&](QPoint point) { return (QPointF(point) * zoom_).toPoint(); };
+  const auto fits = [&](QPoint point) {
+    const QPoint there = inWindow(point);
+    return rect().contains(there) && !childAt(there) && HitTest(scene, ToBoard(there)) == &control;
+  };
+  if (fits(area.center())) return inWindow(area.center());
+  for (int y = 0; y < kGrid; ++y)
+    for (int x = 0; x < kGrid; ++x) {
+      const QPoint point(area.left() + (2 * x + 1) * area.width() / (2 * kGrid),
+                         area.top() + (2 * y + 1) * area.height() / (2 * kGrid));
+      if (fits(point)) return inWindow(point);
+    }
+  return std::nullopt;
+}
+
+// Cards answer to the press: waiting for the release would cost time that counts.
+void Canvas::Press(QPoint point) {
+  Visual* control = At(point);
+  if (!control) return;
+  front_.Deliver(form_, [control] {
+    if (player::WhyNot(*control).empty()) player::Click(*control);
+  });
+}
+
+void Canvas::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) Press(event->position().toPoint());
+}
+
+// For a fast player two clicks in a row are two clicks, unless the control knows what a double click is.
+void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const QPoint point = event->position().toPoint();
+  Visual* control = At(point);
+  if (!control) return;
+  if (!control->OnDblClick) return Press(point);
+  front_.Deliver(form_, [control] {
+    if (player::WhyNot(*control).empty()) player::DblClick(*control);
+  });
+}
+
+void Canvas::mouseMoveEvent(QMouseEvent* event) {
+  Visual* control = At(event->position().toPoint());
+  if (control && control->OnMouseMove && (front_.HeedsPointer() || !event->spontaneous()))
+    front_.Deliver(form_, [control] {
+      if (player::WhyNot(*control).empty()) player::MouseMove(*control);
+    });
+  UpdatePointer();
+}
+
+void Canvas::UpdatePointer() {
+  int wanted = form_.MousePointer;
+  if (wanted != kWaiting) {
+    const QPoint point = mapFromGlobal(QCursor::pos());
+    const Visual* control = rect().contains(point) ? At(point) : nullptr;
+    wanted = control ? control->MousePointer.get() : 0;
+    if (wanted == kCustom)
+      wanted =
+          control->kind == Control::Kind::Image ? kCustom + static_cast<const Image*>(control)->MouseIcon : 0;
+  }
+  if (wanted == pointer_) return;
+  pointer_ = wanted;
+  if (wanted == kWaiting)
+    setCursor(Qt::WaitCursor);
+  else if (wanted > kCustom)
+    setCursor(PointerOf(wanted - kCustom));
+  else
+    unsetCursor();
+}
+
+QCursor Canvas::PointerOf(int picture) {
+  constexpr double kLargest = 3;  // where larger ones are, screens may cut them off
+  const double zoom = std::min(zoom_, kLargest), scale = devicePixelRatioF();
+  QPixmap pixels = front_.pictures.Get(picture, false, scale * zoom);
+  pixels.setDevicePixelRatio(scale);
+  const QPointF tip = QPointF(kFingertip) * zoom;
+  return QCursor(pixels, tip.toPoint().x(), tip.toPoint().y());
+}
+
+void Canvas::ShowToolTip(QHelpEvent& event) {
+  const Scene scene = Arrange(form_, front_.pictures);
+  const QPoint point = ToBoard(event.pos());
+  for (auto it = scene.rbegin(); it != scene.rend(); ++it) {
+    if (!it->rect.contains(point) || !it->clip.contains(point)) continue;
+    const QString text = QString::fromStdString(it->control->ToolTipText);
+    if (!text.isEmpty()) QToolTip::setFont(style::Letters(zoom_));
+    if (!text.isEmpty()) return QToolTip::showText(event.globalPos(), text, this, ToWindow(it->rect));
+    if (it->control->kind == Control::Kind::Image) break;
+  }
+  QToolTip::hideText();
+}
+
+bool Canvas::event(QEvent* event) {
+  if (event->type() == QEvent::Hide || event->type() == QEvent::Resize) motion_.Drop();
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  ShowToolTip(static_cast<QHelpEvent&>(*event));
+  return true;
+}

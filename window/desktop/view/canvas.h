@@ -1,0 +1,77 @@
+// The board of a window: one widget that draws everything that isn't a widget of its own, and takes the mouse
+// for it.
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+
+#include "window/desktop/painting/motion.h"
+#include "window/desktop/painting/scene.h"
+#include "window/guide.h"
+
+class DesktopFrontEnd;
+class Pictures;
+class QHelpEvent;
+
+class Canvas : public QWidget {
+ public:
+  Canvas(Form& form, DesktopFrontEnd& front, QWidget* parent);
+
+  // How much larger than at 100 % the board is drawn. Scenes, reaches and painting are in pixels at 100 %;
+  // mouse and widgets in pixels of the window.
+  double Zoom() const { return zoom_; }
+  void SetZoom(double zoom);
+  QPoint ToBoard(QPointF point) const { return (point / zoom_).toPoint(); }
+  QRect ToWindow(const QRectF& area) const;
+  // Paints that part of the board anew; pixels at 100 %.
+  void Repaint(const QRect& area) { update(ToWindow(area)); }
+
+  // The control looks different from now on, or lies elsewhere.
+  void Refresh(const Visual& control);
+  // What has changed since the last time is set in motion.
+  void Settle() { motion_.Settle(); }
+  // Shows that a click on the control was refused.
+  void Refuse(const Visual& control) { motion_.Refuse(control); }
+  // Whether nothing moves, so that the board is painted as it stands.
+  bool AtRest() const { return motion_.AtRest(); }
+  // Shows the pointer that the control under the mouse asks for.
+  void UpdatePointer();
+
+  // What is written on the board beside its controls.
+  void SetNotes(std::vector<Note> notes);
+  const std::vector<Note>& Notes() const { return notes_; }
+  // Draws over everything else; pixels at 100 %.
+  std::function<void(QPainter&)> paintOver;
+
+  // The control that a click at this point of the window means.
+  Visual* At(QPoint point) const;
+  // A spot that means this control: its middle if that shows. Nothing if the control is wholly covered.
+  std::optional<QPoint> SpotOf(const Visual& control) const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  void Press(QPoint point);
+  void ShowToolTip(QHelpEvent& event);
+  QCursor PointerOf(int picture);
+
+  Form& form_;
+  DesktopFrontEnd& front_;
+  const bool board_;
+  std::vector<Note> notes_;
+  double zoom_ = 1;
+  int pointer_ = 0;  // the one that shows; above 99 that picture
+  QPixmap baize_;
+  Motion motion_;
+  std::unique_ptr<Calm> calm_;                      // where less is to move
+  std::unordered_map<const Visual*, QRect> reach_;  // where each control was drawn last
+};

@@ -1,0 +1,295 @@
+#include "window/desktop/view/form_window.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QShortcut>
+#include <QTimer>
+#include <QWindow>
+#include <cmath>
+#include <utility>
+
+#include "window/desktop/desktop.h"
+#include "window/desktop/input/keyboard.h"
+#include "window/desktop/view/canvas.h"
+#include "window/desktop/view/comfort.h"
+#include "window/desktop/view/menus.h"
+#include "window/desktop/view/native.h"
+#include "window/desktop/view/view_menu.h"
+#include "window/player.h"
+
+namespace {
+
+constexpr int kWaiting = 11;
+constexpr int kStatusHeight = 24;
+
+QString Name(const Control& control) { return QString::fromStdString(control.NameInForm()); }
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, DesktopFrontEnd& front) : form(form), front_(front) {
+  setObjectName(QString::fromUtf8(form.name.data(), static_cast<qsizetype>(form.name.size())));
+  canvas_ = new Canvas(form, front, this);
+  menus_ = new Menus(form, front, *this);
+  if (front.HeedsWindowManager()) viewMenu_ = new ViewMenu(*this, front, menus_->Bar());
+  for (Control* control : form.Controls()) {
+    if (control->kind == Control::Kind::StatusBar) MakeStatusBar(static_cast<StatusBar&>(*control));
+    if (!IsNative(control->kind)) continue;
+    QWidget* widget = MakeNative(static_cast<Visual&>(*control), front, canvas_);
+    widget->setObjectName(Name(*control));
+    widget->installEventFilter(this);
+    widgets_[control] = widget;
+  }
+  if (Guide* guide = front.GuideOf(form)) {
+    comfort_ = std::make_unique<Comfort>(*this, front, *guide);
+    if (!guide->Keys().empty()) keyboard_ = new Keyboard(*this, front, *guide);
+    connect(new QShortcut(Qt::SHIFT | Qt::Key_F1, this), &QShortcut::activated, this,
+            [this] { front_.Ears().TellState(*this); });
+  }
+  setWindowTitle(QString::fromStdString(form.Caption));
+  zoomKept_.setSingleShot(true);
+  zoomKept_.setInterval(500);
+  connect(&zoomKept_, &QTimer::timeout, this, [this] {
+    if (left_ || IsFilled() || !front_.GetView().fitNormal) return;
+    View view = front_.GetView();
+    view.zoom = std::clamp(static_cast<int>(std::lround(zoom_ * 100)), 100, 300);
+    front_.SetView(view);
+  });
+  // A window that comes back from the full screen gets its frame a moment later, and its place is that of the
+  // frame.
+  framed_.setSingleShot(true);
+  framed_.setInterval(200);
+  connect(&framed_, &QTimer::timeout, this, [this] {
+    if (!left_ && isVisible() && !IsFilled() && !isMinimized()) ApplyPlace();
+  });
+  fits_ = front.GetView().fitNormal;
+  ApplySize();
+}
+
+FormWindow::~FormWindow() { delete menus_; }
+
+void FormWindow::MakeStatusBar(StatusBar& bar) {
+  statusBar_ = new QWidget(this);
+  statusBar_->setObjectName(Name(bar));
+  statusBar_->setAutoFillBackground(true);
+  for (int i = 1; i <= 3; ++i) {
+    auto* panel = new QLabel(statusBar_);
+    panel->setObjectName(Name(bar.Panels(i)));
+    panel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    panel->setIndent(4);
+    panel->setTextFormat(Qt::PlainText);
+    panels_.push_back(panel);
+  }
+  widgets_[&bar] = statusBar_;
+  ApplyPanels();
+}
+
+void FormWindow::LayOutParts() {
+  const int top = menus_->Height();
+  const int tall = static_cast<int>(std::lround(kStatusHeight * zoom_));
+  const int bottom = statusBar_ && !statusBar_->isHidden() ? tall : 0;
+  menus_->Place(width());
+  canvas_->setGeometry(0, top, width(), std::max(0, height() - top - bottom));
+  if (!statusBar_) return;
+  statusBar_->setGeometry(0, height() - tall, width(), tall);
+  ApplyPanels();
+}
+
+// The last panel takes what the others leave.
+void FormWindow::ApplyPanels() {
+  auto bar = std::ranges::find(form.Controls(), Control::Kind::StatusBar, &Control::kind);
+  if (bar == form.Controls().end()) return;
+  const int margin = static_cast<int>(std::lround(2 * zoom_));
+  int left = margin;
+  for (int i = 1; i <= 3; ++i) {
+    const Panel& panel = static_cast<StatusBar*>(*bar)->Panels(i);
+    int breadth = panel.Width > 0 ? Shown(panel.Width / 15 * 15) : (width() - 2 * margin) / 3;
+    if (i == 3) breadth = std::max(40, width() - left - margin);
+    QLabel* label = panels_[i - 1];
+    label->setIndent(2 * margin);
+    label->setGeometry(left, margin, breadth - margin, statusBar_->height() - 2 * margin);
+    label->setText(QString::fromStdString(comfort_ ? comfort_->PanelText(panel) : panel.Text.get()));
+    left += breadth;
+  }
+}
+
+// --- What the model tells ------------------------------------------------------------------------
+
+void FormWindow::ShowForm(QWidget* behind) {
+  if (!isVisible()) {
+    const Qt::WindowFlags buttons = form.Sizable ? Qt::WindowMinMaxButtonsHint : Qt::WindowMinimizeButtonHint;
+    setWindowFlags(form.Modal() ? Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                      Qt::WindowCloseButtonHint
+                                : Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                      Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint | buttons);
+    setWindowModality(form.Modal() ? Qt::ApplicationModal : Qt::NonModal);
+    behind_ = form.Modal() ? behind : nullptr;
+    Rezoom();
+    ApplySize();
+    if (comfort_) comfort_->BeforeShow();
+    // Before the window is there: the place is that of its frame, whose size isn't known yet.
+    if (form.Left != 0 || form.Top != 0) ApplyPlace();
+    create();
+    if (form.Modal() && behind) windowHandle()->setTransientParent(behind->windowHandle());
+    if (form.WindowState != window_state::kNormal) ApplyForm(Prop::WindowState);
+    if (form.Sizable && front_.GetView().fullScreen && front_.HeedsWindowManager())
+      FillScreen(Qt::WindowFullScreen);
+    if (IsFilled()) {
+      Rezoom();
+      TellSizeSoon();
+    }
+  }
+  show();
+  raise();
+  activateWindow();
+  if (keyboard_) keyboard_->Shown();
+  Settle();
+  front_.Ears().Shown(*this);
+}
+
+void FormWindow::Leave() {
+  if (comfort_) comfort_->Leave();
+  comfort_.reset();
+  left_ = true;
+  if (keyboard_) keyboard_->Leave();
+  for (auto& [control, widget] : widgets_) {
+    widget->removeEventFilter(this);
+    disconnect(widget, nullptr, widget, nullptr);  // not what Qt itself has tied to its end
+  }
+  canvas_->setEnabled(false);
+  hide();
+}
+
+void FormWindow::Apply(Control& control, Prop prop) {
+  switch (control.kind) {
+    case Control::Kind::Form:
+      return ApplyForm(prop);
+    case Control::Kind::Timer:
+      return;
+    case Control::Kind::Menu:
+      return menus_->Apply(static_cast<Menu&>(control));
+    case Control::Kind::Panel:
+      return ApplyPanels();
+    case Control::Kind::StatusBar:
+      statusBar_->setVisible(static_cast<Visual&>(control).Visible);
+      return LayOutParts();
+    default:
+      break;
+  }
+  auto& visual = static_cast<Visual&>(control);
+  if (QWidget* widget = WidgetOf(control)) return ApplyNative(*widget, visual, prop);
+  switch (prop) {
+    case Prop::Enabled:
+    case Prop::ToolTipText:
+      return;
+    case Prop::MousePointer:
+    case Prop::MouseIcon:
+      return canvas_->UpdatePointer();
+    default:
+      break;
+  }
+  canvas_->Refresh(visual);
+  if (control.kind == Control::Kind::Frame) RefreshWithin(control);
+}
+
+// A frame carries what it holds along.
+void FormWindow::RefreshWithin(const Control& container) {
+  for (Control* each : form.Controls()) {
+    if (each->parent != &container || each->kind == Control::Kind::Timer) continue;
+    if (QWidget* widget = WidgetOf(*each))
+      ApplyNative(*widget, static_cast<Visual&>(*each), Prop::Visible);
+    else if (IsDrawn(each->kind))
+      canvas_->Refresh(static_cast<Visual&>(*each));
+    if (each->kind == Control::Kind::Frame) RefreshWithin(*each);
+  }
+}
+
+void FormWindow::ApplyForm(Prop prop) {
+  switch (prop) {
+    case Prop::Caption:
+      return setWindowTitle(QString::fromStdString(form.Caption));
+    case Prop::Left:
+    case Prop::Top:
+      if (isVisible() && !IsFilled() && !tellsPlace_) ApplyPlace();
+      return;
+    case Prop::Width:
+    case Prop::Height:
+      ApplySize();
+      if (zoom_ != 1 && isVisible() && !IsFilled() && !isMinimized() && !tellsPlace_) ApplyPlace();
+      return;
+    case Prop::MousePointer:
+      form.MousePointer == kWaiting ? setCursor(Qt::WaitCursor) : unsetCursor();
+      return canvas_->UpdatePointer();
+    case Prop::WindowState:
+      if (form.WindowState == window_state::kMaximised && !IsFilled()) return FillScreen(Qt::WindowMaximized);
+      if (form.WindowState != window_state::kMaximised || isMinimized()) {
+        Qt::WindowStates state = windowState() & ~(Qt::WindowMaximized | Qt::WindowMinimized);
+        if (form.WindowState == window_state::kMaximised) state |= Qt::WindowMaximized;
+        if (form.WindowState == window_state::kMinimised) state |= Qt::WindowMinimized;
+        if (state != windowState()) setWindowState(state);
+      }
+      return;
+    default:
+      return;
+  }
+}
+
+void FormWindow::Reordered(Visual& control) { canvas_->Refresh(control); }
+
+void FormWindow::FocusMoved() { Settle(); }
+
+void FormWindow::SelectText(TextBox& box) {
+  if (auto* line = qobject_cast<QLineEdit*>(WidgetOf(box))) line->selectAll();
+  if (auto* page = qobject_cast<QPlainTextEdit*>(WidgetOf(box))) page->selectAll();
+}
+
+void FormWindow::SurfaceChanged(PictureBox& surface) { canvas_->Refresh(surface); }
+
+void FormWindow::ApplyView() {
+  if (isVisible() && form.Sizable && front_.HeedsWindowManager() && !isMinimized() &&
+      isFullScreen() != front_.GetView().fullScreen) {
+    if (front_.GetView().fullScreen)
+      FillScreen(Qt::WindowFullScreen);
+    else
+      setWindowState(windowState() & ~Qt::WindowFullScreen);
+  }
+  const bool fits = front_.GetView().fitNormal;
+  if (fits && !fits_ && isVisible()) FollowFrame();
+  fits_ = fits;
+  Rezoom();
+  ApplyLimits();
+  if (isVisible()) TellSizeSoon();
+  if (viewMenu_) viewMenu_->Apply();
+  for (const auto& [control, widget] : widgets_)
+    if (control->kind != Control::Kind::StatusBar)
+      RestyleNative(*widget, static_cast<const Visual&>(*control));
+  canvas_->update();
+}
+
+// Qt moves the focus on when a widget is disabled or hidden; the model has a rule of its own.
+void FormWindow::Settle() {
+  if (left_) return;
+  if (untold_ && player::WhyNot(form).empty()) TellSizeSoon();
+  if (comfort_) comfort_->Settle();
+  if (qobject_cast<QMenuBar*>(focusWidget())) return;  // which gives the focus back by itself
+  if (keyboard_) {
+    keyboard_->Settle();
+    if (keyboard_->HoldsFocus()) return;
+  }
+  if (std::exchange(refused_, false)) PutBackFocus();
+  const Visual* active = form.ActiveControl();
+  QWidget* widget = active ? WidgetOf(*active) : nullptr;
+  if (widget && focusWidget() != widget) widget->setFocus(Qt::OtherFocusReason);
+}
+
+QWidget* FormWindow::WidgetOf(const Control& control) const {
+  const auto found = widgets_.find(&control);
+  return found == widgets_.end() ? nullptr : found->second;
+}
+
+Visual* FormWindow::ControlOf(const QObject* widget) const {
+  for (const auto& [control, each] : widgets_)
+    if (each == widget) return const_cast<Visual*>(static_cast<const Visual*>(control));
+  return nullptr;
+}

@@ -1,0 +1,222 @@
+// The size of a window, its place and its zoom: what the model tells, and what the player does to them.
+#include <QScreen>
+#include <QTimer>
+#include <cmath>
+
+#include "window/desktop/desktop.h"
+#include "window/desktop/painting/style.h"
+#include "window/desktop/view/canvas.h"
+#include "window/desktop/view/form_window.h"
+#include "window/desktop/view/menus.h"
+#include "window/desktop/view/native.h"
+#include "window/player.h"
+
+// --- Zoom ----------------------------------------------------------------------------------------
+
+int FormWindow::Shown(int twips) const { return static_cast<int>(std::lround(twips / 15.0 * zoom_)); }
+
+int FormWindow::Told(int pixels) const { return static_cast<int>(std::lround(pixels * 15 / zoom_)); }
+
+QPoint FormWindow::Aside() const {
+  return {(Pixels(form.Width) - Shown(form.Width)) / 2, (Pixels(form.Height) - Shown(form.Height)) / 2};
+}
+
+FormWindow& FormWindow::Leader() {
+  auto* before = dynamic_cast<FormWindow*>(behind_.data());
+  return before ? before->Leader() : *this;
+}
+
+double FormWindow::FittingZoom() const {
+  constexpr double kLargest = 10;
+  if (form.MinWidth <= 0 || form.MinHeight <= 0) return 1;
+  return std::clamp(std::min(width() * 15.0 / form.MinWidth, height() * 15.0 / form.MinHeight), 1.0,
+                    kLargest);
+}
+
+double FormWindow::WantedZoom() const {
+  const View& view = front_.GetView();
+  const double wanted = view.zoom / 100.0;
+  if (!front_.HeedsWindowManager()) return 1;
+  if (form.Sizable && IsFilled()) return view.fitMaximised ? FittingZoom() : std::min(wanted, FittingZoom());
+  // The one that the player has dragged the window to isn't a round number.
+  if (form.Sizable && view.fitNormal && (zoomKept_.isActive() || std::abs(zoom_ - wanted) < 0.006))
+    return zoom_;
+  // A window that comes back from the full screen doesn't know its frame yet.
+  const QSize frame = QSize(4, 30).expandedTo(isVisible() ? frameSize() - size() : QSize());
+  const QSize room = screen()->availableGeometry().size() - frame;
+  const double width = (form.Sizable && form.MinWidth > 0 ? form.MinWidth : form.Width) / 15.0;
+  const double height = (form.Sizable && form.MinHeight > 0 ? form.MinHeight : form.Height) / 15.0;
+  const double asked = behind_ ? style::ZoomOf(behind_) : wanted;
+  return std::max(1.0, std::min({asked, room.width() / width, room.height() / height}));
+}
+
+void FormWindow::Rezoom() {
+  const double wanted = WantedZoom();
+  if (wanted != zoom_) SetZoom(wanted);
+}
+
+void FormWindow::SetZoom(double zoom) {
+  zoom_ = zoom;
+  style::SetZoom(*this, zoom);
+  canvas_->SetZoom(zoom);
+  menus_->SetZoom(zoom);
+  for (const auto& [control, widget] : widgets_)
+    if (control->kind != Control::Kind::StatusBar) ZoomNative(*widget, static_cast<const Visual&>(*control));
+  if (!IsFilled() && !zooming_) {
+    ApplySize();
+    if (isVisible()) ApplyPlace();
+  }
+  LayOutParts();
+}
+
+// A window that fits what it shows to its frame: the frame is dragged, and the board grows with it.
+void FormWindow::FollowFrame() {
+  if (!form.Sizable || IsFilled() || isMinimized() || zooming_ || !front_.GetView().fitNormal ||
+      !front_.HeedsWindowManager())
+    return;
+  zooming_ = true;
+  SetZoom(std::min(FittingZoom(), 3.0));
+  zooming_ = false;
+  zoomKept_.start();
+  TellSizeSoon();
+}
+
+// --- What the model tells ------------------------------------------------------------------------
+
+// Where nobody manages windows the size must be asked for as well.
+void FormWindow::FillScreen(Qt::WindowStates how) {
+  if (!IsFilled()) {
+    const Extent screen = front_.ScreenExtent();
+    zooming_ = true;
+    setGeometry(0, 0, Pixels(screen.width), Pixels(screen.height));
+    zooming_ = false;
+  }
+  setWindowState((windowState() & ~Qt::WindowMinimized) | how);
+}
+
+void FormWindow::ApplySize() {
+  const QSize wanted = ShownSize();
+  ApplyLimits();
+  if (form.Sizable && size() != wanted && !IsFilled() && !isMinimized()) resize(wanted);
+  if (!isVisible()) LayOutParts();
+}
+
+void FormWindow::ApplyLimits() {
+  const QSize wanted = ShownSize();
+  if (!form.Sizable) {
+    if (minimumSize() != wanted || maximumSize() != wanted) setFixedSize(wanted);
+    return;
+  }
+  const bool fits = (IsFilled() || front_.GetView().fitNormal) && front_.HeedsWindowManager();
+  const double least = fits ? 1 : zoom_;
+  setMinimumSize(static_cast<int>(std::lround(form.MinWidth / 15.0 * least)),
+                 static_cast<int>(std::lround(form.MinHeight / 15.0 * least)));
+}
+
+// What is drawn larger than the model knows of is kept on the screen.
+void FormWindow::ApplyPlace() {
+  QPoint corner = QPoint(Pixels(form.Left), Pixels(form.Top)) + Aside();
+  if (zoom_ != 1) {
+    const QRect room = screen()->availableGeometry();
+    const QSize whole = isVisible() ? frameSize() : size();
+    corner.setX(std::max(room.left(), std::min(corner.x(), room.right() + 1 - whole.width())));
+    corner.setY(std::max(room.top(), std::min(corner.y(), room.bottom() + 1 - whole.height())));
+  }
+  if (pos() != corner) move(corner);
+}
+
+// --- What the player does ------------------------------------------------------------------------
+
+void FormWindow::resizeEvent(QResizeEvent*) {
+  if (IsFilled() && isVisible())
+    Rezoom();
+  else if (isVisible() && !left_ && size() != ShownSize())
+    FollowFrame();
+  LayOutParts();
+  TellSizeSoon();
+}
+
+// Asked once the state is known too: a window that is maximised gets its size first, then the news of its
+// state.
+void FormWindow::TellSizeSoon() {
+  if (left_ || sizeWaits_) return;
+  sizeWaits_ = true;
+  QTimer::singleShot(0, this, [this] {
+    sizeWaits_ = false;
+    TellSize();
+  });
+}
+
+// Behind a dialog or box the model takes no news; they are told when it has gone.
+bool FormWindow::MustWait() { return untold_ = !player::WhyNot(form).empty(); }
+
+void FormWindow::TellSize() {
+  untold_ = false;
+  if (left_ || !isVisible() || isMinimized()) return;
+  Rezoom();
+  TellState();
+  if (size() == ShownSize()) return;
+  if (!form.Sizable || !front_.HeedsWindowManager()) return;
+  front_.Deliver(form, [this] {
+    if (MustWait()) return;
+    tellsPlace_ = true;
+    player::Resize(form, Told(width()), Told(height()));
+    tellsPlace_ = false;
+    TellPlace();
+  });
+}
+
+void FormWindow::TellPlace() {
+  if (left_ || !isVisible() || IsFilled() || isMinimized() || framed_.isActive()) return;
+  const QPoint place = pos() - Aside();
+  tellsPlace_ = true;
+  if (place.x() != Pixels(form.Left)) form.Left = place.x() * 15;
+  if (place.y() != Pixels(form.Top)) form.Top = place.y() * 15;
+  tellsPlace_ = false;
+}
+
+void FormWindow::moveEvent(QMoveEvent*) {
+  if (left_ || !isVisible() || IsFilled() || isMinimized() || !front_.HeedsWindowManager() || zooming_)
+    return;
+  if (pos() - Aside() != QPoint(Pixels(form.Left), Pixels(form.Top)))
+    front_.Deliver(form, [this] { TellPlace(); });
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+  if (event->type() != QEvent::WindowStateChange) return;
+  if (!left_ && isVisible() && !isMinimized()) {  // before the place is told that comes with the new state
+    zooming_ = true;
+    Rezoom();
+    zooming_ = false;
+  }
+  TellState();
+  TellSizeSoon();
+}
+
+int FormWindow::StateNow() const {
+  return isMinimized() ? window_state::kMinimised
+         : IsFilled()  ? window_state::kMaximised
+                       : window_state::kNormal;
+}
+
+// To the games a window that takes the whole screen is maximised: so it isn't their usual size that is kept.
+void FormWindow::TellState() {
+  if (left_ || !isVisible() || !front_.HeedsWindowManager()) return;
+  const int state = StateNow();
+  // A window that opened maximised has never had a place of its own.
+  const bool placeless = state == window_state::kNormal && !hasStood_;
+  if (state == window_state::kNormal) hasStood_ = true;
+  if (state == form.WindowState) return;
+  front_.Deliver(form, [this, placeless] {
+    const int state = StateNow();  // it may have changed while the news waited
+    if (state == form.WindowState || MustWait()) return;
+    zooming_ = true;
+    Rezoom();
+    zooming_ = false;
+    player::SetState(form, state);
+    ApplySize();
+    if (placeless && state == window_state::kNormal)
+      form.platform.Dispatch([this] { form.CenterOnScreen(); });
+    if (state == window_state::kNormal) framed_.start();
+  });
+}

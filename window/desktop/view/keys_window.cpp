@@ -1,0 +1,108 @@
+#include "window/desktop/view/keys_window.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QTableWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "window/desktop/desktop.h"
+#include "window/desktop/painting/style.h"
+#include "window/desktop/view/form_window.h"
+#include "window/player.h"
+
+namespace {
+
+QTableWidget* MakeTable(const std::vector<KeyRow>& rows, QWidget* parent) {
+  auto* table = new QTableWidget(static_cast<int>(rows.size()), 2, parent);
+  table->setObjectName("keys");
+  table->setHorizontalHeaderLabels({"Key", "What it does"});
+  table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  table->horizontalHeader()->setHighlightSections(false);
+  table->verticalHeader()->hide();
+  table->setShowGrid(false);
+  table->setAlternatingRowColors(true);
+  table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table->setSelectionMode(QAbstractItemView::SingleSelection);
+  table->setTabKeyNavigation(false);
+  table->setWordWrap(false);
+  QFont bold = table->font();
+  bold.setBold(true);
+  for (int i = 0; i < table->rowCount(); ++i) {
+    auto* keys = new QTableWidgetItem(QString::fromStdString(rows[i].keys));
+    keys->setFont(bold);
+    table->setItem(i, 0, keys);
+    table->setItem(i, 1, new QTableWidgetItem(QString::fromStdString(rows[i].does)));
+  }
+  table->resizeColumnsToContents();
+  table->resizeRowsToContents();
+  table->setColumnWidth(0, table->columnWidth(0) + 16);
+  table->horizontalHeader()->setStretchLastSection(true);
+  return table;
+}
+
+// As large as its table, and no larger than the screen.
+QSize SizeFor(const QTableWidget& table, const QScreen& screen) {
+  const int border = 2 * table.frameWidth();
+  const int width = table.columnWidth(0) + table.columnWidth(1) + border + 24;
+  const int height =
+      table.horizontalHeader()->sizeHint().height() + table.rowHeight(0) * table.rowCount() + border;
+  const QSize room = screen.availableGeometry().size() - QSize(80, 160);
+  return QSize(width, height).boundedTo(room);
+}
+
+// What key P stands for.
+Control* PauseOf(FormWindow& window, const std::vector<KeyRow>& rows) {
+  for (const KeyRow& row : rows)
+    for (const KeyClick& click : row.clicks)
+      if (click.keys == "P") return window.form.find(click.control);
+  return nullptr;
+}
+
+}  // namespace
+
+void ShowKeys(FormWindow& window, DesktopFrontEnd& front) {
+  Form& form = window.form;
+  const Guide* guide = front.GuideOf(form);
+  if (!guide) return;
+  const std::vector<KeyRow> rows = guide->Keys();
+  Control* const pause = PauseOf(window, rows);
+  // Presses Pause if the game stands on the other side of it; tells whether it has.
+  const auto setPaused = [&front, &form, pause](bool paused) {
+    const Guide* now = front.GuideOf(form);
+    if (!now || !pause || now->Paused() == paused || !player::WhyNot(*pause).empty()) return false;
+    player::Click(*pause);
+    return true;
+  };
+  const bool pausedIt = setPaused(true);
+
+  auto* dialog = new QDialog(&window);
+  dialog->setObjectName("frmKeys");
+  style::SetZoom(*dialog, style::ZoomOf(&window));
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setWindowTitle("Keys");
+  dialog->setWindowModality(Qt::ApplicationModal);
+  auto* table = MakeTable(rows, dialog);
+  table->setMinimumSize(SizeFor(*table, *window.screen()));
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, dialog);
+  buttons->button(QDialogButtonBox::Ok)->setIcon(QIcon());
+  buttons->setCenterButtons(true);
+  QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
+  auto* layout = new QVBoxLayout(dialog);
+  layout->addWidget(table);
+  layout->addWidget(buttons);
+  QObject::connect(dialog, &QDialog::finished, &window, [&front, &form, &window, pausedIt, setPaused] {
+    if (!front.Knows(form)) return;
+    window.activateWindow();
+    if (pausedIt) front.Deliver(form, [setPaused] { setPaused(false); });
+  });
+  dialog->show();
+  dialog->activateWindow();
+  if (table->rowCount() > 0) table->setCurrentCell(0, 0);
+  table->setFocus();
+}
