@@ -131,6 +131,8 @@ TEST_F(Script, RefusesWhatAPlayerCouldNotDo) {
       {"random 1..5 6", "the number must lie from 1 to 5"},
       {"random 1-5", "the bounds are written LO..HI"},
       {"trace maybe", "there is no command \\\"trace maybe\\\""},
+      {"trace", "there is no command \\\"trace\\\""},
+      {"help dance", "there is no command \\\"dance\\\""},
       {"screenshot frmTest \"x.png\"", "there is no screen"},
       {"dance", "there is no command \\\"dance\\\""},
   };
@@ -158,6 +160,18 @@ TEST_F(Script, AnswersWithValues) {
   for (const char* key : {"\"TimerA\":{\"Enabled\":false,\"Interval\":100}", "\"bar.Panels(3)\":{",
                           "\"mnuEntry\":{", "\"imgCard(1)\":{"})
     EXPECT_NE(dump.find(key), std::string::npos) << key;
+}
+
+TEST_F(Script, HelpTellsEachCommand) {
+  EXPECT_EQ(Do("help time"),
+            "* help \"time\" \"Tells how many milliseconds have passed since the start\"\nok\n");
+  std::istringstream all(Do("help"));
+  std::string line;
+  for (const ::Script::Verb& verb : ::Script::Verbs()) {
+    ASSERT_TRUE(std::getline(all, line));
+    EXPECT_EQ(line + "\nok\n", Do("help " + std::string(verb.name)));
+  }
+  EXPECT_TRUE(std::getline(all, line) && line == "ok");
 }
 
 TEST_F(Script, TicksInTheOrderOfTheTimes) {

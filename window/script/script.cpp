@@ -1,5 +1,6 @@
 #include "window/script/script.h"
 
+#include <algorithm>
 #include <charconv>
 #include <climits>
 #include <cmath>
@@ -186,6 +187,17 @@ Key FindKey(const std::string& name) {
 
 constexpr int kLargestTwips = 16383 * 15;
 
+Refusal NoCommand(const std::string& name, const std::string& rest) {
+  return Refusal("there is no command \"" + name + (rest.empty() ? "" : " " + rest) + "\"");
+}
+
+const Script::Verb& FindVerb(const std::string& name, const std::string& rest) {
+  const auto verbs = Script::Verbs();
+  const auto found = std::ranges::find(verbs, name, &Script::Verb::name);
+  if (found == verbs.end()) throw NoCommand(name, rest);
+  return *found;
+}
+
 }  // namespace
 
 Script::Script(Platform& platform, Hands& hands, std::ostream& out)
@@ -194,11 +206,11 @@ Script::Script(Platform& platform, Hands& hands, std::ostream& out)
 void Script::Execute(const std::string& line) {
   std::string rest(Trim(line));
   if (rest.empty() || rest[0] == '#') return;
-  const std::string verb = TakeWord(rest);
+  const std::string name = TakeWord(rest);
   answerOpen_ = true;
   value_.clear();
   try {
-    value_ = Run(verb, rest);
+    FindVerb(name, rest).run(*this, rest);
   } catch (const Refusal& refusal) {
     answerOpen_ = false;
     out_ << "error " << Quoted(refusal.what()) << std::endl;
@@ -211,76 +223,115 @@ void Script::AnswerNow() {
   out_ << (value_.empty() ? "ok" : "ok " + value_) << std::endl;
 }
 
-std::string Script::Run(const std::string& verb, const std::string& arguments) {
-  std::string rest = arguments;
-  if (verb == "click") {
-    hands_.Click(Pointable(FindControl(platform_, rest)));
-  } else if (verb == "dblclick") {
-    hands_.DblClick(Pointable(FindControl(platform_, rest)));
-  } else if (verb == "move") {
-    hands_.MouseMove(Pointable(FindControl(platform_, rest)));
-  } else if (verb == "type") {
-    auto& box = Expect<TextBox>(FindControl(platform_, TakeWord(rest)), {Control::Kind::TextBox}, "text box");
-    const std::string text = Text(rest);
-    RefuseIf(player::WhyNot(box));
-    if (box.Locked) throw Refusal(box.FullName() + " can't be written");
-    hands_.Type(box, text);
-  } else if (verb == "select") {
-    auto& list = Expect<ListControl>(
-        FindControl(platform_, TakeWord(rest)),
-        {Control::Kind::DriveListBox, Control::Kind::DirListBox, Control::Kind::FileListBox}, "list");
-    RefuseIf(player::WhyNot(list));
-    const int entries = static_cast<int>(list.List.get().size());
-    if (entries == 0) throw Refusal(list.FullName() + " is empty");
-    hands_.Select(list, Number(rest, 0, entries - 1));
-  } else if (verb == "key") {
-    Form& form = FindWindow(platform_, TakeWord(rest));
-    const Key key = FindKey(Text(rest));
-    RefuseIf(player::WhyNot(form));
-    hands_.Press(form, key);
-  } else if (verb == "close") {
-    Form& form = FindWindow(platform_, rest);
-    RefuseIf(player::WhyNot(form));
-    hands_.Close(form);
-  } else if (verb == "resize") {
-    Form& form = FindWindow(platform_, TakeWord(rest));
-    RefuseIf(player::WhyNot(form));
-    const int width = Number(TakeWord(rest), 1, kLargestTwips);
-    const int height = Number(rest, 1, kLargestTwips);
-    if (!form.Sizable) throw Refusal(std::string(form.name) + " has a fixed size");
-    if (form.WindowState != window_state::kNormal)
-      throw Refusal(std::string(form.name) + " isn't in its normal state");
-    hands_.Resize(form, width, height);
-  } else if (verb == "state") {
-    Form& form = FindWindow(platform_, TakeWord(rest));
-    RefuseIf(player::WhyNot(form));
-    hands_.SetState(form, Number(rest, 0, form.Sizable ? 2 : 1));
-  } else if (verb == "answer") {
-    hands_.PressAnswer(FindAnswer(platform_, Text(rest)));
-  } else if (verb == "advance") {
-    hands_.Advance(Number(rest, 0, INT_MAX));
-  } else if (verb == "get") {
-    return GetProperty(platform_, rest);
-  } else if (verb == "dump") {
-    return Dump(FindWindow(platform_, rest));
-  } else if (verb == "windows") {
-    return Windows(platform_);
-  } else if (verb == "time") {
-    return std::to_string(platform_.front.Milliseconds());
-  } else if (verb == "random") {
-    return Foresee(platform_.random, rest);
-  } else if (verb == "trace" && (rest == "on" || rest == "off")) {
-    trace_ = rest == "on";
-  } else if (verb == "screenshot") {
-    Form& form = FindWindow(platform_, TakeWord(rest));
-    const std::string file = Text(rest);
-    RefuseIf(hands_.Screenshot(form, file));
-  } else if (verb == "quit") {
-    quit_ = true;
-  } else {
-    throw Refusal("there is no command \"" + verb + (rest.empty() ? "" : " " + rest) + "\"");
-  }
-  return "";
+std::string Script::Verb::Usage() const {
+  return std::string(name) + (arguments.empty() ? "" : " ") + std::string(arguments);
+}
+
+std::span<const Script::Verb> Script::Verbs() {
+  static constexpr Verb kVerbs[] = {
+      {"click", "C",
+       "Clicks on a control: presses a button, picture or menu entry, ticks a box, chooses an option, goes to a "
+       "text box",
+       [](Script& script, std::string rest) {
+         script.hands_.Click(Pointable(FindControl(script.platform_, rest)));
+       }},
+      {"dblclick", "C", "Clicks twice on a control",
+       [](Script& script, std::string rest) {
+         script.hands_.DblClick(Pointable(FindControl(script.platform_, rest)));
+       }},
+      {"move", "C", "Brings the pointer over a control",
+       [](Script& script, std::string rest) {
+         script.hands_.MouseMove(Pointable(FindControl(script.platform_, rest)));
+       }},
+      {"type", "C \"TEXT\"", "Goes to a text box and puts TEXT in place of what it holds",
+       [](Script& script, std::string rest) {
+         auto& box = Expect<TextBox>(FindControl(script.platform_, TakeWord(rest)), {Control::Kind::TextBox},
+                                     "text box");
+         const std::string text = Text(rest);
+         RefuseIf(player::WhyNot(box));
+         if (box.Locked) throw Refusal(box.FullName() + " can't be written");
+         script.hands_.Type(box, text);
+       }},
+      {"select", "C N", "Chooses an entry of a list of files, folders or drives; N is 0 for the first",
+       [](Script& script, std::string rest) {
+         auto& list = Expect<ListControl>(
+             FindControl(script.platform_, TakeWord(rest)),
+             {Control::Kind::DriveListBox, Control::Kind::DirListBox, Control::Kind::FileListBox}, "list");
+         RefuseIf(player::WhyNot(list));
+         const int entries = static_cast<int>(list.List.get().size());
+         if (entries == 0) throw Refusal(list.FullName() + " is empty");
+         script.hands_.Select(list, Number(rest, 0, entries - 1));
+       }},
+      {"key", "W \"KEY\"", "Presses Return or Escape in a window",
+       [](Script& script, std::string rest) {
+         Form& form = FindWindow(script.platform_, TakeWord(rest));
+         const Key key = FindKey(Text(rest));
+         RefuseIf(player::WhyNot(form));
+         script.hands_.Press(form, key);
+       }},
+      {"close", "W", "Presses a window's close box",
+       [](Script& script, std::string rest) {
+         Form& form = FindWindow(script.platform_, rest);
+         RefuseIf(player::WhyNot(form));
+         script.hands_.Close(form);
+       }},
+      {"resize", "W WIDTH HEIGHT", "Drags a window to another size, in twips",
+       [](Script& script, std::string rest) {
+         Form& form = FindWindow(script.platform_, TakeWord(rest));
+         RefuseIf(player::WhyNot(form));
+         const int width = Number(TakeWord(rest), 1, kLargestTwips);
+         const int height = Number(rest, 1, kLargestTwips);
+         if (!form.Sizable) throw Refusal(std::string(form.name) + " has a fixed size");
+         if (form.WindowState != window_state::kNormal)
+           throw Refusal(std::string(form.name) + " isn't in its normal state");
+         script.hands_.Resize(form, width, height);
+       }},
+      {"state", "W N", "Restores (0), minimises (1) or maximises (2) a window",
+       [](Script& script, std::string rest) {
+         Form& form = FindWindow(script.platform_, TakeWord(rest));
+         RefuseIf(player::WhyNot(form));
+         script.hands_.SetState(form, Number(rest, 0, form.Sizable ? 2 : 1));
+       }},
+      {"answer", "\"BUTTON\"", "Presses a button of the message box that stands: Yes, No, OK or Cancel",
+       [](Script& script, std::string rest) {
+         script.hands_.PressAnswer(FindAnswer(script.platform_, Text(rest)));
+       }},
+      {"advance", "MS", "Lets so many milliseconds pass, in which timers tick as they fall due",
+       [](Script& script, std::string rest) { script.hands_.Advance(Number(rest, 0, INT_MAX)); }},
+      {"get", "C.PROPERTY", "Tells a property of a control, or, as W.PROPERTY, of a window",
+       [](Script& script, std::string rest) { script.value_ = GetProperty(script.platform_, rest); }},
+      {"dump", "W", "Tells all properties of a window and of everything in it",
+       [](Script& script, std::string rest) { script.value_ = Dump(FindWindow(script.platform_, rest)); }},
+      {"windows", "", "Tells which windows are loaded, front first, hidden ones last",
+       [](Script& script, std::string) { script.value_ = Windows(script.platform_); }},
+      {"time", "", "Tells how many milliseconds have passed since the start",
+       [](Script& script, std::string) {
+         script.value_ = std::to_string(script.platform_.front.Milliseconds());
+       }},
+      {"random", "[LO..HI [N...]]",
+       "Decides what chance gives next when it is asked for LO to HI, and tells how many such numbers wait; alone "
+       "forgets them all",
+       [](Script& script, std::string rest) { script.value_ = Foresee(script.platform_.random, rest); }},
+      {"trace", "on|off", "Switches the event lines on or off that tell what goes on inside",
+       [](Script& script, std::string rest) {
+         if (rest != "on" && rest != "off") throw NoCommand("trace", rest);
+         script.trace_ = rest == "on";
+       }},
+      {"screenshot", "W \"FILE\"", "Writes a window as a picture, where there is a screen",
+       [](Script& script, std::string rest) {
+         Form& form = FindWindow(script.platform_, TakeWord(rest));
+         const std::string file = Text(rest);
+         RefuseIf(script.hands_.Screenshot(form, file));
+       }},
+      {"help", "[COMMAND]", "Tells how the commands are written and what they do",
+       [](Script& script, std::string rest) {
+         for (const Verb& each : rest.empty() ? Verbs() : std::span(&FindVerb(rest, ""), 1))
+           script.Say("help " + Quoted(each.Usage()) + " " + Quoted(std::string(each.meaning)));
+       }},
+      {"quit", "", "Ends at once and writes nothing, as if the plug were pulled",
+       [](Script& script, std::string) { script.quit_ = true; }},
+  };
+  return kVerbs;
 }
 
 void Script::Say(const std::string& line) { out_ << "* " << line << '\n'; }

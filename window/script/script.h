@@ -3,7 +3,9 @@
 #pragma once
 
 #include <iosfwd>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "window/platform.h"
 
@@ -29,6 +31,17 @@ class Hands {
 
 class Script : public Observer {
  public:
+  // What a line may begin with.
+  struct Verb {
+    std::string_view name, arguments, meaning;
+    void (*run)(Script& script, std::string rest);
+
+    // How it is written, with what follows the name.
+    std::string Usage() const;
+  };
+  // All of them, in the order in which `help` tells them.
+  static std::span<const Verb> Verbs();
+
   Script(Platform& platform, Hands& hands, std::ostream& out);
 
   // Carries out one line, except for the answer "ok". Empty lines and comments are skipped.
@@ -56,8 +69,6 @@ class Script : public Observer {
   void Ended(const std::string& failure) override;
 
  private:
-  // What a command comes to: a value to answer with, "" for none. A refusal is thrown.
-  std::string Run(const std::string& verb, const std::string& rest);
   void Say(const std::string& line);
 
   Platform& platform_;
