@@ -246,6 +246,8 @@ class GameWindow : public Form {
 
   // If the player wants them.
   void PlaySound(const char* path);
+  // The player's click isn't done, and sounds so.
+  void Refuse();
   void StartMusic();
   void StopMusic();
 

@@ -79,7 +79,12 @@ void GameWindow::ShowEmpty(Image& image) {
 }
 
 void GameWindow::PlaySound(const char* path) {
-  common.PlaySounds ? common.PlayWaveFile(path) : platform.front.WaveWithheld(path);
+  if (common.PlaySounds) common.PlayWaveFile(path);
+}
+
+void GameWindow::Refuse() {
+  platform.front.Refused();
+  PlaySound("\\Chord.wav");
 }
 
 void GameWindow::StartMusic() {

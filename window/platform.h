@@ -75,10 +75,10 @@ class FrontEnd : public Observer {
   virtual void RunModal(Form& form) = 0;
   // Starts a wave, which cuts the one playing. The path is relative to the data, as "\Chord.wav".
   virtual void PlayWave(const std::string& path) = 0;
-  // A wave that would be played if the player hadn't switched the waves off.
-  virtual void WaveWithheld(const std::string& /*path*/) {}
   // The player's click on this control is about to be answered.
   virtual void Clicked(Control& /*control*/) {}
+  // The window doesn't do what the player has clicked for.
+  virtual void Refused() {}
   // Obeys "open "PATH" type sequencer alias NAME", "play NAME", "close NAME".
   virtual void MediaCommand(const std::string& command) = 0;
   // The program that opens web pages, "" if there is none; and opening one. False on failure.

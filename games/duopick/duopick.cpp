@@ -52,7 +52,7 @@ bool frmDuopick::CheckForLegalMove(int index) const {
 void frmDuopick::PlayCard_Click(int index) {
   if (common.TakingScore) return;
   const bool pileIsEmpty = index == kUpCard && cards.WastePos == 0;
-  if (BoardIsClosed() || pileIsEmpty || !CheckForLegalMove(index)) return PlaySound("\\Chord.wav");
+  if (BoardIsClosed() || pileIsEmpty || !CheckForLegalMove(index)) return Refuse();
   CardsSelected == 0 ? SelectCard(index) : TakeSecondCard(index);
 }
 
@@ -81,7 +81,7 @@ void frmDuopick::TakeSecondCard(int index) {
     } else {
       if (cards.WastePos != 0) PlayCard(kUpCard).Enabled = true;
       PlayCard(FirstCardIndex).Enabled = true;
-      PlaySound("\\Chord.wav");
+      Refuse();
     }
     FieldSelectionRectangle(index).Visible = false;
     FieldSelectionRectangle(FirstCardIndex).Visible = false;

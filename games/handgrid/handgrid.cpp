@@ -86,7 +86,7 @@ void frmHandgrid::PlayCards_Click(int index) {
       DrawNextCard();
     }
   } else {
-    PlaySound("\\Chord.wav");
+    Refuse();
   }
   ShowScore();
   if (std::ranges::any_of(PlayedCards, &std::string::empty)) return;
@@ -127,7 +127,7 @@ void frmHandgrid::lblCol_Change(int line) {
   HandSoundPlayed = true;
 }
 
-void frmHandgrid::CardStackPicture_Click() { PlaySound("\\Chord.wav"); }
+void frmHandgrid::CardStackPicture_Click() { Refuse(); }
 
 // --- The round clock -----------------------------------------------------------------------------
 

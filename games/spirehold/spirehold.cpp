@@ -58,7 +58,7 @@ bool frmSpirehold::CheckForLegalMove(int index) {
 
 void frmSpirehold::UpCardImage_Click(int index) {
   if (common.TakingScore) return;
-  if (BoardIsClosed() || !CheckForLegalMove(index)) return PlaySound("\\Chord.wav");
+  if (BoardIsClosed() || !CheckForLegalMove(index)) return Refuse();
   PlaySound("\\Markq.wav");
   UpCardPicture.Picture = UpCardImage(index).Picture;
   UpCardImage(index).Picture = 0;  // from this a card is known to be gone
@@ -101,7 +101,7 @@ void frmSpirehold::lblCurrentRun_Change() {
 // Goes on after an error, step by step: a stack that is used up is clicked in vain.
 void frmSpirehold::CardStackPicture_Click() {
   if (common.TakingScore) return;
-  if (BoardIsClosed()) return PlaySound("\\Chord.wav");
+  if (BoardIsClosed()) return Refuse();
   MousePointer = kHourglass;
   RunValue = 0;
   CurrentRun = 0;
@@ -119,7 +119,7 @@ void frmSpirehold::CardStackPicture_Click() {
   MousePointer = kDefaultPointer;
 }
 
-void frmSpirehold::UpCardPicture_Click() { PlaySound("\\Chord.wav"); }
+void frmSpirehold::UpCardPicture_Click() { Refuse(); }
 
 // --- Rounds --------------------------------------------------------------------------------------
 

@@ -105,11 +105,11 @@ bool frmSumfall::CheckForCompletion() const {
 }
 
 void frmSumfall::FieldCardPicture_Click(int index) {
-  if (BoardIsClosed() || !CheckLegalFieldCardMove(index)) return PlaySound("\\Chord.wav");
+  if (BoardIsClosed() || !CheckLegalFieldCardMove(index)) return Refuse();
   const int value = CardValue(FieldCards[index]);
   Shape& selection = FieldSelectionRectangle(index);
   if (!selection.Visible) {
-    if (value + CurrentTotal > CardGoal) return PlaySound("\\Chord.wav");
+    if (value + CurrentTotal > CardGoal) return Refuse();
     selection.Visible = true;
     CurrentTotal += value;
     ShowTotal();
@@ -124,10 +124,10 @@ void frmSumfall::FieldCardPicture_Click(int index) {
 }
 
 void frmSumfall::UpCardPicture_Click() {
-  if (BoardIsClosed() || UpCardIndex == 0) return PlaySound("\\Chord.wav");
+  if (BoardIsClosed() || UpCardIndex == 0) return Refuse();
   const int value = CardValue(UpCards[UpCardIndex]);
   if (!UpCardSelectionRectangle.Visible) {
-    if (value + CurrentTotal > CardGoal) return PlaySound("\\Chord.wav");
+    if (value + CurrentTotal > CardGoal) return Refuse();
     PlaySound("\\Markq.wav");
     CurrentTotal += value;
     ShowTotal();
@@ -177,7 +177,7 @@ void frmSumfall::PlayCardPicture_Click() {
   // A pile that is full to the brim takes no further card, unless the field takes the one on top.
   const bool pileIsFull = UpCardIndex >= kUpCards - 1 && FreePlace() < 0;
   if (BoardIsClosed() || StockIndex < 0 || pileIsFull) {
-    if (!UpCardUsed) PlaySound("\\Chord.wav");
+    if (!UpCardUsed) Refuse();
     return;
   }
   MousePointer = kHourglass;

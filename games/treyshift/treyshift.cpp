@@ -16,7 +16,7 @@ bool frmTreyshift::HasCard(const Image& slot) const { return slot.Picture != 0 &
 
 // The slots that show nothing stay where they are when the cards go.
 bool frmTreyshift::SlotsAreClosed() {
-  if (IsPaused()) PlaySound("\\Chord.wav");
+  if (IsPaused()) Refuse();
   return phase != Phase::Playing;
 }
 
@@ -48,12 +48,12 @@ void frmTreyshift::CancelSelection() {
 // A fan that is used up can be selected, too.
 void frmTreyshift::UpCard_Click(int index) {
   if (common.TakingScore) return;
-  if (index != kInPlay) return PlaySound("\\Chord.wav");
+  if (index != kInPlay) return Refuse();
   if (!Selected) return Select(ZoneDeck, index);
-  SourceZone == ZoneDeck ? CancelSelection() : PlaySound("\\Chord.wav");
+  SourceZone == ZoneDeck ? CancelSelection() : Refuse();
 }
 
-void frmTreyshift::CardStackPicture_Click() { PlaySound("\\Chord.wav"); }
+void frmTreyshift::CardStackPicture_Click() { Refuse(); }
 
 void frmTreyshift::TempCard_Click(int index) {
   if (SlotsAreClosed()) return;
@@ -63,7 +63,7 @@ void frmTreyshift::TempCard_Click(int index) {
   else if (Selected && SourceZone == ZoneTemp && SourceIndex == index)
     CancelSelection();
   else if (Selected || isEmpty)
-    PlaySound("\\Chord.wav");
+    Refuse();
   else
     Select(ZoneTemp, index);
   if (IsStuck()) EndStuckRound();
@@ -84,14 +84,14 @@ void frmTreyshift::PlayCard_Click(int index) {
 }
 
 void frmTreyshift::SelectFieldCard(int& index) {
-  if (ShowsEmpty(PlayCard(index))) return PlaySound("\\Chord.wav");
+  if (ShowsEmpty(PlayCard(index))) return Refuse();
   // No card can be laid on the one that is selected.
   for (int row = 1; row < kRows && PlayCard(index).Picture == 0; ++row) {
     PlayCard(index).Visible = false;
     index -= kColumns;
   }
   const bool isLast = index >= kThirdRow || PlayCard(index + kColumns).Picture == 0;
-  isLast ? Select(ZoneField, index) : PlaySound("\\Chord.wav");
+  isLast ? Select(ZoneField, index) : Refuse();
 }
 
 void frmTreyshift::LayInColumn(int& index) {
@@ -104,7 +104,7 @@ void frmTreyshift::LayInColumn(int& index) {
   } else if (PlayCard(index).Picture == 0) {
     MoveCard(index, ZoneField);
   } else {
-    PlaySound("\\Chord.wav");
+    Refuse();
   }
   for (int column = 0; column < kColumns; ++column)
     if (PlayCard(column + kThirdRow).Picture != 0) CheckColumn(column);

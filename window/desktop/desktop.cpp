@@ -258,7 +258,6 @@ void DesktopFrontEnd::RunModal(Form& form) {
 // --- Sounds --------------------------------------------------------------------------------------
 
 void DesktopFrontEnd::PlayWave(const std::string& path) {
-  WaveWithheld(path);
   if (hurry_.Hurried()) {  // of many at once only the last one would be heard
     waveInAHurry_ = path;
     return;
@@ -275,10 +274,11 @@ void DesktopFrontEnd::PlayWaveInAHurry() {
   if (!waveInAHurry_.empty()) media_.PlayWave(std::exchange(waveInAHurry_, ""));
 }
 
-// A refusal is shown and told as well as heard.
-void DesktopFrontEnd::WaveWithheld(const std::string& path) {
-  access_.Heard(path, clicked_);
-  if (!clicked_ || clicked_->kind != Control::Kind::Image || !path.ends_with("Chord.wav")) return;
+// Shown and told as well as heard.
+void DesktopFrontEnd::Refused() {
+  if (!clicked_) return;
+  access_.Refused(*clicked_);
+  if (clicked_->kind != Control::Kind::Image) return;
   if (FormWindow* window = WindowOf(clicked_->form))
     window->Board().Refuse(static_cast<const Visual&>(*clicked_));
 }

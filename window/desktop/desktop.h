@@ -82,8 +82,8 @@ class DesktopFrontEnd : public FrontEnd {
   Answer RunBox(const MessageBox& box) override;
   void RunModal(Form& form) override;
   void PlayWave(const std::string& path) override;
-  void WaveWithheld(const std::string& path) override;
   void Clicked(Control& control) override { clicked_ = &control; }
+  void Refused() override;
   void MediaCommand(const std::string& command) override { media_.Command(command); }
   std::string FindBrowser() override;
   bool OpenPage(const std::string& browser, const std::string& url) override;

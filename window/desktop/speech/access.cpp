@@ -46,11 +46,11 @@ void Access::Gone(const Form& form) {
   std::erase_if(said_, [&](const auto& each) { return &each.first->form == &form; });
 }
 
-void Access::Heard(const std::string& wave, const Control* clicked) {
-  if (!wave.ends_with("Chord.wav") || !clicked || !QAccessible::isActive()) return;
-  FormWindow* window = front_.WindowOf(clicked->form);
+void Access::Refused(const Control& clicked) {
+  if (!QAccessible::isActive()) return;
+  FormWindow* window = front_.WindowOf(clicked.form);
   if (!window) return;
-  const Spot spot = BoardAccessOf(*window)->SpotOf(static_cast<const Visual&>(*clicked));
+  const Spot spot = BoardAccessOf(*window)->SpotOf(clicked);
   Announce(*window, spot.text.empty() ? "Refused" : "Refused: " + QString::fromStdString(spot.text));
 }
 

@@ -27,8 +27,8 @@ class Access : private QAccessible::ActivationObserver {
   // A window stands there, or is gone.
   void Shown(FormWindow& window);
   void Gone(const Form& form);
-  // A click on that control, if any, came to this wave: that of a refusal is told in words as well.
-  void Heard(const std::string& wave, const Control* clicked);
+  // A click on that control isn't done.
+  void Refused(const Control& clicked);
   // The card that keys mean may be another one.
   void CursorMoved(FormWindow& window);
   // How the game stands, for ears and eyes.

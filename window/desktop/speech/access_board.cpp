@@ -76,7 +76,7 @@ std::vector<Spot> BoardAccess::Spots() const {
 
 std::vector<Note> BoardAccess::Notes() const { return Lives() ? Board().Notes() : std::vector<Note>(); }
 
-Spot BoardAccess::SpotOf(const Visual& control) const {
+Spot BoardAccess::SpotOf(const Control& control) const {
   for (Spot& spot : Spots())
     if (spot.control == &control) return spot;
   return {nullptr, ""};

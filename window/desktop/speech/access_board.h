@@ -28,7 +28,7 @@ class BoardAccess : public QAccessibleWidget {
   DesktopFrontEnd& Front() const;
   Canvas& Board() const;
   // What the guide tells of this place; its control is null if nothing lies there any more.
-  Spot SpotOf(const Visual& control) const;
+  Spot SpotOf(const Control& control) const;
   std::vector<Spot> Spots() const;
   std::vector<Note> Notes() const;
   // The card that a key would click; null while the keyboard is elsewhere.
