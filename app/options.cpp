@@ -191,7 +191,8 @@ std::string Usage(Program program) {
   else
     usage +=
         " [--folder DIR] [--seed N] [--start MOMENT] [--screen WxH] [SAVED-GAME]\n\n"
-        "The same card games driven by lines: commands from standard input, answers on standard output.\n\n";
+        "The same card games driven by lines: commands from standard input, answers on standard output.\n"
+        "The command \"help\" tells which commands there are.\n\n";
   usage +=
       "  SAVED-GAME      a saved game for Sumfall! to open\n"
       "  --folder DIR    where settings, high scores and saved games are kept\n";

@@ -30,7 +30,13 @@ where $2 lines were expected"
 "$cmake" --install "$build" --prefix "$folder/a prefix" >/dev/null
 expect "$folder/a prefix/bin/cardhaven" 0
 [ -n "$(find "$folder/a prefix" -path '*/lib*/card-haven/cardhaven-sound.so')" ] || fail "no sound module is installed"
-[ -f "$folder/a prefix/share/man/man6/cardhaven.6" ] || fail "no manual page is installed"
+for page in cardhaven cardhaven-console; do
+  manual="$folder/a prefix/share/man/man6/$page.6"
+  [ -f "$manual" ] || fail "no manual page is installed for $page"
+  command -v mandoc >/dev/null || continue
+  mandoc -Tlint -Wwarning "$manual" || fail "the manual page of $page has faults"
+done
+[ -f "$folder/a prefix/share/doc/card-haven/console.md" ] || fail "the console's lines aren't documented"
 
 # A build folder that doesn't lie in the source tree.
 mkdir -p "$folder/elsewhere/app"

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "games/guides.h"
+#include "tests/documents.h"
 #include "tests/driver.h"
 #include "window/player.h"
 
@@ -140,27 +141,13 @@ std::string AsMarkdown(const std::vector<KeyTable>& tables) {
 }
 
 std::string AsManual(const std::vector<KeyTable>& tables) {
-  const auto escaped = [](const std::string& words) {
-    std::string text;
-    for (const char letter : words) text += letter == '-' ? "\\-" : std::string(1, letter);
-    return text;
-  };
   std::string text = "\n";
   for (const KeyTable& table : tables) {
     text += ".SS " + table.title + "\n";
     for (const KeyRow& row : table.rows)
-      text += ".TP\n.B \"" + escaped(row.keys) + "\"\n" + escaped(row.does) + "\n";
+      text += ".TP\n.B \"" + InManual(row.keys) + "\"\n" + InManual(row.does) + "\n";
   }
   return text;
-}
-
-// What stands in a document between its two marks.
-std::string Between(const std::filesystem::path& file, const std::string& begin, const std::string& end) {
-  std::ifstream in(file, std::ios::binary);
-  const std::string text{std::istreambuf_iterator<char>(in), {}};
-  const size_t from = text.find(begin), to = text.find(end);
-  if (from == std::string::npos || to == std::string::npos) return "no marks in " + file.string();
-  return text.substr(from + begin.size(), to - from - begin.size());
 }
 
 // Where they differ, paste what is expected.

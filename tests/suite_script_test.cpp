@@ -1,14 +1,12 @@
 // Recorded runs: the same lines give the same bytes, and what was read through stays as it is.
 #include <gtest/gtest.h>
 
+#include <set>
+
+#include "tests/documents.h"
 #include "tests/driver.h"
 
 namespace {
-
-std::string ReadFile(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 std::vector<std::string> Scripts() {
   std::vector<std::string> scripts;
@@ -34,6 +32,17 @@ TEST_P(Recorded, AnswersAsItDid) {
 }
 INSTANTIATE_TEST_SUITE_P(Scripts, Recorded, ::testing::ValuesIn(Scripts()),
                          [](const auto& info) { return info.param; });
+
+TEST(Manual, TellsEachEventLine) {
+  const std::string page = ReadFile(std::filesystem::path(CARDHAVEN_SOURCE) / "docs/console.md");
+  std::set<std::string> events;
+  for (const std::string& script : Scripts())
+    for (const std::string& line :
+         LinesOf(ReadFile(std::filesystem::path(CARDHAVEN_TEST_SCRIPTS) / (script + ".expected")), "* "))
+      events.insert(line.substr(0, line.find(' ')));
+  EXPECT_GT(events.size(), 9u);
+  for (const std::string& event : events) EXPECT_TRUE(Contains(page, "| `* " + event)) << event;
+}
 
 TEST(Seeds, AnotherSeedDealsOtherCards) {
   const std::string commands = "click frmSelect.cmdSumfall\nclick frmSumfall.cmdPlay\ndump frmSumfall\n";

@@ -3,6 +3,7 @@
 
 #include <sstream>
 
+#include "tests/documents.h"
 #include "window/console/console.h"
 
 namespace {
@@ -172,6 +173,31 @@ TEST_F(Script, HelpTellsEachCommand) {
     EXPECT_EQ(line + "\nok\n", Do("help " + std::string(verb.name)));
   }
   EXPECT_TRUE(std::getline(all, line) && line == "ok");
+}
+
+// Where they differ, paste what is expected.
+TEST_F(Script, TheManualsTellTheSameCommands) {
+  std::string markdown = "\n| Command | What it does |\n|---|---|\n", manual = "\n";
+  for (const ::Script::Verb& verb : ::Script::Verbs()) {
+    std::string usage = verb.Usage();
+    const std::string meaning(verb.meaning);
+    manual += ".TP\n.B " + InManual(usage) + "\n" + InManual(meaning) + "\n";
+    if (const size_t bar = usage.find('|'); bar != std::string::npos) usage.insert(bar, "\\");
+    markdown += "| `" + usage + "` | " + meaning + " |\n";
+  }
+  const std::filesystem::path root = CARDHAVEN_SOURCE;
+  EXPECT_EQ(Between(root / "docs/console.md", "<!-- commands -->", "<!-- /commands -->"), markdown)
+      << markdown;
+  EXPECT_EQ(Between(root / "packaging/cardhaven-console.6", ".\\\" commands", ".\\\" /commands"), manual)
+      << manual;
+}
+
+TEST_F(Script, TheManualTellsAllProperties) {
+  const std::string page = ReadFile(std::filesystem::path(CARDHAVEN_SOURCE) / "docs/console.md");
+  for (int prop = 0; prop <= static_cast<int>(Prop::WindowState); ++prop) {
+    const std::string name(PropName(static_cast<Prop>(prop)));
+    EXPECT_NE(page.find("`" + name + "`"), std::string::npos) << name;
+  }
 }
 
 TEST_F(Script, TicksInTheOrderOfTheTimes) {
