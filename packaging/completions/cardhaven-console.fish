@@ -1,0 +1,7 @@
+complete -c cardhaven-console -l folder -x -a '(__fish_complete_directories)' -d 'Where settings, high scores and saved games are kept'
+complete -c cardhaven-console -l seed -x -d 'Make the cards fall the same way each time'
+complete -c cardhaven-console -l start -x -d 'The time of day at the start'
+complete -c cardhaven-console -l screen -x -d 'The size of the screen in pixels, as 1024x768'
+complete -c cardhaven-console -l help -d 'Show the options'
+complete -c cardhaven-console -l version -d 'Show the version'
+complete -c cardhaven-console -k -x -a '(__fish_complete_suffix .sfl)'

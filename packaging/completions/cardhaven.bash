@@ -1,0 +1,33 @@
+# Completion of cardhaven and cardhaven-console for bash.
+_cardhaven() {
+  local cur prev options
+  cur=${COMP_WORDS[COMP_CWORD]}
+  prev=${COMP_WORDS[COMP_CWORD - 1]}
+  case $prev in
+    --game)
+      COMPREPLY=($(compgen -W 'sumfall fivestack blackrush spirehold duopick handgrid treyshift' -- "$cur"))
+      return
+      ;;
+    --folder)
+      compopt -o filenames
+      COMPREPLY=($(compgen -d -- "$cur"))
+      return
+      ;;
+    --seed | --speed | --start | --screen) return ;;
+  esac
+  case $cur in
+    -*)
+      options='--folder --seed --start --help --version'
+      case $1 in
+        *cardhaven-console) options="$options --screen" ;;
+        *) options="$options --game --console --speed" ;;
+      esac
+      COMPREPLY=($(compgen -W "$options" -- "$cur"))
+      ;;
+    *)
+      compopt -o filenames
+      COMPREPLY=($(compgen -d -- "$cur") $(compgen -f -X '!*.sfl' -- "$cur"))
+      ;;
+  esac
+}
+complete -F _cardhaven cardhaven cardhaven-console
