@@ -81,5 +81,10 @@ int main(int argc, char** argv) {
   if (argc == 2) return 0;
   const std::filesystem::path icons_dir = argv[2];
   std::filesystem::create_directories(icons_dir, ignored);
-  return Write(icons_dir / "card-haven.svg", pictures::DrawIcon()) ? 0 : 1;
+  bool written = Write(icons_dir / "card-haven.svg", pictures::DrawIcon()) &&
+                 Write(icons_dir / "card-haven-game.svg", pictures::DrawGameFileIcon());
+  for (const int size : {16, 22, 24, 32})
+    written = written && Write(icons_dir / ("card-haven-" + std::to_string(size) + ".svg"),
+                               pictures::DrawSmallIcon(size));
+  return written ? 0 : 1;
 }

@@ -31,7 +31,11 @@ std::string DrawPointer();
 /// The title card of the game Sumfall.
 std::string DrawSumfall();
 
-/// The application's icon.
+/// The application's icon; and the one for 16, 22, 24 or 32 pixels.
 std::string DrawIcon();
+std::string DrawSmallIcon(int size);
+
+/// The icon of a saved game in a file manager.
+std::string DrawGameFileIcon();
 
 }  // namespace pictures
