@@ -7,7 +7,9 @@
 #include <cstdio>
 #include <regex>
 
+#include "tests/documents.h"
 #include "tests/harness.h"
+#include "tests/transcripts/transcripts.h"
 
 namespace {
 
@@ -32,14 +34,6 @@ std::string WithoutPlaces(const std::string& output) {
   return kept;
 }
 
-std::vector<std::filesystem::path> Scripts() {
-  std::vector<std::filesystem::path> scripts;
-  for (const auto& entry : std::filesystem::directory_iterator(CARDHAVEN_TEST_SCRIPTS))
-    if (entry.path().extension() == ".console") scripts.push_back(entry.path());
-  std::ranges::sort(scripts);
-  return scripts;
-}
-
 class FrontEnds : public testing::TestWithParam<std::filesystem::path> {};
 
 }  // namespace
@@ -55,11 +49,13 @@ TEST_P(FrontEnds, AnswerAlike) {
       Output("ASAN_OPTIONS=detect_leaks=0 SDL_AUDIODRIVER=dummy xvfb-run -a -s '-screen 0 1024x768x24' " +
              std::string(CARDHAVEN_DESKTOP) + " --console --speed 50" + arguments + "--folder " +
              desktopFolder.Path().string() + script);
-  EXPECT_EQ(WithoutPlaces(console), WithoutPlaces(desktop));
+  const std::string differences =
+      transcripts::Differences(ReadFile(GetParam()), WithoutPlaces(console), WithoutPlaces(desktop));
+  EXPECT_TRUE(differences.empty()) << differences;
   EXPECT_GT(std::ranges::count(console, '\n'), 20);
 }
 
-INSTANTIATE_TEST_SUITE_P(Scripts, FrontEnds, testing::ValuesIn(Scripts()),
+INSTANTIATE_TEST_SUITE_P(Scripts, FrontEnds, testing::ValuesIn(transcripts::Scripts()),
                          [](const auto& info) { return info.param.stem().string(); });
 
 TEST(Desktop, SaysWhatIsWrong) {

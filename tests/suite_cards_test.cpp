@@ -132,8 +132,7 @@ TEST(Shuffle, FavoursNoCardBeyondWhatItsKindExpects) {
 TEST(Catalogue, HasAPictureBehindEveryEntry) {
   const PictureFiles files = Catalogue();
   ASSERT_EQ(files.size(), 68u);
-  const std::filesystem::path pictures =
-      std::filesystem::path(CARDHAVEN_TEST_SCRIPTS) / "../../data/pictures";
+  const std::filesystem::path pictures = std::filesystem::path(CARDHAVEN_SOURCE) / "data/pictures";
   for (const PictureFile& file : files)
     EXPECT_TRUE(std::filesystem::exists(pictures / file.file)) << file.file;
   const struct {

@@ -5,40 +5,27 @@
 
 #include "tests/documents.h"
 #include "tests/driver.h"
+#include "tests/transcripts/transcripts.h"
 
 namespace {
 
-std::vector<std::string> Scripts() {
-  std::vector<std::string> scripts;
-  for (const auto& entry : std::filesystem::directory_iterator(CARDHAVEN_TEST_SCRIPTS))
-    if (entry.path().extension() == ".console") scripts.push_back(entry.path().stem().string());
-  std::ranges::sort(scripts);
-  return scripts;
-}
+class Recorded : public ::testing::TestWithParam<std::filesystem::path> {};
 
-class Recorded : public ::testing::TestWithParam<std::string> {};
-
-// A transcript is what `cardhaven-console --seed 7` answers, with the folder's name as FOLDER.
+// `transcripts --write` records them anew.
 TEST_P(Recorded, AnswersAsItDid) {
-  const std::filesystem::path script =
-      std::filesystem::path(CARDHAVEN_TEST_SCRIPTS) / (GetParam() + ".console");
-  TestFolder folder;
-  RunOptions options;
-  options.seed = 7;
-  std::string output = RunConsole(folder, ReadFile(script), options);
-  const std::string path = folder.Path().string();
-  for (size_t at; (at = output.find(path)) != std::string::npos;) output.replace(at, path.size(), "FOLDER");
-  EXPECT_EQ(output, ReadFile(std::filesystem::path(script).replace_extension(".expected")));
+  const std::string commands = ReadFile(GetParam());
+  const std::string before = ReadFile(transcripts::TranscriptOf(GetParam()));
+  const std::string differences = transcripts::Differences(commands, before, transcripts::Play(commands));
+  EXPECT_TRUE(differences.empty()) << differences;
 }
-INSTANTIATE_TEST_SUITE_P(Scripts, Recorded, ::testing::ValuesIn(Scripts()),
-                         [](const auto& info) { return info.param; });
+INSTANTIATE_TEST_SUITE_P(Scripts, Recorded, ::testing::ValuesIn(transcripts::Scripts()),
+                         [](const auto& info) { return info.param.stem().string(); });
 
 TEST(Manual, TellsEachEventLine) {
   const std::string page = ReadFile(std::filesystem::path(CARDHAVEN_SOURCE) / "docs/console.md");
   std::set<std::string> events;
-  for (const std::string& script : Scripts())
-    for (const std::string& line :
-         LinesOf(ReadFile(std::filesystem::path(CARDHAVEN_TEST_SCRIPTS) / (script + ".expected")), "* "))
+  for (const auto& script : transcripts::Scripts())
+    for (const std::string& line : LinesOf(ReadFile(transcripts::TranscriptOf(script)), "* "))
       events.insert(line.substr(0, line.find(' ')));
   EXPECT_GT(events.size(), 9u);
   for (const std::string& event : events) EXPECT_TRUE(Contains(page, "| `* " + event)) << event;
