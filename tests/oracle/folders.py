@@ -25,11 +25,11 @@ DEFAULTS = {
 LIMITS = {
     "Sumfall": (30, 60, 90, 120, 150, 180),
     "Fivestack": (15, 30, 45, 60, 75),
-    "Duopick": (30, 45, 60, 75, 90, 120),
-    "Handgrid": (30, 45, 60, 75, 90, 120),
-    "Spirehold": (30, 45, 60, 75, 90, 120),
-    "Blackrush": (30, 60, 90, 120, 150, 180),
-    "Treyshift": (60, 75, 90, 120, 150, 180),
+    "Duopick": (30, 45, 60, 75, 90, 105, 120),
+    "Handgrid": (30, 45, 60, 75, 90, 105, 120),
+    "Spirehold": (30, 45, 60, 90),
+    "Blackrush": (15, 30, 60, 90, 120),
+    "Treyshift": (60, 75, 90, 105, 120, 135, 150, 180),
 }
 TABLES = {
     "Sumfall": "HiScores{}_11.Txt", "Fivestack": "HiScores{}.Txt", "Duopick": "DuopickHighScores{}.Txt",

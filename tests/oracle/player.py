@@ -80,7 +80,7 @@ class Player:
         self.slow = rng.choice((.02, .05, .15))              # lets time pass
         self.pace = rng.choice((300, 1500, 6000, 30000))
         self.looks = rng.choice((.02, .05, .1))              # dumps
-        self.luck = rng.random() < .35
+        self.luck = rng.random() < .5
         self.traces = rng.choice(("on", "on", "on", "on", "on", "on", "now and then", "off"))
         for name, content in self.files.items():
             path = os.path.join(folder, name)
@@ -88,6 +88,7 @@ class Player:
             with open(path, "wb") as file:
                 file.write(content)
         self.plan = []
+        self.lost, self.lucky = 0, False
         self.ended = False
         self.console = Console([program, "--folder", folder] + self.options, folder)
         self.table = TABLES[game](game, self.console, rng)
@@ -117,7 +118,7 @@ class Player:
         console = self.console
         if "stands before" in answer or "message box" in answer:
             self.plan = []
-            self.lost = getattr(self, "lost", 0) + 1
+            self.lost += 1
             if self.lost > 12:  # it sees less than there is
                 console.boxes, console.modal, self.lost = [], [], 0
                 told = console.tell("windows")
@@ -220,11 +221,11 @@ class Player:
         rng, console = self.rng, self.console
         controls = console.windows.get(name, {})
         chance = rng.random()
-        if chance < .06:
+        if chance < .03:
             return "close " + name
-        if chance < .14:
+        if chance < .07:
             return f"key {name} " + rng.choice(('"Return"', '"Escape"', '"Return"'))
-        if chance < .18:
+        if chance < .11:
             return rng.choice((f"advance {rng.choice((0, 300, 2000))}", f"click {self.window}.cmdPlay", "windows",
                                f"move {name}.cmdOK", f"dump {name}"))
         if name == "frmHiScoreName":
@@ -234,8 +235,10 @@ class Player:
         ways = []
         for control in controls:
             full = f"{name}.{control}"
-            if re.match("cmd", control):
-                ways += [f"click {full}"] * 2
+            if control == "cmdOK":
+                ways += [f"click {full}"] * 3
+            elif re.match("cmd", control):
+                ways.append(f"click {full}")
             elif re.match("chk|opt", control):
                 ways.append(f"click {full}")
             elif control == "txtGameName":
@@ -244,9 +247,9 @@ class Player:
                 ways.append(f"type {full} {json.dumps(rng.choice(NAMES))}")
             elif re.match("txt", control):
                 typed = rng.choice(TYPED)
-                if rng.random() < .4:
+                if rng.random() < .7:
                     typed = str(rng.randint(1, 20) * rng.choice((1, 1, 50, 100, 1000)))
-                ways.append(f"type {full} {json.dumps(typed)}")
+                ways += [f"type {full} {json.dumps(typed)}"] * 2
             elif control in ("File1", "Dir1"):
                 entries = console.get(name, control, "List", [])
                 inside = console.get(name, "Dir1", "Path", "").rstrip("/").endswith("suite")
@@ -301,21 +304,37 @@ class Player:
         if chance < .42:
             return self.restlessly(window)
         deck = lucky_deck(self.game, rng) if self.luck else None
-        if deck and len(self.lines) + 60 < self.length and chance < .75:
-            self.plan = []
-            if not getattr(self, "lucky", False):
-                self.lucky = True
-                return draws(standard_deck(), deck)
-        if self.luck and self.game == "Sumfall" and chance < .5:
-            goal = self.console.get(window, "lblElevens", "Caption", "")[:2]
-            cards = {"Te": 52, "El": 52, "Tw": 56, "Th": 60}.get(goal, 64)
-            return f"random 1..{cards} " + " ".join(str(rng.randint(1, cards)) for _ in range(cards))
+        if deck and not self.lucky and chance < .9:
+            self.lucky = True
+            return draws(standard_deck(), deck)
+        if self.luck and self.game == "Sumfall" and not self.lucky and chance < .9:
+            self.lucky = True
+            return self.lucky_sums(window)
         self.lucky = False
         return f"click {window}." + rng.choice(("cmdPlay", "cmdPlay", "cmdPlay", "mnuPlay"))
+
+    def lucky_sums(self, window):
+        """Draws for Sumfall that lay pairs which make the goal, from the open cards up."""
+        word = self.console.get(window, "lblElevens", "Caption", "")[:2]
+        goal = {"Te": 10, "El": 11, "Tw": 12, "Th": 13, "Fo": 14, "Fi": 15}.get(word, 11)
+        deck = [f"1{suit}" for suit in "SHCD" for _ in range(4)] + \
+            [f"{rank}{suit}" for suit in "SHCD" for rank in range(2, 11)] + \
+            [f"{rank}{suit}" for rank in range(11, {12: 12, 13: 13, 14: 14, 15: 14}.get(goal, 11)) for suit in "SHCD"]
+        left, pairs = deck[:], []
+        self.rng.shuffle(left)
+        for card in list(left):
+            partner = next((each for each in left if each != card and int(each[:-1]) + int(card[:-1]) == goal), None)
+            if card in left and partner and len(pairs) < 22:
+                left.remove(card)
+                left.remove(partner)
+                pairs += [card, partner]
+        return draws(deck, pairs)
 
     def on_board(self, window):
         rng, console = self.rng, self.console
         controls = console.names(window, self.table.board)
+        if rng.random() < .9:
+            controls = [each for each in controls if console.visible(window, each)] or controls
         if not controls:
             return "dump " + window
         verb = rng.choice(("click",) * 8 + ("dblclick", "move"))
@@ -323,8 +342,8 @@ class Player:
 
     def entry(self, window):
         entries = self.console.names(window, "mnu(?!File$|Options$|Time$|Color$|Goal$|Deck$|Help$|.*Line)")
-        weighty = [each for each in entries if re.match("mnu(Custom|Scoring|Open|Save|View|Time|Magic|Music)", each)]
-        return f"click {window}." + self.rng.choice(self.rng.choice((entries, entries, weighty or entries)))
+        weighty = [each for each in entries if re.match("mnu(Custom|UserOptions|Scoring|Scoring|Open|Save|View|Magic|Music)", each)]
+        return f"click {window}." + self.rng.choice(self.rng.choice((entries, weighty or entries)))
 
     def restlessly(self, window):
         rng, console = self.rng, self.console

@@ -48,7 +48,7 @@ class Table:
 
 
 class Sumfall(Table):
-    board = r"FieldCardPicture|PlayCard|UpCardP"
+    board = r"FieldCardPicture|PlayCardP|UpCardP"
 
     def move(self):
         goal = {"Te": 10, "El": 11, "Tw": 12, "Th": 13, "Fo": 14, "Fi": 15}.get(self.text("lblElevens")[:2], 11)
@@ -116,7 +116,7 @@ class Handgrid(Table):
 
 
 class Treyshift(Table):
-    board = r"PlayCard|TempCard|UpCard|CardStack"
+    board = r"(Play|Temp|Up)Card\(|CardStack"
 
     def move(self):
         fan = rank(self.sees("UpCard", 2))
