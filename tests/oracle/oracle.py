@@ -203,6 +203,7 @@ def main():
     tasks = [(game, number) for number in numbers for game in settings.game or GAMES]
     settings.base = tempfile.mkdtemp(prefix="cardhaven-oracle-")
     os.nice(5)
+    os.umask(0o022)
     try:
         if settings.print:
             for game, number in tasks:
