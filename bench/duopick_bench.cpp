@@ -1,8 +1,10 @@
 // How fast Duopick is without a screen: what a bot that plays it waits for.
 #include <benchmark/benchmark.h>
 
+#include "bench/board_moves.h"
 #include "bench/open_table.h"
 #include "games/duopick/duopick.h"
+#include "tests/duopick_board_player.h"
 
 namespace {
 
@@ -13,17 +15,15 @@ struct Table : OpenTable<frmDuopick> {
 };
 
 // Two cards that may be taken, those that make a pair before those that make a run.
-std::pair<int, int> LegalCards(const frmDuopick& game) {
+std::pair<int, int> LegalCards(const Board& board) {
   std::pair<int, int> run{-1, -1};
   std::array<int, kCards> exposed;
   int count = 0;
   for (int card = 0; card < kCards; ++card)
-    if (game.PlayCard(card).Visible && game.PlayCard(card).Enabled && game.CheckForLegalMove(card))
-      exposed[count++] = card;
+    if (board.CheckForLegalMove(card)) exposed[count++] = card;
   for (int a = 0; a < count; ++a)
     for (int b = a + 1; b < count; ++b) {
-      const Match match =
-          MatchOf(CardValue(game.cards.DeckCards[exposed[a]]), CardValue(game.cards.DeckCards[exposed[b]]));
+      const Match match = MatchOf(CardValue(board.Code(exposed[a])), CardValue(board.Code(exposed[b])));
       if (match == Match::Pair) return {exposed[a], exposed[b]};
       if (match == Match::Run) run = {exposed[a], exposed[b]};
     }
@@ -40,9 +40,9 @@ void BM_CardClick(benchmark::State& state) {
   for (auto _ : state) {
     if (card < kLowest + 1) {
       state.PauseTiming();
-      if (game.CardsSelected != 0) state.SkipWithError("two cards weren't taken");
+      if (game.board.selected != kNone) state.SkipWithError("two cards weren't taken");
       game.Deal();
-      for (int each = kLowest; each < kField; ++each) game.cards.DeckCards[each] = "7H";
+      for (int each = kLowest; each < kField; ++each) game.board.field[each] = "7H";
       card = kField - 1;
       state.ResumeTiming();
     }
@@ -56,9 +56,10 @@ void BM_StackClick(benchmark::State& state) {
   frmDuopick& game = *table.game;
   player::Click(game.cmdPlay);
   for (auto _ : state) {
-    if (game.cards.StackIndex == kDealt) {
-      game.cards.StackIndex = kCards;
-      game.cards.WastePos = 1;
+    if (game.board.stack.empty()) {
+      std::swap(game.board.stack, game.board.waste);
+      std::swap(game.board.stack.back(), game.board.waste.emplace_back());
+      game.board.stack.pop_back();
     }
     player::Click(game.CardStackPicture);
   }
@@ -67,13 +68,13 @@ BENCHMARK(BM_StackClick);
 
 void BM_WholeGame(benchmark::State& state) {
   PlayWholeGames<Table>(state, [](frmDuopick& game) {
-    const auto [first, second] = LegalCards(game);
+    const auto [first, second] = LegalCards(game.board);
     if (first >= 0) {
       player::Click(game.PlayCard(first));
       player::Click(game.PlayCard(second));
       return 2;
     }
-    if (game.cards.StackIndex < kDealt)
+    if (!game.board.stack.empty())
       player::Click(game.CardStackPicture);
     else
       player::Click(game.cmdTakeScore);
@@ -81,6 +82,8 @@ void BM_WholeGame(benchmark::State& state) {
   });
 }
 BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
+
+BENCHMARK(BM_BoardMoves<DuopickPlayer>);
 
 }  // namespace
 

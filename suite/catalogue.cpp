@@ -70,3 +70,8 @@ void UseBackDesign(ImageList& images, const BackDesign& design) {
   images.SetKey(design.back, "BACK");
   images.SetKey(design.half, "HALF");
 }
+
+const char* StockKey(long long cards, int full, int half) {
+  if (cards <= 0) return "EMPTY";
+  return cards >= full ? "FULL" : cards >= half ? "HALF" : "BACK";
+}

@@ -46,3 +46,6 @@ inline constexpr BackDesign kHotCards{"mnuHot", "&Hot Cards", 10, 11, 12};
 
 // Moves the keys "FULL", "BACK" and "HALF" to the pictures of a design.
 void UseBackDesign(ImageList& images, const BackDesign& design);
+
+// The key of a stock's picture by the number of its cards: it is full from `full` cards on, half from `half`.
+const char* StockKey(long long cards, int full, int half);

@@ -66,6 +66,21 @@ TEST_F(Duopick, OpensWithItsOwnNames) {
             "[Height]\r\n7200\r\n\r\n[Deck]\r\n1\r\n\r\n");
 }
 
+TEST_F(Duopick, CardsThatCoverLieOnThoseTheyCover) {
+  driver.Do(kOpenDuopick);
+  for (int card = 0; card < modDuopick::kField; ++card)
+    for (int other = 0; other < modDuopick::kField; ++other) {
+      modDuopick::Board two;
+      two.field[card] = two.field[other] = "7S";
+      if (two.CheckForLegalMove(card)) continue;
+      const Image &below = Game().PlayCard(card), &above = Game().PlayCard(other);
+      EXPECT_GT(other, card) << "what is drawn later lies above";
+      EXPECT_LT(std::abs(above.Left - below.Left), below.Width) << card << ", " << other;
+      EXPECT_GT(above.Top, below.Top);
+      EXPECT_LT(above.Top, below.Top + below.Height) << card << ", " << other;
+    }
+}
+
 TEST_F(Duopick, IsPlayedThroughToTheTable) {
   Start(LayEightPairs());
   // The first round: the top row goes with twelve seconds left, eight pairs and four runs.
@@ -81,7 +96,7 @@ TEST_F(Duopick, IsPlayedThroughToTheTable) {
   EXPECT_EQ(Counts(), "0 0 2");
   EXPECT_EQ(Gaps(), Cards());
   EXPECT_TRUE(Game().PlayCard(3).Enabled && Game().PlayCard(4).Enabled && !Outlined(4));
-  EXPECT_FALSE(Game().RoundCompleted || Game().CardsSelected != 0);
+  EXPECT_EQ(Game().board.selected, modDuopick::kNone);
   driver.Do("advance 999");
   EXPECT_EQ(Game().lblTime.Caption, "Time: 45") << "the clock starts anew";
 
@@ -165,7 +180,7 @@ TEST_F(Duopick, TheUpCardGivesWayToTheOneBeneath) {
   driver.Do(Click({20}) + kTurnCard);
   EXPECT_FALSE(Outlined(20));
   EXPECT_EQ(Gaps(), Cards({18, 19}));
-  EXPECT_EQ(Game().cards.WastePos, 1);
+  EXPECT_EQ(Game().board.waste.size(), 1u);
   EXPECT_TRUE(Game().PlayCard(23).Enabled);
   EXPECT_EQ(Counts(), "1 1 1");
 }
@@ -173,16 +188,16 @@ TEST_F(Duopick, TheUpCardGivesWayToTheOneBeneath) {
 TEST_F(Duopick, TurningACardFillsTheFirstGapAndDropsTheSelection) {
   Start(LayTwelvePairs());
   driver.Do(ClickTwoByTwo(0, 4) + ClickTwoByTwo(6, 8) + Click({22}));
-  EXPECT_TRUE(Game().CheckForLegalMove(9));
+  EXPECT_TRUE(Game().board.CheckForLegalMove(9));
   const std::string upCard = Face(23);
   EXPECT_EQ(Story(kTurnCard), "Click");
   EXPECT_EQ(Gaps(), Cards({15, 18, 19, 20, 21}));
   EXPECT_EQ(Face(14), upCard);
-  EXPECT_FALSE(Game().CheckForLegalMove(9)) << "covered again";
+  EXPECT_FALSE(Game().board.CheckForLegalMove(9)) << "covered again";
   EXPECT_FALSE(Outlined(22));
   EXPECT_TRUE(Game().PlayCard(22).Enabled && Game().PlayCard(14).Enabled);
   // The card that came back plays like any other.
-  Game().cards.DeckCards[16] = Game().cards.DeckCards[14];
+  Game().board.field[16] = Game().board.field[14];
   driver.Do(Click({16, 14}));
   EXPECT_EQ(Gaps(), Cards({14, 15, 16, 18, 19, 20, 21}));
 }
@@ -192,20 +207,23 @@ TEST_F(Duopick, TheStackEndsAndThenGivesAnUpCardOfNoRank) {
   for (int turn = 1; turn <= 33; ++turn) {
     EXPECT_EQ(Story(kTurnCard), turn <= 28 ? "Click" : "Click, Chord");
     EXPECT_EQ(Game().lblCards.Caption, std::to_string(std::max(0, 28 - turn)));
-    EXPECT_EQ(Game().cards.WastePos, std::min(turn + 1, 30));
+    EXPECT_EQ(driver.common().ImageList2.Key(Game().CardStackPicture.Picture),
+              turn < 11   ? "FULL"
+              : turn < 18 ? "HALF"
+              : turn < 28 ? "BACK"
+                          : "EMPTY");
     EXPECT_EQ(Face(23) == "9D", turn >= 28);  // what is seen is in the end no longer what lies there
   }
   // Only an ace goes with it, and only as the second card.
   EXPECT_EQ(Story(Click({18, 23, 23, 20, 23, 18})), "Markq, Chord, Markq, Chord, Markq, TwentyOne");
   EXPECT_EQ(Counts(), "0 1 1");
-  EXPECT_EQ(Story(Click({23, 19})), "Markq, Chord");  // the one beneath, for good
-  // That card fills the gap. From then on there is none to fill another with.
+  // The one beneath, which is the one that was seen, fills the gap. A card of no rank fills none.
   driver.Do(kTurnCard);
   EXPECT_EQ(Face(18), "9D");
   EXPECT_EQ(Story(Click({23, 19})), "Markq, TwentyOne");
-  Game().cards.UpCards[Game().cards.WastePos] = "";
+  Game().board.waste.back() = "";
   driver.Do(kTurnCard + kTurnCard);
-  EXPECT_EQ(Gaps(), Cards({19})) << "no card, no filling";
+  EXPECT_EQ(Gaps(), Cards({19}));
 }
 
 TEST_F(Duopick, ASelectionOutlivesAPause) {

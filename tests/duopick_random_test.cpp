@@ -6,9 +6,9 @@
 
 namespace {
 
-class DuopickPlayer : public RandomPlayer {
+class DuopickAtRandom : public RandomPlayer {
  public:
-  explicit DuopickPlayer(const std::filesystem::path& folder) : RandomPlayer(folder, "cmdDuopick", 13) {}
+  explicit DuopickAtRandom(const std::filesystem::path& folder) : RandomPlayer(folder, "cmdDuopick", 13) {}
 
   int matches = 0, refilled = 0, beyond = 0;
 
@@ -16,29 +16,32 @@ class DuopickPlayer : public RandomPlayer {
   // Mostly a card that fits the selected one, or the first of two that fit each other.
   std::string AtTheTable(GameWindow& window) override {
     auto& game = static_cast<frmDuopick&>(window);
-    if (game.cards.StackIndex > 56 && Chance(5)) return "click frmDuopick.cmdTakeScore";
+    const modDuopick::Board& board = game.board;
+    if (board.stack.empty() && Chance(1)) return "click frmDuopick.cmdTakeScore";
     if (Chance(3)) return "click frmDuopick.CardStackPicture";
     if (Draw(3000) == 0) {  // a score that the next bonus may carry too far
       suite_.common.CurrentScore = 2147483000;
       game.ShowScore();
     }
-    const bool selected = game.CardsSelected != 0;
+    const bool selected = board.selected != modDuopick::kNone;
     std::vector<int> exposed;
     for (int card = modDuopick::kCards - 1; card >= 0 && !Chance(2); --card)
-      if (game.PlayCard(card).Visible && game.PlayCard(card).Enabled && game.CheckForLegalMove(card)) {
-        if (selected && Fits(game.FirstCardValue, game, card)) return Match(card);
+      if (game.PlayCard(card).Visible && board.Takes(card)) {
+        if (selected) return Match(card);
         exposed.push_back(card);
       }
-    for (size_t i = 0; i < exposed.size() && !selected; ++i)
+    for (size_t i = 0; i < exposed.size(); ++i)
       for (size_t j = i + 1; j < exposed.size(); ++j)
-        if (Fits(CardValue(game.cards.DeckCards[exposed[i]]), game, exposed[j])) return ClickOn(exposed[i]);
+        if (modDuopick::MatchOf(CardValue(board.Code(exposed[i])), CardValue(board.Code(exposed[j]))) !=
+            modDuopick::Match::None)
+          return ClickOn(exposed[i]);
     return Chance(70) ? "click frmDuopick.CardStackPicture" : ClickOn(Draw(modDuopick::kCards));
   }
 
   void Check(GameWindow& window) override {
     auto& game = static_cast<frmDuopick&>(window);
     const modCommon& common = suite_.common;
-    ASSERT_FALSE(game.common.GameInProgress && game.RoundCompleted);
+    const modDuopick::Board& board = game.board;
     if (!common.GameInProgress) {
       ASSERT_TRUE(game.cmdExit.Enabled);
       ASSERT_FALSE(game.lblMessage.Visible);
@@ -50,53 +53,35 @@ class DuopickPlayer : public RandomPlayer {
     ASSERT_FALSE(common.TakingScore);
     ASSERT_TRUE(game.Timer4.Enabled);
     ASSERT_EQ(game.lblCurrentScore.Caption, FormatNumber(common.CurrentScore));
-    ASSERT_EQ(game.lblScorePairs.Caption, std::to_string(game.PairsCount));
-    ASSERT_EQ(game.lblScoreRuns.Caption, std::to_string(game.RunsCount));
+    ASSERT_EQ(game.lblScorePairs.Caption, std::to_string(board.PairsCount));
+    ASSERT_EQ(game.lblScoreRuns.Caption, std::to_string(board.RunsCount));
     const bool paused = game.IsPaused();
-    const long long turned = game.cards.StackIndex - modDuopick::kCards;
-    ASSERT_EQ(game.CardsRemaining, std::max(0ll, 28 - turned));
-    ASSERT_GE(game.cards.WastePos, 0);
-    ASSERT_LE(game.cards.WastePos, modDuopick::kPile);
-    // Each card shows its face, no card is there twice, and none goes but by a match.
-    std::bitset<kLastFace + 1> seen;
-    int outlined = 0, gaps = 0;
+    ASSERT_FALSE(board.RoundCompleted());
+    ASSERT_EQ(game.lblCards.Caption, std::to_string(board.stack.size()));
+    // Each card shows what lies there.
+    int gaps = 0;
     for (int i = 0; i < modDuopick::kCards; ++i) {
       const Image& image = game.PlayCard(i);
       ASSERT_EQ(image.Visible, image.Picture != 0 && !paused) << i;
       gaps += image.Picture == 0;
-      if (i < modDuopick::kField && image.Picture != 0) {
-        ASSERT_EQ(image.Picture, FaceOf(game.cards.DeckCards[i])) << i;
-        ASSERT_FALSE(seen[image.Picture]) << i;
-        seen[image.Picture] = true;
+      if (i < modDuopick::kField) {
+        ASSERT_EQ(image.Picture, FaceOf(board.Code(i))) << i;
       }
-      if (!game.FieldSelectionRectangle(i).Visible) continue;
-      ++outlined;
-      ASSERT_EQ(game.FirstCardIndex, i);
-      ASSERT_FALSE(image.Enabled);
-    }
-    ASSERT_EQ(outlined, game.CardsSelected);
-    for (int i = 1; i <= game.cards.WastePos; ++i) {
-      const std::string& code = game.cards.UpCards[i];
-      if (code.empty()) continue;
-      ASSERT_FALSE(seen[FaceOf(code)]) << code;
-      seen[FaceOf(code)] = true;
-    }
-    if (turned <= 28) {
-      ASSERT_EQ(seen.count(), modDuopick::kCards + turned - 2 * (game.PairsCount + game.RunsCount));
+      const bool selected = board.selected == i;
+      ASSERT_EQ(game.FieldSelectionRectangle(i).Visible, selected) << i;
+      ASSERT_FALSE(image.Enabled && selected) << i;
     }
     refilled += gaps < gaps_;
     gaps_ = gaps;
-    beyond += turned > 28;
+    beyond += !board.waste.empty() && board.waste.back().empty();
   }
 
-  static bool Fits(long long rank, const frmDuopick& game, int card) {
-    return modDuopick::MatchOf(rank, CardValue(game.cards.DeckCards[card])) != modDuopick::Match::None;
-  }
   std::string Match(int card) {
     ++matches;
     return ClickOn(card);
   }
   static int FaceOf(const std::string& code) {
+    if (code.empty()) return 0;
     return kFirstFace + 13 * static_cast<int>(std::string_view("SHCD").find(code.back())) + CardValue(code) -
            1;
   }
@@ -109,7 +94,7 @@ class DuopickPlayer : public RandomPlayer {
 
 TEST(DuopickRandomPlayer, DoesNoHarm) {
   TestFolder folder;
-  DuopickPlayer player(folder.Path());
+  DuopickAtRandom player(folder.Path());
   player.Play(200000);
   std::cout << player.matches << " matches, " << player.refilled << " gaps refilled, " << player.beyond
             << " moments behind the end of the stack\n";

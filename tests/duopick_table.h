@@ -39,7 +39,7 @@ inline std::string LayDuopick(const std::map<int, std::string>& wanted) {
     if (!key.empty() && !taken) rest.push_back(key);
   }
   std::vector<std::string> cards;
-  for (int i = 0; i < modDuopick::kDealt; ++i) {
+  for (int i = 0; i < 52; ++i) {
     const auto found = wanted.find(i);
     cards.push_back(found == wanted.end() ? rest[i - std::distance(wanted.begin(), wanted.lower_bound(i))]
                                           : found->second);

@@ -11,13 +11,8 @@ void frmDuopick::InitRound() {
   common.CreateStandardDeck();
   common.ShuffleDeck();
   Deal();
-  RoundCompleted = false;
   ClearRound();
   cmdPlay.ToolTipText = "Ends the current game";
-  CardsSelected = 0;
-  FirstCardIndex = 0;
-  PairsCount = 0;
-  RunsCount = 0;
   ShowCounts();
   ShowRoundTime();
   lblCurrentRound.Caption = std::to_string(CurrentRound);
@@ -25,16 +20,15 @@ void frmDuopick::InitRound() {
 }
 
 void frmDuopick::Deal() {
-  modDuopick::Deal(cards, common.Deck);
+  board.Deal(common.Deck);
   for (int i = 0; i < kCards; ++i) {
-    ShowFace(PlayCard(i), cards.DeckCards[i]);
+    ShowFace(PlayCard(i), board.Code(i));
     PlayCard(i).Enabled = true;
   }
   ShowCards(true);
   ShowControls(true);
   CardStackPicture.Picture = common.ImageList2("FULL");
-  CardsRemaining = kDealt - kCards;
-  lblCards.Caption = std::to_string(CardsRemaining);
+  lblCards.Caption = std::to_string(board.stack.size());
   ResetDial();
   Timer1.Enabled = true;
   ShowBonusGoal();
@@ -43,88 +37,54 @@ void frmDuopick::Deal() {
 
 // --- Two by two ----------------------------------------------------------------------------------
 
-bool frmDuopick::CheckForLegalMove(int index) const {
-  std::bitset<kField> lying;
-  for (int i = 0; i < kField; ++i) lying[i] = PlayCard(i).Visible;
-  return IsExposed(index, lying);
-}
-
 void frmDuopick::PlayCard_Click(int index) {
   if (common.TakingScore) return;
-  const bool pileIsEmpty = index == kUpCard && cards.WastePos == 0;
-  if (BoardIsClosed() || pileIsEmpty || !CheckForLegalMove(index)) return Refuse();
-  CardsSelected == 0 ? SelectCard(index) : TakeSecondCard(index);
-}
-
-void frmDuopick::SelectCard(int index) {
-  FirstCardValue = CardValue(cards.DeckCards[index]);
-  CardsSelected = 1;
-  FirstCardIndex = index;
-  PlaySound("\\Markq.wav");
-  FieldSelectionRectangle(index).Visible = true;
-  PlayCard(index).Enabled = false;
-}
-
-// The round may end in here; then the last steps meet the next one, in which nothing is selected.
-void frmDuopick::TakeSecondCard(int index) {
-  if (FieldSelectionRectangle(index).Visible) {
-    PlaySound("\\Tick.wav");
-    FieldSelectionRectangle(index).Visible = false;
-    PlayCard(index).Enabled = true;
-  } else {
-    const Match match = MatchOf(FirstCardValue, CardValue(cards.DeckCards[index]));
-    if (match == Match::Pair) PairsCount += 1;
-    if (match == Match::Run) RunsCount += 1;
-    ShowCounts();
-    if (match != Match::None) {
-      TakeBoth(index);
-    } else {
-      if (cards.WastePos != 0) PlayCard(kUpCard).Enabled = true;
-      PlayCard(FirstCardIndex).Enabled = true;
+  const int first = board.selected;
+  switch (BoardIsClosed() ? Outcome::Refused : board.Take(index)) {
+    case Outcome::Refused:
+      return Refuse();
+    case Outcome::Selected:
+      PlaySound("\\Markq.wav");
+      FieldSelectionRectangle(index).Visible = true;
+      PlayCard(index).Enabled = false;
+      return;
+    case Outcome::LetGo:
+      PlaySound("\\Tick.wav");
+      FieldSelectionRectangle(index).Visible = false;
+      PlayCard(index).Enabled = true;
+      return;
+    case Outcome::Mismatch:
+      PlayCard(first).Enabled = true;
       Refuse();
-    }
-    FieldSelectionRectangle(index).Visible = false;
-    FieldSelectionRectangle(FirstCardIndex).Visible = false;
+      break;
+    case Outcome::Match:
+      TakeBoth(first, index);
   }
-  CardsSelected = 0;
-  FirstCardIndex = 0;
+  FieldSelectionRectangle(first).Visible = false;
 }
 
-void frmDuopick::TakeBoth(int index) {
+// The round may end in here; then the last step meets the next one, in which nothing is selected.
+void frmDuopick::TakeBoth(int first, int second) {
+  ShowCounts();
   PlaySound("\\TwentyOne.wav");
-  RemoveCard(index);
-  RemoveCard(static_cast<int>(FirstCardIndex));
-  if (index == kUpCard || FirstCardIndex == kUpCard) ShowNextUpCard(index);
-  if (!TopRowIsCleared()) return;
-  RoundCompleted = true;
-  cmdTakeScore_Click();
-  RoundCompleted = false;
+  RemoveCard(second);
+  RemoveCard(first);
+  if (second == kUpCard || first == kUpCard) ShowNextUpCard(first, second);
+  if (board.RoundCompleted()) cmdTakeScore_Click();
 }
 
-// A picture that is gone marks a gap in the field.
 void frmDuopick::RemoveCard(int index) {
   if (index == kUpCard) return;
   PlayCard(index).Visible = false;
   PlayCard(index).Picture = 0;
 }
 
-void frmDuopick::ShowNextUpCard(int index) {
-  TakeUpCard(cards);
-  if (cards.WastePos > 0) {
-    PlayCard(kUpCard).Enabled = true;
-    ShowCard(PlayCard(kUpCard), cards.DeckCards[kUpCard]);
-    PlayCard(index).Enabled = true;
-    PlayCard(FirstCardIndex).Enabled = true;
-  } else {
-    PlayCard(kUpCard).Enabled = false;
-    ShowEmpty(PlayCard(kUpCard));
-  }
-}
-
-bool frmDuopick::TopRowIsCleared() const {
-  for (int i = 0; i < kTopRow; ++i)
-    if (PlayCard(i).Visible) return false;
-  return true;
+void frmDuopick::ShowNextUpCard(int first, int second) {
+  PlayCard(kUpCard).Enabled = !board.waste.empty();
+  if (board.waste.empty()) return ShowEmpty(PlayCard(kUpCard));
+  ShowUpCard();
+  PlayCard(second).Enabled = true;
+  PlayCard(first).Enabled = true;
 }
 
 void frmDuopick::ClearSelectionRectangles() {
@@ -133,38 +93,26 @@ void frmDuopick::ClearSelectionRectangles() {
     PlayCard(i).Enabled = true;
   }
   FieldSelectionRectangle(kUpCard).Visible = false;
-  if (cards.WastePos != 0) PlayCard(kUpCard).Enabled = true;
-  CardsSelected = 0;
-  FirstCardValue = 0;
+  if (!board.waste.empty()) PlayCard(kUpCard).Enabled = true;
+  board.selected = kNone;
 }
 
 // --- The stack -----------------------------------------------------------------------------------
 
-int frmDuopick::FirstGap() const {
-  for (int i = 0; i < kField; ++i)
-    if (PlayCard(i).Picture == 0) return i;
-  return -1;
-}
-
-// Goes on after an error, step by step: a stack that is used up is clicked in vain.
 void frmDuopick::CardStackPicture_Click() {
   MousePointer = kHourglass;
-  CardsRemaining = std::max(0ll, CardsRemaining - 1);
-  lblCards.Caption = std::to_string(CardsRemaining);
+  const bool isUsedUp = board.stack.empty();
+  const int gap = board.TurnCard();
+  lblCards.Caption = std::to_string(board.stack.size());
   PlaySound("\\Click.wav");
-  if (const int gap = FirstGap(); gap >= 0 && cards.WastePos != 0) {
-    PutUpCardBack(cards, gap);
-    GoOnAfterError([&] { ShowCard(PlayCard(gap), cards.DeckCards[gap]); });
-    PlayCard(gap).Visible = PlayCard(gap).Picture != 0;
+  if (gap != kNone) {
+    ShowFace(PlayCard(gap), board.Code(gap));
+    PlayCard(gap).Visible = true;
   }
-  TurnCard(cards);
-  GoOnAfterError([&] { ShowCard(PlayCard(kUpCard), cards.DeckCards[kUpCard]); });
+  ShowUpCard();
   PlayCard(kUpCard).Enabled = true;
   ClearSelectionRectangles();
-  if (StackStage(cards.StackIndex))
-    RefreshPlayCard();
-  else
-    PlaySound("\\Chord.wav");
+  isUsedUp ? PlaySound("\\Chord.wav") : RefreshPlayCard();
   MousePointer = kDefaultPointer;
 }
 
@@ -191,10 +139,10 @@ void frmDuopick::HideBoard() {
 
 void frmDuopick::PayAwards() {
   lblMessage.ForeColor = kRed;
-  if (RoundCompleted) AwardBonus(*this, "Completion Bonus", 1, CompletionBonus);
+  if (board.RoundCompleted()) AwardBonus(*this, "Completion Bonus", 1, CompletionBonus);
   CountTimeBonus(*this, common.TimeBonus);
-  if (RunsCount != 0) AwardBonus(*this, "Runs Bonus", RunsCount, RunsBonus);
-  if (PairsCount != 0) AwardBonus(*this, "Pairs Bonus", PairsCount, PairsBonus);
+  if (board.RunsCount != 0) AwardBonus(*this, "Runs Bonus", board.RunsCount, RunsBonus);
+  if (board.PairsCount != 0) AwardBonus(*this, "Pairs Bonus", board.PairsCount, PairsBonus);
 }
 
 void frmDuopick::AnnounceRound(bool bonus) {

@@ -1,8 +1,16 @@
 // frmDuopick: the window of Duopick, what each click, tick and menu entry does.
 #pragma once
 
-#include "games/duopick/rules.h"
+#include "games/duopick/board.h"
 #include "suite/game_window.h"
+
+namespace modDuopick {
+
+// What a game pays when nobody has changed it.
+inline constexpr int kPairsBonus = 3000, kRunsBonus = 500, kTimeBonus = 100, kBonusScore = 80000,
+                     kCompletionBonus = 10000;
+
+}  // namespace modDuopick
 
 class frmDuopick : public GameWindow {
  public:
@@ -17,18 +25,12 @@ class frmDuopick : public GameWindow {
       lblScoreRuns{*this, "lblScoreRuns"};
 
   // --- State -------------------------------------------------------------------------------------
-  modDuopick::Cards cards;
-  Integer CardsRemaining;
-  Integer CardsSelected, FirstCardValue, FirstCardIndex;
-  Long PairsCount, RunsCount;   // of this round, paid at its end
-  bool RoundCompleted = false;  // the top row was cleared, and the round is being paid
+  modDuopick::Board board;
   // Settings.
   Long PairsBonus, RunsBonus, CompletionBonus;
 
   // --- Play --------------------------------------------------------------------------------------
   void Deal();
-  // Whether the card is exposed; its rank isn't looked at.
-  bool CheckForLegalMove(int index) const;
   void ClearSelectionRectangles();
   void PlayCard_Click(int index);
   void CardStackPicture_Click();
@@ -57,15 +59,9 @@ class frmDuopick : public GameWindow {
  private:
   void SetUpBoard();
   void BindBoardEvents();
-  // Shows a card; an empty code changes nothing.
-  void ShowCard(Image& image, std::string_view code);
-  void SelectCard(int index);
-  void TakeSecondCard(int index);
-  void TakeBoth(int index);
+  void ShowUpCard();
+  void TakeBoth(int first, int second);
   void RemoveCard(int index);
-  void ShowNextUpCard(int index);
-  bool TopRowIsCleared() const;
-  // The first gap of the field, or -1.
-  int FirstGap() const;
+  void ShowNextUpCard(int first, int second);
   void ShowCounts();
 };

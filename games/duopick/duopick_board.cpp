@@ -31,6 +31,20 @@ constexpr GamePlan kPlan{
     .sections = kSections,
 };
 
+// Where the cards lie.
+struct Place {
+  int left, top;
+};
+constexpr std::array<Place, kCards> kTable = {{
+    {1620, 540},  {2775, 540},  {3915, 540},  {5070, 540},  {6225, 540},   //
+    {2190, 990},  {3345, 990},  {4485, 990},  {5640, 990},                 //
+    {1605, 1395}, {2760, 1395}, {3900, 1395}, {5055, 1395}, {6210, 1395},  //
+    {2160, 1935}, {3315, 1935}, {4455, 1935}, {5610, 1935},                //
+    {1575, 2340}, {2730, 2340}, {3870, 2340}, {5025, 2340}, {6180, 2340},  //
+    {3150, 4260},                                                          // the up card
+}};
+constexpr int kCardWidth = 1035, kCardHeight = 1455;
+
 // Everything but the cards. The field takes the upper part; the rest stands below.
 constexpr Design kDesign[] = {
     {"frmSplash", 1620, 750, 6300, 2850},
@@ -102,7 +116,7 @@ void frmDuopick::SetUpBoard() {
 void frmDuopick::BindBoardEvents() {
   PlayCard.OnClick([this](int index) { PlayCard_Click(index); });
   PlayCard.OnMouseMove([this](int index) {
-    PlayCard(index).MouseIcon = CheckForLegalMove(index) ? common.ImageList2("POINTER") : 0;
+    PlayCard(index).MouseIcon = board.CheckForLegalMove(index) ? common.ImageList2("POINTER") : 0;
   });
   CardStackPicture.OnClick = [this] { CardStackPicture_Click(); };
 }
@@ -127,8 +141,9 @@ void frmDuopick::PlaceBoard() {
 
 // --- Showing -------------------------------------------------------------------------------------
 
-void frmDuopick::ShowCard(Image& image, std::string_view code) {
-  if (!code.empty()) ShowFace(image, code);
+// One of no rank doesn't show: the one before stays in view.
+void frmDuopick::ShowUpCard() {
+  if (!board.Code(kUpCard).empty()) ShowFace(PlayCard(kUpCard), board.Code(kUpCard));
 }
 
 void frmDuopick::ShowCards(bool visible) {
@@ -138,17 +153,17 @@ void frmDuopick::ShowCards(bool visible) {
 
 // A paused game shows no card; gaps stay gaps.
 void frmDuopick::CoverCards(bool covered) {
-  for (int i = 0; i < kCards; ++i) PlayCard(i).Visible = !covered && PlayCard(i).Picture != 0;
+  for (int i = 0; i < kCards; ++i) PlayCard(i).Visible = !covered && (i == kUpCard || !board.Code(i).empty());
   CardStackPicture.Visible = !covered;
 }
 
 void frmDuopick::RefreshPlayCard() {
-  if (const char* stage = StackStage(cards.StackIndex)) CardStackPicture.Picture = common.ImageList2(stage);
+  if (board.IsDealt()) CardStackPicture.Picture = common.ImageList2(StockKey(board.stack.size(), 18, 11));
 }
 
 void frmDuopick::ShowCounts() {
-  lblScorePairs.Caption = std::to_string(PairsCount);
-  lblScoreRuns.Caption = std::to_string(RunsCount);
+  lblScorePairs.Caption = std::to_string(board.PairsCount);
+  lblScoreRuns.Caption = std::to_string(board.RunsCount);
 }
 
 void frmDuopick::ShowGameControls(bool visible) {

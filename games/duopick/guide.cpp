@@ -11,24 +11,20 @@ class DuopickGuide : public GameGuide {
   std::vector<Spot> Spots() const override {
     std::vector<Spot> spots;
     for (int card = 0; card < kCards; ++card) {
-      const bool pileIsEmpty = card == kUpCard && window_.cards.WastePos == 0;
-      Image& image = window_.PlayCard(card);
-      if (card == kUpCard)
-        Add(spots, window_.CardStackPicture, StackStage(window_.cards.StackIndex + 1) != nullptr, false,
-            "stock");
-      Add(spots, image, !pileIsEmpty && window_.CheckForLegalMove(card) && Matches(card),
-          window_.FieldSelectionRectangle(card).Visible, card == kUpCard ? "up card" : "");
+      if (card == kUpCard) Add(spots, window_.CardStackPicture, !window_.board.stack.empty(), false, "stock");
+      Add(spots, window_.PlayCard(card), window_.board.Takes(card), window_.board.selected == card,
+          card == kUpCard ? "up card" : "");
     }
     return spots;
   }
 
   // A selected card takes no click: a free one that doesn't go with it makes the player let go of both.
   Visual* LetsGo() const override {
-    if (window_.CardsSelected == 0) return nullptr;
-    for (int card = kCards; card-- > 0;) {
-      const bool lies = window_.PlayCard(card).Visible && (card != kUpCard || window_.cards.WastePos > 0);
-      if (lies && window_.CheckForLegalMove(card) && !Matches(card)) return &window_.PlayCard(card);
-    }
+    const Board& board = window_.board;
+    if (!Plays() || board.selected == kNone) return nullptr;
+    for (int card = kCards; card-- > 0;)
+      if (card != board.selected && board.CheckForLegalMove(card) && !board.Takes(card))
+        return &window_.PlayCard(card);
     return nullptr;
   }
 
@@ -46,17 +42,11 @@ class DuopickGuide : public GameGuide {
   }
 
   std::string BoardState() const override {
-    return std::to_string(window_.PairsCount) + " pairs, " + std::to_string(window_.RunsCount) + " runs, " +
-           std::to_string(window_.CardsRemaining) + " cards in the stock.";
+    return std::to_string(window_.board.PairsCount) + " pairs, " + std::to_string(window_.board.RunsCount) +
+           " runs, " + std::to_string(window_.board.stack.size()) + " cards in the stock.";
   }
 
  private:
-  // Goes with the card selected, if there is one.
-  bool Matches(int card) const {
-    return window_.CardsSelected == 0 || window_.FieldSelectionRectangle(card).Visible ||
-           MatchOf(window_.FirstCardValue, CardValue(window_.cards.DeckCards[card])) != Match::None;
-  }
-
   frmDuopick& window_;
 };
 
