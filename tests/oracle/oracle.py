@@ -92,8 +92,13 @@ def run(program, script):
             if os.path.isfile(path):
                 with open(path, "rb") as file:
                     content = file.read()
-            left[os.path.relpath(path, folder)] = mode, content.replace(folder.encode(), b"<folder>")
-    return said.replace(folder.encode(), b"<folder>"), status, left
+            left[os.path.relpath(path, folder)] = mode, nameless(content, folder)
+    return nameless(said, folder), status, left
+
+
+def nameless(text, folder):
+    """A text without the path of the worker's folder."""
+    return text.replace(folder.encode(), b"<folder>").replace(os.path.dirname(folder).encode(), b"<above>")
 
 
 def digest_of(outcome):

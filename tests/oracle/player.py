@@ -52,6 +52,9 @@ def lucky_deck(game, rng):
         rest = [card for card in deck if card not in rich]
         return rich + rest
     if game == "Treyshift":
+        if rng.random() < .5:  # the king that is left over comes first, for the storage
+            return ["1H", "1S", "13D", "1C"] + [f"{rank}{suit}" for rank in range(2, 14) for suit in "SHC"] + \
+                [f"{rank}D" for rank in range(1, 13)]
         return [f"{rank}{suit}" for rank in range(1, 14) for suit in "SHC"] + [f"{r}D" for r in range(1, 14)]
     if game in ("Fivestack", "Blackrush"):  # a ten and an ace again and again, then small cards
         tens = [card for card in deck if int(card[:-1]) >= 10]
@@ -64,7 +67,7 @@ def lucky_deck(game, rng):
 class Player:
     def __init__(self, program, folder, game, number):
         self.rng = rng = random.Random(f"{game}/{number}")
-        self.game, self.window = game, "frm" + game
+        self.game, self.window, self.folder = game, "frm" + game, folder
         self.files = prepare(rng, game)
         self.options = ["--seed", str(rng.randrange(1, 1 << 30)), "--start",
                         f"20{rng.randrange(100):02}-{rng.randint(1, 12):02}-{rng.randint(1, 28):02}T"
@@ -87,7 +90,8 @@ class Player:
             os.makedirs(os.path.dirname(path), exist_ok=True)
             with open(path, "wb") as file:
                 file.write(content)
-        self.plan = []
+        self.plan, self.errand = [], []
+        self.errands = rng.choice((0, .02, .06))
         self.lost, self.lucky = 0, False
         self.ended = False
         self.console = Console([program, "--folder", folder] + self.options, folder)
@@ -163,6 +167,8 @@ class Player:
         rng, console = self.rng, self.console
         if rng.random() < self.looks:
             return self.look()
+        if self.errand:
+            return self.errand.pop(0)
         if self.traces == "now and then" and rng.random() < .05:
             # The player always listens; what the script says is put in its place when it is kept.
             return rng.choice(("#trace on", "#trace off"))
@@ -251,20 +257,22 @@ class Player:
                     typed = str(rng.randint(1, 20) * rng.choice((1, 1, 50, 100, 1000)))
                 ways += [f"type {full} {json.dumps(typed)}"] * 2
             elif control in ("File1", "Dir1"):
+                # Not above the folder that holds ours: what is there differs from run to run.
+                above = control == "Dir1" and not console.get(name, "Dir1", "Path", "").startswith(self.folder)
                 entries = console.get(name, control, "List", [])
-                inside = console.get(name, "Dir1", "Path", "").rstrip("/").endswith("suite")
-                for at, entry in enumerate(entries):
-                    if entry != ".." or not inside or rng.random() < .2:
-                        ways.append(f"select {full} {at}")
-                ways.append(f"dblclick {full}")
-            elif control == "" or re.match("lbl|ScoreList", control):
-                continue
+                chosen = console.get(name, control, "ListIndex", -1)
+                ways += [f"select {full} {at}" for at, entry in enumerate(entries) if entry != ".." or not above]
+                if not (above and 0 <= chosen < len(entries) and entries[chosen] == ".."):
+                    ways.append(f"dblclick {full}")
         return rng.choice(ways) if ways else "close " + name
 
     def in_game(self, window):
         rng, console = self.rng, self.console
         self.plan = [each for each in self.plan if each.startswith("click " + window)]
         splash = console.visible(window, "frmSplash")
+        if window == self.window and rng.random() < self.errands:
+            self.errand = self.an_errand(splash)
+            return self.errand.pop(0)
         paused = "Resume" in console.get(window, "mnuPause", "Caption", "")
         if not console.windows[window]:
             return "dump " + window
@@ -292,6 +300,41 @@ class Player:
             return self.plan.pop(0)
         return self.on_board(window)
 
+    def an_errand(self, splash):
+        """Several commands in a row, whatever comes of each: what hardly comes by chance."""
+        rng, window = self.rng, self.window
+        click = f"click {window}."
+        if rng.random() < .2:  # music in a pause
+            return [click + "cmdPause", click + "mnuMusic", click + "cmdPause", "advance 0"]
+        if self.game == "Sumfall" and (splash or rng.random() < .5):  # opened, left, saved with another goal
+            name = rng.choice(("one.sfl", "two.sfl", "mine"))
+            lines = [click + "cmdPlay", 'answer "Yes"'] if not splash else []
+            if rng.random() < .8:
+                lines += [click + "mnuOpen", f'type frmOpen.txtGameName "{rng.choice(("one.sfl", "two.sfl"))}"',
+                          "click frmOpen.cmdOK", 'answer "OK"', f'answer "{rng.choice(("Yes", "No"))}"',
+                          "close frmOpen", click + "PlayCardPicture", click + "cmdPlay", 'answer "Yes"']
+            lines += [click + f"mnu{rng.randint(10, 15)}"] * rng.randint(0, 1)
+            lines += [click + "mnuSave", f'type frmSave.txtGameName "{name}"', "click frmSave.cmdOK", 'answer "OK"',
+                      "close frmSave"]
+            if rng.random() < .5:
+                lines += [click + "mnuOpen", f'type frmOpen.txtGameName "{name}"', "key frmOpen \"Return\"",
+                          'answer "OK"', 'answer "No"', "close frmOpen"]
+            return lines
+        if splash:
+            return [click + "cmdPlay"]
+        if self.game == "Treyshift":  # keeps some cards to the end of the deck
+            self.table.hoards = rng.randint(0, 7)
+            return [line for i in range(3) if self.table.hoards >> i & 1
+                    for line in (click + "UpCard(2)", click + f"TempCard({i})")] or [click + "cmdTakeScore"]
+        if self.game == "Handgrid":  # one card over another until that is refused
+            cells = [rng.randrange(25) for _ in range(3)]
+            return [click + f"PlayCards({rng.choice(cells)})" for _ in range(rng.randint(5, 32))]
+        if self.game in ("Fivestack", "Blackrush"):
+            return [click + rng.choice(("cmdPass", f"cmdHit({rng.randrange(4)})"))
+                    for _ in range(rng.randint(3, 30))]
+        pile = "PlayCardPicture" if self.game == "Sumfall" else "CardStackPicture"
+        return [click + pile] * rng.randint(4, 40)  # to the end of the stack and beyond
+
     def between_games(self, window, paused):
         rng = self.rng
         if paused:
@@ -306,6 +349,10 @@ class Player:
         deck = lucky_deck(self.game, rng) if self.luck else None
         if deck and not self.lucky and chance < .9:
             self.lucky = True
+            if deck[2] == "13D":
+                slot = rng.randrange(3)
+                self.table.hoards = 1 << slot
+                self.errand = [f"click {window}.{each}" for each in ("cmdPlay", "UpCard(2)", f"TempCard({slot})")]
             return draws(standard_deck(), deck)
         if self.luck and self.game == "Sumfall" and not self.lucky and chance < .9:
             self.lucky = True

@@ -118,9 +118,12 @@ class Handgrid(Table):
 class Treyshift(Table):
     board = r"(Play|Temp|Up)Card\(|CardStack"
 
+    hoards = 0  # the slots of the storage that are left alone, a bit each
+
     def move(self):
         fan = rank(self.sees("UpCard", 2))
-        sources = [("UpCard", 2, fan)] + [("TempCard", i, rank(self.sees("TempCard", i))) for i in range(3)]
+        sources = [("UpCard", 2, fan)] + [("TempCard", i, rank(self.sees("TempCard", i))) for i in range(3)
+                                          if not self.hoards >> i & 1]
         sources = [each for each in sources if each[2]]
         for name, index, value in sources:
             for column in range(4):
