@@ -5,10 +5,12 @@
 #include <filesystem>
 #include <optional>
 
+#include "bench/board_moves.h"
 #include "bench/null_front_end.h"
 #include "games/games.h"
 #include "games/sumfall/sumfall.h"
 #include "suite/suite.h"
+#include "tests/sumfall_board_player.h"
 
 namespace {
 
@@ -49,7 +51,7 @@ void CardClick(benchmark::State& state) {
   bench.Open();
   player::Click(bench.Game().cmdPlay);
   Image& card = bench.Game().FieldCardPicture(21);
-  if (CardValue(bench.Game().FieldCards[21]) >= bench.Game().CardGoal)
+  if (CardValue(bench.Game().board.field[21]) >= bench.Game().CardGoal)
     state.SkipWithError("the card goes at once");
   for (auto _ : state) {
     player::Click(card);
@@ -80,8 +82,8 @@ void WholeGame(benchmark::State& state) {
       for (int i = 0; i < modSumfall::kPlaces; ++i) clicks += Click(game.FieldCardPicture(i));
       clicks += Click(game.UpCardPicture);
       if (!bench.suite->common.GameInProgress) break;  // the button would play the game again
-      clicks +=
-          Click(game.StockIndex >= 15 ? static_cast<Control&>(game.PlayCardPicture) : game.cmdTakeScore);
+      clicks += Click(game.board.stock.size() > 15 ? static_cast<Control&>(game.PlayCardPicture)
+                                                   : game.cmdTakeScore);
     }
   }
   state.counters["clicks per game"] = static_cast<double>(clicks) / static_cast<double>(state.iterations());
@@ -109,6 +111,8 @@ void ClockTick(benchmark::State& state) {
   }
 }
 BENCHMARK(ClockTick);
+
+BENCHMARK(BM_BoardMoves<SumfallPlayer>);
 
 }  // namespace
 

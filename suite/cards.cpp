@@ -1,5 +1,6 @@
 #include "suite/cards.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "window/text.h"
@@ -8,7 +9,8 @@ std::string_view CardKey(std::string_view code) { return Trim(code); }
 
 int CardValue(std::string_view code) {
   int value = 0;
-  for (char letter : CardKey(code)) {
+  code.remove_prefix(std::min(code.find_first_not_of(' '), code.size()));
+  for (char letter : code) {
     if (letter < '0' || letter > '9') break;
     value = value * 10 + (letter - '0');
     if (value > 99) break;  // no card; kept small, so that rubbish can't overflow

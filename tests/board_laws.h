@@ -33,14 +33,15 @@ void KeepsTheLaws(uint32_t seed, int moves = kBoardMoves) {
       const auto before = board;
       const auto move = Player::Choose(board, chance);
       const bool taken = Player::Make(board, move);
-      const Census now = CensusOf<Player>(board);
       if (!taken) {
         ++refused;
-        ASSERT_EQ(now.cards, CensusOf<Player>(before).cards) << "refused on " << PrintBoard(before);
+        ASSERT_EQ(CensusOf<Player>(board).cards, CensusOf<Player>(before).cards)
+            << "refused on " << PrintBoard(before);
       }
       // The whole count, and the text, now and then: they cost more than a move.
       if (moves % 16 == 0) {
-        ASSERT_EQ(now.Codes(), dealt) << PrintBoard(before) << "\nbecame\n" << PrintBoard(board);
+        ASSERT_EQ(CensusOf<Player>(board).Codes(), dealt) << PrintBoard(before) << "\nbecame\n"
+                                                          << PrintBoard(board);
         const std::string line = PrintBoard(board);
         const auto read = ReadBoard<typename Player::Board>(line);
         ASSERT_TRUE(read && *read == board) << line;

@@ -138,15 +138,15 @@ TEST_F(Keys, TakeCardsByRankAndGiveThemBack) {
     if (cards.size() > 1 && rank < '6') twice = rank;
   ASSERT_NE(twice, 0);
   Type(QString(QChar(twice)));
-  EXPECT_EQ(game.CurrentTotal, twice - '0');
+  EXPECT_EQ(game.board.total, twice - '0');
   const Visual* first = Cursor();
   Press(twice, Qt::KeypadModifier, QString(QChar(twice)));
-  EXPECT_EQ(game.CurrentTotal, 2 * (twice - '0'));
+  EXPECT_EQ(game.board.total, 2 * (twice - '0'));
   EXPECT_NE(Cursor(), first);
   Press(Qt::Key_Backspace);
   Press(Qt::Key_Backspace);
   Press(Qt::Key_Backspace);
-  EXPECT_EQ(game.CurrentTotal, 0);
+  EXPECT_EQ(game.board.total, 0);
   // A key that is held down clicks once.
   QWidget& window = *front.WindowOf(game);
   for (int i = 0; i < 5; ++i) {
@@ -208,10 +208,10 @@ TEST_F(Keys, StandForPlacesWhereAGameHasDigits) {
   input::Settle();
   auto& duopick = Open<frmDuopick>("4");
   Press(Qt::Key_Space);
-  EXPECT_EQ(duopick.CardsSelected, 1);
+  EXPECT_NE(duopick.board.selected, modDuopick::kNone);
   Press(Qt::Key_Backspace);  // what is selected takes no click here
-  EXPECT_EQ(duopick.CardsSelected, 0);
-  EXPECT_EQ(duopick.PairsCount + duopick.RunsCount, 0);
+  EXPECT_EQ(duopick.board.selected, modDuopick::kNone);
+  EXPECT_EQ(duopick.board.PairsCount + duopick.board.RunsCount, 0);
 }
 
 // While a round is paid its board is empty, and no key falls through to a button that would end the game.

@@ -384,7 +384,7 @@ TEST_F(Look, GamesStandAtEverySize) {
       game.Pause();
       suite.common.CurrentScore = 1'000'000'000;
       if (auto* sumfall = dynamic_cast<frmSumfall*>(&game)) {
-        sumfall->CombinationCount = 30;
+        sumfall->board.combinations = 30;
         sumfall->CompletionBonus = sumfall->CombinationBonus = 5'000'000;
       }
       if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) {
@@ -405,7 +405,8 @@ TEST_F(Look, GamesStandAtEverySize) {
           player::Click(blackrush->cmdHit(0));
         }
       }
-      if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) duopick->PairsCount = duopick->RunsCount = 26;
+      if (auto* duopick = dynamic_cast<frmDuopick*>(&game))
+        duopick->board.PairsCount = duopick->board.RunsCount = 26;
       if (auto* fivestack = dynamic_cast<frmFivestack*>(&game)) {
         fivestack->ColumnSoft(4).Caption = "Soft";
         fivestack->ColumnSoft(4).Visible = true;

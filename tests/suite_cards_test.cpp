@@ -5,7 +5,7 @@
 #include <cmath>
 #include <set>
 
-#include "games/sumfall/rules.h"
+#include "games/sumfall/board.h"
 #include "tests/driver.h"
 
 namespace {

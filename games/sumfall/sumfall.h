@@ -1,9 +1,23 @@
 // frmSumfall: the window of Sumfall, what each click, tick and menu entry does.
 #pragma once
 
-#include "games/sumfall/rules.h"
+#include "games/sumfall/board.h"
 #include "games/sumfall/saved_game.h"
 #include "suite/game_window.h"
+
+namespace modSumfall {
+
+inline constexpr int kBonusRound = 3;
+// What a game pays when nobody has changed it.
+inline constexpr int kBonusRoundScore = 80000, kCompletionBonus = 10000, kCombinationBonus = 1500,
+                     kTimeBonus = 100;
+
+// "Tens:", "Elevens:" ... of a goal from 10 to 15.
+const char* GoalWord(int cardGoal);
+// "ten", "eleven" ... of a goal from 10 to 15.
+const char* GoalNumberWord(int cardGoal);
+
+}  // namespace modSumfall
 
 class frmSumfall : public GameWindow {
  public:
@@ -28,30 +42,23 @@ class frmSumfall : public GameWindow {
   std::vector<std::unique_ptr<Menu>> goalEntries, colourEntries;
 
   // --- State -------------------------------------------------------------------------------------
+  modSumfall::Board board;
   CardCodes Round1Deck, Round2Deck, Round3Deck;  // as dealt, for replay and saved games
-  std::array<std::string, modSumfall::kPlaces> FieldCards;
-  std::array<std::string, modSumfall::kUpCards> UpCards;  // index 0 stays empty
-  std::vector<std::string> StockCards;
-  Integer UpCardIndex, StockIndex, CardGoal, CurrentTotal, SelectionColorIndex;
+  Integer CardGoal, SelectionColorIndex;
   int DeckGoal = modSumfall::kDefaultGoal;  // the card goal that the decks were made for
-  Long CombinationCount;
   Long& BonusRoundScore = BonusScore;
   Long CompletionBonus, CombinationBonus;
   bool CountDownScore = true;  // of this game alone
-  bool ReplayPending = false, UpCardUsed = false;
+  bool ReplayPending = false;
 
   // --- Play --------------------------------------------------------------------------------------
   bool CreateSumfallDeck();
   // Lays out `Deck` and starts the round clock. False, and the player is told, if a card can't be shown.
   bool Deal(bool newGame = false);
-  bool CheckLegalFieldCardMove(int index) const;
-  bool CheckForCompletion() const;
   void FieldCardPicture_Click(int index);
   void UpCardPicture_Click();
   void PlayCardPicture_Click();
   void CheckTotal();
-  // False if no place of the field is free.
-  bool MoveUpCardToFieldArea();
 
   // Reads a saved game and replays it. False, and the player is told, if the file is none.
   bool LoadSavedGame(const std::filesystem::path& path);
@@ -110,11 +117,10 @@ class frmSumfall : public GameWindow {
   void ShowTimerRect();
   void SelectionColor(int index);
   void ChooseGoal(int goal);
+  void ShowUpCard();
   void ShowTotal();
-  void TakePoints(long long points);
-  void StoreRoundDeck();
+  void OfferReplay();
   CardCodes& RoundDeck(long long round);
-  int FreePlace() const;
   void PayCompletionBonus();
   void PayCombinationBonus();
   void PayTimeBonus();

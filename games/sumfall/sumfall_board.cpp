@@ -59,7 +59,36 @@ constexpr Design kDesign[] = {
     {"UpCardSelectionRectangle", 0, 0, 1065, 1455},
 };
 
+// Where the places of the field lie, seen from the first.
+constexpr struct {
+  int left, top;
+} kField[kPlaces] = {
+    {0, 0},        {-2610, 500}, {2610, 500},   {-630, 500},  {630, 500},    {-3285, 1000},
+    {-1935, 1000}, {0, 1000},    {1935, 1000},  {3285, 1000}, {-3960, 1500}, {-2610, 1500},
+    {-1260, 1500}, {1260, 1500}, {2610, 1500},  {3960, 1500}, {-3285, 2000}, {-1935, 2000},
+    {1935, 2000},  {3285, 2000}, {-2610, 2500}, {2610, 2500},
+};
+
+constexpr struct {
+  const char *menu, *caption;
+  int colour;
+} kSelectionColours[] = {
+    {"mnuYellow", "&Yellow", 65535}, {"mnuRed", "&Red (Default)", 255},  {"mnuBlue", "&Blue", 0xFF0000},
+    {"mnuGreen", "&Green", 49152},   {"mnuPurple", "&Purple", 0x800080}, {"mnuBlack", "&Black", 0},
+};
+constexpr int kDefaultColour = 1;
+
+constexpr struct {
+  const char *menu, *caption, *word, *number;
+} kGoals[] = {{"mnu10", "1&0", "Tens:", "ten"},           {"mnu11", "1&1 (Default)", "Elevens:", "eleven"},
+              {"mnu12", "1&2", "Twelves:", "twelve"},     {"mnu13", "1&3", "Thirteens:", "thirteen"},
+              {"mnu14", "1&4", "Fourteens:", "fourteen"}, {"mnu15", "1&5", "Fifteens:", "fifteen"}};
+
 }  // namespace
+
+const char* modSumfall::GoalWord(int cardGoal) { return kGoals[cardGoal - kLowestGoal].word; }
+
+const char* modSumfall::GoalNumberWord(int cardGoal) { return kGoals[cardGoal - kLowestGoal].number; }
 
 frmSumfall::frmSumfall(modCommon& common) : GameWindow(common, kPlan) {
   settings = {{"", &BonusRoundScore, kBonusRoundScore},
@@ -77,7 +106,7 @@ frmSumfall::frmSumfall(modCommon& common) : GameWindow(common, kPlan) {
 void frmSumfall::SetUpBoard() {
   ApplyDesign(*this, kDesign);
   for (int i = 0; i < kPlaces; ++i) {
-    FieldCardPicture(i).ToolTipText = std::to_string(kField[i].points) + " points";
+    FieldCardPicture(i).ToolTipText = std::to_string(kPoints[i]) + " points";
     FieldCardPicture(i).BorderStyle = 1;
     FieldCardPicture(i).MousePointer = kCustomPointer;
     FieldSelectionRectangle(i).BorderWidth = 3;
@@ -120,11 +149,6 @@ void frmSumfall::SetUpGameMenus() {
   };
   mnuGoal.Caption = "Card &Goal";
   mnuGoal.rank = 75;
-  static constexpr struct {
-    const char* menu;
-    const char* caption;
-  } kGoals[] = {{"mnu10", "1&0"}, {"mnu11", "1&1 (Default)"}, {"mnu12", "1&2"},
-                {"mnu13", "1&3"}, {"mnu14", "1&4"},           {"mnu15", "1&5"}};
   for (int goal = kLowestGoal; goal <= kHighestGoal; ++goal) {
     auto entry = std::make_unique<Menu>(mnuGoal, kGoals[goal - kLowestGoal].menu);
     entry->Caption = kGoals[goal - kLowestGoal].caption;
@@ -134,7 +158,7 @@ void frmSumfall::SetUpGameMenus() {
   }
   mnuColor.Caption = "Selection &Color";
   mnuColor.rank = 85;
-  for (size_t i = 0; i < kSelectionColours.size(); ++i) {
+  for (size_t i = 0; i < std::size(kSelectionColours); ++i) {
     auto entry = std::make_unique<Menu>(mnuColor, kSelectionColours[i].menu);
     entry->Caption = kSelectionColours[i].caption;
     entry->OnClick = [this, i] { SelectionColor(static_cast<int>(i)); };
@@ -145,14 +169,14 @@ void frmSumfall::SetUpGameMenus() {
 void frmSumfall::BindBoardEvents() {
   FieldCardPicture.OnClick([this](int index) { FieldCardPicture_Click(index); });
   FieldCardPicture.OnMouseMove([this](int index) {
-    const bool playable = phase != Phase::Over && CheckLegalFieldCardMove(index);
+    const bool playable = phase != Phase::Over && board.CheckLegalFieldCardMove(index);
     FieldCardPicture(index).MouseIcon = playable ? common.ImageList2("POINTER") : 0;
   });
   UpCardPicture.OnClick = [this] { UpCardPicture_Click(); };
   PlayCardPicture.OnClick = [this] { PlayCardPicture_Click(); };
-  for (Image* image : {&UpCardPicture, &PlayCardPicture})
-    image->OnMouseMove = [this, image] {
-      const bool playable = image->Picture != common.ImageList2("EMPTY") && phase != Phase::Over;
+  for (auto [image, pile] : {std::pair(&UpCardPicture, &board.upCards), {&PlayCardPicture, &board.stock}})
+    image->OnMouseMove = [this, image, pile] {
+      const bool playable = !pile->empty() && phase != Phase::Over;
       image->MouseIcon = playable ? common.ImageList2("POINTER") : 0;
     };
   lblCurrentScore.OnChange = [this] {
@@ -229,6 +253,14 @@ void frmSumfall::ShowLowerCards(bool visible) {
   SetVisible({&PlayCardPicture, &UpCardPicture, &lblCardCount}, visible);
 }
 
+void frmSumfall::SelectionColor(int index) {
+  const int colour = kSelectionColours[index].colour;
+  for (int i = 0; i < kPlaces; ++i) FieldSelectionRectangle(i).BorderColor = colour;
+  UpCardSelectionRectangle.BorderColor = colour;
+  SelectionColorIndex = index;
+  TickOnly(*colourEntries[index]);
+}
+
 void frmSumfall::ShowTimerRect() { SetVisible({&TimerRectangle, &TimerBevelSide, &TimerBevelBottom}, true); }
 
 void frmSumfall::ShowGameControls(bool visible) {
@@ -250,26 +282,28 @@ void frmSumfall::EnableCommands(bool enable) {
 void frmSumfall::CoverCards(bool covered) {
   if (covered) {
     SelRectangle(false);
-    CurrentTotal = 0;
+    board.DropSelection();
     ShowTotal();
     RefreshFieldCards();
     return;
   }
-  for (int i = 0; i < kPlaces; ++i) {
-    if (!FieldCardPicture(i).Visible) continue;
-    ShowFace(FieldCardPicture(i), FieldCards[i]);
-  }
-  if (UpCardIndex != 0) ShowFace(UpCardPicture, UpCards[UpCardIndex]);
+  for (int i = 0; i < kPlaces; ++i)
+    if (!board.field[i].empty()) ShowFace(FieldCardPicture(i), board.field[i]);
+  if (!board.upCards.empty()) ShowFace(UpCardPicture, board.upCards.back());
 }
 
 void frmSumfall::RefreshPlayCard() {
-  PlayCardPicture.Picture = common.ImageList2(StockPicture(static_cast<int>(StockIndex)));
+  const size_t cards = board.stock.size();
+  PlayCardPicture.Picture = common.ImageList2(cards > 20   ? "FULL"
+                                              : cards > 10 ? "HALF"
+                                              : cards > 0  ? "BACK"
+                                                           : "EMPTY");
 }
 
 void frmSumfall::RefreshFieldCards() {
   for (int i = 0; i < kPlaces; ++i)
-    if (FieldCardPicture(i).Visible) ShowBack(FieldCardPicture(i));
-  if (UpCardIndex != 0) ShowBack(UpCardPicture);
+    if (!board.field[i].empty()) ShowBack(FieldCardPicture(i));
+  if (!board.upCards.empty()) ShowBack(UpCardPicture);
 }
 
 // The splash panel shows the game's own card, and leaves the frame of the pictures alone.
@@ -281,7 +315,6 @@ void frmSumfall::ShowSplashBack(Image& image) { image.Picture = common.ImageList
 
 void frmSumfall::SetDefaults() {
   CurrentRound = 1;
-  StockIndex = -1;
   SelectionColor(kDefaultColour);
 }
 
@@ -289,7 +322,7 @@ bool frmSumfall::ApplyGameSetting(std::string_view section, std::string_view val
   int number = 0;
   const bool isNumber = ParseLong(value, number);
   if (section == "[Color]") {
-    if (isNumber && number >= 0 && number < static_cast<int>(kSelectionColours.size()))
+    if (isNumber && number >= 0 && number < static_cast<int>(std::size(kSelectionColours)))
       SelectionColor(number);
   } else if (section == "[CardGoal]") {
     if (!isNumber || number < INT16_MIN || number > INT16_MAX) return true;

@@ -1,4 +1,4 @@
-// Decks, field and words of Sumfall, and its dialogs for scoring and rules.
+// Where things stand in Sumfall's window, and its dialogs for scoring and rules.
 #include <gtest/gtest.h>
 
 #include <set>
@@ -9,35 +9,15 @@ using namespace modSumfall;
 
 namespace {
 
-TEST(SumfallRules, DecksOfEachGoal) {
-  const std::pair<int, int> sizes[] = {{9, 52},  {10, 52}, {11, 52}, {12, 56}, {13, 60},
-                                       {14, 64}, {15, 64}, {16, 52}, {-3, 52}};
-  const std::pair<int, const char*> codes[] = {
-      {1, "1S"},   {4, "1S"},    {5, "1H"},   {9, "1C"},    {13, "1D"},  {16, "1D"},
-      {17, " 2S"}, {25, " 10S"}, {26, " 2H"}, {34, " 10H"}, {35, " 2C"}, {43, " 10C"},
-      {44, " 2D"}, {52, " 10D"}, {53, "11S"}, {54, "11H"},  {55, "11C"}, {56, "11D"},
-      {57, "12S"}, {60, "12D"},  {61, "13S"}, {64, "13D"}};
-  for (const auto& [goal, size] : sizes) {
-    const CardCodes deck = DeckForGoal(goal);
-    EXPECT_EQ(UpperBound(deck), size) << goal;
-    EXPECT_EQ(deck[0], "");
-    for (const auto& [index, code] : codes) {
-      if (index > size) break;
-      EXPECT_EQ(deck[index], code) << goal;
-    }
-  }
-  EXPECT_EQ(Joined({GoalWord(10), GoalWord(11), GoalWord(12), GoalWord(13), GoalWord(14), GoalWord(15)}, ""),
-            "Tens:Elevens:Twelves:Thirteens:Fourteens:Fifteens:");
-  const std::pair<int, const char*> stocks[] = {{-1, "EMPTY"}, {0, "BACK"},  {9, "BACK"}, {10, "HALF"},
-                                                {19, "HALF"},  {20, "FULL"}, {41, "FULL"}};
-  for (const auto& [index, picture] : stocks) EXPECT_STREQ(StockPicture(index), picture) << index;
-}
-
-TEST(SumfallRules, ACardIsCoveredByWhatLiesOnIt) {
+TEST(SumfallWindow, ACardIsCoveredByWhatLiesOnIt) {
+  TestFolder folder;
+  Driver driver(folder.Path());
+  driver.Do(kOpenSumfall);
+  auto& card = SumfallOf(driver).FieldCardPicture;
   // Lower rows lie on higher ones. A card that lies on another only together with a card on which it lies
   // itself needs no mention: that one is in the way already.
-  const auto lies = [](int upper, int lower) {
-    const int dx = kField[upper].left - kField[lower].left, dy = kField[upper].top - kField[lower].top;
+  const auto lies = [&](int upper, int lower) {
+    const int dx = card(upper).Left - card(lower).Left, dy = card(upper).Top - card(lower).Top;
     return dy > 0 && dy < 1455 && std::abs(dx) < 1065;
   };
   for (int place = 0; place < kPlaces; ++place) {
@@ -52,17 +32,25 @@ TEST(SumfallRules, ACardIsCoveredByWhatLiesOnIt) {
     const auto covers = CoveredBy(place);
     EXPECT_EQ(std::set<int>(covers.begin(), covers.end()), direct) << place;
   }
-  EXPECT_TRUE(CoveredBy(7).empty());
-  for (int outside : {-1, 22, 1000}) EXPECT_TRUE(CoveredBy(outside).empty());
-  std::string points;
-  for (const Place& place : kField) points += std::to_string(place.points / 100);
-  EXPECT_EQ(points, "7666655555444444333322");
+  // Each row pays a hundred less than the one above it, and lies 500 lower.
+  for (int place = 0; place < kPlaces; ++place)
+    EXPECT_EQ(card(place).Top - card(0).Top, 5 * (700 - kPoints[place])) << place;
+  EXPECT_EQ(Joined({GoalWord(10), GoalWord(11), GoalWord(12), GoalWord(13), GoalWord(14), GoalWord(15)}, ""),
+            "Tens:Elevens:Twelves:Thirteens:Fourteens:Fifteens:");
 }
 
-TEST(SumfallRules, CardsKeepTheirArrangementAtEverySize) {
+TEST(SumfallWindow, CardsKeepTheirArrangementAtEverySize) {
   TestFolder folder;
   Driver driver(folder.Path());
   driver.Do(kOpenSumfall + kPlay);
+  // Seen from place 0, at the window's own size.
+  std::vector<std::pair<int, int>> offsets;
+  for (int i = 0; i < kPlaces; ++i) {
+    const Image& card = SumfallOf(driver).FieldCardPicture(i);
+    offsets.emplace_back(card.Left - 4320, card.Top - 1400);
+  }
+  EXPECT_EQ(offsets[10], std::pair(-3960, 1500));
+  EXPECT_EQ(offsets[13], std::pair(1260, 1500));
   const struct {
     const char* command;
     int x, y, width;
@@ -76,11 +64,11 @@ TEST(SumfallRules, CardsKeepTheirArrangementAtEverySize) {
     driver.Do(row.command);
     frmSumfall& game = SumfallOf(driver);
     for (int i = 0; i < kPlaces; ++i) {
-      EXPECT_EQ(game.FieldCardPicture(i).Left, row.x + kField[i].left) << row.command;
-      EXPECT_EQ(game.FieldCardPicture(i).Top, row.y + kField[i].top) << row.command;
+      EXPECT_EQ(game.FieldCardPicture(i).Left - row.x, offsets[i].first) << row.command;
+      EXPECT_EQ(game.FieldCardPicture(i).Top - row.y, offsets[i].second) << row.command;
       EXPECT_EQ(game.FieldSelectionRectangle(i).Left, game.FieldCardPicture(i).Left);
       EXPECT_EQ(game.FieldSelectionRectangle(i).Top, game.FieldCardPicture(i).Top);
-      EXPECT_EQ(game.FieldCardPicture(i).ToolTipText, std::to_string(kField[i].points) + " points");
+      EXPECT_EQ(game.FieldCardPicture(i).ToolTipText, std::to_string(kPoints[i]) + " points");
       EXPECT_EQ(game.FieldCardPicture(i).Width, 1065);
       EXPECT_EQ(game.FieldCardPicture(i).Height, 1455);
     }
@@ -96,7 +84,7 @@ TEST(SumfallRules, CardsKeepTheirArrangementAtEverySize) {
   EXPECT_EQ(driver.Get("frmSumfall.FieldCardPicture(0).Left"), 4320);
 }
 
-TEST(SumfallRules, PointerShowsWhatCanBePlayed) {
+TEST(SumfallWindow, PointerShowsWhatCanBePlayed) {
   TestFolder folder;
   Driver driver(folder.Path());
   driver.Do(kOpenSumfall + kPlay);
@@ -110,14 +98,15 @@ TEST(SumfallRules, PointerShowsWhatCanBePlayed) {
   EXPECT_EQ(icon("FieldCardPicture(21)"), 66);
   EXPECT_EQ(icon("UpCardPicture"), 66);
   EXPECT_EQ(icon("PlayCardPicture"), 66);
-  SumfallOf(driver).FieldCardPicture(21).Visible = false;
+  SumfallOf(driver).board.field[21].clear();
   EXPECT_EQ(icon("FieldCardPicture(19)"), 66);
   SumfallOf(driver).phase = Phase::Over;
   for (const char* control : {"FieldCardPicture(19)", "UpCardPicture", "PlayCardPicture"})
     EXPECT_EQ(icon(control), 0);
   SumfallOf(driver).phase = Phase::Playing;
-  SumfallOf(driver).PlayCardPicture.Picture = 13;
-  EXPECT_EQ(icon("PlayCardPicture"), 0);
+  SumfallOf(driver).board.stock.clear();
+  SumfallOf(driver).board.upCards.clear();
+  for (const char* control : {"UpCardPicture", "PlayCardPicture"}) EXPECT_EQ(icon(control), 0);
 }
 
 TEST(SumfallScoring, CustomValuesHaveLimits) {
