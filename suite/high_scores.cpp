@@ -1,5 +1,7 @@
 #include "suite/high_scores.h"
 
+#include <algorithm>
+
 #include "suite/dialogs.h"
 #include "suite/game_window.h"
 #include "suite/settings_file.h"
@@ -80,6 +82,12 @@ void KeepTable(GameWindow& window, const std::string& tableName, std::function<H
                 for (const HighScore& entry : ParseHighScores(left, damaged))
                   scores = WithEntry(scores, entry);
                 return FormatHighScores(scores);
+              },
+              [](const std::string& text, const std::string& left) {
+                bool damaged = false;
+                const HighScores entries = ParseHighScores(left, damaged);
+                const HighScores scores = ParseHighScores(text, damaged);
+                return entries.empty() ? 0 : int(std::ranges::count(scores, entries.front()));
               }});
 }
 

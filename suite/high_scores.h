@@ -13,6 +13,7 @@ class GameWindow;
 struct HighScore {
   std::string name;  // with "*" at its end if scoring was customised
   Long score;
+  bool operator==(const HighScore&) const = default;
 };
 using HighScores = std::vector<HighScore>;
 

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include <cstring>
+
 #include "suite/high_scores.h"
 #include "tests/sumfall_cards.h"
 
@@ -277,6 +279,36 @@ TEST(Tables, WhatCouldNotBeEnteredIsLeftBesideForTheNextStart) {
   int files = 0;
   for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(folder.Path())) ++files;
   EXPECT_EQ(files, 3) << "the table, the settings and the rubbish";
+}
+
+TEST(Tables, WhatWasLeftBesideIsAddedOnce) {
+  const struct {
+    const char *note, *table, *expected;
+  } rows[] = {
+      // Who earns the same again stands there twice.
+      {"", "A, 60000\r\n\r\n", "A, 60000\r\nA, 60000\r\n"},
+      // Moved by a copy that was killed then: before it wrote the table, or after that.
+      {"-0", "B, 70000\r\n\r\n", "B, 70000\r\nA, 60000\r\n"},
+      {"-0", "B, 70000\r\nA, 60000\r\n\r\n", "B, 70000\r\nA, 60000\r\n"},
+      {"-1", "B, 70000\r\nA, 60000\r\n\r\n", "B, 70000\r\nA, 60000\r\nA, 60000\r\n"},
+      {"-1", "A, 60000\r\nA, 60000\r\n\r\n", "A, 60000\r\nA, 60000\r\n"},
+  };
+  for (const auto& row : rows) {
+    TestFolder folder;
+    const std::string low = "C, 1\r\n";
+    const std::string note = "HiScores90_11.late-0123456789abcdef" + std::string(row.note) + ".Txt";
+    folder.Write(note, "A, 60000\r\n\r\n");
+    folder.Write(kTable, std::string(row.table).insert(strlen(row.table) - 2, low));
+    for (int start = 0; start < 2; ++start) Driver(folder.Path()).Do(kOpenSumfall);
+    EXPECT_EQ(folder.Read(kTable), row.expected + low + "\r\n") << row.note << " " << row.table;
+    EXPECT_FALSE(folder.Has(note)) << row.note << " " << row.table;
+  }
+  TestFolder folder;
+  const std::string other = "HiScores90_11.late-0123456789abcdefg1.Txt";
+  folder.Write(other, "A, 60000\r\n\r\n");
+  Driver(folder.Path()).Do(kOpenSumfall);
+  EXPECT_TRUE(folder.Has(other)) << "that is somebody else's";
+  EXPECT_EQ(folder.Read(kTable), kFresh);
 }
 
 TEST(Tables, NamesFromElsewhereAreCut) {

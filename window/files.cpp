@@ -165,15 +165,33 @@ std::vector<std::string> NamesIn(const fs::path& folder) {
   return names;
 }
 
-// "Table.late-0123456789abcdef.Txt": what belongs into "Table.Txt".
-std::vector<fs::path> NotesFor(const fs::path& path) {
+// "Table.late-0123456789abcdef.Txt": what belongs into "Table.Txt". Before it is added it is moved to
+// "Table.late-0123456789abcdef-2.Txt", where 2 is how often the table held the like then: whoever finds that
+// sees whether it has been added.
+struct Note {
+  fs::path path;
+  std::optional<int> heldBefore;
+};
+
+std::vector<Note> NotesFor(const fs::path& path) {
   const fs::path target = TargetOf(path);
   const std::string begin = target.stem().string() + kNote, end = target.extension().string();
-  std::vector<fs::path> notes;
-  for (const std::string& name : NamesIn(target.parent_path()))
-    if (name.size() == begin.size() + kSuffixLetters + end.size() && name.starts_with(begin) &&
-        name.ends_with(end))
-      notes.push_back(target.parent_path() / name);
+  std::vector<Note> notes;
+  for (const std::string& name : NamesIn(target.parent_path())) {
+    if (name.size() < begin.size() + kSuffixLetters + end.size() || !name.starts_with(begin) ||
+        !name.ends_with(end))
+      continue;
+    Note note{target.parent_path() / name, std::nullopt};
+    const char* const behind = name.data() + begin.size() + kSuffixLetters;
+    const char* const last = name.data() + name.size() - end.size();
+    if (behind < last) {
+      int held = 0;
+      const auto [stopped, error] = std::from_chars(behind + 1, last, held);
+      if (*behind != '-' || error != std::errc() || stopped != last) continue;
+      note.heldBefore = held;
+    }
+    notes.push_back(std::move(note));
+  }
   return notes;
 }
 
@@ -314,23 +332,41 @@ std::optional<FileRefusal::What> Files::Change(const fs::path& path, std::vector
   if (nonsense && !PutAside(path)) return What::ReplaceFile;
   std::string text = old;
   std::vector<fs::path> notes;
-  if (changes.front().addNote)
-    for (const fs::path& note : NotesFor(path))
-      if (std::string left; ReadDisk(note, left) == ReadOutcome::Read) {
-        if (!changes.front().makesSense(left) && !PutAside(note)) continue;
-        text = changes.front().addNote(text, left);
-        notes.push_back(note);
-      }
+  if (changes.front().addNote) notes = AddNotes(path, changes.front(), old, text);
   for (const FileChange& change : changes) text = change.apply(text);
   if (outcome != ReadOutcome::Read || text != old) {
     const Written written = Replace(path, text, Hurries());
     if (written == Written::NotBeside && folder == folder_) return What::WriteFolder;
     if (written != Written::Yes) return What::ReplaceFile;
   }
-  // Who is killed right here has an entry twice, and none is lost.
-  for (const fs::path& note : notes) unlink(note.c_str());
+  std::error_code error;
+  for (const fs::path& note : notes)  // one that doesn't go has nothing to say any more
+    if (Insist([&] { return unlink(note.c_str()); }) != 0) fs::resize_file(note, 0, error);
   known_[path] = text;
   return std::nullopt;
+}
+
+// Adds to `text` what other copies have left and `old` doesn't hold yet; returns the notes that can go then.
+std::vector<fs::path> Files::AddNotes(const fs::path& path, const FileChange& change, const std::string& old,
+                                      std::string& text) {
+  std::vector<fs::path> added;
+  for (const Note& note : NotesFor(path)) {
+    std::string left;
+    if (ReadDisk(note.path, left) != ReadOutcome::Read) continue;
+    if (!change.makesSense(left) && !PutAside(note.path)) continue;
+    fs::path place = note.path;
+    if (!note.heldBefore) {
+      place.replace_filename(note.path.stem().string() + "-" + std::to_string(change.countNote(text, left)) +
+                             note.path.extension().string());
+      // What can't be moved can't be taken away either, and would be added at each start.
+      if (Insist([&] { return rename(note.path.c_str(), place.c_str()); }) != 0) continue;
+    }
+    if (!note.heldBefore || change.countNote(old, left) <= *note.heldBefore)
+      text = change.addNote(text, left);
+    added.push_back(place);
+  }
+  if (!added.empty() && !Hurries()) SyncFolder(added.front().parent_path());
+  return added;
 }
 
 // Takes away what copies of the program that were killed while they wrote have left; once a folder.

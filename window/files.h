@@ -30,9 +30,10 @@ struct FileChange {
   // Nobody else's is in that file: where there is no time to wait for the lock it is made without.
   bool mayGoWithoutLock = false;
   // Where the change can't be made and there is no later, this is left in a file beside; and how whoever has
-  // the lock next adds what others have left so.
+  // the lock next adds what others have left so, and sees how often it stands in a text.
   std::string note = {};
   std::function<std::string(const std::string& old, const std::string& note)> addNote = nullptr;
+  std::function<int(const std::string& text, const std::string& note)> countNote = nullptr;
 };
 
 // What the disk refused, for the player.
@@ -80,6 +81,8 @@ class Files {
   void Settle(const std::filesystem::path& path);
   std::optional<FileRefusal::What> Change(const std::filesystem::path& path,
                                           std::vector<FileChange>& changes);
+  std::vector<std::filesystem::path> AddNotes(const std::filesystem::path& path, const FileChange& change,
+                                              const std::string& old, std::string& text);
   void Sweep(const std::filesystem::path& folder);
   bool Hurries() const { return mustHurry && mustHurry(); }
   void Refuse(FileRefusal::What what, const std::filesystem::path& path);

@@ -19,6 +19,8 @@ import tempfile
 import time
 
 TABLE, INI, SAVED = "HiScores90_11.Txt", "Sumfall.Ini", "mine.sfl"
+# A score that a copy with no time has left for the next start.
+NOTE, LATE = "HiScores90_11.late-0123456789abcdef.Txt", "Late, 100\r\n\r\n"
 FRESH = "Quillmark, 50000\r\n" * 10 + "\r\n"
 LOW = "".join(f"P{n}, {n}\r\n" for n in range(10, 0, -1)) + "\r\n"  # any score has a place in it
 OPEN = ["click frmSelect.cmdSumfall"]
@@ -40,6 +42,7 @@ SCENARIOS = {
     "damaged table": ({TABLE: "P10, 10\r\nrubbish\r\n"}, OPEN + OK + GAME + ENTER + CLOSE),
     "damaged settings": ({INI: "rubbish", TABLE: LOW}, OPEN + OK + CLOSE),
     "saved game": ({TABLE: LOW, SAVED: "[Card Goal]\r\n11\r\n"}, OPEN + OK + GAME + ENTER + OK + SAVE + REOPEN + CLOSE),
+    "late note": ({TABLE: LOW, NOTE: LATE}, OPEN + OK + GAME + ENTER + CLOSE),
     "two copies": ({TABLE: LOW}, OPEN + OK + GAME + ENTER + CLOSE),
 }
 # What "saved game" writes where nothing stands against it.
@@ -111,6 +114,29 @@ def whole_settings(text):
     return text is not None and all(f"[{name}]\r\n" in text for name in ("Color", "Time", "Deck", "Height"))
 
 
+def late_findings(folder):
+    """After a start without faults."""
+    times = [name for name, _ in entries(read(folder, TABLE)) or []].count("Late")
+    if times != 1:
+        yield f"the late score is there {times} times after the next start"
+    if notes := [name for name in os.listdir(folder) if ".late-" in name]:
+        yield f"notes are left: {notes}"
+
+
+def stuck_notes(options):
+    """Starts with a note that can't be moved, or not removed, and one without faults."""
+    for stuck, expected in ((".late-", 0), (".late-0123456789abcdef-", 1)):
+        with tempfile.TemporaryDirectory(prefix="cardhaven-fault-") as folder:
+            prepare(folder, {TABLE: LOW, NOTE: LATE})
+            for start in range(3):
+                play(options, folder, OPEN + OK + GAME + ENTER + CLOSE, FAULT_STUCK=stuck)
+                times = [name for name, _ in entries(read(folder, TABLE)) or []].count("Late")
+                if times != expected:
+                    yield f"with {stuck} stuck the late score is there {times} times after start {start + 1}"
+            play(options, folder, OPEN)
+            yield from late_findings(folder)
+
+
 def findings(options, folder, scenario, kind, ran, beside):
     files, lines = SCENARIOS[scenario]
     if beside:
@@ -140,6 +166,8 @@ def findings(options, folder, scenario, kind, ran, beside):
             yield "the saved game doesn't open, and nobody was told"
     if scenario == "two copies" and names.count("You") != 1:
         yield f"the other copy's score is there {names.count('You')} times"
+    if names.count("Late") > 1:
+        yield f"the late score is there {names.count('Late')} times"
     for name, text in files.items():
         new = read(folder, name)
         beside = [read(folder, each) for each in os.listdir(folder) if each.startswith(name + ".bad")]
@@ -147,9 +175,11 @@ def findings(options, folder, scenario, kind, ran, beside):
             yield f"what stood in {name} is lost"
     if table is not None and TABLE in files and (read_table := entries(table)) is not None:
         kept = sum(name.startswith("P") for name, _ in read_table)
-        if kept < min(10 - (scenario == "two copies") - 1, files[TABLE].count(", ")):
+        if kept < min(10 - (scenario == "two copies") - (NOTE in files) - 1, files[TABLE].count(", ")):
             yield f"{TABLE} has lost entries: {table!r}"
     clean = play(options, folder, OPEN)
+    if NOTE in files:
+        yield from late_findings(folder)
     left = [name for name in os.listdir(folder) if ".new-" in name]
     if clean.returncode != 0 or "msgbox" in clean.stdout:
         yield f"the next start isn't clean: {clean.stdout[-200:]}"
@@ -218,7 +248,7 @@ def main():
     options = parser.parse_args()
     options.console, options.shim = os.path.abspath(options.console), os.path.abspath(options.shim)
     started = time.monotonic()
-    wrong, points, calls_of = [], [], {}
+    wrong, points, calls_of = list(stuck_notes(options)), [], {}
     for scenario in SCENARIOS:
         calls, bad = count(options, scenario)
         wrong += bad

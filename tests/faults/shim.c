@@ -4,6 +4,7 @@
  *   FAULT_AT      the number of the call, from 1; 0 for none
  *   FAULT_KIND    "kill" (before the call), "killed-after" it, "short", or the number of an error
  *   FAULT_COUNT   a file into which the number of calls is written at the end
+ *   FAULT_STUCK   files with this in their names can neither be renamed nor removed
  *   FAULT_SYNC    milliseconds that each fsync takes
  *   FAULT_LATER   the fsyncs are as fast as ever until there is a file of this name
  */
@@ -119,10 +120,33 @@ int fsync(int descriptor) {
   return result;
 }
 
+static int Stuck(const char *path) {
+  const char *stuck = getenv("FAULT_STUCK");
+  if (!stuck || !Ours(path) || !strstr(path, stuck)) return 0;
+  errno = EACCES;
+  return 1;
+}
+
 int rename(const char *from, const char *to) {
   const int fate = Fate(Ours(to));
-  if (fate == Fail) return -1;
+  if (fate == Fail || Stuck(from)) return -1;
   const int result = REAL(rename)(from, to);
+  DIE_AFTER(fate);
+  return result;
+}
+
+int renameat2(int old, const char *from, int new, const char *to, unsigned flags) {
+  const int fate = Fate(Ours(to));
+  if (fate == Fail || Stuck(from)) return -1;
+  const int result = REAL(renameat2)(old, from, new, to, flags);
+  DIE_AFTER(fate);
+  return result;
+}
+
+int unlink(const char *path) {
+  const int fate = Fate(Ours(path));
+  if (fate == Fail || Stuck(path)) return -1;
+  const int result = REAL(unlink)(path);
   DIE_AFTER(fate);
   return result;
 }
