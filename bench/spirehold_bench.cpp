@@ -1,8 +1,10 @@
 // How fast Spirehold is without a screen: what a bot that plays it waits for.
 #include <benchmark/benchmark.h>
 
+#include "bench/board_moves.h"
 #include "bench/open_table.h"
 #include "games/spirehold/spirehold.h"
+#include "tests/spirehold_board_player.h"
 
 namespace {
 
@@ -11,13 +13,9 @@ struct Table : OpenTable<frmSpirehold> {
 };
 
 // The first card that may be taken, or -1.
-int LegalCard(const frmSpirehold& game) {
-  for (int card = 0; card < modSpirehold::kCards; ++card) {
-    const Image& image = game.UpCardImage(card);
-    if (image.Visible && image.Enabled &&
-        modSpirehold::IsNeighbour(CardValue(game.DeckCards[card]), game.UpCardValue))
-      return card;
-  }
+int LegalCard(const modSpirehold::Board& board) {
+  for (int card = 0; card < modSpirehold::kCards; ++card)
+    if (board.CheckForLegalMove(card)) return card;
   return -1;
 }
 
@@ -25,20 +23,20 @@ void BM_CardClick(benchmark::State& state) {
   Table table;
   frmSpirehold& game = *table.game;
   player::Click(game.cmdPlay);
+  const CardCodes spades = StandardDeck();
   int card = 0;
   for (auto _ : state) {
     if (card < modSpirehold::kTowers) {  // the topmost cards stay, so that the round goes on
       state.PauseTiming();
-      if (game.CurrentRun != 0 && game.CurrentRun != 25) state.SkipWithError("a card wasn't taken");
+      if (game.board.CurrentRun != 0 && game.board.CurrentRun != 25)
+        state.SkipWithError("a card wasn't taken");
       game.Deal();
-      game.TowersCompleted = 0;
-      game.CurrentRun = 0;
-      game.RunValue = 0;
+      game.board.RunValue = 0;
       game.common.CurrentScore = 0;
       card = modSpirehold::kCards - 1;
       state.ResumeTiming();
     }
-    game.UpCardValue = CardValue(game.DeckCards[card]) % 13 + 1;
+    game.board.pile.back() = spades[CardValue(game.board.table[card]) % 13 + 1];
     player::Click(game.UpCardImage(card--));
   }
 }
@@ -49,7 +47,8 @@ void BM_StackClick(benchmark::State& state) {
   frmSpirehold& game = *table.game;
   player::Click(game.cmdPlay);
   for (auto _ : state) {
-    if (game.StackIndex == 52) game.StackIndex = modSpirehold::kFirstOfStack;
+    if (game.board.stack.empty()) game.board.stack.swap(game.board.pile);
+    if (game.board.pile.empty()) game.board.pile.push_back(game.board.stack.back());
     player::Click(game.CardStackPicture);
   }
 }
@@ -57,10 +56,10 @@ BENCHMARK(BM_StackClick);
 
 void BM_WholeGame(benchmark::State& state) {
   PlayWholeGames<Table>(state, [](frmSpirehold& game) {
-    const int card = LegalCard(game);
+    const int card = LegalCard(game.board);
     if (card >= 0)
       player::Click(game.UpCardImage(card));
-    else if (game.StackIndex < 52)
+    else if (!game.board.stack.empty())
       player::Click(game.CardStackPicture);
     else
       player::Click(game.cmdTakeScore);
@@ -68,6 +67,8 @@ void BM_WholeGame(benchmark::State& state) {
   });
 }
 BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
+
+BENCHMARK(BM_BoardMoves<SpireholdPlayer>);
 
 }  // namespace
 

@@ -207,11 +207,10 @@ TEST_F(Duopick, TheStackEndsAndThenGivesAnUpCardOfNoRank) {
   for (int turn = 1; turn <= 33; ++turn) {
     EXPECT_EQ(Story(kTurnCard), turn <= 28 ? "Click" : "Click, Chord");
     EXPECT_EQ(Game().lblCards.Caption, std::to_string(std::max(0, 28 - turn)));
-    EXPECT_EQ(driver.common().ImageList2.Key(Game().CardStackPicture.Picture),
-              turn < 11   ? "FULL"
-              : turn < 18 ? "HALF"
-              : turn < 28 ? "BACK"
-                          : "EMPTY");
+    EXPECT_EQ(driver.common().ImageList2.Key(Game().CardStackPicture.Picture), turn < 11   ? "FULL"
+                                                                               : turn < 18 ? "HALF"
+                                                                               : turn < 28 ? "BACK"
+                                                                                           : "EMPTY");
     EXPECT_EQ(Face(23) == "9D", turn >= 28);  // what is seen is in the end no longer what lies there
   }
   // Only an ace goes with it, and only as the second card.

@@ -116,7 +116,7 @@ TEST_F(SpireholdCustom, ValuesAreKeptMarkTheTableAndStandInTheRules) {
   EXPECT_TRUE(folder.Read("SpireholdHiScores45.Txt").starts_with("Ann*, ")) << "marked";
   driver.Do("close frmSpirehold\nanswer \"Yes\"\n" + kOpenSpirehold);
   EXPECT_EQ(Game().CardValue, 200);
-  EXPECT_EQ(Game().HighestRun, 28);
+  EXPECT_EQ(Game().board.HighestRun, 28);
 }
 
 // The label is told anew when the run changes, and no sooner.

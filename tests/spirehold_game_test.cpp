@@ -19,6 +19,10 @@ class Spirehold : public ::testing::Test {
     return Is(image + "Enabled") && driver.Get(kWin + image + "Picture") >= kFirstFace;
   }
   frmSpirehold& Game() { return SpireholdOf(driver); }
+  // Makes the up card one that this card may be laid on.
+  void LayBelow(int card) {
+    Game().board.pile.back() = NumberedCode(CardValue(Game().board.table[card]) % 13 + 1, 'S');
+  }
   long long Score() { return driver.common().CurrentScore; }
 
   TestFolder folder;
@@ -75,6 +79,20 @@ TEST_F(Spirehold, IsPlayedThroughToTheTable) {
   EXPECT_EQ(folder.Read("SpireholdHiScores45.Txt").substr(0, 12), "Ann, 87100\r\n");
 }
 
+TEST_F(Spirehold, CardsLieBetweenTheTwoThatCoverThem) {
+  driver.Do(kOpenSpirehold);
+  for (int card = 0; card < modSpirehold::kCovered; ++card) {
+    const Image& image = Game().UpCardImage(card);
+    const Image& left = Game().UpCardImage(modSpirehold::kLeftCover[card]);
+    const Image& right = Game().UpCardImage(modSpirehold::kLeftCover[card] + 1);
+    EXPECT_EQ(left.Top, right.Top) << card;
+    EXPECT_GT(left.Top, image.Top) << card;
+    EXPECT_LT(left.Top, image.Top + image.Height) << card;
+    EXPECT_NEAR(left.Left + image.Width / 2, image.Left, 1) << card;
+    EXPECT_NEAR(right.Left - image.Width / 2, image.Left, 1) << card;
+  }
+}
+
 TEST_F(Spirehold, ACardTurnsOverWhenBothBelowItAreGone) {
   StartSpirehold(driver, Staircase());
   driver.Do(ClickCards(27, 18));
@@ -86,14 +104,14 @@ TEST_F(Spirehold, ACardTurnsOverWhenBothBelowItAreGone) {
   for (const auto& [card, turned] : turns) {
     std::vector<int> now;
     for (int i = 0; i < 9; ++i) now.push_back(FaceUp(i));
-    Game().UpCardValue = CardValue(Game().DeckCards[card]) % 13 + 1;
+    LayBelow(card);
     driver.Do(ClickCard(card));
     for (int each : turned) now[each] = true;
     for (int i = 0; i < 9; ++i) EXPECT_EQ(FaceUp(i), i != card && now[i]) << card << " " << i;
   }
-  Game().UpCardValue = CardValue(Game().DeckCards[0]) % 13 + 1;
+  LayBelow(0);
   driver.Do(ClickCard(0));
-  EXPECT_TRUE(Is("lblTower1.Visible") && Game().TowersCompleted == 1);
+  EXPECT_TRUE(Is("lblTower1.Visible") && Game().board.TowersCompleted() == 1);
 }
 
 TEST_F(Spirehold, TheStackEndsWithTheFirstUpCardAndThenWithNothing) {
@@ -104,9 +122,6 @@ TEST_F(Spirehold, TheStackEndsWithTheFirstUpCardAndThenWithNothing) {
     EXPECT_EQ(Story(kTurn), turn <= 24 ? "Click" : "Click, Chord");
     EXPECT_EQ(Text("lblCards.Caption"), std::to_string(std::max(0, 24 - turn)));
     EXPECT_EQ(Text("lblCurrentRun.Caption"), "Current Run: 0");
-    if (turn >= 24) {
-      EXPECT_EQ(Game().UpCardValue, turn == 24 ? 7 : 0);
-    }
   }
   EXPECT_EQ(driver.Get(kWin + "UpCardPicture.Picture"), driver.common().ImageList2("7H"));
   std::string clicks;
@@ -126,7 +141,7 @@ TEST_F(Spirehold, ARunsValueOutlivesTheRoundAndTheGame) {
   EXPECT_EQ(Score(), 700);
   EXPECT_EQ(Text("lblNextCard.Caption"), "Next card worth: 200 points");
   driver.Do(kTurn);
-  Game().UpCardValue = 1;
+  LayBelow(26);
   driver.Do(ClickCard(26));
   EXPECT_EQ(Score(), 800);
 }
@@ -146,7 +161,7 @@ TEST_F(Spirehold, OnlyALongerRunIsPaid) {
   // One made in a game that was given up isn't paid by the next game.
   driver.Do("advance 250\n" + LayCards(Staircase()) + kPlaySpirehold + ClickCards(27, 21) + kPlaySpirehold +
             "answer \"Yes\"\n" + kPlaySpirehold);
-  EXPECT_EQ(Game().HighestRun, 7);
+  EXPECT_EQ(Game().board.HighestRun, 7);
   EXPECT_EQ(paid(""), 0);
 }
 
@@ -173,8 +188,8 @@ TEST_F(Spirehold, ABonusIsCountedInWholeSteps) {
   driver.Do(kOpenSpirehold);
   for (const auto& each : cases) {
     driver.Do(LayCards(Staircase()) + kPlaySpirehold + kTurn);
-    Game().HighestRun = 0;
-    Game().UpCardValue = 13;
+    Game().board.HighestRun = 0;
+    LayBelow(27);
     Game().HighRunBonus = each.bonus;
     driver.Do(ClickCard(27));
     const long long before = Score();
@@ -286,7 +301,7 @@ TEST_F(Spirehold, ClearHighRun) {
   EXPECT_EQ(driver.common().TimeLimit, 45);
   EXPECT_EQ(Joined(BoxesOf(driver.Do("click frmSpirehold.mnuClearHighRun\nanswer \"No\""))),
             "This will clear the current high run value. Are you sure?");
-  EXPECT_EQ(Game().HighestRun, 9);
+  EXPECT_EQ(Game().board.HighestRun, 9);
   driver.Do("click frmSpirehold.mnuClearHighRun\nanswer \"Yes\"");
   EXPECT_EQ(Text("lblHighRun.Caption"), "Highest Run: 0");
 }

@@ -6,25 +6,24 @@
 
 namespace {
 
-class SpireholdPlayer : public RandomPlayer {
+class SpireholdAtRandom : public RandomPlayer {
  public:
-  explicit SpireholdPlayer(const std::filesystem::path& folder) : RandomPlayer(folder, "cmdSpirehold", 11) {}
+  explicit SpireholdAtRandom(const std::filesystem::path& folder)
+      : RandomPlayer(folder, "cmdSpirehold", 11) {}
 
   int runs = 0;
 
  private:
   std::string AtTheTable(GameWindow& window) override {
     auto& game = static_cast<frmSpirehold&>(window);
-    if (game.StackIndex > 52 && Chance(20)) return "click frmSpirehold.cmdTakeScore";
+    const modSpirehold::Board& board = game.board;
+    if (board.UpCardValue() == 0 && Chance(20)) return "click frmSpirehold.cmdTakeScore";
     if (!Chance(15))
-      for (int card = 0; card < modSpirehold::kCards; ++card) {
-        const Image& image = game.UpCardImage(card);
-        if (image.Visible && image.Enabled &&
-            modSpirehold::IsNeighbour(CardValue(game.DeckCards[card]), game.UpCardValue)) {
+      for (int card = 0; card < modSpirehold::kCards; ++card)
+        if (game.UpCardImage(card).Visible && board.CheckForLegalMove(card)) {
           ++runs;
           return ClickOn(card);
         }
-      }
     if (Chance(2)) return "click frmSpirehold.UpCardPicture";
     return Chance(40) ? "click frmSpirehold.CardStackPicture" : ClickOn(Draw(modSpirehold::kCards));
   }
@@ -39,22 +38,21 @@ class SpireholdPlayer : public RandomPlayer {
     }
     ASSERT_FALSE(common.TakingScore);
     ASSERT_EQ(game.lblCurrentScore.Caption, FormatNumber(common.CurrentScore));
-    ASSERT_EQ(game.CardsRemaining, std::max(0ll, 52 - game.StackIndex));
+    const modSpirehold::Board& board = game.board;
+    ASSERT_EQ(game.lblCards.Caption, std::to_string(board.stack.size()));
+    ASSERT_EQ(game.lblCurrentRun.Caption, "Current Run: " + std::to_string(board.CurrentRun));
+    ASSERT_EQ(game.lblHighRun.Caption, "Highest Run: " + std::to_string(board.HighestRun));
     const bool paused = game.IsPaused();
-    int towers = 0;
     for (int card = 0; card < modSpirehold::kCards; ++card) {
       const Image& image = game.UpCardImage(card);
-      ASSERT_EQ(image.Visible, !paused && image.Picture != 0);
-      towers += card < modSpirehold::kTowers && image.Picture == 0;
-      if (card >= modSpirehold::kCovered) continue;
-      const modSpirehold::Pair pair = modSpirehold::kCoveredBy[card];
-      const bool covered =
-          game.UpCardImage(pair.left).Picture != 0 || game.UpCardImage(pair.right).Picture != 0;
-      ASSERT_EQ(image.Enabled, !covered) << card;
+      const bool lies = !board.table[card].empty();
+      ASSERT_EQ(image.Picture != 0, lies) << card;
+      ASSERT_EQ(image.Visible, lies && !paused) << card;
+      ASSERT_EQ(image.Enabled, !board.IsCovered(card)) << card;
       const bool showsBack = image.Picture == common.ImageList2("BACK");
-      ASSERT_TRUE(paused || covered == showsBack) << card;
+      ASSERT_TRUE(paused || board.IsCovered(card) == showsBack) << card;
     }
-    ASSERT_EQ(game.TowersCompleted, towers);
+    ASSERT_LT(board.TowersCompleted(), modSpirehold::kTowers);
   }
 
   static std::string ClickOn(int card) {
@@ -66,7 +64,7 @@ class SpireholdPlayer : public RandomPlayer {
 
 TEST(SpireholdRandomPlayer, DoesNoHarm) {
   TestFolder folder;
-  SpireholdPlayer player(folder.Path());
+  SpireholdAtRandom player(folder.Path());
   player.Play(200000);
   EXPECT_GT(player.runs, 10000);
   EXPECT_GT(player.overflows, 0);

@@ -10,13 +10,9 @@ class SpireholdGuide : public GameGuide {
 
   std::vector<Spot> Spots() const override {
     std::vector<Spot> spots;
-    for (int card = 0; card < kCards; ++card) {
-      Image& image = window_.UpCardImage(card);
-      const bool fits = RankOfPicture(image.Picture) != 0 &&
-                        IsNeighbour(CardValue(window_.DeckCards.at(card)), window_.UpCardValue);
-      Add(spots, image, fits);
-    }
-    Add(spots, window_.CardStackPicture, StackStage(window_.StackIndex + 1) != nullptr, false, "stock");
+    for (int card = 0; card < kCards; ++card)
+      Add(spots, window_.UpCardImage(card), window_.board.CheckForLegalMove(card));
+    Add(spots, window_.CardStackPicture, !window_.board.stack.empty(), false, "stock");
     Add(spots, window_.UpCardPicture, false, false, "up card");
     return spots;
   }
@@ -34,8 +30,8 @@ class SpireholdGuide : public GameGuide {
 
   std::string BoardState() const override {
     const std::string up = SpokenPicture(window_.UpCardPicture.Picture);
-    return (up.empty() ? "" : "Up card " + up + ". ") + "Run of " + std::to_string(window_.CurrentRun) +
-           ", " + std::to_string(window_.CardsRemaining) + " cards in the stock.";
+    return (up.empty() ? "" : "Up card " + up + ". ") + "Run of " + std::to_string(window_.board.CurrentRun) +
+           ", " + std::to_string(window_.board.stack.size()) + " cards in the stock.";
   }
 
  private:

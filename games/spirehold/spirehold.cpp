@@ -13,7 +13,6 @@ void frmSpirehold::InitRound() {
   common.ShuffleDeck();
   Deal();
   ClearRound();
-  CurrentRun = 0;
   ShowRun();
   ShowHighRun();
   ShowRoundTime();
@@ -22,100 +21,74 @@ void frmSpirehold::InitRound() {
 }
 
 void frmSpirehold::Deal() {
-  for (int i = 0; i <= kFirstUpCard; ++i) DeckCards[i] = common.Deck.at(i + 1);
+  board.Deal(common.Deck);
   for (int i = 0; i < kCovered; ++i) CoverCard(UpCardImage(i));
   for (int i = kCovered; i < kCards; ++i) {
-    ShowCard(UpCardImage(i), DeckCards[i]);
+    ShowCard(UpCardImage(i), board.table[i]);
     UpCardImage(i).Enabled = true;
     UpCardImage(i).Visible = true;
   }
-  StackIndex = kFirstOfStack;
-  UpCardCode = DeckCards[kFirstUpCard];
-  ShowCard(UpCardPicture, UpCardCode);
+  ShowCard(UpCardPicture, board.pile.back());
   UpCardPicture.Enabled = true;
-  UpCardValue = ::CardValue(UpCardCode);
   ShowCards(true);
   CardStackPicture.Picture = common.ImageList2("FULL");
-  CardsRemaining = kFirstUpCard + 1 - kFirstOfStack;
-  lblCards.Caption = std::to_string(CardsRemaining);
+  lblCards.Caption = std::to_string(board.stack.size());
   ResetDial();
   Timer1.Enabled = true;
   ShowBonusGoal();
   StatusBar1.Panels(2).Text = "Create runs by clicking on exposed cards!   ";
   HideTowerLabels();
-  NewHighRun = false;
 }
 
 // --- Runs and towers -----------------------------------------------------------------------------
 
-bool frmSpirehold::CheckForLegalMove(int index) {
-  if (UpCardImage(index).Picture == common.ImageList2("BACK")) return false;
-  const int rank = ::CardValue(DeckCards.at(index));
-  if (!IsNeighbour(rank, UpCardValue)) return false;
-  UpCardValue = rank;
-  return true;
-}
-
 void frmSpirehold::UpCardImage_Click(int index) {
   if (common.TakingScore) return;
-  if (BoardIsClosed() || !CheckForLegalMove(index)) return Refuse();
+  if (BoardIsClosed() || !board.Take(index)) return Refuse();
   PlaySound("\\Markq.wav");
   UpCardPicture.Picture = UpCardImage(index).Picture;
-  UpCardImage(index).Picture = 0;  // from this a card is known to be gone
+  UpCardImage(index).Picture = 0;
   UpCardImage(index).Visible = false;
-  RunValue = NextRunValue(RunValue, CardValue);
-  AddToScore(RunValue);
-  CurrentRun += 1;
+  board.RaiseRunValue(CardValue);
+  AddToScore(board.RunValue);
+  board.LengthenRun();
   ShowRun();
   index < kTowers ? CompleteTower(index) : Uncover(index);
-  if (TowersCompleted == kTowers) cmdTakeScore_Click();
+  if (board.TowersCompleted() == kTowers) cmdTakeScore_Click();
 }
 
 void frmSpirehold::CompleteTower(int index) {
   Label* const labels[] = {&lblTower1, &lblTower2, &lblTower3};
   labels[index]->Visible = true;
   labels[index]->Caption = "Tower " + std::to_string(index + 1) + " Completed!";
-  TowersCompleted += 1;
   PlaySound("\\HighScore.wav");
 }
 
 void frmSpirehold::Uncover(int index) {
   for (int covered = 0; covered < kCovered; ++covered) {
-    const Pair& pair = kCoveredBy[covered];
-    if (!pair.Has(index) || UpCardImage(pair.OtherThan(index)).Visible) continue;
-    ShowCard(UpCardImage(covered), DeckCards[covered]);
+    const int left = kLeftCover[covered];
+    if ((index != left && index != left + 1) || board.IsCovered(covered)) continue;
+    ShowCard(UpCardImage(covered), board.table[covered]);
     UpCardImage(covered).Enabled = true;
   }
 }
 
 void frmSpirehold::lblCurrentRun_Change() {
-  if (CurrentRun > HighestRun) {
-    HighestRun = CurrentRun;
-    ShowHighRun();
-    NewHighRun = true;
-  }
-  lblNextCard.Caption =
-      "Next card worth: " + std::to_string(NextCardWorth(CurrentRun, CardValue)) + " points";
+  if (board.NewHighRun) ShowHighRun();
+  lblNextCard.Caption = "Next card worth: " + std::to_string(board.NextCardWorth(CardValue)) + " points";
 }
 
-// Goes on after an error, step by step: a stack that is used up is clicked in vain.
 void frmSpirehold::CardStackPicture_Click() {
   if (common.TakingScore) return;
   if (BoardIsClosed()) return Refuse();
   MousePointer = kHourglass;
-  RunValue = 0;
-  CurrentRun = 0;
+  const bool isUsedUp = board.stack.empty();
+  board.TurnCard();
   ShowRun();
-  CardsRemaining = std::max(0ll, CardsRemaining - 1);
-  lblCards.Caption = std::to_string(CardsRemaining);
+  lblCards.Caption = std::to_string(board.stack.size());
   PlaySound("\\Click.wav");
-  GoOnAfterError([&] { ShowCard(UpCardPicture, common.Deck.at(StackIndex + 1)); });
-  GoOnAfterError([&] { StackIndex += 1; });
-  GoOnAfterError([&] { UpCardValue = ::CardValue(DeckCards.at(StackIndex - 1)); });
-  if (StackStage(StackIndex))
-    RefreshPlayCard();
-  else
-    PlaySound("\\Chord.wav");
+  if (!isUsedUp) ShowCard(UpCardPicture, board.pile.back());
+  isUsedUp ? PlaySound("\\Chord.wav") : RefreshPlayCard();
   MousePointer = kDefaultPointer;
 }
 
@@ -126,7 +99,6 @@ void frmSpirehold::UpCardPicture_Click() { Refuse(); }
 void frmSpirehold::Play() {
   common.GameInProgress = true;
   CurrentRound = 1;
-  TowersCompleted = 0;
   common.CurrentScore = 0;
   ShowScore();
   InitRound();
@@ -137,7 +109,7 @@ void frmSpirehold::PayAwards() {
   lblMessage.ForeColor = kRed;
   lblMessage.Visible = true;
   if (common.TimeLimit - common.ElapsedSeconds > 0)
-    TowersCompleted != 0 ? CountTimeBonus(*this, common.TimeBonus) : RefuseTimeBonus();
+    board.TowersCompleted() != 0 ? CountTimeBonus(*this, common.TimeBonus) : RefuseTimeBonus();
   TowerScore();
   HighRunScore();
   lblMessage.ForeColor = kRed;
@@ -151,18 +123,17 @@ void frmSpirehold::RefuseTimeBonus() {
 
 void frmSpirehold::TowerScore() {
   // The counter adds a mark of its own.
-  if (TowersCompleted > 0) AwardBonus(*this, "Tower Bonus!", TowersCompleted, TowerBonus);
-  TowersCompleted = 0;
+  if (const int towers = board.TowersCompleted()) AwardBonus(*this, "Tower Bonus!", towers, TowerBonus);
   lblScoring.Visible = false;
 }
 
 void frmSpirehold::HighRunScore() {
-  if (!NewHighRun) {
+  if (!board.NewHighRun) {
     lblScoring.Visible = false;
     return;
   }
-  const Long total = HighestRun * HighRunBonus;
-  NewHighRun = false;
+  const Long total = board.HighestRun * HighRunBonus;
+  board.NewHighRun = false;
   ShowAmount(*this, "Highest Run Bonus!", total, 1000);
   // Only what is counted has to fit the smaller type.
   if (common.CountDownScore)

@@ -1,8 +1,16 @@
 // frmSpirehold: the window of Spirehold, what each click, tick and menu entry does.
 #pragma once
 
-#include "games/spirehold/rules.h"
+#include "games/spirehold/board.h"
 #include "suite/game_window.h"
+
+namespace modSpirehold {
+
+// What a game pays when nobody has changed it.
+inline constexpr int kCardValue = 100, kBonusScore = 40000, kHighRunBonus = 1000, kTowerBonus = 5000,
+                     kTimeBonus = 100;
+
+}  // namespace modSpirehold
 
 class frmSpirehold : public GameWindow {
  public:
@@ -18,20 +26,13 @@ class frmSpirehold : public GameWindow {
   Menu mnuClearHighRun{mnuOptions, "mnuClearHighRun"};
 
   // --- State -------------------------------------------------------------------------------------
-  modSpirehold::Cards DeckCards;
-  std::string UpCardCode;
-  Integer StackIndex, UpCardValue = modSpirehold::kNoRank, CardsRemaining;
-  Integer CurrentRun, HighestRun, RunValue;  // `RunValue` lives on until a card is turned
-  Long TowersCompleted;
-  bool NewHighRun = false;
+  modSpirehold::Board board;
   // Settings.
   Integer CardValue;
   Long HighRunBonus, TowerBonus;
 
   // --- Play --------------------------------------------------------------------------------------
   void Deal();
-  // Whether the card may be taken; if so it counts as the up card from now on.
-  bool CheckForLegalMove(int index);
   void UpCardImage_Click(int index);
   void CardStackPicture_Click();
   void UpCardPicture_Click();

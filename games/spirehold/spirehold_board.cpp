@@ -33,6 +33,14 @@ constexpr GamePlan kPlan{
     .sections = kSections,
 };
 
+// How far from the middle of the window a card's middle is, in halves of a card: between the two that cover
+// it.
+int HalvesOf(int card) {
+  return card < kCovered ? HalvesOf(kLeftCover[card]) + 1 : 2 * (card - kCovered) - 9;
+}
+int TopOf(int card) { return card < 3 ? 375 : card < 9 ? 1080 : card < kCovered ? 1815 : 2520; }
+constexpr int kCardWidth = 1065, kCardHeight = 1455;
+
 // Everything but the towers. The cards take the upper part, across the whole width; the rest stands below.
 constexpr Design kDesign[] = {
     {"frmSplash", 1620, 750, 6300, 2850},
@@ -76,7 +84,7 @@ frmSpirehold::frmSpirehold(modCommon& common) : GameWindow(common, kPlan) {
               {"[High Run Bonus]", &HighRunBonus, kHighRunBonus},
               {"[Tower Bonus]", &TowerBonus, kTowerBonus},
               {"[Time Bonus]", &common.TimeBonus, kTimeBonus},
-              {"[Hi Run]", &HighestRun, 0, Customises::No},
+              {"[Hi Run]", &board.HighestRun, 0, Customises::No},
               {"[Count Down Score]", &common.CountDownScore, true, Customises::No}};
   SetUpBoard();
   BindBoardEvents();
@@ -118,7 +126,7 @@ void frmSpirehold::BindBoardEvents() {
   mnuClearHighRun.OnClick = [this] {
     PauseAround([this] {
       if (!common.Ask("This will clear the current high run value. Are you sure?")) return;
-      HighestRun = 0;
+      board.HighestRun = 0;
       ShowHighRun();
     });
   };
@@ -130,8 +138,8 @@ void frmSpirehold::PlaceBoard() {
   PlaceInMiddle(kDesign);
   const int middle = (Width - kCardWidth) / 2, down = (Height - plan.height) / 2;
   for (int i = 0; i < kCards; ++i) {
-    UpCardImage(i).Left = middle + kTable[i].halves * kCardWidth / 2;
-    UpCardImage(i).Top = kTable[i].top + down;
+    UpCardImage(i).Left = middle + HalvesOf(i) * kCardWidth / 2;
+    UpCardImage(i).Top = TopOf(i) + down;
   }
   for (const Design& row : kButtonDesign) static_cast<Visual&>(*find(row.name)).Top = row.top + down;
   for (Label* label : {&lblCurrentScore, &lblCurrentRound})
@@ -164,23 +172,23 @@ void frmSpirehold::ShowCards(bool visible, bool disable) {
 void frmSpirehold::CoverCards(bool covered) {
   if (covered) return ShowCards(false, false);
   for (int i = 0; i < kCards; ++i)
-    if (UpCardImage(i).Picture != 0) UpCardImage(i).Visible = true;
+    if (!board.table[i].empty()) UpCardImage(i).Visible = true;
   SetVisible({&CardStackPicture, &UpCardPicture}, true);
   RefreshFieldCards();  // the back design may be another by now
 }
 
 void frmSpirehold::RefreshPlayCard() {
-  if (const char* stage = StackStage(StackIndex)) CardStackPicture.Picture = common.ImageList2(stage);
+  if (board.IsDealt()) CardStackPicture.Picture = common.ImageList2(StockKey(board.stack.size(), 18, 11));
 }
 
 void frmSpirehold::RefreshFieldCards() {
   for (int i = 0; i < kCards; ++i)
-    if (UpCardImage(i).Visible && !UpCardImage(i).Enabled) CoverCard(UpCardImage(i));
+    if (UpCardImage(i).Visible && board.IsCovered(i)) CoverCard(UpCardImage(i));
 }
 
-void frmSpirehold::ShowRun() { lblCurrentRun.Caption = "Current Run: " + std::to_string(CurrentRun); }
+void frmSpirehold::ShowRun() { lblCurrentRun.Caption = "Current Run: " + std::to_string(board.CurrentRun); }
 
-void frmSpirehold::ShowHighRun() { lblHighRun.Caption = "Highest Run: " + std::to_string(HighestRun); }
+void frmSpirehold::ShowHighRun() { lblHighRun.Caption = "Highest Run: " + std::to_string(board.HighestRun); }
 
 void frmSpirehold::HideTowerLabels() { SetVisible({&lblTower1, &lblTower2, &lblTower3}, false); }
 
