@@ -388,9 +388,9 @@ TEST_F(Look, GamesStandAtEverySize) {
         sumfall->CompletionBonus = sumfall->CombinationBonus = 5'000'000;
       }
       if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) {
-        spirehold->TowersCompleted = 3;
-        spirehold->NewHighRun = true;
-        spirehold->HighestRun = 1;
+        for (int tower = 0; tower < modSpirehold::kTowers; ++tower) spirehold->board.table[tower].clear();
+        spirehold->board.NewHighRun = true;
+        spirehold->board.HighestRun = 1;
       }
       if (auto* blackrush = dynamic_cast<frmBlackrush*>(&game)) {
         blackrush->TwentyOnes = 26;
