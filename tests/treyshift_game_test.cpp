@@ -238,6 +238,12 @@ TEST_F(Treyshift, IsPlayedThroughToTheTable) {
   EXPECT_TRUE(folder.Read("TreyshiftHiScores120.Txt").starts_with("Ann, " + std::to_string(last) + "\r\n"));
 }
 
+TEST_F(Treyshift, SecondsArePaidThoughNothingWasPlayed) {
+  driver.Do(kOpenTreyshift + kPlayTreyshift + "advance 20000");
+  EXPECT_EQ(Heard(kTakeTreyshift), "\"Speed Bonus!\", 2000, Snap 75 x100, \"Prepare For Round 2\", 2000");
+  EXPECT_EQ(Score(), 100 * 200);
+}
+
 TEST_F(Treyshift, AScoreOfExactlyTheBonusScoreEarnsTheBonusRound) {
   driver.Do(kOpenTreyshift);
   driver.common().TimeBonus = 0;
