@@ -16,7 +16,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr size_t kLongest = 160;  // letters
+constexpr size_t kLongest = 160;             // letters
 constexpr size_t kLargestTable = 4'000'000;  // beyond that, what differs is told as a whole
 
 Lines CommandsOf(const std::string& script) {
