@@ -12,9 +12,12 @@ class NullFrontEnd : public FrontEnd {
   Extent TextExtent(const Label& label) override {
     return {static_cast<int>(label.Caption.get().size()) * label.FontSize * 10, label.FontSize * 30};
   }
-  void Sleep(int milliseconds) override { now_ += milliseconds; }
-  Answer RunBox(const MessageBox& box) override { return AnswersOf(box.buttons).front(); }
-  void RunModal(Form& form) override { player::Close(form); }
+  Event Next(const Wait& wait) override {
+    if (wait.serving == Wait::Serving::Nothing) now_ = wait.until;
+    if (wait.box) return {.kind = Event::Kind::Answer, .answer = AnswersOf(wait.box->buttons).front()};
+    if (wait.modal) return {Event::Kind::Close, wait.modal};
+    return {wait.serving == Wait::Serving::All ? Event::Kind::Over : Event::Kind::None};
+  }
   void PlayWave(const std::string&) override {}
   void MediaCommand(const std::string&) override {}
   std::string FindBrowser() override { return ""; }

@@ -5,7 +5,7 @@
 
 modCommon::modCommon(Platform& platform, std::filesystem::path folder)
     : platform(platform), files(std::move(folder)), AppTitle(kSuiteTitle) {
-  files.mustHurry = [&platform] { return platform.front.MustLeave(); };
+  files.mustHurry = [&platform] { return platform.border->MustLeave(); };
 }
 
 void modCommon::TellWhatCantBeKept() {
@@ -69,7 +69,7 @@ void modCommon::StartMusic() {
 void modCommon::StopMusic() { platform.mciSendString("close HarbekMidi"); }
 
 void modCommon::OpenWebPage(const std::string& url) {
-  const std::string browser = platform.front.FindBrowser();
+  const std::string browser = platform.border->FindBrowser();
   if (browser.empty()) {
     MsgBox("Unable to find default web Browser", Icon::Exclamation);
   } else if (!platform.ShellExecute(browser, url)) {
@@ -86,7 +86,7 @@ bool modCommon::Ask(const std::string& question) {
 }
 
 int modCommon::MinutesPlayed() {
-  return static_cast<int>((platform.front.Milliseconds() - GameStartTime) / 60000);
+  return static_cast<int>((platform.Milliseconds() - GameStartTime) / 60000);
 }
 
 std::string modCommon::TimeOfDay() {

@@ -38,7 +38,7 @@ void GameWindow::Form_Load() {
   ReadSettingsINI();
   CheckForCustom();
   SettingsRead();
-  common.GameStartTime = platform.front.Milliseconds();
+  common.GameStartTime = platform.Milliseconds();
   lblCompanyProduct.Caption = "Quillmark Presents";
   lblVersion.Caption = "Version 4.0";
   lblProductName.Caption = common.AppTitle;

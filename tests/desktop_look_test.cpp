@@ -40,18 +40,15 @@ class Screen : public DesktopFrontEnd {
   std::function<void()> onPause;
   std::vector<std::string> told;  // by message boxes; questions are answered with Yes
 
-  void Sleep(int) override {
+  Event Next(const Wait& wait) override {
+    if (wait.box) return {.kind = Event::Kind::Answer, .answer = AnswersOf(wait.box->buttons).front()};
     if (onPause) onPause();
+    // Whoever has a great score closes the window that asks for the name.
+    if (wait.modal) return {Event::Kind::Close, wait.modal};
+    return {};
   }
-  Answer RunBox(const MessageBox& box) override {
-    told.push_back(box.text);
-    return box.buttons == Buttons::YesNo ? Answer::Yes : Answer::OK;
-  }
-  // Whoever has a great score closes the window that asks for the name.
-  void RunModal(Form& form) override {
-    if (onPause) onPause();
-    form.Unload();
-  }
+  void BoxShown(const MessageBox& box) override { told.push_back(box.text); }
+  void BoxGone(const MessageBox&) override {}
   void PlayWave(const std::string&) override {}
   void MediaCommand(const std::string&) override {}
 };

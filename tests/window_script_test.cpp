@@ -56,7 +56,7 @@ class frmTest : public Form {
   void Form_QueryUnload(bool& cancel) override { cancel = !mayGo; }
 
   void Told(const std::string& what) {
-    lblLog.Caption = lblLog.Caption.get() + what + "@" + std::to_string(platform.front.Milliseconds()) + " ";
+    lblLog.Caption = lblLog.Caption.get() + what + "@" + std::to_string(platform.Milliseconds()) + " ";
   }
 
   Label lblLog{*this, "lblLog"};

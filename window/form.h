@@ -7,8 +7,6 @@
 
 class Platform;
 
-enum class Key { Return, Escape };
-
 namespace window_state {
 inline constexpr int kNormal = 0;
 inline constexpr int kMinimised = 1;

@@ -2,54 +2,112 @@
 
 #include <algorithm>
 
-std::string_view IconName(Icon icon) {
-  static constexpr std::string_view kNames[] = {"none", "information", "question", "exclamation", "critical"};
-  return kNames[static_cast<int>(icon)];
-}
+#include "window/player.h"
 
-std::string_view AnswerName(Answer answer) {
-  static constexpr std::string_view kNames[] = {"OK", "Cancel", "Yes", "No"};
-  return kNames[static_cast<int>(answer)];
-}
+namespace {
 
-std::vector<Answer> AnswersOf(Buttons buttons) {
-  switch (buttons) {
-    case Buttons::OKCancel:
-      return {Answer::OK, Answer::Cancel};
-    case Buttons::YesNo:
-      return {Answer::Yes, Answer::No};
+// Nothing will ever come any more: the handlers that wait go away as they stand.
+struct Over {};
+
+// Holds a place in a stack for as long as it stands.
+template <class Place>
+class Held {
+ public:
+  Held(std::vector<Place>& places, Place place) : places_(places) { places.push_back(std::move(place)); }
+  ~Held() { places_.pop_back(); }
+  Held(const Held&) = delete;
+
+ private:
+  std::vector<Place>& places_;
+};
+
+}  // namespace
+
+// --- Waiting -------------------------------------------------------------------------------------
+
+void Platform::Enter(const Event& event) {
+  switch (event.kind) {
+    case Event::Kind::None:
+    case Event::Kind::Over:
+      return;
+    case Event::Kind::Tick:
+      timers.now = Milliseconds();
+      if (Timer* timer = timers.TakeDue(timers.now)) Tick(*timer);
+      return;
+    case Event::Kind::Answer:
+      if (!StandingBox()) return;
+      border->Entered(event);
+      boxes_.back().answer = event.answer;
+      return;
     default:
-      return {Answer::OK};
+      border->Entered(event);
+      player::CarryOut(event);
+  }
+}
+
+void Platform::Run() {
+  try {
+    Await({});
+  } catch (const Over&) {
+  }
+}
+
+bool Platform::StillWaits(const Wait& wait) const {
+  if (ended_) return false;
+  if (wait.box) return !boxes_.back().answer;
+  return !wait.modal || wait.modal->Visible;
+}
+
+void Platform::Await(Wait wait) {
+  const Held under(waits_, static_cast<const Wait*>(&wait));
+  while (StillWaits(wait)) {
+    wait.until = timers.NextDue().value_or(Wait::kForever);
+    const Event event = border->Next(wait);
+    if (event.kind == Event::Kind::Over) throw Over();
+    Enter(event);
   }
 }
 
 void Platform::Sleep(int milliseconds) {
   if (trace) trace->Slept(milliseconds);
-  front.Sleep(milliseconds);
-  timers.now = front.Milliseconds();  // a timer that is started now starts from now
+  border->Next({Wait::Serving::Nothing, Milliseconds() + milliseconds});
+  timers.now = Milliseconds();  // a timer that is started now starts from now
 }
 
 void Platform::DoEvents() {
   if (trace) trace->EventsLetThrough();
-  front.Sleep(0);  // shows what has changed
-  front.ServeInput();
-  timers.now = front.Milliseconds();
+  while (true) {
+    const Event event = border->Next({Wait::Serving::Input, Milliseconds()});
+    if (event.kind == Event::Kind::None || event.kind == Event::Kind::Over) break;
+    Enter(event);
+  }
+  timers.now = Milliseconds();
   for (Timer* timer : timers.Waiting(timers.now))
     if (timers.Take(*timer, timers.now)) Tick(*timer);
 }
 
 Answer Platform::MsgBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) {
   const MessageBox box{text, title, icon, buttons};
-  boxes_.push_back({&box, modals_.size()});
+  const Held standing(boxes_, Standing{&box, modals_.size()});
   if (trace) trace->BoxShown(box);
+  front.BoxShown(box);
   struct Guard {
-    std::vector<Standing>& boxes;
-    ~Guard() { boxes.pop_back(); }
-  } guard{boxes_};
-  const Answer answer = front.RunBox(box);
-  timers.now = front.Milliseconds();  // the handler goes on at this moment
-  return answer;
+    FrontEnd& front;
+    const MessageBox& box;
+    ~Guard() { front.BoxGone(box); }
+  } guard{front, box};
+  Await({.box = &box});
+  timers.now = Milliseconds();  // the handler goes on at this moment
+  return boxes_.back().answer.value_or(AnswersOf(buttons).back());
 }
+
+void Platform::RunModal(Form& form) {
+  const Held standing(modals_, &form);
+  Await({.modal = &form});
+  timers.now = Milliseconds();
+}
+
+// --- What is asked of the front end --------------------------------------------------------------
 
 void Platform::sndPlaySound(const std::string& path) {
   if (trace) trace->WavePlayed(path);
@@ -63,7 +121,7 @@ void Platform::mciSendString(const std::string& command) {
 
 bool Platform::ShellExecute(const std::string& browser, const std::string& url) {
   if (trace) trace->BrowserOpened(url);
-  return front.OpenPage(browser, url);
+  return border->OpenPage(browser, url);
 }
 
 void Platform::End(const std::string& failure) {
@@ -79,24 +137,20 @@ void Platform::Dispatch(const std::function<void()>& handler) {
     explicit Depth(int& depth) : depth(++depth) {}
     ~Depth() { --depth; }
   };
-  timers.now = front.Milliseconds();
+  timers.now = Milliseconds();
   {
     const Depth within(handlers_);
+    std::optional<std::string> failure;  // is told of outside the `catch`: nobody waits within one
     try {
       handler();
     } catch (const std::exception& error) {
-      if (OnFailure) OnFailure(error.what());
+      failure = error.what();
+    } catch (const Over&) {
+      if (handlers_ > 1 || !waits_.empty()) throw;
     }
+    if (failure && OnFailure) OnFailure(*failure);
   }
   if (handlers_ == 0 && AfterHandler && !ended_) AfterHandler();
-}
-
-bool Platform::ServeTimer() {
-  timers.now = front.Milliseconds();
-  Timer* timer = timers.TakeDue(timers.now);
-  if (!timer) return false;
-  Tick(*timer);
-  return true;
 }
 
 void Platform::Tick(Timer& timer) {
@@ -105,20 +159,11 @@ void Platform::Tick(Timer& timer) {
     Timer& timer;
     ~Guard() { timers.EndTick(&timer); }
   } guard{timers, timer};
+  border->Entered({Event::Kind::Tick, &timer});
   timers.BeginTick(timer);
   Dispatch([&] {
     if (timer.OnTimer) timer.OnTimer();
   });
-}
-
-void Platform::RunModal(Form& form) {
-  modals_.push_back(&form);
-  struct Guard {
-    std::vector<Form*>& modals;
-    ~Guard() { modals.pop_back(); }
-  } guard{modals_};
-  front.RunModal(form);
-  timers.now = front.Milliseconds();
 }
 
 Form* Platform::FindForm(std::string_view name) const {

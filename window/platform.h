@@ -2,35 +2,14 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "window/border.h"
 #include "window/form.h"
 #include "window/random.h"
 #include "window/timers.h"
-
-struct Extent {
-  int width = 0, height = 0;  // twips
-};
-
-// A moment of the local calendar.
-struct DateTime {
-  int year = 2000, month = 1, day = 1, hour = 0, minute = 0, second = 0;
-};
-
-enum class Icon { None, Information, Question, Exclamation, Critical };
-enum class Buttons { OK, OKCancel, YesNo };
-enum class Answer { OK, Cancel, Yes, No };
-
-struct MessageBox {
-  std::string text, title;
-  Icon icon = Icon::None;
-  Buttons buttons = Buttons::OK;
-};
-
-std::string_view IconName(Icon icon);        // "none", "information", ...
-std::string_view AnswerName(Answer answer);  // "OK", "Cancel", "Yes", "No"
-std::vector<Answer> AnswersOf(Buttons buttons);
 
 // Whoever watches what the windows do: a front end, a script that writes a trace.
 class Observer {
@@ -47,6 +26,7 @@ class Observer {
   virtual void SurfaceCleared(PictureBox&) {}
   virtual void SurfaceDrawn(PictureBox&, const Stroke&) {}
   virtual void BoxShown(const MessageBox&) {}
+  virtual void BoxGone(const MessageBox&) {}
   virtual void Slept(int /*milliseconds*/) {}
   virtual void EventsLetThrough() {}
   virtual void WavePlayed(const std::string& /*path*/) {}
@@ -55,24 +35,9 @@ class Observer {
   virtual void Ended(const std::string& /*failure*/) {}
 };
 
-// What a front end does besides observing.
-class FrontEnd : public Observer {
+// What a front end does besides observing and standing at the border.
+class FrontEnd : public Observer, public Border {
  public:
-  // Milliseconds since the start. Never goes back.
-  virtual long long Milliseconds() = 0;
-  virtual DateTime Now() = 0;
-  virtual Extent ScreenExtent() = 0;
-  // The room that a label's caption needs in its lettering.
-  virtual Extent TextExtent(const Label& label) = 0;
-  // Shows what has changed, then lets the time pass. Serves no input and no timer.
-  virtual void Sleep(int milliseconds) = 0;
-  // Lets the input through that has waited while a handler ran: each deed as a handler of its own, in order.
-  // Serves no timer. Does nothing where no input comes meanwhile.
-  virtual void ServeInput() {}
-  // Shows the box and serves timers until it is answered.
-  virtual Answer RunBox(const MessageBox& box) = 0;
-  // Serves events until the form is hidden or gone.
-  virtual void RunModal(Form& form) = 0;
   // Starts a wave, which cuts the one playing. The path is relative to the data, as "\Chord.wav".
   virtual void PlayWave(const std::string& path) = 0;
   // The player's click on this control is about to be answered.
@@ -81,18 +46,14 @@ class FrontEnd : public Observer {
   virtual void Refused() {}
   // Obeys "open "PATH" type sequencer alias NAME", "play NAME", "close NAME".
   virtual void MediaCommand(const std::string& command) = 0;
-  // The program that opens web pages, "" if there is none; and opening one. False on failure.
-  virtual std::string FindBrowser() = 0;
-  virtual bool OpenPage(const std::string& browser, const std::string& url) = 0;
-  // Whether the program has been told to go, and has no time for long waits.
-  virtual bool MustLeave() const { return false; }
 };
 
 class Platform : public Observer {
  public:
-  explicit Platform(FrontEnd& front) : front(front) {}
+  explicit Platform(FrontEnd& front) : front(front), border(&front) {}
 
   FrontEnd& front;
+  Border* border;             // the front end, or who stands before it
   Observer* trace = nullptr;  // told of everything, after the front end
   std::vector<Form*> forms;   // front first
   Timers timers;
@@ -108,17 +69,30 @@ class Platform : public Observer {
   // Called behind each handler that wasn't started within another, unless the program has ended.
   std::function<void()> AfterHandler;
 
+  // Carries out what has come from outside: the one entrance for deeds, answers and ticks.
+  void Enter(const Event& event);
+  // Serves events until the program has ended, or nothing will ever come any more.
+  void Run();
+
+  // The four ways in which a handler waits.
   void Sleep(int milliseconds);
   // Lets pending events through: the input that has waited, then each timer with a waiting tick, once.
   void DoEvents();
   Answer MsgBox(const std::string& text, const std::string& title, Icon icon = Icon::None,
                 Buttons buttons = Buttons::OK);
+  void RunModal(Form& form);
+  // How many waits for events are under way, one within the other, that of `Run` among them; and whether what
+  // the innermost one waits for is still to come.
+  size_t WaitsUnderWay() const { return waits_.size(); }
+  bool StillWaits() const { return !waits_.empty() && StillWaits(*waits_.back()); }
+
   void sndPlaySound(const std::string& path);
   void mciSendString(const std::string& command);
   bool ShellExecute(const std::string& browser, const std::string& url);
-  DateTime Now() { return front.Now(); }
-  Extent ScreenExtent() { return front.ScreenExtent(); }
-  Extent TextExtent(const Label& label) { return front.TextExtent(label); }
+  long long Milliseconds() { return border->Milliseconds(); }
+  DateTime Now() { return border->Now(); }
+  Extent ScreenExtent() { return border->ScreenExtent(); }
+  Extent TextExtent(const Label& label) { return border->TextExtent(label); }
   // The program ends after the handler that is running. A failure's description, or "".
   void End(const std::string& failure = "");
   bool HasEnded() const { return ended_; }
@@ -127,10 +101,7 @@ class Platform : public Observer {
   int HandlersUnderWay() const { return handlers_; }
   // Runs a handler of an event. A failure in it ends it and is told to `OnFailure`.
   void Dispatch(const std::function<void()>& handler);
-  // Serves the earliest tick that is due by now; false if there is none.
-  bool ServeTimer();
 
-  void RunModal(Form& form);
   // The modal form in front, or null.
   Form* ModalForm() const { return modals_.empty() ? nullptr : modals_.back(); }
   // The message box that stands before everything; null if there is none, or if a timer has opened a modal
@@ -152,14 +123,19 @@ class Platform : public Observer {
   void SurfaceDrawn(PictureBox&, const Stroke&) override;
 
  private:
+  bool StillWaits(const Wait& wait) const;
+  void Await(Wait wait);
+  Event Next(Wait::Serving serving, long long until);
   void Tick(Timer& timer);
 
   std::vector<Form*> modals_;
   struct Standing {
     const MessageBox* box;
     size_t modals;  // how many modal forms it stands before
+    std::optional<Answer> answer = {};
   };
   std::vector<Standing> boxes_;
+  std::vector<const Wait*> waits_;
   bool ended_ = false;
   int handlers_ = 0;  // under way, one within the other
 };

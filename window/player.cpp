@@ -62,7 +62,9 @@ std::string WhyNot(const Control& control) {
   }
 }
 
-void Click(Control& control) {
+namespace {
+
+void CarryOutClick(Control& control) {
   control.form.platform.front.Clicked(control);
   if (control.kind == Control::Kind::Menu) return Run(control, static_cast<Menu&>(control).OnClick);
   auto& visual = static_cast<Visual&>(control);
@@ -90,59 +92,87 @@ void Click(Control& control) {
   });
 }
 
-void DblClick(Control& control) {
-  if (control.kind == Control::Kind::Menu) return;
-  Run(control, static_cast<Visual&>(control).OnDblClick);
-}
-
-void MouseMove(Control& control) {
-  if (control.kind == Control::Kind::Menu) return;
-  Run(control, static_cast<Visual&>(control).OnMouseMove);
-}
-
-void Type(TextBox& box, const std::string& text) {
-  box.form.platform.Dispatch([&] {
-    box.SetFocus();
-    box.Text = text;
-  });
-}
-
-bool Select(Control& list, int entry) {
-  auto& control = static_cast<ListControl&>(list);
-  if (entry < 0 || entry >= static_cast<int>(control.List.get().size())) return false;
-  list.form.platform.Dispatch([&] {
-    control.SetFocus();
-    control.Pick(entry);
-  });
-  return true;
-}
-
-void Press(Form& form, Key key) {
+void CarryOutPress(Form& form, Key key) {
   Visual* focus = form.ActiveControl();
   if (key == Key::Return && focus) {
     if (focus->kind == Control::Kind::TextBox && static_cast<TextBox*>(focus)->OnReturn)
       return Run(*focus, static_cast<TextBox*>(focus)->OnReturn);
-    if (focus->kind == Control::Kind::CommandButton) return Click(*focus);
-    if (focus->kind == Control::Kind::DirListBox) return DblClick(*focus);
+    if (focus->kind == Control::Kind::CommandButton) return CarryOutClick(*focus);
+    if (focus->kind == Control::Kind::DirListBox) return Run(*focus, focus->OnDblClick);
   }
   for (Control* control : form.Controls()) {
     if (control->kind != Control::Kind::CommandButton) continue;
     const auto& button = static_cast<const CommandButton&>(*control);
     if ((key == Key::Return ? button.Default : button.Cancel) && WhyNot(button).empty())
-      return Click(*control);
+      return CarryOutClick(*control);
   }
 }
 
-void Close(Form& form) {
-  form.platform.Dispatch([&] { form.Unload(); });
+void Enter(Event::Kind kind, Control& control, int x = 0, int y = 0) {
+  control.form.platform.Enter({kind, &control, x, y});
 }
 
-void Resize(Form& form, int width, int height) {
-  form.platform.Dispatch([&] { form.Move(form.Left, form.Top, width, height); });
+}  // namespace
+
+void CarryOut(const Event& deed) {
+  Control& control = *deed.control;
+  const auto dispatch = [&](auto what) { control.form.platform.Dispatch(what); };
+  switch (deed.kind) {
+    case Event::Kind::Click:
+      return CarryOutClick(control);
+    case Event::Kind::DblClick:
+      return Run(control, static_cast<Visual&>(control).OnDblClick);
+    case Event::Kind::MouseMove:
+      return Run(control, static_cast<Visual&>(control).OnMouseMove);
+    case Event::Kind::Focus:
+      return dispatch([&] { static_cast<Visual&>(control).SetFocus(); });
+    case Event::Kind::Type:
+      return dispatch([&] {
+        auto& box = static_cast<TextBox&>(control);
+        box.SetFocus();
+        box.Text = std::string(deed.text);
+      });
+    case Event::Kind::Select:
+      if (deed.x >= static_cast<int>(static_cast<ListControl&>(control).List.get().size())) return;
+      return dispatch([&] {
+        static_cast<ListControl&>(control).SetFocus();
+        static_cast<ListControl&>(control).Pick(deed.x);
+      });
+    case Event::Kind::Press:
+      return CarryOutPress(control.form, deed.key);
+    case Event::Kind::Close:
+      return dispatch([&] { control.form.Unload(); });
+    case Event::Kind::Place:
+      control.form.Left = deed.x;
+      control.form.Top = deed.y;
+      return;
+    case Event::Kind::Resize:
+      return dispatch([&] { control.form.Move(control.form.Left, control.form.Top, deed.x, deed.y); });
+    case Event::Kind::State:
+      return dispatch([&] { control.form.WindowState = deed.x; });
+    default:
+      return;
+  }
 }
 
-void SetState(Form& form, int state) {
-  form.platform.Dispatch([&] { form.WindowState = state; });
+void Click(Control& control) { Enter(Event::Kind::Click, control); }
+void DblClick(Control& control) {
+  if (control.kind != Control::Kind::Menu) Enter(Event::Kind::DblClick, control);
 }
+void MouseMove(Control& control) {
+  if (control.kind != Control::Kind::Menu) Enter(Event::Kind::MouseMove, control);
+}
+void Focus(Control& control) { Enter(Event::Kind::Focus, control); }
+void Type(TextBox& box, const std::string& text) {
+  box.form.platform.Enter({.kind = Event::Kind::Type, .control = &box, .text = text});
+}
+void Select(Control& list, int entry) { Enter(Event::Kind::Select, list, entry); }
+void Press(Form& form, Key key) {
+  form.platform.Enter({.kind = Event::Kind::Press, .control = &form, .key = key});
+}
+void Close(Form& form) { Enter(Event::Kind::Close, form); }
+void Place(Form& form, int left, int top) { Enter(Event::Kind::Place, form, left, top); }
+void Resize(Form& form, int width, int height) { Enter(Event::Kind::Resize, form, width, height); }
+void SetState(Form& form, int state) { Enter(Event::Kind::State, form, state); }
 
 }  // namespace player

@@ -12,16 +12,21 @@ std::string WhyNot(const Control& control);
 // The same for a form as a whole: closing, resizing, keys.
 std::string WhyNot(const Form& form);
 
-// Each runs the events that the deed leads to. The caller has asked `WhyNot`.
+// What the player does, on its way to `Platform::Enter`. The caller has asked `WhyNot`.
 void Click(Control& control);
 void DblClick(Control& control);
 void MouseMove(Control& control);
+void Focus(Control& control);
 void Type(TextBox& box, const std::string& text);
-// Picks an entry of a list. False if it has no such entry.
-bool Select(Control& list, int entry);
+// Picks an entry of a list; nothing happens where it has no such one.
+void Select(Control& list, int entry);
 void Press(Form& form, Key key);
 void Close(Form& form);
+void Place(Form& form, int left, int top);
 void Resize(Form& form, int width, int height);
 void SetState(Form& form, int state);
+
+// Runs what a deed leads to. For the platform alone.
+void CarryOut(const Event& deed);
 
 }  // namespace player

@@ -8,82 +8,39 @@
 
 #include "window/leaving.h"
 
-namespace {
-
-// The input has ended while a handler was waiting: everything is left as it stands.
-struct InputEnded {};
-
-}  // namespace
-
 ConsoleFrontEnd::ConsoleFrontEnd(const ConsoleOptions& options, std::istream& in, std::ostream& out)
     : options_(options), in_(in), out_(out), script_(platform, *this, out) {
   platform.trace = &script_;
 }
 
-void ConsoleFrontEnd::Run() {
+// Each line is obeyed as it comes, with all that it leads to.
+Event ConsoleFrontEnd::Next(const Wait& wait) {
+  if (wait.serving == Wait::Serving::Nothing) clock_.PassTo(wait.until);
+  if (wait.serving != Wait::Serving::All) return {};
   script_.AnswerNow();
-  try {
-    while (!platform.HasEnded() && ObeyOne()) script_.AnswerNow();
-  } catch (const InputEnded&) {
-  }
-}
-
-bool ConsoleFrontEnd::ObeyOne() {
   std::string line;
-  if (!out_ || !std::getline(in_, line)) return false;
+  if (!out_ || !std::getline(in_, line)) return {Event::Kind::Over};
   script_.Execute(line);
-  return !script_.Quit();
-}
-
-template <class Waiting>
-void ConsoleFrontEnd::Wait(Waiting waiting) {
-  script_.AnswerNow();
-  const long long entered = now_;
-  const size_t outer = shifted_;
-  shifted_ = targets_.size();
-  while (true) {
-    if (!ObeyOne()) throw InputEnded{};
-    if (!waiting()) break;
-    script_.AnswerNow();
-  }
-  for (size_t i = outer; i < shifted_; ++i) targets_[i] += now_ - entered;
-  shifted_ = outer;
-}
-
-::Answer ConsoleFrontEnd::RunBox(const MessageBox&) {
-  answer_.reset();
-  Wait([this] { return !answer_; });
-  const ::Answer answer = *answer_;
-  answer_.reset();
-  return answer;
-}
-
-void ConsoleFrontEnd::RunModal(Form& form) {
-  Wait([&form] { return form.Visible.get(); });
+  return {script_.Quit() ? Event::Kind::Over : Event::Kind::None};
 }
 
 void ConsoleFrontEnd::Advance(int milliseconds) {
-  targets_.push_back(now_ + milliseconds);
-  const size_t mine = targets_.size() - 1;
-  while (!platform.HasEnded()) {
-    if (leaving::IsWanted()) leaving::Now(EXIT_SUCCESS);
-    const auto due = platform.timers.NextDue();
-    if (!due || *due > targets_[mine]) break;
-    now_ = std::max(now_, *due);
-    platform.ServeTimer();
-  }
-  now_ = std::max(now_, targets_[mine]);
-  targets_.pop_back();
+  clock_.Advance(
+      milliseconds, [this](long long moment) { clock_.PassTo(moment); },
+      [this] {
+        if (leaving::IsWanted()) leaving::Now(EXIT_SUCCESS);
+        platform.Enter({Event::Kind::Tick});
+      });
 }
 
-bool ConsoleFrontEnd::MustLeave() const { return leaving::IsWanted(); }
+bool ConsoleFrontEnd::MustLeave() { return leaving::IsWanted(); }
 
 DateTime ConsoleFrontEnd::Now() {
   using namespace std::chrono;
   const sys_days day = year_month_day{year{options_.start.year}, month(options_.start.month),
                                       std::chrono::day(options_.start.day)};
   const sys_seconds moment = day + hours(options_.start.hour) + minutes(options_.start.minute) +
-                             seconds(options_.start.second) + floor<seconds>(milliseconds(now_));
+                             seconds(options_.start.second) + floor<seconds>(milliseconds(clock_.Now()));
   const sys_days today = floor<days>(moment);
   const year_month_day date(today);
   const hh_mm_ss clock(moment - today);

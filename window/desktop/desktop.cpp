@@ -193,7 +193,7 @@ void DesktopFrontEnd::ArmTimer() {
 void DesktopFrontEnd::ServeTick() {
   if (busy_ || ticks_ == Ticks::Held) return;
   ServeInput();
-  if (MayRun()) Run(nullptr, [this] { platform.ServeTimer(); });
+  if (MayRun()) Run(nullptr, [this] { platform.Enter({Event::Kind::Tick}); });
 }
 
 // First what the windows have told, then what Qt has kept back during pauses.
@@ -209,7 +209,29 @@ void DesktopFrontEnd::ServeInput() {
 
 // --- Waiting -------------------------------------------------------------------------------------
 
-void DesktopFrontEnd::Wait(const std::function<bool()>& waiting) {
+// Deeds and ticks go to the platform as they come. An answer waits for its turn: a box under another one may
+// be answered as well.
+Event DesktopFrontEnd::Next(const Wait& wait) {
+  switch (wait.serving) {
+    case Wait::Serving::Nothing:
+      Sleep(static_cast<int>(wait.until - Milliseconds()));
+      return {};
+    case Wait::Serving::Input:
+      Sleep(0);  // shows what has changed
+      ServeInput();
+      return {};
+    case Wait::Serving::All:
+      break;
+  }
+  const auto answer = [&] { return wait.box ? boxes_.back().answer : std::nullopt; };
+  if (wait.modal) modals_.push_back(WindowOf(*wait.modal));
+  ServeAll([&] { return !answer() && platform.StillWaits(); });
+  if (wait.modal) modals_.pop_back();
+  if (!answer()) return {};
+  return {.kind = Event::Kind::Answer, .answer = *answer()};
+}
+
+void DesktopFrontEnd::Await(const std::function<bool()>& waiting) {
   SettleBoards();
   hurry_.Anew();
   PlayWaveInAHurry();
@@ -247,12 +269,6 @@ void DesktopFrontEnd::Pause(int milliseconds) {
   }
   // Else the input that was held back might lie there until something else happens.
   QAbstractEventDispatcher::instance()->wakeUp();
-}
-
-void DesktopFrontEnd::RunModal(Form& form) {
-  modals_.push_back(WindowOf(form));
-  WaitFor([&form] { return form.Visible.get(); });
-  modals_.pop_back();
 }
 
 // --- Sounds --------------------------------------------------------------------------------------
@@ -316,7 +332,7 @@ bool DesktopFrontEnd::OpenPage(const std::string& browser, const std::string& ur
   return QProcess::startDetached(QString::fromStdString(browser), {QString::fromStdString(url)});
 }
 
-bool DesktopFrontEnd::MustLeave() const { return leaving::IsWanted(); }
+bool DesktopFrontEnd::MustLeave() { return leaving::IsWanted(); }
 
 void DesktopFrontEnd::Painted() {
   if (painted_) return;

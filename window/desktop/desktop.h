@@ -77,10 +77,7 @@ class DesktopFrontEnd : public FrontEnd {
   DateTime Now() override;
   Extent ScreenExtent() override;
   Extent TextExtent(const Label& label) override;
-  void Sleep(int milliseconds) override { hurry_.Sleep(milliseconds); }
-  void ServeInput() override;
-  Answer RunBox(const MessageBox& box) override;
-  void RunModal(Form& form) override;
+  Event Next(const Wait& wait) override;
   void PlayWave(const std::string& path) override;
   void Clicked(Control& control) override { clicked_ = &control; }
   void Refused() override;
@@ -88,8 +85,10 @@ class DesktopFrontEnd : public FrontEnd {
   std::string FindBrowser() override;
   bool OpenPage(const std::string& browser, const std::string& url) override;
 
-  bool MustLeave() const override;
+  bool MustLeave() override;
 
+  void BoxShown(const MessageBox& box) override;
+  void BoxGone(const MessageBox& box) override;
   void FormLoaded(Form& form) override;
   void FormShown(Form& form) override;
   void FormHidden(Form& form) override;
@@ -105,12 +104,16 @@ class DesktopFrontEnd : public FrontEnd {
  protected:
   // Called when the first window has been shown; what it leaves to be done the events bring.
   virtual void Serve() {}
-  // Serves the player and the timers while `waiting()`. A handler that waits isn't busy.
-  virtual void WaitFor(const std::function<bool()>& waiting) { Wait(waiting); }
+  // What `Next` does: it lets a time pass, serves the input that has come so far, or serves the player and
+  // the timers while `waiting()`.
+  virtual void Sleep(int milliseconds) { hurry_.Sleep(milliseconds); }
+  virtual void ServeInput();
+  virtual void ServeAll(const std::function<bool()>& waiting) { Await(waiting); }
   // Sees to it that the next tick comes in time.
   virtual void ArmTimer();
 
-  void Wait(const std::function<bool()>& waiting);
+  // Serves the player and the timers while `waiting()`. A handler that waits isn't busy.
+  void Await(const std::function<bool()>& waiting);
   // Lets real time pass, without input and ticks. The windows stay alive.
   void Pause(int milliseconds);
   // Lets the innermost wait look at what it waits for.
@@ -141,7 +144,7 @@ class DesktopFrontEnd : public FrontEnd {
   QObject& Context() { return timer_; }
   bool HasPainted() const { return painted_; }
   class QMessageBox* StandingBox() const {
-    return boxes_.empty() ? nullptr : boxes_.back();
+    return boxes_.empty() ? nullptr : boxes_.back().dialog;
   }
 
  private:
@@ -186,7 +189,11 @@ class DesktopFrontEnd : public FrontEnd {
     int step = 0;
   } lastWave_;
   std::string waveInAHurry_;  // waits for the end of what is run through
-  std::vector<class QMessageBox*> boxes_;
+  struct Box {
+    class QMessageBox* dialog;
+    std::optional<Answer> answer = {};  // as soon as it has been given
+  };
+  std::deque<Box> boxes_;
   std::vector<QPointer<QWidget>> modals_;  // the boxes and the modal windows that are waited for
   Access access_{*this};
   QEventLoop* loop_ = nullptr;  // of the innermost wait

@@ -24,6 +24,9 @@ void Hands::Press(Form& form, Key key) { player::Press(form, key); }
 void Hands::Close(Form& form) { player::Close(form); }
 void Hands::Resize(Form& form, int width, int height) { player::Resize(form, width, height); }
 void Hands::SetState(Form& form, int state) { player::SetState(form, state); }
+void Hands::PressAnswer(Platform& platform, Answer answer) {
+  platform.Enter({.kind = Event::Kind::Answer, .answer = answer});
+}
 std::string Hands::Screenshot(Form&, const std::string&) { return "there is no screen"; }
 
 namespace {
@@ -294,7 +297,7 @@ std::span<const Script::Verb> Script::Verbs() {
        }},
       {"answer", "\"BUTTON\"", "Presses a button of the message box that stands: Yes, No, OK or Cancel",
        [](Script& script, std::string rest) {
-         script.hands_.PressAnswer(FindAnswer(script.platform_, Text(rest)));
+         script.hands_.PressAnswer(script.platform_, FindAnswer(script.platform_, Text(rest)));
        }},
       {"advance", "MS", "Lets so many milliseconds pass, in which timers tick as they fall due",
        [](Script& script, std::string rest) { script.hands_.Advance(Number(rest, 0, INT_MAX)); }},
@@ -305,9 +308,7 @@ std::span<const Script::Verb> Script::Verbs() {
       {"windows", "", "Tells which windows are loaded, front first, hidden ones last",
        [](Script& script, std::string) { script.value_ = Windows(script.platform_); }},
       {"time", "", "Tells how many milliseconds have passed since the start",
-       [](Script& script, std::string) {
-         script.value_ = std::to_string(script.platform_.front.Milliseconds());
-       }},
+       [](Script& script, std::string) { script.value_ = std::to_string(script.platform_.Milliseconds()); }},
       {"random", "[LO..HI [N...]]",
        "Decides what chance gives next when it is asked for LO to HI, and tells how many such numbers wait; alone "
        "forgets them all",

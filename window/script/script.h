@@ -23,7 +23,7 @@ class Hands {
   virtual void Resize(Form& form, int width, int height);
   virtual void SetState(Form& form, int state);
   // Presses a button of the message box that stands.
-  virtual void PressAnswer(Answer answer) = 0;
+  virtual void PressAnswer(Platform& platform, Answer answer);
   virtual void Advance(int milliseconds) = 0;
   // Writes the window as a picture file; an explanation on failure, else "".
   virtual std::string Screenshot(Form& form, const std::string& file);

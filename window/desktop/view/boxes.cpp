@@ -96,39 +96,40 @@ QMessageBox::StandardButton ButtonOf(Answer answer) {
   }
 }
 
-Answer DesktopFrontEnd::RunBox(const MessageBox& box) {
+void DesktopFrontEnd::BoxShown(const MessageBox& box) {
   const std::vector<Answer> answers = AnswersOf(box.buttons);
-  Answer answer = answers.back();  // what Escape and the close box mean
-  bool answered = false;
-
-  Box dialog(*this, NextWindow(nullptr));
-  dialog.setWindowTitle(QString::fromStdString(box.title));
-  dialog.setTextFormat(Qt::PlainText);
-  dialog.setText(QString::fromStdString(box.text));
-  dialog.setIcon(IconOf(box.icon));
-  KeepOnScreen(dialog);
-  for (Answer each : answers) dialog.addButton(ButtonOf(each))->setIcon(QIcon());
+  auto* const dialog = new ::Box(*this, NextWindow(nullptr));
+  dialog->setWindowTitle(QString::fromStdString(box.title));
+  dialog->setTextFormat(Qt::PlainText);
+  dialog->setText(QString::fromStdString(box.text));
+  dialog->setIcon(IconOf(box.icon));
+  KeepOnScreen(*dialog);
+  for (Answer each : answers) dialog->addButton(ButtonOf(each))->setIcon(QIcon());
   // What would end or close something wants a key more for a player.
   const bool asks = guides && box.buttons == Buttons::YesNo && box.icon == Icon::Question;
-  dialog.setDefaultButton(ButtonOf(asks ? Answer::No : answers.front()));
-  dialog.setEscapeButton(ButtonOf(answers.back()));
-  dialog.setWindowModality(Qt::ApplicationModal);
-  QObject::connect(&dialog, &QDialog::finished, &dialog, [&] {
-    answered = true;
-    for (Answer each : answers)
-      if (dialog.clickedButton() && dialog.standardButton(dialog.clickedButton()) == ButtonOf(each))
-        answer = each;
-    Wake();
-  });
-  boxes_.push_back(&dialog);
-  modals_.push_back(&dialog);
-  dialog.show();
-  dialog.raise();
-  dialog.activateWindow();
-  WaitFor([&] { return !answered; });
+  dialog->setDefaultButton(ButtonOf(asks ? Answer::No : answers.front()));
+  dialog->setEscapeButton(ButtonOf(answers.back()));
+  dialog->setWindowModality(Qt::ApplicationModal);
+  boxes_.push_back({dialog});
+  modals_.push_back(dialog);
+  QObject::connect(
+      dialog, &QDialog::finished, dialog, [this, dialog, answers, &answer = boxes_.back().answer] {
+        answer = answers.back();
+        for (Answer each : answers)
+          if (dialog->clickedButton() && dialog->standardButton(dialog->clickedButton()) == ButtonOf(each))
+            answer = each;
+        Wake();
+      });
+  dialog->show();
+  dialog->raise();
+  dialog->activateWindow();
+}
+
+void DesktopFrontEnd::BoxGone(const MessageBox& box) {
+  QMessageBox* const dialog = boxes_.back().dialog;
   modals_.pop_back();
   boxes_.pop_back();
-  if (Form* modal = platform.ModalForm(); guides && modal && answers.size() == 1)
+  if (Form* modal = platform.ModalForm(); guides && modal && AnswersOf(box.buttons).size() == 1)
     if (FormWindow* window = WindowOf(*modal)) window->Refused();
-  return answer;
+  delete dialog;
 }

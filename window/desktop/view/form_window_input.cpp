@@ -63,7 +63,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
       static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason &&
       form.ActiveControl() != control)
     front_.Deliver(form, [this, control] {
-      if (player::WhyNot(*control).empty()) form.platform.Dispatch([&] { control->SetFocus(); });
+      if (player::WhyNot(*control).empty()) player::Focus(*control);
     });
   if (event->type() == QEvent::MouseMove && control->OnMouseMove)
     front_.Deliver(form, [control] {

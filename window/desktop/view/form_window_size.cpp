@@ -170,8 +170,9 @@ void FormWindow::TellPlace() {
   if (left_ || !isVisible() || IsFilled() || isMinimized() || framed_.isActive()) return;
   const QPoint place = pos() - Aside();
   tellsPlace_ = true;
-  if (place.x() != Pixels(form.Left)) form.Left = place.x() * 15;
-  if (place.y() != Pixels(form.Top)) form.Top = place.y() * 15;
+  const QPoint told(Pixels(form.Left), Pixels(form.Top));
+  player::Place(form, place.x() == told.x() ? form.Left : place.x() * 15,
+                place.y() == told.y() ? form.Top : place.y() * 15);
   tellsPlace_ = false;
 }
 
