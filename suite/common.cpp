@@ -85,9 +85,7 @@ bool modCommon::Ask(const std::string& question) {
   return MsgBox(question, Icon::Question, Buttons::YesNo) == Answer::Yes;
 }
 
-int modCommon::MinutesPlayed() {
-  return static_cast<int>((platform.Milliseconds() - GameStartTime) / 60000);
-}
+int modCommon::MinutesPlayed() { return static_cast<int>((platform.Milliseconds() - GameStartTime) / 60000); }
 
 std::string modCommon::TimeOfDay() {
   const DateTime now = platform.Now();
