@@ -55,10 +55,10 @@ void BM_WholeGame(benchmark::State& state) {
   frmHandgrid& game = *table.game;
   long long clicks = 0;
   for (auto _ : state) {
-    game.common.TakingScore = false;  // the selector's timer doesn't tick here
+    game.standing.InputLives();  // the selector's timer doesn't tick here
     player::Click(game.cmdPlay);
-    while (game.common.GameInProgress) {
-      game.common.TakingScore = false;
+    while (game.standing.InGame()) {
+      game.standing.InputLives();
       for (int cell = 0; cell < modHandgrid::kCells; ++cell, ++clicks) player::Click(game.PlayCards(cell));
     }
   }

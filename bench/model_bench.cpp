@@ -78,10 +78,10 @@ void WholeGame(benchmark::State& state) {
   long clicks = 0;
   for (auto _ : state) {
     player::Click(game.cmdPlay);
-    while (bench.suite->common.GameInProgress) {
+    while (game.standing.InGame()) {
       for (int i = 0; i < modSumfall::kPlaces; ++i) clicks += Click(game.FieldCardPicture(i));
       clicks += Click(game.UpCardPicture);
-      if (!bench.suite->common.GameInProgress) break;  // the button would play the game again
+      if (!bench.suite->game.standing.InGame()) break;  // the button would play the game again
       clicks += Click(game.board.stock.size() > 15 ? static_cast<Control&>(game.PlayCardPicture)
                                                    : game.cmdTakeScore);
     }

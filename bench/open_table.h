@@ -33,7 +33,7 @@ void PlayWholeGames(benchmark::State& state, const Turn& turn) {
   long long clicks = 0;
   for (auto _ : state) {
     player::Click(game.cmdPlay);
-    while (game.common.GameInProgress) clicks += turn(game);
+    while (game.standing.InGame()) clicks += turn(game);
   }
   state.counters["clicks"] =
       benchmark::Counter(static_cast<double>(clicks), benchmark::Counter::kAvgIterations);

@@ -93,7 +93,7 @@ void BM_WholeGame(benchmark::State& state) {
   long long clicks = 0;
   for (auto _ : state) {
     player::Click(game.mnuPlay);
-    while (game.common.GameInProgress) {
+    while (game.standing.InGame()) {
       Image* place = game.DeckPosition < kUsedUp ? BestPlace(game) : nullptr;
       clicks += 1 + (place != nullptr);
       if (place) {

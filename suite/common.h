@@ -41,8 +41,7 @@ class modCommon {
   Integer TimeLimit, ElapsedSeconds, DialSeconds;  // seconds
   Long CurrentScore, PreviousScore, TimeBonus;
   Integer DeckDesign = 1;
-  bool TakingScore = false, GameInProgress = false, PlaySounds = true, PlayMusic = false,
-       CountDownScore = true, CustomScoringInUse = false;
+  bool PlaySounds = true, PlayMusic = false, CountDownScore = true, CustomScoringInUse = false;
   long long GameStartTime = 0;  // on the platform's clock, milliseconds
 
   Form* selector = nullptr;      // shown again when a game window goes

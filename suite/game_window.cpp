@@ -25,9 +25,7 @@ void GameWindow::Form_Load() {
   common.DeckDesign = plan.deckDesign;
   common.CountDownScore = true;
   common.CustomScoringInUse = false;
-  common.GameInProgress = false;
-  common.TakingScore = false;
-  phase = Phase::Idle;
+  standing.Rest();
   for (const GameSetting& setting : settings) SetStandard(setting);
   SetDefaults();
   for (Visual* above : std::initializer_list<Visual*>{&frmSplash, &lblMessage, &lblScoring}) above->ZOrder(0);
@@ -81,7 +79,7 @@ void GameWindow::ShowSplash(bool visible) {
 // --- Play and End Game ---------------------------------------------------------------------------
 
 void GameWindow::cmdPlay_Click() {
-  if (InGame()) return AskToEndGame(EndGameQuestion());
+  if (!standing.CanStart()) return AskToEndGame(EndGameQuestion());
   LeaveIdle();
   StartGame();
 }
@@ -94,17 +92,17 @@ void GameWindow::LeaveIdle() {
 
 void GameWindow::StartGame() {
   HideMessage();
-  phase = Phase::Scoring;
+  standing.Hold();
   try {
     Play();
   } catch (const std::exception& error) {
     PlayFailed(error.what());
   }
   if (!Loaded()) return;
-  if (!common.GameInProgress)
+  if (!standing.InGame())
     BackToIdle();
-  else if (phase == Phase::Scoring)
-    phase = Phase::Playing;
+  else if (standing.IsBusy())
+    standing.Open();
 }
 
 void GameWindow::PlayFailed(const std::string& description) {
@@ -113,9 +111,7 @@ void GameWindow::PlayFailed(const std::string& description) {
 }
 
 void GameWindow::BackToIdle() {
-  phase = Phase::Idle;
-  common.GameInProgress = false;
-  common.TakingScore = false;
+  standing.Rest();
   Timer1.Enabled = false;
   ResetDial();
   HideMessage();
@@ -135,16 +131,16 @@ void GameWindow::BackToIdle() {
 
 // Under the question a clock that wasn't stopped may end the game; then there is nothing left to end.
 void GameWindow::AskToEndGame(const std::string& question) {
-  if (phase != Phase::Playing) return;
+  if (!standing.IsPlaying()) return;
   BeforeEndQuestion();
   const bool ends = common.Ask(question);
-  const bool wasRunning = InGame();
+  const bool wasRunning = !standing.CanStart();
   AfterEndQuestion(ends);
   if (!wasRunning || !ends) return;
   cmdPlay.ToolTipText = "Starts a new game";
   SetPlayCaption("&Play");
   EndGame();
-  phase = Phase::Idle;
+  standing.End();
 }
 
 void GameWindow::SetPlayCaption(const char* caption) {
@@ -180,7 +176,7 @@ void GameWindow::TimeIsUp() {
   StatusBar1.Panels(2).Text = "Time has expired!";
   Blink(lblMessage, 10);
   cmdTakeScore_Click();
-  if (phase != Phase::Over) lblMessage.Visible = false;
+  if (!standing.IsOver()) lblMessage.Visible = false;
   MousePointer = kDefaultPointer;
 }
 
@@ -192,8 +188,8 @@ void GameWindow::ResetDial() {
 // --- Pausing -------------------------------------------------------------------------------------
 
 void GameWindow::Pause() {
-  if (phase == Phase::Scoring) return;
-  IsPaused() ? ResumeGame() : PauseGame();
+  if (standing.IsBusy()) return;
+  standing.IsPaused() ? ResumeGame() : PauseGame();
 }
 
 void GameWindow::SetPauseCaptions(bool paused) {
@@ -202,7 +198,7 @@ void GameWindow::SetPauseCaptions(bool paused) {
 }
 
 void GameWindow::PauseGame() {
-  phase = Phase::Paused;
+  standing.Pause();
   cmdPause.ToolTipText = "Resumes the current game";
   TellPause(true);
   Timer1.Enabled = false;
@@ -214,14 +210,14 @@ void GameWindow::PauseGame() {
 }
 
 void GameWindow::ResumeGame() {
-  phase = common.GameInProgress ? Phase::Playing : Phase::Idle;
+  standing.Resume();
   cmdPause.ToolTipText = plan.names.pauseTip;
   TellPause(false);
-  Timer1.Enabled = common.GameInProgress;
+  Timer1.Enabled = standing.InGame();
   SetPauseCaptions(false);
   for (CommandButton* button : {&cmdExit, &cmdTakeScore, &cmdPlay}) button->Enabled = true;
   for (Menu* entry : {&mnuExit, &mnuPlay, &mnuTakeScore}) entry->Enabled = true;
-  if (!common.GameInProgress) return;
+  if (!standing.InGame()) return;
   CoverCards(false);
   StartMusic();
 }
@@ -229,7 +225,7 @@ void GameWindow::ResumeGame() {
 void GameWindow::TellPause(bool paused) {
   if (paused) {
     lblMessage.Caption = "Game Paused";
-    if (common.GameInProgress) lblMessage.Visible = true;
+    if (standing.InGame()) lblMessage.Visible = true;
   } else {
     lblMessage.Visible = false;
     lblMessage.Caption = "";
@@ -237,10 +233,10 @@ void GameWindow::TellPause(bool paused) {
 }
 
 void GameWindow::PauseAround(const std::function<void()>& action) {
-  const bool pauses = phase == Phase::Playing;
+  const bool pauses = standing.IsPlaying();
   if (pauses) PauseGame();
   action();
-  if (pauses && Loaded() && IsPaused()) ResumeGame();
+  if (pauses && Loaded() && standing.IsPaused()) ResumeGame();
 }
 
 // --- Minimised and restored ----------------------------------------------------------------------
@@ -256,14 +252,14 @@ void GameWindow::Form_StateChange(int before) {
 
 // What comes in between two steps of a round's end can't close the window under them: the question waits.
 void GameWindow::Form_QueryUnload(bool& cancel) {
-  closeWanted_ = phase == Phase::Scoring;
+  closeWanted_ = standing.IsBusy();
   if (closeWanted_) {
     cancel = true;
     return;
   }
   BeforeClosingQuestion();
   std::string question = "You have a game in progress. Are you sure you want to quit now?";
-  if (!common.GameInProgress)
+  if (!standing.InGame())
     question = common.MinutesPlayed() < 5 ? "Giving up so soon?"
                                           : "Are you sure you want to quit now? Were just getting started!";
   cancel = !common.Ask(question);
@@ -280,7 +276,7 @@ void GameWindow::Form_Unload() {
   Timer1.Enabled = false;
   SaveSettings();
   common.files.TryAgain();
-  common.GameInProgress = false;
+  standing.End();
   StopMusic();
   common.window = nullptr;
   if (common.selector) common.selector->Show();

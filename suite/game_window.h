@@ -15,19 +15,11 @@
 #include "suite/game_plan.h"
 #include "suite/rules_text.h"
 #include "suite/settings_file.h"
+#include "suite/standing.h"
 #include "window/text.h"
 
 // What the menu bar and the status bar take off a window's height, at most.
 inline constexpr int kBars = 750;
-
-// Where a window stands. Captions follow it; nothing is decided by them.
-enum class Phase {
-  Idle,     // the splash panel
-  Playing,  // a round runs
-  Paused,
-  Scoring,  // a round is being paid, or the next one made ready
-  Over      // the game has ended, and no other has begun
-};
 
 // A box let into the board, with the lines that light its edges.
 struct ScoreBox {
@@ -44,7 +36,7 @@ class GameWindow : public Form {
   modCommon& common;
   const GamePlan& plan;
 
-  Phase phase = Phase::Idle;
+  Standing standing;
   Integer CurrentRound;
   Long BonusScore;  // for the bonus round
   // The game's own values, named in its constructor; see `GameSetting`.
@@ -52,8 +44,8 @@ class GameWindow : public Form {
 
   // === What a game must give =======================================================================
 
-  // Starts a game: sets `GameInProgress`, deals, starts the clock. The captions of Play have changed already,
-  // and the splash panel is hidden.
+  // Starts a game: begins it (`standing`), deals, starts the clock. The captions of Play have changed
+  // already, and the splash panel is hidden.
   virtual void Play() = 0;
   // The player has confirmed End Game.
   virtual void EndGame() = 0;
@@ -133,7 +125,7 @@ class GameWindow : public Form {
   // Hides the cards of a paused game, or turns them down; or shows them again.
   virtual void CoverCards(bool covered) { ShowCards(!covered); }
   // Whether cards lie face down, so that a change of the back design is to be seen on them; and the change.
-  virtual bool BacksAreShown() const { return phase == Phase::Paused; }
+  virtual bool BacksAreShown() const { return standing.IsPaused(); }
   virtual void RefreshFieldCards() {}
 
   // --- Minimised and restored ----------------------------------------------------------------------
@@ -145,7 +137,7 @@ class GameWindow : public Form {
   virtual void mnuTakeScore_Click() { cmdTakeScore_Click(); }
   // Pays the round, then begins the next one or ends the game. The common way is the steps that follow.
   virtual void TakeScore();
-  // `TakingScore`, no clock, no commands, the hourglass, no board, no music.
+  // Dead input, no clock, no commands, the hourglass, no board, no music.
   virtual void BeginScoring();
   // Takes the board away while the round is paid.
   virtual void HideBoard() { ShowCards(false); }
@@ -192,12 +184,6 @@ class GameWindow : public Form {
 
   // === What the frame offers =======================================================================
 
-  // A game has begun and hasn't ended.
-  bool InGame() const { return phase != Phase::Idle && phase != Phase::Over; }
-  bool IsPaused() const { return phase == Phase::Paused; }
-  // A card may not be touched now: the game is paused or over.
-  bool BoardIsClosed() const { return phase == Phase::Paused || phase == Phase::Over; }
-
   // Runs `Play`, as `LeaveIdle` has left the window. If no game comes of it the window is idle again.
   void StartGame();
   void AskToEndGame(const std::string& question);
@@ -241,7 +227,7 @@ class GameWindow : public Form {
   void ShowEmpty(Image& image);
 
   // The close box was pressed while a round was being paid, and the question can be asked now; and asks it.
-  bool ClosesNow() const { return closeWanted_ && phase != Phase::Scoring; }
+  bool ClosesNow() const { return closeWanted_ && !standing.IsBusy(); }
   void CloseIfWanted();
 
   // If the player wants them.

@@ -4,13 +4,13 @@
 #include "suite/score_counter.h"
 
 void GameWindow::ClearRound() {
-  common.TakingScore = false;
+  standing.InputLives();
   common.ElapsedSeconds = 0;
   HideMessage();
 }
 
 void GameWindow::OpenRound() {
-  phase = Phase::Playing;
+  standing.Open();
   SetPlayCaption(plan.names.endGame);
   EnableOptions(false);
   for (Menu* entry : {&mnuPause, &mnuTakeScore}) entry->Enabled = true;
@@ -20,12 +20,11 @@ void GameWindow::OpenRound() {
 }
 
 void GameWindow::cmdTakeScore_Click() {
-  if (!common.TakingScore) TakeScore();
+  if (!standing.InputIsDead()) TakeScore();
 }
 
 void GameWindow::BeginScoring() {
-  common.TakingScore = true;
-  phase = Phase::Scoring;
+  standing.Score();
   Timer1.Enabled = false;
   EnableButtons(false);
   MousePointer = kHourglass;
@@ -87,8 +86,7 @@ void GameWindow::GameFailed() {
 void GameWindow::FinishGame() {
   try {
     Timer1.Enabled = false;
-    phase = Phase::Over;
-    common.GameInProgress = false;
+    standing.GameOver();
     SetPlayCaption("&Play");
     EnableOptions(true);
     cmdPause.Enabled = false;
@@ -113,7 +111,7 @@ void GameWindow::EnterHighScore() {
 }
 
 void GameWindow::TellGameOver(Label& label, int milliseconds) {
-  phase = Phase::Over;
+  standing.GameOver();
   label.Caption = "Game Over";
   label.ForeColor = kRed;
   MousePointer = kHourglass;

@@ -182,7 +182,7 @@ void GameWindow::ToggleSounds() {
 void GameWindow::ToggleMusic() {
   common.PlayMusic = !common.PlayMusic;
   mnuMusic.Checked = common.PlayMusic;
-  if (!common.GameInProgress || IsPaused()) return;
+  if (!standing.InGame() || standing.IsPaused()) return;
   common.PlayMusic ? common.StartMusic() : common.StopMusic();
 }
 

@@ -65,12 +65,12 @@ std::string GameGuide::State() const {
     if (!text.empty()) state += (state.empty() ? "" : " ") + text + ".";
   };
   if (window_.lblMessage.Visible) tell(window_.lblMessage.Caption);
-  if (!window_.InGame()) return state;
+  if (window_.standing.CanStart()) return state;
   const modCommon& common = window_.common;
   tell(window_.CurrentRound > window_.plan.rounds ? "Bonus round"
                                                   : "Round " + std::to_string(window_.CurrentRound));
   tell("Score " + FormatNumber(common.CurrentScore));
-  if (window_.phase == Phase::Scoring) return state;
+  if (window_.standing.IsBusy()) return state;
   const long long left = common.TimeLimit - common.ElapsedSeconds;
   tell(std::to_string(left) + (left == 1 ? " second left" : " seconds left"));
   if (const std::string board = BoardState(); !board.empty()) state += " " + board;

@@ -15,8 +15,8 @@ class GameGuide : public Guide {
   explicit GameGuide(GameWindow& window) : window_(window) {}
 
   std::vector<KeyRow> Keys() const override;
-  bool InGame() const override { return window_.InGame(); }
-  bool Paused() const override { return window_.IsPaused(); }
+  bool InGame() const override { return !window_.standing.CanStart(); }
+  bool Paused() const override { return window_.standing.IsPaused(); }
   std::string State() const override;
   bool IsOrnament(const Control& control) const override;
   std::optional<Note> FirstStepsPlace() const override;
@@ -29,7 +29,7 @@ class GameGuide : public Guide {
   // What the game adds to the state.
   virtual std::string BoardState() const { return ""; }
   // Whether cards can be played now.
-  bool Plays() const { return window_.phase == Phase::Playing && !window_.common.TakingScore; }
+  bool Plays() const { return window_.standing.IsPlaying() && !window_.standing.InputIsDead(); }
   // A place that shows a card, a back or an empty place, and what place it is; nothing is added for one that
   // doesn't show. None can be played while it is disabled or no round runs.
   void Add(std::vector<Spot>& spots, Image& image, bool playable, bool selected = false,

@@ -73,7 +73,7 @@ void frmSelect::Open(const GameEntry& game) {
 }
 
 void frmSelect::Timer1_Timer() {
-  common_.TakingScore = false;
+  if (common_.window) common_.window->standing.InputLives();
   if (SplashBackIndex_ == 0) SplashBackIndex_ = 2;
   Image& image = imgSplashImage(SplashPosition_);
   image.ZOrder(1);

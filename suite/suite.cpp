@@ -35,12 +35,13 @@ void Suite::Leave() {
 void Suite::Fail(const std::string& description) {
   common.MsgBox(description, Icon::Critical);
   if (common.window) {
-    common.TakingScore = false;
+    Standing& standing = common.window->standing;
+    standing.InputLives();
     common.window->MousePointer = kDefaultPointer;
     try {
-      if (common.GameInProgress)
+      if (standing.InGame())
         common.window->GameFailed();
-      else if (common.window->InGame())
+      else if (!standing.CanStart())
         common.window->BackToIdle();
     } catch (const RuntimeError& again) {
       common.MsgBox(again.what(), Icon::Critical);

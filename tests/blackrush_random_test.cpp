@@ -38,17 +38,17 @@ class BlackrushPlayer : public RandomPlayer {
   void Check(GameWindow& window) override {
     auto& game = static_cast<frmBlackrush&>(window);
     const modCommon& common = suite_.common;
-    ASSERT_FALSE(common.TakingScore);
+    ASSERT_FALSE(game.standing.InputIsDead());
     ASSERT_FALSE(game.lblBust.Visible || game.lblFiveCards.Visible || game.lblRoundScore.Visible);
-    ASSERT_EQ(game.ScoringLabelInfo.Visible, game.IsPaused());
-    ASSERT_EQ(game.ScoringLabelOutline.Visible, game.IsPaused());
-    ASSERT_EQ(game.frameScoreInfo.Visible, common.GameInProgress && !game.IsPaused());
-    if (!common.GameInProgress) {
+    ASSERT_EQ(game.ScoringLabelInfo.Visible, game.standing.IsPaused());
+    ASSERT_EQ(game.ScoringLabelOutline.Visible, game.standing.IsPaused());
+    ASSERT_EQ(game.frameScoreInfo.Visible, game.standing.InGame() && !game.standing.IsPaused());
+    if (!game.standing.InGame()) {
       ASSERT_TRUE(game.cmdExit.Enabled);
       ASSERT_FALSE(game.Timer3.Enabled || game.cmdPause.Enabled || game.cmdHit(0).Visible);
       return;
     }
-    const bool open = !game.IsPaused();
+    const bool open = !game.standing.IsPaused();
     ASSERT_EQ(game.lblTotalScore.Caption, FormatNumber(common.CurrentScore));
     ASSERT_EQ(game.lblCardsUsedCount.Caption, std::to_string(game.DeckPosition - 1));
     ASSERT_EQ(game.lblBonus.Caption, std::to_string(game.Bonus));
@@ -56,7 +56,7 @@ class BlackrushPlayer : public RandomPlayer {
     ASSERT_LE(game.DeckPosition, modBlackrush::kLastCard);
     ASSERT_EQ(game.NextCardPicture.Picture, common.ImageList2(CardKey(common.Deck[game.DeckPosition])));
     ASSERT_FALSE(game.cmdPass.Enabled && game.DeckPosition == modBlackrush::kLastCard);
-    ASSERT_FALSE(game.Timer3.Enabled && game.IsPaused());
+    ASSERT_FALSE(game.Timer3.Enabled && game.standing.IsPaused());
     ControlArray<Image, 5>* const images[] = {&game.Column1, &game.Column2, &game.Column3, &game.Column4};
     for (int i = 0; i < modBlackrush::kColumns; ++i) {
       const Column21& column = game.columns[i];

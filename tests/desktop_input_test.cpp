@@ -383,7 +383,7 @@ class Playing : public testing::Test {
     input::Click(front, *static_cast<Visual*>(front.platform.FindForm("frmSelect")->find("cmdSumfall")));
     input::Settle();
     input::Click(front, Game().cmdPlay);
-    ASSERT_TRUE(input::Await([this] { return suite.common.GameInProgress; }));
+    ASSERT_TRUE(input::Await([this] { return Game().standing.InGame(); }));
   }
   GameWindow& Game() { return *suite.common.window; }
   int Round() { return static_cast<frmSumfall&>(Game()).CurrentRound; }
@@ -411,7 +411,7 @@ TEST_F(Playing, ASecondClickWhileTheRoundIsCountedPlaysNoRoundAway) {
     input::Click(front, Game().cmdTakeScore, 20);
   });
   EXPECT_EQ(Round(), 2);
-  EXPECT_TRUE(suite.common.GameInProgress);
+  EXPECT_TRUE(Game().standing.InGame());
   EXPECT_TRUE(Game().cmdTakeScore.Enabled);
 }
 

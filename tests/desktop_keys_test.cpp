@@ -61,7 +61,7 @@ class Keys : public testing::Test {
   Window& Open(const char* digit) {
     Type(digit);
     Press(Qt::Key_F2);
-    EXPECT_EQ(Game().phase, Phase::Playing) << digit;
+    EXPECT_TRUE(Game().standing.IsPlaying()) << digit;
     return static_cast<Window&>(Game());
   }
   const Visual* Cursor() { return front.WindowOf(Game())->Keys()->Cursor(); }
@@ -119,7 +119,7 @@ TEST_F(Keys, WalkToWhateverCanBePlayed) {
     }
     Game().Discard();
     suite.common.selector->Show();
-    suite.common.GameInProgress = false;
+    Game().standing.End();
     input::Settle();
   }
 }
@@ -174,11 +174,11 @@ TEST_F(Keys, TakeCardsByRankAndGiveThemBack) {
   game.ClockTimer.Enabled = true;
   EXPECT_TRUE(input::Await([&] { return game.lblCardCount.Caption == "Cards: 28"; }));
   Press(Qt::Key_Escape);
-  EXPECT_TRUE(game.IsPaused());
+  EXPECT_TRUE(game.standing.IsPaused());
   Press(Qt::Key_Escape);
-  EXPECT_TRUE(game.IsPaused());
+  EXPECT_TRUE(game.standing.IsPaused());
   Type("p");
-  EXPECT_FALSE(game.IsPaused());
+  EXPECT_FALSE(game.standing.IsPaused());
 }
 
 TEST_F(Keys, StandForPlacesWhereAGameHasDigits) {
@@ -198,11 +198,11 @@ TEST_F(Keys, StandForPlacesWhereAGameHasDigits) {
   EXPECT_TRUE(shift.Selected);
   Press(Qt::Key_Escape);
   EXPECT_FALSE(shift.Selected);
-  EXPECT_FALSE(shift.IsPaused());
+  EXPECT_FALSE(shift.standing.IsPaused());
   Type("d2dwd2");
   EXPECT_FALSE(shift.FieldCards[1].empty() || shift.FieldCards[5].empty() || shift.TempCards[1].empty());
   Press(Qt::Key_Escape);
-  EXPECT_TRUE(shift.IsPaused());
+  EXPECT_TRUE(shift.standing.IsPaused());
   shift.Discard();
   suite.common.selector->Show();
   input::Settle();
@@ -227,7 +227,7 @@ TEST_F(Keys, StayWithABoardThatIsEmptyForAWhile) {
   });
   guard.start(20);
   front.Deliver(game, [&] { player::Click(game.cmdGiveUp); });
-  EXPECT_TRUE(input::Await([&] { return game.phase == Phase::Playing; }));
+  EXPECT_TRUE(input::Await([&] { return game.standing.IsPlaying(); }));
   input::Settle();
   EXPECT_FALSE(asked);
   EXPECT_EQ(game.CurrentRound, 2);
@@ -248,7 +248,7 @@ TEST_F(Keys, DontKeepAStuckBoardFromBeingPaid) {
   };
   front.onSleep = meanwhile;
   Type("q");
-  EXPECT_TRUE(input::Await([&] { return game.CurrentRound == 2 && game.phase == Phase::Playing; }));
+  EXPECT_TRUE(input::Await([&] { return game.CurrentRound == 2 && game.standing.IsPlaying(); }));
   EXPECT_EQ(told, 1);
 }
 
@@ -264,12 +264,12 @@ TEST_F(Keys, AreShownInMenusAndInAWindowThatPauses) {
   EXPECT_EQ(entries.join("|"), "&Rules...F1|&Keys...|&About...");
   help->actions()[1]->trigger();
   input::Settle();
-  EXPECT_TRUE(game.IsPaused());
+  EXPECT_TRUE(game.standing.IsPaused());
   auto* table = window.findChild<QTableWidget*>();
   ASSERT_TRUE(table);
   EXPECT_EQ(table->rowCount(), std::ssize(front.GuideOf(game)->Keys()));
   Press(Qt::Key_Escape);
-  EXPECT_FALSE(game.IsPaused());
+  EXPECT_FALSE(game.standing.IsPaused());
   EXPECT_EQ(Focus(), "canvas");
 
   Amid([this] { Press(Qt::Key_F1); },
@@ -341,7 +341,7 @@ TEST_F(Keys, ShowWhereTheyAre) {
     }
     Game().Discard();
     suite.common.selector->Show();
-    suite.common.GameInProgress = false;
+    Game().standing.End();
     input::Settle();
   }
 }

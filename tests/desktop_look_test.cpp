@@ -328,7 +328,7 @@ bool Write(Form& form, const Longest& longest) {
 void EndRound(GameWindow& game) {
   auto* handgrid = dynamic_cast<frmHandgrid*>(&game);
   if (!handgrid) return player::Click(game.cmdTakeScore);
-  game.common.TakingScore = false;
+  game.standing.InputLives();
   for (int cell = 0; cell < modHandgrid::kCells; ++cell) player::Click(handgrid->PlayCards(cell));
 }
 
@@ -365,7 +365,7 @@ TEST_F(Look, GamesStandAtEverySize) {
         game.lblMessage.Left = left;
         game.lblMessage.Top = top;
       };
-      suite.common.TakingScore = false;  // the selector's timer would have seen to it
+      game.standing.InputLives();  // the selector's timer would have seen to it
       player::Click(game.cmdPlay);
       where = " in play";
       Check(game);
@@ -416,9 +416,9 @@ TEST_F(Look, GamesStandAtEverySize) {
       EndRound(game);
       suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
       front.platform.Dispatch(game.Timer1.OnTimer);  // time is up
-      for (int round = 3; round <= 4 && suite.common.GameInProgress; ++round) EndRound(game);
+      for (int round = 3; round <= 4 && game.standing.InGame(); ++round) EndRound(game);
       front.onPause = nullptr;
-      EXPECT_FALSE(suite.common.GameInProgress);
+      EXPECT_FALSE(game.standing.InGame());
       EXPECT_GE(said.size(), 5u);
       where = " after a game";
       Check(game);
@@ -472,7 +472,7 @@ TEST_F(Look, TreyshiftTellsWhatColumnsAndDecksBring) {
       for (const char* text : {"Flush!", "Deck Completion Bonus!", "Removing left over cards", "-20000",
                                "No more legal moves left!", "Game Over"})
         EXPECT_TRUE(said.contains(text)) << text;
-      EXPECT_FALSE(suite.common.GameInProgress);
+      EXPECT_FALSE(game.standing.InGame());
     }
     Close(game);
   }

@@ -84,7 +84,7 @@ TEST_F(ViewTest, ZoomEnlargesWindowsAndTheModelKeepsItsTwips) {
   GameWindow& game = OpenGame();
   EXPECT_EQ(WindowOf(game).size(), QSize(795, 600));
   input::Click(front, game.cmdPlay);  // where it stands now
-  ASSERT_TRUE(input::Await([&] { return game.InGame(); }));
+  ASSERT_TRUE(input::Await([&] { return game.standing.InGame(); }));
   auto& sumfall = static_cast<frmSumfall&>(game);
   const int before = sumfall.UpCardPicture.Picture;
   input::Press(WindowOf(game).Board(), QRectF(ModelRect(sumfall.PlayCardPicture)).center().toPoint() * 1.25);

@@ -277,7 +277,7 @@ TEST_F(Duopick, TheBonusRoundIsReachedByTheExactScore) {
     driver.Do(kPlayDuopick + "advance 45000\n");
     driver.common().CurrentScore = score;
     driver.Do("advance 45000\n" + (score < 80000 ? kEnterName : ""));
-    EXPECT_EQ(driver.common().GameInProgress, score == 80000);
+    EXPECT_EQ(driver.InGame(), score == 80000);
   }
 }
 

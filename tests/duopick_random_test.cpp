@@ -42,7 +42,7 @@ class DuopickAtRandom : public RandomPlayer {
     auto& game = static_cast<frmDuopick&>(window);
     const modCommon& common = suite_.common;
     const modDuopick::Board& board = game.board;
-    if (!common.GameInProgress) {
+    if (!game.standing.InGame()) {
       ASSERT_TRUE(game.cmdExit.Enabled);
       ASSERT_FALSE(game.lblMessage.Visible);
       for (int i = 0; i < modDuopick::kCards; ++i) {
@@ -50,12 +50,12 @@ class DuopickAtRandom : public RandomPlayer {
       }
       return;
     }
-    ASSERT_FALSE(common.TakingScore);
+    ASSERT_FALSE(game.standing.InputIsDead());
     ASSERT_TRUE(game.Timer4.Enabled);
     ASSERT_EQ(game.lblCurrentScore.Caption, FormatNumber(common.CurrentScore));
     ASSERT_EQ(game.lblScorePairs.Caption, std::to_string(board.PairsCount));
     ASSERT_EQ(game.lblScoreRuns.Caption, std::to_string(board.RunsCount));
-    const bool paused = game.IsPaused();
+    const bool paused = game.standing.IsPaused();
     ASSERT_FALSE(board.RoundCompleted());
     ASSERT_EQ(game.lblCards.Caption, std::to_string(board.stack.size()));
     // Each card shows what lies there.

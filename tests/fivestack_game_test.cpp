@@ -219,7 +219,7 @@ TEST_F(Fivestack, TheBonusRoundIsReachedByTheExactScore) {
     const bool earned = score == 200000;
     EXPECT_EQ(Story(suite.Trace(kGiveUp + kEnterName)),
               "Busted, " + kTooLow + (earned ? "\"Prepare for Bonus Round!\", HighScore, 2000" : over));
-    EXPECT_EQ(suite.common().GameInProgress, earned);
+    EXPECT_EQ(suite.InGame(), earned);
     EXPECT_EQ(suite.Text(kWin + "Caption"), earned ? "Fivestack!: Round 4" : "Fivestack!: Game Over");
     if (earned) {
       EXPECT_EQ(Story(suite.Trace(kGiveUp + kEnterName)), "Busted, " + kTooLow + over);
@@ -292,17 +292,17 @@ TEST_F(Fivestack, ClosingPausesARunningGameAndRunsAPausedOne) {
   StartFivestack(driver, {"2S"});
   driver.Do("advance 1000\n" + close);
   EXPECT_EQ(driver.common().ElapsedSeconds, 1);
-  EXPECT_EQ(Game().phase, Phase::Playing);
+  EXPECT_TRUE(Game().standing.IsPlaying());
   driver.Do(kPauseFivestack + close);
   EXPECT_EQ(driver.common().ElapsedSeconds, 6) << "it ran behind the question";
-  EXPECT_EQ(Game().phase, Phase::Paused);
+  EXPECT_TRUE(Game().standing.IsPaused());
   // Behind the question the round may end, and be followed by the next, or by the end of the game.
   driver.Do("close frmFivestack\nadvance 54000\nanswer \"No\"");
-  EXPECT_EQ(Game().phase, Phase::Paused);
+  EXPECT_TRUE(Game().standing.IsPaused());
   EXPECT_EQ(Text("lblRound.Caption"), "Round: 2");
   EXPECT_FALSE(Is("Column1(0).Visible") || Is("cmdHit(0).Visible"));
   driver.Do(kPauseFivestack + kGiveUp + kPauseFivestack + "close frmFivestack\nadvance 60000\nanswer \"No\"");
-  EXPECT_FALSE(driver.common().GameInProgress);
+  EXPECT_FALSE(driver.InGame());
   driver.Do(kPlayFivestack + kGiveUp + kGiveUp + kPauseFivestack);
   driver.Do("close frmFivestack\nadvance 60000\nanswer \"Yes\"");
   EXPECT_FALSE(driver.common().window);
@@ -352,7 +352,7 @@ TEST_F(Fivestack, ADeckThatIsPassedThroughEndsTheGame) {
   const std::string told = driver.Do(kPass + "answer \"OK\"\n" + kEnterName);
   EXPECT_TRUE(Contains(told, R"({"text":"Subscript out of range","title":"Fivestack!","icon":"critical")"))
       << told;
-  EXPECT_FALSE(driver.common().GameInProgress);
+  EXPECT_FALSE(driver.InGame());
   EXPECT_EQ(Table().substr(0, 14), "Ann*, 145000\r\n");
   EXPECT_FALSE(Is("cmdHit(0).Visible") || Is("Column1(0).Visible") || Is("ScoringLabel.Visible"));
 }

@@ -43,15 +43,15 @@ class FivestackPlayer : public RandomPlayer {
     const modCommon& common = suite_.common;
     ASSERT_FALSE(game.ScoringLabelRoundTotal.Visible || game.ScoringLabelInfo.Visible ||
                  game.ScoringLabelOutline.Visible);
-    if (!common.GameInProgress) {
+    if (!game.standing.InGame()) {
       ASSERT_FALSE(game.frmScore.Visible || game.cmdHit(0).Visible || game.PlayCardPicture.Visible);
       ASSERT_EQ(game.CurrentRound, 0);
       return;
     }
-    ASSERT_FALSE(common.TakingScore);
+    ASSERT_FALSE(game.standing.InputIsDead());
     ASSERT_TRUE(game.CurrentRound >= 1 && game.CurrentRound <= kBonusRound);
     ASSERT_EQ(game.lblTotalScore.Caption, FormatNumber(common.CurrentScore));
-    const bool paused = game.IsPaused();
+    const bool paused = game.standing.IsPaused();
     ASSERT_EQ(game.ScoringLabel.Visible, paused);
     long long sum = 0, laid = 0;
     for (int i = 0; i < kColumns; ++i) {  // one look a column: it is looked at two hundred thousand times

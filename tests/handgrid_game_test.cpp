@@ -232,14 +232,14 @@ TEST_F(Handgrid, TheDialFollowsTheFigureBySecondTimer) {
 TEST_F(Handgrid, InputIsDeadUntilTheSelectorTicks) {
   StartHandgrid(driver, RichGrid());
   driver.Do(kFillGrid);
-  EXPECT_TRUE(driver.common().TakingScore);
+  EXPECT_TRUE(driver.common().window->standing.InputIsDead());
   const std::string dead =
       ClickCell(0) + kPlayHandgrid + "click frmHandgrid.mnuPlay\n" + kPause +
       "click frmHandgrid.mnuPause\nclick frmHandgrid.cmdQuit\nclick frmHandgrid.mnuExit\n";
   EXPECT_EQ(driver.Trace(dead), "ok\nok\nok\nok\nok\nok\nok\n");
   EXPECT_EQ(Story(driver.Trace("click frmHandgrid.CardStackPicture")), "Chord");  // has nothing to fear
   driver.Do("advance 0");  // a tick has waited since the count
-  EXPECT_FALSE(driver.common().TakingScore);
+  EXPECT_FALSE(driver.common().window->standing.InputIsDead());
   driver.Do(ClickCell(0) + kPause);
   EXPECT_EQ(Caption("lblCards"), "Cards remaining: 50");
   EXPECT_EQ(Caption("cmdPause"), "&Resume");
@@ -283,7 +283,7 @@ TEST_F(Handgrid, TheBonusRoundIsReachedByTheExactScore) {
     suite.Do(kOpenHandgrid + kPlayHandgrid + "advance 75000\nadvance 75000\n");
     suite.common().CurrentScore = score;
     suite.Do("advance 75000\n" + (score < 100000 ? kEnterName : ""));
-    EXPECT_EQ(suite.common().GameInProgress, score == 100000);
+    EXPECT_EQ(suite.InGame(), score == 100000);
     EXPECT_EQ(suite.Text(kWin + "lblRound.Caption"), score == 100000 ? "Bonus Round" : "Round: 3");
   }
 }
@@ -308,7 +308,7 @@ TEST_F(Handgrid, TheClockRunsOutUnderTheClosingQuestion) {
   StartHandgrid(driver, {});
   driver.Do("advance 70000\nclose frmHandgrid\nadvance 6000\nanswer \"No\"");
   EXPECT_EQ(Caption("lblRound"), "Round: 2");
-  EXPECT_TRUE(driver.common().GameInProgress);
+  EXPECT_TRUE(driver.InGame());
   // The game may end so: the question still stands, behind the table.
   driver.Do("advance 75000\nadvance 70000");
   driver.common().CurrentScore = 50000;
@@ -318,7 +318,7 @@ TEST_F(Handgrid, TheClockRunsOutUnderTheClosingQuestion) {
   EXPECT_EQ(Caption("cmdPlay"), "&Play");
   Are(true, {"Timer2.Enabled", "Visible"});  // the dial was full while the name was entered
   driver.Do(kPlayHandgrid);
-  EXPECT_TRUE(driver.common().GameInProgress);
+  EXPECT_TRUE(driver.InGame());
 }
 
 // What outgrows 32 bits: the game is over, its score goes to the table, the next game is a clean one.

@@ -18,7 +18,7 @@ class HandgridPlayer : public RandomPlayer {
  private:
   std::string AtTheTable(GameWindow& window) override {
     auto& game = static_cast<frmHandgrid&>(window);
-    if (suite_.common.TakingScore && Chance(50)) return "advance 0";
+    if (game.standing.InputIsDead() && Chance(50)) return "advance 0";
     if (Chance(2)) return "click frmHandgrid.CardStackPicture";
     if (Chance(80))
       for (int cell = 0; cell < modHandgrid::kCells; ++cell)
@@ -35,14 +35,14 @@ class HandgridPlayer : public RandomPlayer {
     const modCommon& common = suite_.common;
     ASSERT_TRUE(game.Timer2.Enabled);
     ASSERT_FALSE(game.ScoringLabel.Visible || game.ScoringLabelOutline.Visible);
-    if (!common.GameInProgress) {
+    if (!game.standing.InGame()) {
       ASSERT_FALSE(game.PlayCards(0).Visible || game.HoleCard.Visible || game.Surface.Visible);
       return;
     }
     bonusRounds += game.CurrentRound == 4;
     ASSERT_EQ(game.lblCurrentScore.Caption, FormatNumber(common.CurrentScore));
     if (game.DeckPosition == 2 && common.ElapsedSeconds == 0) CheckDeck(game);
-    const bool looks = !game.IsPaused() && Chance(10);  // looking at each card takes time
+    const bool looks = !game.standing.IsPaused() && Chance(10);  // looking at each card takes time
     int empty = 0;
     for (const std::string& code : game.PlayedCards) empty += code.empty();
     for (int cell = 0; looks && cell < modHandgrid::kCells; ++cell) {

@@ -44,17 +44,17 @@ class RandomPlayer {
   // True for every game: nothing is left of a count, the clock runs when a game does, the captions agree.
   void CheckFrame(const GameWindow& game) {
     const modCommon& common = suite_.common;
-    ASSERT_NE(game.phase, Phase::Scoring);
-    if (!common.GameInProgress) {
+    ASSERT_FALSE(game.standing.IsBusy());
+    if (!game.standing.InGame()) {
       ASSERT_TRUE(game.frmSplash.Visible);
       ASSERT_FALSE(game.Timer1.Enabled || game.lblScoring.Visible);
-      ASSERT_TRUE(game.IsPaused() || game.cmdPlay.Enabled);
+      ASSERT_TRUE(game.standing.IsPaused() || game.cmdPlay.Enabled);
       return;
     }
     ASSERT_FALSE(game.frmSplash.Visible);
     const bool minimised = game.WindowState == window_state::kMinimised;  // may stop the clock
-    ASSERT_TRUE(minimised || game.Timer1.Enabled != game.IsPaused());
-    ASSERT_EQ(game.cmdPlay.Enabled, !game.IsPaused());
+    ASSERT_TRUE(minimised || game.Timer1.Enabled != game.standing.IsPaused());
+    ASSERT_EQ(game.cmdPlay.Enabled, !game.standing.IsPaused());
     ASSERT_GE(common.ElapsedSeconds, 0);
     ASSERT_LE(common.ElapsedSeconds, common.TimeLimit);
   }
@@ -115,16 +115,16 @@ class RandomPlayer {
   std::string InWindow(GameWindow& game) {
     const std::string window(game.name);
     const std::string play = "click " + game.cmdPlay.FullName(), pause = "click " + game.cmdPause.FullName();
-    if (!suite_.common.GameInProgress) {
-      if (game.IsPaused()) return "click " + game.mnuPause.FullName();
-      if (suite_.common.TakingScore) return "advance 250";  // the selector ends it
+    if (!game.standing.InGame()) {
+      if (game.standing.IsPaused()) return "click " + game.mnuPause.FullName();
+      if (game.standing.InputIsDead()) return "advance 250";  // the selector ends it
       if (Chance(25)) {
         ++games;
         return play;
       }
       return Chance(25) ? "click " + game.mnuCustom.FullName() : AnyEntry(game);
     }
-    if (game.IsPaused() && Chance(70)) return pause;
+    if (game.standing.IsPaused() && Chance(70)) return pause;
     const int what = Draw(1000);
     if (what < 10) return pause;
     if (what < 14) return AnyEntry(game);

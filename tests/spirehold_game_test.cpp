@@ -279,7 +279,7 @@ TEST_F(Spirehold, TheBonusRoundIsReachedByTheExactScore) {
     driver.Do(kPlaySpirehold + kTake);
     driver.common().CurrentScore = score;
     driver.Do("advance 45000\n" + (score < 40000 ? kEnterName : ""));
-    EXPECT_EQ(driver.common().GameInProgress, score == 40000);
+    EXPECT_EQ(driver.InGame(), score == 40000);
   }
 }
 

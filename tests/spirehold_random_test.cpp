@@ -31,18 +31,18 @@ class SpireholdAtRandom : public RandomPlayer {
   void Check(GameWindow& window) override {
     auto& game = static_cast<frmSpirehold&>(window);
     const modCommon& common = suite_.common;
-    if (!common.GameInProgress) {
+    if (!game.standing.InGame()) {
       ASSERT_TRUE(game.cmdExit.Enabled);
       ASSERT_FALSE(game.lblMessage.Visible);
       return;
     }
-    ASSERT_FALSE(common.TakingScore);
+    ASSERT_FALSE(game.standing.InputIsDead());
     ASSERT_EQ(game.lblCurrentScore.Caption, FormatNumber(common.CurrentScore));
     const modSpirehold::Board& board = game.board;
     ASSERT_EQ(game.lblCards.Caption, std::to_string(board.stack.size()));
     ASSERT_EQ(game.lblCurrentRun.Caption, "Current Run: " + std::to_string(board.CurrentRun));
     ASSERT_EQ(game.lblHighRun.Caption, "Highest Run: " + std::to_string(board.HighestRun));
-    const bool paused = game.IsPaused();
+    const bool paused = game.standing.IsPaused();
     for (int card = 0; card < modSpirehold::kCards; ++card) {
       const Image& image = game.UpCardImage(card);
       const bool lies = !board.table[card].empty();

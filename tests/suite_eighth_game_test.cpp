@@ -32,7 +32,7 @@ class frmEighth : public GameWindow {
 
   void Play() override {
     if (!dealt) return;
-    common.GameInProgress = true;
+    standing.Begin();
     CurrentRound = 1;
     common.CurrentScore = 0;
     ShowScore();

@@ -46,7 +46,7 @@ class EveryGame : public ::testing::TestWithParam<std::string> {
 TEST_P(EveryGame, OpensInItsSplashState) {
   GameWindow& game = Game();
   EXPECT_EQ(game.Caption, driver.common().AppTitle);
-  EXPECT_EQ(game.phase, Phase::Idle);
+  EXPECT_TRUE(game.standing.CanStart());
   EXPECT_TRUE(game.frmSplash.Visible && game.Timer4.Enabled && game.ClockTimer.Enabled);
   EXPECT_FALSE(game.Timer1.Enabled || game.cmdPause.Enabled || game.mnuPause.Enabled ||
                game.lblMessage.Visible || game.lblScoring.Visible);
@@ -145,13 +145,13 @@ TEST_P(EveryGame, EachFieldOfTheDialogMarksTheTable) {
 TEST_P(EveryGame, PausesAndGoesOn) {
   driver.Do(Click(Game().mnuMusic) + Play() + "advance 2000");
   GameWindow& game = Game();
-  EXPECT_EQ(game.phase, Phase::Playing);
-  EXPECT_TRUE(driver.common().GameInProgress && game.Timer1.Enabled && !game.frmSplash.Visible);
+  EXPECT_TRUE(game.standing.IsPlaying());
+  EXPECT_TRUE(game.Timer1.Enabled && !game.frmSplash.Visible);
   EXPECT_EQ(game.cmdPlay.Caption, Plan().names.endGame);
   const std::string cards = driver.Do("dump " + Window());
   for (const Control* command : std::initializer_list<const Control*>{&game.cmdPause, &game.mnuPause}) {
     std::string said = driver.Trace(Click(*command));
-    EXPECT_EQ(game.phase, Phase::Paused);
+    EXPECT_TRUE(game.standing.IsPaused());
     EXPECT_EQ(game.lblMessage.Caption, "Game Paused");
     EXPECT_TRUE(game.lblMessage.Visible && !game.Timer1.Enabled && !game.cmdPlay.Enabled);
     EXPECT_EQ(game.cmdPause.Caption.get() + game.mnuPause.Caption.get(), "&Resume&Resume");
@@ -159,7 +159,7 @@ TEST_P(EveryGame, PausesAndGoesOn) {
     driver.Do("advance 200000");
     EXPECT_EQ(driver.common().ElapsedSeconds, 2);
     said = driver.Trace(Click(*command));
-    EXPECT_EQ(game.phase, Phase::Playing);
+    EXPECT_TRUE(game.standing.IsPlaying());
     EXPECT_FALSE(game.lblMessage.Visible);
     EXPECT_EQ(game.lblMessage.Caption, "");
     EXPECT_EQ(game.cmdPause.Caption, Plan().names.pause);
@@ -177,23 +177,26 @@ TEST_P(EveryGame, DialogsStopARunningGameAndNoOther) {
   const std::pair<const Menu*, const char*> dialogs[] = {{&game.mnuRules, "click frmRules.cmdOK"},
                                                          {&game.mnuAbout, "click frmAbout.cmdCoolDude"},
                                                          {&game.mnuView, "click frmHighScores.cmdDone"}};
-  std::vector<Phase> phases;
-  driver.meanwhile = [&] { phases.push_back(game.phase); };
-  const auto lookAtAll = [&](Phase during, Phase after) {
+  const auto stands = [&]() -> std::string {
+    return game.standing.IsPaused() ? "paused" : game.standing.IsPlaying() ? "playing" : "idle";
+  };
+  std::string seen;
+  driver.meanwhile = [&] { seen += stands(); };
+  const auto lookAtAll = [&](const std::string& during, const std::string& after) {
     for (const auto& [entry, done] : dialogs) {
       const long long seconds = driver.common().ElapsedSeconds;
-      phases.clear();
+      seen.clear();
       driver.Do(Click(*entry) + "advance 5000\n@\n" + done);
-      EXPECT_EQ(phases, std::vector<Phase>{during});
-      EXPECT_EQ(game.phase, after);
+      EXPECT_EQ(seen, during);
+      EXPECT_EQ(stands(), after);
       EXPECT_EQ(driver.common().ElapsedSeconds, seconds);
     }
   };
-  lookAtAll(Phase::Idle, Phase::Idle);
+  lookAtAll("idle", "idle");
   driver.Do(Play() + "advance 1000");
-  lookAtAll(Phase::Paused, Phase::Playing);
+  lookAtAll("paused", "playing");
   driver.Do(Click(game.cmdPause));
-  lookAtAll(Phase::Paused, Phase::Paused);
+  lookAtAll("paused", "paused");
 }
 
 TEST_P(EveryGame, TheRulesNameTheTimeLimit) {
@@ -212,15 +215,15 @@ TEST_P(EveryGame, EndGameAsksAndNoGoesOn) {
   const std::string tip = Game().cmdPlay.ToolTipText;
   std::string said = driver.Do(Play() + "answer \"No\"");
   EXPECT_EQ(BoxesOf(said).size(), 1u);
-  EXPECT_EQ(Game().phase, Phase::Playing);
+  EXPECT_TRUE(Game().standing.IsPlaying());
   EXPECT_EQ(Game().cmdPlay.ToolTipText, tip);
-  EXPECT_TRUE(Game().Timer1.Enabled && driver.common().GameInProgress);
+  EXPECT_TRUE(Game().Timer1.Enabled && driver.InGame());
   said = driver.Do(Play() + "answer \"Yes\"\n" + "close frmHiScoreName\nclose frmHighScores");
-  EXPECT_FALSE(Game().InGame() || driver.common().GameInProgress || Game().Timer1.Enabled);
+  EXPECT_FALSE(driver.InGame() || Game().Timer1.Enabled);
   EXPECT_TRUE(Game().frmSplash.Visible && Game().Timer4.Enabled && Game().cmdPlay.Enabled);
   EXPECT_EQ(Game().cmdPlay.Caption, "&Play");
   driver.Do(Play() + "advance 1000");
-  EXPECT_EQ(Game().phase, Phase::Playing) << "another game can be played";
+  EXPECT_TRUE(Game().standing.IsPlaying()) << "another game can be played";
   EXPECT_EQ(driver.common().CurrentScore, 0);
 }
 
@@ -232,7 +235,7 @@ TEST_P(EveryGame, ClosingAsksAndNoGoesOn) {
   EXPECT_EQ(Joined(BoxesOf(said)), "Are you sure you want to quit now? Were just getting started!");
   said = driver.Do(Play() + "close " + Window() + "\nanswer \"No\"");
   EXPECT_EQ(Joined(BoxesOf(said)), "You have a game in progress. Are you sure you want to quit now?");
-  EXPECT_EQ(Game().phase, Phase::Playing);
+  EXPECT_TRUE(Game().standing.IsPlaying());
   // A minimised window closes too, and comes back as it was.
   driver.Do("state " + Window() + " 1");
   driver.Do("close " + Window() + "\nanswer \"Yes\"");
@@ -250,13 +253,13 @@ TEST_P(EveryGame, TimeOutLeadsToTheTableInTheEnd) {
   driver.Do(Click(Game().mnuMusic) + "click " + Window() + "." + Plan().limits.front().menu);
   folder.Write(Table(Plan().tables.final), "Low, -99999\r\n\r\n");
   driver.Do(Play());
-  for (int round = 0; round < 5 && driver.common().GameInProgress; ++round) {
+  for (int round = 0; round < 5 && driver.InGame(); ++round) {
     const std::string said = driver.Do("advance " + std::to_string(Plan().limits.front().seconds * 1000) +
                                        "\nadvance 2000\n" + name + "click frmHighScores.cmdDone");
     EXPECT_TRUE(BoxesOf(said).empty()) << said;
   }
-  EXPECT_FALSE(driver.common().GameInProgress);
-  EXPECT_EQ(Game().phase, Phase::Over);
+  EXPECT_FALSE(driver.InGame());
+  EXPECT_TRUE(Game().standing.IsOver());
   EXPECT_TRUE(Game().frmSplash.Visible && Game().cmdPlay.Enabled && Game().cmdExit.Enabled);
   EXPECT_FALSE(Game().Timer1.Enabled || Shown(Game().lblMessage) || Game().cmdPause.Enabled);
   EXPECT_TRUE(Contains(folder.Read(Table(Plan().tables.final)), "Ann, "));
@@ -272,10 +275,10 @@ TEST_P(EveryGame, AFailureInPlayEndsTheGameAndNotTheProgram) {
   const std::string said = driver.Do("advance 300\nanswer \"OK\"\nclose frmHiScoreName\nclose frmHighScores");
   EXPECT_EQ(Joined(BoxesOf(said)), "Overflow");
   EXPECT_FALSE(Contains(said, "* end"));
-  EXPECT_FALSE(driver.common().GameInProgress || Game().InGame() || Game().Timer1.Enabled);
+  EXPECT_FALSE(driver.InGame() || Game().Timer1.Enabled);
   EXPECT_EQ(Game().MousePointer, kDefaultPointer);
   driver.Do(Play() + "advance 1000");
-  EXPECT_EQ(Game().phase, Phase::Playing);
+  EXPECT_TRUE(Game().standing.IsPlaying());
 }
 
 TEST_P(EveryGame, NothingTicksWhileAFullDiskIsTold) {

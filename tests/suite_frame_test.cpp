@@ -200,7 +200,7 @@ TEST_F(Frame, EndGameAsksWithTheClockStanding) {
   EXPECT_EQ(Joined(LinesOf(said, "* mci ")),
             "\"close HarbekMidi\"|\"open \\\"\\\\Quillmark.MID\\\" type sequencer alias HarbekMidi\"|\"play "
             "HarbekMidi\"|\"close HarbekMidi\"");
-  EXPECT_FALSE(driver.common().GameInProgress);
+  EXPECT_FALSE(driver.InGame());
   EXPECT_EQ(Text("cmdPlay.Caption") + Text("cmdTakeScore.Caption") + Text("mnuTakeScore.Caption"),
             "&Play&Replay&Replay");
   EXPECT_EQ(Text("cmdTakeScore.ToolTipText") + "|" + Text("cmdPlay.ToolTipText"),
@@ -233,14 +233,15 @@ TEST_F(Frame, MenuPlayDiffersFromTheButton) {
   std::string said = driver.Trace("click frmSumfall.mnuMusic\nclick frmSumfall.mnuPlay");
   EXPECT_TRUE(LinesOf(said, "* mci ").empty()) << "no music";
   EXPECT_TRUE(Is("Timer4.Enabled") && Is("mnuSave.Enabled") && !Is("frmSplash.Visible"));
-  EXPECT_TRUE(driver.common().GameInProgress);
+  EXPECT_TRUE(driver.InGame());
   driver.Do("click frmSumfall.cmdPlay\nanswer \"Yes\"");
   driver.Do(kPlay);
   EXPECT_FALSE(Is("Timer4.Enabled") || Is("mnuSave.Enabled") || Is("mnuOpen.Enabled") ||
                Is("mnuTime.Enabled") || Is("mnuGoal.Enabled") || Is("mnuScoring.Enabled"));
   EXPECT_TRUE(Is("mnuDeck.Enabled") && Is("mnuViewHiScore.Enabled") && Is("mnuPause.Enabled"));
   // A caption that no game stands behind.
-  driver.common().GameInProgress = false;
+  driver.common().window->standing.End();
+  driver.common().window->standing.Hold();
   said = driver.Trace("click frmSumfall.mnuPlay");
   EXPECT_EQ(Joined(LinesOf(said, "* sleep ")), "2000");
   EXPECT_EQ(Text("lblMessage.Caption") + Text("lblMessage.Visible"),

@@ -61,8 +61,8 @@ TEST_P(Guided, WhatCanBePlayedIsTakenAndTheRestIsRefused) {
     Open(seed);
     driver->Do("click " + Game().cmdPlay.FullName());
     std::mt19937 chance(seed);
-    for (int step = 0; step < 120 && Game().phase == Phase::Playing; ++step) {
-      if (driver->common().TakingScore) driver->Do("advance 250");  // a round has just begun
+    for (int step = 0; step < 120 && Game().standing.IsPlaying(); ++step) {
+      if (Game().standing.InputIsDead()) driver->Do("advance 250");  // a round has just begun
       const std::vector<Spot> spots = guide->Spots();
       ASSERT_FALSE(spots.empty());
       std::vector<const Spot*> playable;
@@ -80,7 +80,7 @@ TEST_P(Guided, WhatCanBePlayedIsTakenAndTheRestIsRefused) {
       ++(isTaken ? taken : refused);
     }
     // Behind a pause nothing is played.
-    if (Game().phase != Phase::Playing) continue;
+    if (!Game().standing.IsPlaying()) continue;
     driver->Do("click " + Game().cmdPause.FullName());
     EXPECT_TRUE(guide->Paused());
     for (const Spot& spot : guide->Spots()) EXPECT_FALSE(spot.playable) << spot.text;

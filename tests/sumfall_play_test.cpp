@@ -292,7 +292,7 @@ TEST_F(Sumfall, TheBonusRoundNeedsTheWholeScore) {
     EXPECT_EQ(Text("lblCurrentRound.Caption"), "Bonus");
     common().CurrentScore = 500000;
     driver.Do(kTakeScore + name);
-    EXPECT_FALSE(common().GameInProgress) << "there is no fourth round";
+    EXPECT_FALSE(driver.InGame()) << "there is no fourth round";
     EXPECT_EQ(common().PreviousScore, 509000);
     EXPECT_TRUE(
         Contains(folder.Read("HiScores90_11.Txt"), "Unknown User, 509000\r\nUnknown User, 79999\r\n"));
@@ -360,7 +360,7 @@ TEST_F(Sumfall, AScoreBeyondAllNumbersEndsTheGameAndNotTheProgram) {
       driver.Do(kTakeScore + "answer \"OK\"\nclick frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone\n");
   EXPECT_EQ(LinesOf(said, "* msgbox ")[0],
             "{\"text\":\"Overflow\",\"title\":\"Sumfall!\",\"icon\":\"critical\",\"buttons\":[\"OK\"]}");
-  EXPECT_FALSE(common().GameInProgress || common().TakingScore);
+  EXPECT_FALSE(driver.InGame() || common().window->standing.InputIsDead());
   EXPECT_EQ(Text("cmdPlay.Caption") + Text("cmdPlay.Enabled") + Text("MousePointer"), "&Playtrue0");
   driver.Do(kPlay + "advance 1000");
   EXPECT_EQ(Text("lblTime.Caption"), "Time: 179");

@@ -33,7 +33,7 @@ class SumfallPlayer : public RandomPlayer {
             .score = suite_.common.CurrentScore,
             .combos = board.combinations,
             .round = game.CurrentRound,
-            .running = suite_.common.GameInProgress,
+            .running = game.standing.InGame(),
             .upCard = !board.upCards.empty()};
     s.onTable = static_cast<int>(s.stock + std::ssize(board.upCards));
     const auto select = [&](const std::string& code, int points) {
@@ -66,7 +66,7 @@ class SumfallPlayer : public RandomPlayer {
       if (board.field[i].empty()) continue;
       const int face = slot(board.field[i]), back = suite_.common.ImageList2("BACK");
       --left[face];
-      ASSERT_EQ(image.Picture, game.IsPaused() ? back : face) << "place " << i;
+      ASSERT_EQ(image.Picture, game.standing.IsPaused() ? back : face) << "place " << i;
     }
     ASSERT_EQ(game.UpCardSelectionRectangle.Visible, board.selected[kUpCard]);
     for (const auto* pile : {&board.upCards, &board.stock})

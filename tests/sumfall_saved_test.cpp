@@ -91,7 +91,7 @@ TEST(SumfallSaved, OpeningTellsTheStoryAndReplays) {
     EXPECT_EQ(driver.common().Deck[52], "10D");
     EXPECT_EQ(driver.Text("frmSumfall.FieldCardPicture(0).Picture"), "14");
     EXPECT_EQ(driver.Text("frmSumfall.cmdTakeScore.Caption"), "&Take Score");
-    EXPECT_TRUE(driver.common().GameInProgress);
+    EXPECT_TRUE(driver.InGame());
     driver.Do(kEndGame);
   }
 }
@@ -182,7 +182,7 @@ TEST(SumfallSaved, DamagedFilesAreToldAndChangeNothing) {
     const std::string said = driver.Do(OpenFile("g") + "answer \"OK\"\nclick frmOpen.cmdCancel");
     EXPECT_EQ(Joined(BoxesOf(said)), kDamaged) << text.substr(0, 60);
     EXPECT_TRUE(Contains(said, "\"title\":\"Sumfall!\",\"icon\":\"critical\""));
-    EXPECT_FALSE(driver.common().GameInProgress);
+    EXPECT_FALSE(driver.InGame());
     EXPECT_EQ(driver.common().Deck, deck);
     EXPECT_EQ(folder.Read("g.sfl"), text) << "a file that is only opened stays";
   }
@@ -214,12 +214,12 @@ TEST(SumfallSaved, WrongCardsCantBeDealt) {
       driver.Do(OpenFile("g") + "answer \"OK\"\n");
       said = driver.Do(kTakeScore + "answer \"OK\"\n");
       EXPECT_EQ(Joined(BoxesOf(said)), "Unable to deal the cards.");
-      EXPECT_FALSE(driver.common().GameInProgress);
+      EXPECT_FALSE(driver.InGame());
       EXPECT_EQ(driver.Text("frmSumfall.cmdPlay.Caption") + driver.Text("frmSumfall.cmdPlay.Enabled"),
                 "&Playtrue");
       EXPECT_TRUE(driver.Get("frmSumfall.frmSplash.Visible") == true);
       driver.Do(kPlay);
-      EXPECT_TRUE(driver.common().GameInProgress);
+      EXPECT_TRUE(driver.InGame());
       continue;
     }
     said = driver.Do(OpenFile("g") +
@@ -228,9 +228,9 @@ TEST(SumfallSaved, WrongCardsCantBeDealt) {
               "Unable to deal the cards.|Unknown Error! Unable to play Sumfall!")
         << kind;
     EXPECT_EQ(BoxesOf(said).size(), 4u) << "the window is unloaded, which asks";
-    EXPECT_FALSE(driver.common().GameInProgress);
+    EXPECT_FALSE(driver.InGame());
     driver.Do(kPlay);
-    EXPECT_TRUE(driver.common().GameInProgress) << "the suite can be used on";
+    EXPECT_TRUE(driver.InGame()) << "the suite can be used on";
   }
 }
 
@@ -254,7 +254,7 @@ TEST(SumfallSaved, DialogsFindFiles) {
   EXPECT_EQ(said[0], nlohmann::json(folder.Path().string()).dump());
   EXPECT_EQ(Joined({said.begin() + 1, said.end()}),
             "[\"..\",\"games\"]|[\"a.sfl\"]|[\"b.txt\"]|[\"..\",\"deep\"]|[\"c.SFL\"]|\"c.SFL\"");
-  EXPECT_TRUE(driver.common().GameInProgress);
+  EXPECT_TRUE(driver.InGame());
   driver.Do(kEndGame);
   const std::string cant =
       "Unable to save the file. Please verify that you have entered a valid path and file name.";
@@ -294,12 +294,12 @@ TEST(SumfallSaved, TheCommandLineOpensAGame) {
   EXPECT_EQ(BoxesOf(said).size(), 1u);
   EXPECT_TRUE(Contains(said, "\"name\":\"frmSelect\",\"visible\":false"));
   EXPECT_EQ(driver.common().Deck[1], "1S");
-  EXPECT_TRUE(driver.common().GameInProgress);
+  EXPECT_TRUE(driver.InGame());
   options.savedGame = "/no/such/file.sfl";
   Driver other(folder.Path(), options);
   said = other.Do(kOpenSumfall + "answer \"OK\"\n" + kPlay);
   EXPECT_EQ(Joined(BoxesOf(said)), kDamaged);
-  EXPECT_TRUE(other.common().GameInProgress);
+  EXPECT_TRUE(other.InGame());
 }
 
 // A game without cards closes the window that was just opening: the selector must not hide behind it.
@@ -320,7 +320,7 @@ TEST(SumfallSaved, AGameWithoutCardsLeavesAWindow) {
     EXPECT_EQ(driver.Text("frmSumfall.cmdPlay.Caption"), "&Play");
     EXPECT_TRUE(driver.Get("frmSumfall.frmSplash.Visible") == true);
     driver.Do(kPlay);
-    EXPECT_TRUE(driver.common().GameInProgress);
+    EXPECT_TRUE(driver.InGame());
   }
 }
 

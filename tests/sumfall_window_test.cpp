@@ -100,10 +100,10 @@ TEST(SumfallWindow, PointerShowsWhatCanBePlayed) {
   EXPECT_EQ(icon("PlayCardPicture"), 66);
   SumfallOf(driver).board.field[21].clear();
   EXPECT_EQ(icon("FieldCardPicture(19)"), 66);
-  SumfallOf(driver).phase = Phase::Over;
+  SumfallOf(driver).standing.GameOver();
   for (const char* control : {"FieldCardPicture(19)", "UpCardPicture", "PlayCardPicture"})
     EXPECT_EQ(icon(control), 0);
-  SumfallOf(driver).phase = Phase::Playing;
+  SumfallOf(driver).standing.Open();
   SumfallOf(driver).board.stock.clear();
   SumfallOf(driver).board.upCards.clear();
   for (const char* control : {"UpCardPicture", "PlayCardPicture"}) EXPECT_EQ(icon(control), 0);

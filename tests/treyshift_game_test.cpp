@@ -251,7 +251,7 @@ TEST_F(Treyshift, AScoreOfExactlyTheBonusScoreEarnsTheBonusRound) {
     driver.Do(kPlayTreyshift + kTakeTreyshift);
     driver.common().CurrentScore = score;
     driver.Do(kTakeTreyshift + (score < 100000 ? kName : ""));
-    EXPECT_EQ(driver.common().GameInProgress, score == 100000);
+    EXPECT_EQ(driver.InGame(), score == 100000);
   }
 }
 
@@ -312,7 +312,7 @@ TEST_F(Treyshift, ATickThatWaitsMayEndTheRoundFirst) {
   Game().CurrentRound = 3;
   EXPECT_EQ(Heard(Lay(0, 3) + kTakeTreyshift + kName),
             "Click x6, 250, HighScore, \"Times Up!\", Slide, 250 x10, \"Speed Bonus!\", \"Game Over\", 1000");
-  EXPECT_FALSE(driver.common().GameInProgress);
+  EXPECT_FALSE(driver.InGame());
 }
 
 // After the last round the commands are dead until the selector's tick; the menu isn't.
@@ -320,18 +320,18 @@ TEST_F(Treyshift, InputIsDeadUntilTheSelectorTicks) {
   driver.Do(kOpenTreyshift + kPlayTreyshift);
   Game().CurrentRound = 3;
   driver.Do(kTakeTreyshift);
-  driver.common().TakingScore = true;
+  Game().standing.InputDies();
   driver.Do(kPlayTreyshift + "click frmTreyshift.cmdQuit");
-  EXPECT_FALSE(driver.common().GameInProgress);
+  EXPECT_FALSE(driver.InGame());
   driver.Do("advance 250\n");
-  EXPECT_FALSE(driver.common().TakingScore);
-  driver.common().TakingScore = true;
+  EXPECT_FALSE(Game().standing.InputIsDead());
+  Game().standing.InputDies();
   driver.Do("click frmTreyshift.mnuPlay");
-  EXPECT_TRUE(driver.common().GameInProgress);
-  EXPECT_FALSE(driver.common().TakingScore);
-  driver.common().TakingScore = true;  // while a round is scored
+  EXPECT_TRUE(driver.InGame());
+  EXPECT_FALSE(Game().standing.InputIsDead());
+  Game().standing.InputDies();  // while a round is scored
   EXPECT_EQ(Heard(kUp + kTakeTreyshift + "click frmTreyshift.cmdPause\nclick frmTreyshift.mnuPause"), "");
-  EXPECT_TRUE(Game().CurrentRound == 1 && !Game().IsPaused());
+  EXPECT_TRUE(Game().CurrentRound == 1 && !Game().standing.IsPaused());
   EXPECT_EQ(Heard(Column(0)), "Chord");  // the columns don't ask
 }
 

@@ -54,8 +54,8 @@ class TreyshiftPlayer : public RandomPlayer {
 
   void Check(GameWindow& window) override {
     auto& game = static_cast<frmTreyshift&>(window);
-    if (!suite_.common.GameInProgress) return;
-    const bool paused = game.IsPaused();
+    if (!game.standing.InGame()) return;
+    const bool paused = game.standing.IsPaused();
     ASSERT_EQ(game.lblCurrentScore.Caption, FormatNumber(suite_.common.CurrentScore));
     ASSERT_EQ(game.lblRound.Caption, "Round: " + std::to_string(game.CurrentRound));
     ASSERT_GE(game.CurrentRound, 1);
@@ -108,7 +108,7 @@ class TreyshiftPlayer : public RandomPlayer {
     }
     ASSERT_EQ(slot.Picture, FaceOf(code)) << slot.FullName();
     ASSERT_EQ(slot.BorderStyle, 1) << slot.FullName();
-    ASSERT_NE(slot.Visible, game.IsPaused()) << slot.FullName();
+    ASSERT_NE(slot.Visible, game.standing.IsPaused()) << slot.FullName();
   }
 
   std::array<int, kLastFace + 1> seen_{};

@@ -5,7 +5,7 @@ using namespace modBlackrush;
 // --- A new game ----------------------------------------------------------------------------------
 
 void frmBlackrush::Play() {
-  common.TakingScore = false;
+  standing.InputLives();
   QuitRequested = false;
   ForgetTwentyOnes();
   CurrentRound = 1;
@@ -13,7 +13,7 @@ void frmBlackrush::Play() {
   common.CurrentScore = 0;
   ShowScore();
   PassesLeft = CardsToPass;
-  common.GameInProgress = true;
+  standing.Begin();
   EnablePause(true);
   mnuUserOptions.Enabled = false;
   mnuTimeLimit.Enabled = false;
@@ -40,7 +40,7 @@ void frmBlackrush::Play() {
 // --- Hit -----------------------------------------------------------------------------------------
 
 void frmBlackrush::cmdHit_Click(int index) {
-  if (common.TakingScore) return;
+  if (standing.InputIsDead()) return;
   const int total = GetHitTotal(index);
   if (total <= kTwentyOne) return LayCard(index, total);
   CheckForBust(index) ? Bust() : LayCard(index, total - 10);
@@ -155,7 +155,7 @@ void frmBlackrush::DeckCompleted() {
 // --- Pass ----------------------------------------------------------------------------------------
 
 void frmBlackrush::cmdPass_Click() {
-  if (common.TakingScore) return;
+  if (standing.InputIsDead()) return;
   PassesLeft -= 1;
   DeckPosition += 1;
   ShowCardsUsed(DeckPosition - 1);

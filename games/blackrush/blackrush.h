@@ -83,7 +83,7 @@ class frmBlackrush : public GameWindow {
   void BackToIdle() override;
   void Tick() override;
   void TimeIsUp() override;
-  bool TakesCommand() const override { return !common.TakingScore; }
+  bool TakesCommand() const override { return !standing.InputIsDead(); }
   bool EarnsBonusRound() const override { return common.CurrentScore > BonusScore; }
   void PauseGame() override;
   void ResumeGame() override;

@@ -251,7 +251,7 @@ void frmBlackrush::ShowMessage(const std::string& text, bool hold) {
   ScoringLabelInfo.Caption = text;
   SetVisible({&ScoringLabelInfo, &ScoringLabelOutline}, true);
   if (hold) return;
-  if (common.GameInProgress) {
+  if (standing.InGame()) {
     MousePointer = kHourglass;
     platform.Sleep(std::max(0, static_cast<int>(WaitPeriod)));
     MousePointer = kDefaultPointer;

@@ -9,7 +9,7 @@ using namespace modBlackrush;
 // The clock runs while a round is being paid, and more than a tick may come where events are let through: a
 // round that isn't open yet keeps its last second.
 void frmBlackrush::Tick() {
-  if (phase == Phase::Scoring && common.ElapsedSeconds + 1 >= common.TimeLimit) return;
+  if (standing.IsBusy() && common.ElapsedSeconds + 1 >= common.TimeLimit) return;
   GameWindow::Tick();
 }
 
@@ -22,13 +22,12 @@ void frmBlackrush::TimeIsUp() {
   lblTime.Caption = "Time:";
   Blink(ScoringLabelInfo, 10);
   cmdTakeScore_Click();
-  if (phase != Phase::Over) ScoringLabelInfo.Visible = false;
+  if (!standing.IsOver()) ScoringLabelInfo.Visible = false;
 }
 
 // The clock isn't stopped while the score is taken.
 void frmBlackrush::TakeScore() {
-  common.TakingScore = true;
-  phase = Phase::Scoring;
+  standing.Score();
   MousePointer = kHourglass;
   SetVisible({&ProgressBar1, &lblTwentyoneTime}, false);
   EnablePlayControls(false);
@@ -41,7 +40,7 @@ void frmBlackrush::TakeScore() {
   common.ElapsedSeconds = 0;
   ShowRound();
   NextRound();
-  if (common.GameInProgress) StartMusic();
+  if (standing.InGame()) StartMusic();
   MousePointer = kDefaultPointer;
 }
 
@@ -100,7 +99,6 @@ void frmBlackrush::EndCount() {
 
 // `CurrentRound` is that of the round to come; one above 4 ends the game.
 void frmBlackrush::NextRound() {
-  phase = Phase::Scoring;
   if (CurrentRound > plan.rounds + 1) Timer1.Enabled = false;
   platform.DoEvents();
   StopMusic();
@@ -148,7 +146,6 @@ void frmBlackrush::GameOver() {
   TellGameOver(ScoringLabelInfo);
   DeckPosition = 0;
   lblRound.Caption = "Game Over";
-  common.GameInProgress = false;
   SetPlayCaption("&Play");
   cmdPlay.ToolTipText = "Starts a new game";
   ShowMessage("Game Over", false);
@@ -164,12 +161,12 @@ void frmBlackrush::GameOver() {
 }
 
 void frmBlackrush::OpenBoard(bool over) {
-  phase = Phase::Scoring;
+  standing.Hold();
   platform.DoEvents();
-  common.TakingScore = false;
+  standing.InputLives();
   EnablePlayControls(true);
   EnablePause(!over);
-  phase = over ? Phase::Over : Phase::Playing;
+  over ? standing.GameOver() : standing.Open();
   if (!over) return;
   StatusBar1.Panels(1).Text = "Click on Play to start a new game  ";
   StatusBar1.Panels(2).Text = "Game Over ";
@@ -180,7 +177,7 @@ void frmBlackrush::OpenBoard(bool over) {
 // --- The end of a game before its time -----------------------------------------------------------
 
 void frmBlackrush::AfterEndQuestion(bool ends) {
-  if (!ends && common.GameInProgress) StartMusic();
+  if (!ends && standing.InGame()) StartMusic();
 }
 
 void frmBlackrush::EndGame() {
@@ -188,7 +185,7 @@ void frmBlackrush::EndGame() {
   lblTime.Caption = "Time:";
   CurrentRound = plan.rounds + 2;
   QuitRequested = true;
-  common.TakingScore = true;  // no card, no command until the board is in order
+  standing.Score();  // no card, no command until the board is in order
   NextRound();
 }
 

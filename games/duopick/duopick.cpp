@@ -38,9 +38,9 @@ void frmDuopick::Deal() {
 // --- Two by two ----------------------------------------------------------------------------------
 
 void frmDuopick::PlayCard_Click(int index) {
-  if (common.TakingScore) return;
+  if (standing.InputIsDead()) return;
   const int first = board.selected;
-  switch (BoardIsClosed() ? Outcome::Refused : board.Take(index)) {
+  switch (standing.BoardIsClosed() ? Outcome::Refused : board.Take(index)) {
     case Outcome::Refused:
       return Refuse();
     case Outcome::Selected:
@@ -122,7 +122,7 @@ void frmDuopick::Play() {
   CurrentRound = 1;
   common.CurrentScore = 0;
   ShowScore();
-  common.GameInProgress = true;
+  standing.Begin();
   frmSplash.Visible = false;
   InitRound();
 }
@@ -160,7 +160,7 @@ void frmDuopick::GameFinished() {
 void frmDuopick::EndGame() {
   mnuTime.Enabled = true;
   mnuCustom.Enabled = true;
-  common.GameInProgress = false;
+  standing.End();
   ClearSelectionRectangles();
   ShowCards(false);
   ShowControls(false, true);

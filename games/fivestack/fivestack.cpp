@@ -13,7 +13,7 @@ constexpr int kGreen = 49152;
 // --- Hit and Pass --------------------------------------------------------------------------------
 
 void frmFivestack::cmdHit_Click(int index) {
-  if (common.TakingScore) return;
+  if (standing.InputIsDead()) return;
   NextCardPicture.Visible = true;
   PlaySound("\\Click.wav");
   CalculateColumnValue(index);
@@ -147,7 +147,7 @@ void frmFivestack::SetOffer(Offer which) {
 
 void frmFivestack::LeaveIdle() {
   MousePointer = kHourglass;
-  common.TakingScore = false;
+  standing.InputLives();
   QuitRequested = false;
   ShowSplash(false);
   StatusBar1.Panels(2).Text = "Click on Hit buttons to create columns of 21!   ";
@@ -170,7 +170,7 @@ void frmFivestack::Play() {
   common.CurrentScore = 0;
   ShowScore();
   StartClock();
-  common.GameInProgress = true;
+  standing.Begin();
   StartMusic();
   MousePointer = kDefaultPointer;
 }
@@ -267,17 +267,16 @@ void frmFivestack::TimeIsUp() {
 // --- The end of a round --------------------------------------------------------------------------
 
 void frmFivestack::cmdGiveUp_Click() {
-  if (common.TakingScore) return;
+  if (standing.InputIsDead()) return;
   try {
-    common.TakingScore = true;
-    phase = Phase::Scoring;
+    standing.Score();
     Timer1.Enabled = false;
     MousePointer = kHourglass;
     CurrentRound += 1;
     offer == Offer::TakeScore ? TakeScore() : LoseRound();
     Reset();
     platform.DoEvents();
-    if (common.GameInProgress) EndRound(CurrentRound);
+    if (standing.InGame()) EndRound(CurrentRound);
     MousePointer = kDefaultPointer;
   } catch (const std::exception& error) {
     PlayFailed(error.what());
@@ -382,8 +381,8 @@ void frmFivestack::PrepareRound() {
   ShowHitButtons(true);
   ShowRoundControls(true);
   StartClock();
-  common.TakingScore = false;
-  phase = Phase::Playing;
+  standing.InputLives();
+  standing.Open();
   lblCurrentTotal.ForeColor = kRed;
 }
 
@@ -392,8 +391,7 @@ void frmFivestack::GameOver() {
     EnterHighScore();
     TellGameOver(ScoringLabel);
   }
-  common.GameInProgress = false;
-  phase = Phase::Over;
+  standing.GameOver();
   Caption = common.AppTitle + ": Game Over";
   lblRound.Visible = false;
   lblRound.Caption = "Round: 1";
@@ -424,7 +422,7 @@ void frmFivestack::BeforeEndQuestion() {
 
 void frmFivestack::AfterEndQuestion(bool ends) {
   QuitRequested = ends;
-  if (ends) common.GameInProgress = false;
+  if (ends) standing.GiveUp();
   ResumeGame();
 }
 
@@ -434,7 +432,7 @@ void frmFivestack::EndGame() {
 }
 
 void frmFivestack::GameFailed() {
-  if (IsPaused()) ResumeGame();
+  if (standing.IsPaused()) ResumeGame();
   StopMusic();
   ShowCards(false);
   ShowScoringLabel(false);
@@ -472,22 +470,21 @@ void frmFivestack::Minimised() {
 }
 
 void frmFivestack::Restored() {
-  if (phase != Phase::Playing) return;
+  if (!standing.IsPlaying()) return;
   Timer1.Enabled = true;
   StartMusic();
 }
 
 // Pause is clicked, whatever it does then: a game that was paused already runs behind the question.
 void frmFivestack::BeforeClosingQuestion() {
-  beforeClosing_.reset();
+  pausedBeforeClosing_.reset();
   if (!cmdPause.Enabled) return;
-  beforeClosing_ = phase;
+  pausedBeforeClosing_ = standing.IsPaused();
   Pause();
 }
 
 // The game may have come further meanwhile, or to its end.
 void frmFivestack::AfterClosingQuestion(bool closes) {
-  const auto before = beforeClosing_;
-  beforeClosing_.reset();
-  if (!closes && before && common.GameInProgress && phase != before) Pause();
+  const auto before = std::exchange(pausedBeforeClosing_, std::nullopt);
+  if (!closes && before && standing.InGame() && standing.IsPaused() != before) Pause();
 }

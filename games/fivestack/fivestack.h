@@ -134,6 +134,6 @@ class frmFivestack : public GameWindow {
   void ResizeColumnHeaders();
 
   Integer shownTotal_;  // in `lblCurrentTotal`
-  // Pause was clicked behind the closing question, and what was so before.
-  std::optional<Phase> beforeClosing_;
+  // Pause was clicked behind the closing question; and whether the game was paused before.
+  std::optional<bool> pausedBeforeClosing_;
 };

@@ -66,7 +66,7 @@ void frmHandgrid::Reset(bool endOfGame) {
 // --- Laying a card -------------------------------------------------------------------------------
 
 void frmHandgrid::PlayCards_Click(int index) {
-  if (common.TakingScore) return;
+  if (standing.InputIsDead()) return;
   RoundPoints = 0;
   const bool filled = !PlayedCards[index].empty();
   if (filled ? OverWritesUsed < OverWritesAllowed : HoleCount > 0) {
@@ -160,7 +160,7 @@ void frmHandgrid::ResetDial() {
 
 void frmHandgrid::Play() {
   MousePointer = kHourglass;
-  common.TakingScore = false;
+  standing.InputLives();
   CurrentRound = 1;
   common.CurrentScore = 0;
   ShowScore();
@@ -186,15 +186,14 @@ void frmHandgrid::Play() {
     ShowCards(true);
   }
   StartMusic();
-  common.GameInProgress = true;
+  standing.Begin();
   MousePointer = kDefaultPointer;
 }
 
-// Nothing can come in between, since all of it blocks; and `TakingScore` stays until the selector's next
+// Nothing can come in between, since all of it blocks; and input stays dead until the selector's next
 // tick, so that clicks that came meanwhile meet no new board.
 void frmHandgrid::NextRound(RoundEnd end) {
-  common.TakingScore = true;
-  phase = Phase::Scoring;
+  standing.Score();
   MousePointer = kHourglass;
   StopMusic();
   CurrentRound += 1;
@@ -263,7 +262,7 @@ void frmHandgrid::BeginNextRound() {
   RoundPoints = 0;
   ShowPointsEarned();
   StartMusic();
-  phase = Phase::Playing;
+  standing.Open();
 }
 
 // --- The end of a game ---------------------------------------------------------------------------
@@ -302,7 +301,7 @@ void frmHandgrid::BeforeEndQuestion() {
 }
 
 void frmHandgrid::AfterEndQuestion(bool ends) {
-  if (ends) common.GameInProgress = false;
+  if (ends) standing.GiveUp();
   ResumeGame();
 }
 

@@ -59,7 +59,7 @@ class frmHandgrid : public GameWindow {
   void SetDefaults() override;
   // The longest limit is kept, and not taken back.
   bool AcceptsLimit(int seconds) const override { return seconds != 120; }
-  bool TakesCommand() const override { return !common.TakingScore; }
+  bool TakesCommand() const override { return !standing.InputIsDead(); }
   void Tick() override;
   void ShowTimeLeft() override;
   void TimeIsUp() override;

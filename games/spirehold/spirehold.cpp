@@ -43,8 +43,8 @@ void frmSpirehold::Deal() {
 // --- Runs and towers -----------------------------------------------------------------------------
 
 void frmSpirehold::UpCardImage_Click(int index) {
-  if (common.TakingScore) return;
-  if (BoardIsClosed() || !board.Take(index)) return Refuse();
+  if (standing.InputIsDead()) return;
+  if (standing.BoardIsClosed() || !board.Take(index)) return Refuse();
   PlaySound("\\Markq.wav");
   UpCardPicture.Picture = UpCardImage(index).Picture;
   UpCardImage(index).Picture = 0;
@@ -79,8 +79,8 @@ void frmSpirehold::lblCurrentRun_Change() {
 }
 
 void frmSpirehold::CardStackPicture_Click() {
-  if (common.TakingScore) return;
-  if (BoardIsClosed()) return Refuse();
+  if (standing.InputIsDead()) return;
+  if (standing.BoardIsClosed()) return Refuse();
   MousePointer = kHourglass;
   const bool isUsedUp = board.stack.empty();
   board.TurnCard();
@@ -97,7 +97,7 @@ void frmSpirehold::UpCardPicture_Click() { Refuse(); }
 // --- Rounds --------------------------------------------------------------------------------------
 
 void frmSpirehold::Play() {
-  common.GameInProgress = true;
+  standing.Begin();
   CurrentRound = 1;
   common.CurrentScore = 0;
   ShowScore();

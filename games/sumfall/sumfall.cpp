@@ -79,7 +79,7 @@ bool frmSumfall::Deal(bool newGame) {
 // --- Selection and combinations ------------------------------------------------------------------
 
 void frmSumfall::FieldCardPicture_Click(int index) {
-  if (BoardIsClosed() || !board.Takes(index)) return Refuse();
+  if (standing.BoardIsClosed() || !board.Takes(index)) return Refuse();
   Shape& selection = FieldSelectionRectangle(index);
   if (board.Toggle(index)) {
     selection.Visible = true;
@@ -94,7 +94,7 @@ void frmSumfall::FieldCardPicture_Click(int index) {
 }
 
 void frmSumfall::UpCardPicture_Click() {
-  if (BoardIsClosed() || !board.Takes(kUpCard)) return Refuse();
+  if (standing.BoardIsClosed() || !board.Takes(kUpCard)) return Refuse();
   const bool selected = board.Toggle(kUpCard);
   PlaySound(selected ? "\\Markq.wav" : "\\Tick.wav");
   ShowTotal();
@@ -126,7 +126,7 @@ void frmSumfall::CheckTotal() {
 
 void frmSumfall::PlayCardPicture_Click() {
   const bool costs = !board.upCardUsed;
-  if (BoardIsClosed() || !board.CanTurn()) {
+  if (standing.BoardIsClosed() || !board.CanTurn()) {
     if (costs) Refuse();
     return;
   }
@@ -171,8 +171,8 @@ void frmSumfall::Play() {
     common.MsgBox("Unknown Error! Unable to play " + common.AppTitle, Icon::Critical, Buttons::OKCancel);
     return Unload();
   }
-  common.GameInProgress = true;
-  common.TakingScore = false;
+  standing.Begin();
+  standing.InputLives();
   lblHighScore.Visible = true;
   cmdTakeScore.Enabled = true;
   cmdTakeScore.Caption = "&Take Score";
@@ -194,8 +194,7 @@ void frmSumfall::BackToIdle() {
 }
 
 void frmSumfall::BeginScoring() {
-  common.TakingScore = true;
-  phase = Phase::Scoring;
+  standing.Score();
   Timer1.Enabled = false;
   MousePointer = kHourglass;
   StopMusic();
@@ -212,14 +211,14 @@ void frmSumfall::HideBoard() {
   ShowLowerCards(false);
 }
 
-// What was clicked during the count meets `TakingScore` in the pending events.
+// What was clicked during the count meets dead input in the pending events.
 void frmSumfall::PayAwards() {
   if (completed_) PayCompletionBonus();
   if (board.combinations != 0) PayCombinationBonus();
   lblCurrentElevens.ForeColor = kBlue;
   if (common.TimeLimit - common.ElapsedSeconds >= 1) PayTimeBonus();
   platform.DoEvents();
-  common.TakingScore = false;
+  standing.InputLives();
 }
 
 void frmSumfall::PayCompletionBonus() {
@@ -305,7 +304,7 @@ void frmSumfall::InitRound() {
     common.ShuffleDeck();
   }
   if (!Deal()) return BackToIdle();  // only the cards of a damaged saved game can't be dealt
-  phase = Phase::Playing;
+  standing.Open();
   lblMessage.Visible = false;
   EnableCommands(true);
   if (CurrentRound != kBonusRound) return;
@@ -323,7 +322,6 @@ void frmSumfall::GameOver() {
     FieldSelectionRectangle(i).Visible = false;
   }
   CurrentRound = 1;
-  common.GameInProgress = false;
   common.PreviousScore = common.CurrentScore;
   ShowLowerCards(false);
   mnuSave.Enabled = true;
@@ -365,7 +363,7 @@ void frmSumfall::EndScoring() {
 }
 
 void frmSumfall::EndGame() {
-  common.GameInProgress = false;
+  standing.End();
   ReplayPending = false;
   board.ClearField();
   board.combinations = 0;
@@ -395,10 +393,10 @@ void frmSumfall::EndGame() {
 // --- Commands ------------------------------------------------------------------------------------
 
 void frmSumfall::cmdPlay_Click() {
-  if (InGame()) return GameWindow::cmdPlay_Click();
+  if (!standing.CanStart()) return GameWindow::cmdPlay_Click();
   mnuSave.Enabled = false;
   GameWindow::cmdPlay_Click();
-  if (common.GameInProgress) StartMusic();
+  if (standing.InGame()) StartMusic();
 }
 
 std::string frmSumfall::EndGameQuestion() const {
@@ -407,12 +405,12 @@ std::string frmSumfall::EndGameQuestion() const {
 
 // Unlike the button, the entry leaves the splash timer and `mnuSave` alone and starts no music.
 void frmSumfall::mnuPlay_Click() {
-  if (!InGame()) {
+  if (standing.CanStart()) {
     cmdPlay.ToolTipText = "Ends the game in progress";
     SetPlayCaption("&End Game");
     frmSplash.Visible = false;
     StartGame();
-  } else if (common.GameInProgress) {
+  } else if (standing.InGame()) {
     AskToEndGame("You have a game in progress, are you sure you want to restart now?");
   } else {
     ShowMessage("Select your options and play again!");
@@ -432,7 +430,7 @@ void frmSumfall::AfterEndQuestion(bool ends) {
 }
 
 void frmSumfall::BeforeClosingQuestion() {
-  pausedForClosing_ = phase == Phase::Playing;
+  pausedForClosing_ = standing.IsPlaying();
   if (pausedForClosing_) PauseGame();
 }
 
@@ -445,13 +443,13 @@ void frmSumfall::cmdTakeScore_Click() { ReplayOrTakeScore(true); }
 void frmSumfall::mnuTakeScore_Click() { ReplayOrTakeScore(false); }
 
 void frmSumfall::ReplayOrTakeScore(bool fromButton) {
-  if (!InGame()) {
+  if (standing.CanStart()) {
     ReplayPending = true;
     cmdPlay_Click();
-  } else if (!common.TakingScore) {
+  } else if (!standing.InputIsDead()) {
     TakeScore();
     // The bonus round has started its music by itself.
-    if (fromButton && common.GameInProgress && CurrentRound != kBonusRound) StartMusic();
+    if (fromButton && standing.InGame() && CurrentRound != kBonusRound) StartMusic();
   }
 }
 

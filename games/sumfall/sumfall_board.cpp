@@ -169,14 +169,14 @@ void frmSumfall::SetUpGameMenus() {
 void frmSumfall::BindBoardEvents() {
   FieldCardPicture.OnClick([this](int index) { FieldCardPicture_Click(index); });
   FieldCardPicture.OnMouseMove([this](int index) {
-    const bool playable = phase != Phase::Over && board.CheckLegalFieldCardMove(index);
+    const bool playable = !standing.IsOver() && board.CheckLegalFieldCardMove(index);
     FieldCardPicture(index).MouseIcon = playable ? common.ImageList2("POINTER") : 0;
   });
   UpCardPicture.OnClick = [this] { UpCardPicture_Click(); };
   PlayCardPicture.OnClick = [this] { PlayCardPicture_Click(); };
   for (auto [image, pile] : {std::pair(&UpCardPicture, &board.upCards), {&PlayCardPicture, &board.stock}})
     image->OnMouseMove = [this, image, pile] {
-      const bool playable = !pile->empty() && phase != Phase::Over;
+      const bool playable = !pile->empty() && !standing.IsOver();
       image->MouseIcon = playable ? common.ImageList2("POINTER") : 0;
     };
   lblCurrentScore.OnChange = [this] {

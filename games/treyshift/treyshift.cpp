@@ -16,8 +16,8 @@ bool frmTreyshift::HasCard(const Image& slot) const { return slot.Picture != 0 &
 
 // The slots that show nothing stay where they are when the cards go.
 bool frmTreyshift::SlotsAreClosed() {
-  if (IsPaused()) Refuse();
-  return phase != Phase::Playing;
+  if (standing.IsPaused()) Refuse();
+  return !standing.IsPlaying();
 }
 
 // --- Selection -----------------------------------------------------------------------------------
@@ -47,7 +47,7 @@ void frmTreyshift::CancelSelection() {
 
 // A fan that is used up can be selected, too.
 void frmTreyshift::UpCard_Click(int index) {
-  if (common.TakingScore) return;
+  if (standing.InputIsDead()) return;
   if (index != kInPlay) return Refuse();
   if (!Selected) return Select(ZoneDeck, index);
   SourceZone == ZoneDeck ? CancelSelection() : Refuse();

@@ -73,7 +73,7 @@ class frmTreyshift : public GameWindow {
   void PlayFailed(const std::string& description) override;
   void InitRound() override;
   // Input is dead while a round is scored, and a quarter of a second after the last one.
-  bool TakesCommand() const override { return !common.TakingScore; }
+  bool TakesCommand() const override { return !standing.InputIsDead(); }
   void TimeIsUp() override;
   void ResetDial() override;
   // Ends the round, whoever asks for it.

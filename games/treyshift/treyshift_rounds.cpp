@@ -10,8 +10,8 @@ using namespace modTreyshift;
 // --- A round begins ------------------------------------------------------------------------------
 
 void frmTreyshift::Play() {
-  common.GameInProgress = true;
-  common.TakingScore = false;
+  standing.Begin();
+  standing.InputLives();
   CurrentRound = 1;
   common.CurrentScore = 0;
   InitRound();
@@ -34,9 +34,9 @@ void frmTreyshift::PlayFailed(const std::string& description) {
 
 // Nobody touches a round that isn't dealt yet: what was clicked meanwhile comes to nothing.
 void frmTreyshift::InitRound() {
-  phase = Phase::Scoring;
+  standing.Hold();
   platform.DoEvents();
-  common.TakingScore = false;
+  standing.InputLives();
   FieldCards.fill("");
   UpCards.fill("");
   TempCards.fill("");
@@ -78,7 +78,7 @@ void frmTreyshift::BeginRound() {
   ShowControls(true);
   ShowCards(true);
   ShowRoundTime();
-  phase = Phase::Playing;
+  standing.Open();
   StartMusic();
 }
 
@@ -119,15 +119,14 @@ void frmTreyshift::TimeIsUp() {
 void frmTreyshift::TakeScore() {
   const Integer round = CurrentRound;
   platform.DoEvents();
-  if (InGame() && IsPaused()) ResumeGame();  // too late for a pause
-  if (!common.GameInProgress || phase != Phase::Playing || CurrentRound != round) return;
-  common.TakingScore = true;
+  if (standing.IsPaused()) ResumeGame();  // too late for a pause
+  if (!standing.IsPlaying() || CurrentRound != round) return;
+  standing.Score();
   EndRound();
   platform.DoEvents();
 }
 
 void frmTreyshift::EndRound() {
-  phase = Phase::Scoring;
   MousePointer = kHourglass;
   Timer1.Enabled = false;
   lblScoring.ForeColor = kBlue;
@@ -265,7 +264,7 @@ void frmTreyshift::BeforeEndQuestion() {
 }
 
 void frmTreyshift::AfterEndQuestion(bool ends) {
-  if (ends) common.GameInProgress = false;
+  if (ends) standing.GiveUp();
   ResumeGame();
 }
 
