@@ -81,7 +81,7 @@ void WholeGame(benchmark::State& state) {
     while (game.standing.InGame()) {
       for (int i = 0; i < modSumfall::kPlaces; ++i) clicks += Click(game.FieldCardPicture(i));
       clicks += Click(game.UpCardPicture);
-      if (!bench.suite->game.standing.InGame()) break;  // the button would play the game again
+      if (!game.standing.InGame()) break;  // the button would play the game again
       clicks += Click(game.board.stock.size() > 15 ? static_cast<Control&>(game.PlayCardPicture)
                                                    : game.cmdTakeScore);
     }
