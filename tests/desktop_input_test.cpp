@@ -92,22 +92,12 @@ class Input : public testing::Test {
     table.onA = nullptr;
     return table.log;
   }
-  // Does something from a timer as soon as `ready()`. What never becomes ready fails, and closes all boxes.
-  static void When(const std::function<bool()>& ready, const std::function<void()>& deed,
-                   int patience = 2000) {
-    QTimer::singleShot(1, qApp, [=] {
-      if (ready()) return deed();
-      if (patience > 0) return When(ready, deed, patience - 1);
-      ADD_FAILURE() << "waited in vain";
-      while (QWidget* box = QApplication::activeModalWidget()) box->close();
-    });
-  }
   static QMessageBox* Box() {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     return box && box->isVisible() ? box : nullptr;
   }
   static void AtNextBox(const std::function<void(QMessageBox&)>& deed) {
-    When([] { return Box() != nullptr; }, [deed] { deed(*Box()); });
+    input::When([] { return Box() != nullptr; }, [deed] { deed(*Box()); });
   }
   void PressAtNextBox(QMessageBox::StandardButton button) {
     AtNextBox([button](QMessageBox& box) { input::Press(*box.button(button), QPoint(5, 5)); });
@@ -346,12 +336,12 @@ TEST_F(Input, ABoxOutlivesTheWindowBehindIt) {
     const QPointer<QWidget> window = front.WindowOf(*game);
     game->onTick = [&] { hidden ? game->Hide() : game->Unload(); };
     const auto gone = [&] { return hidden ? !window->isVisible() : !window; };
-    When([&] { return Box() && gone(); },
-         [&] {
-           EXPECT_TRUE(Box()->isActiveWindow());
-           EXPECT_EQ(Box()->windowHandle()->transientParent(), front.WindowOf(table)->windowHandle());
-           input::Key(*Box(), Qt::Key_Return, {}, "\r");
-         });
+    input::When([&] { return Box() && gone(); },
+                [&] {
+                  EXPECT_TRUE(Box()->isActiveWindow());
+                  EXPECT_EQ(Box()->windowHandle()->transientParent(), front.WindowOf(table)->windowHandle());
+                  input::Key(*Box(), Qt::Key_Return, {}, "\r");
+                });
     EXPECT_EQ(front.platform.MsgBox("Sure?", "Ask", Icon::Question, Buttons::YesNo), Answer::Yes);
     EXPECT_TRUE(input::Await([&] { return QApplication::activeWindow() == front.WindowOf(table); }));
     game->Discard();
@@ -362,9 +352,10 @@ TEST_F(Input, ABoxOutlivesTheWindowBehindIt) {
   bool asked = false;
   AtNextBox([&](QMessageBox& box) {
     first = &box;
-    When([&] { return Box() && Box() != first; }, [&] { input::Key(*Box(), Qt::Key_Return, {}, "\r"); });
-    When([&] { return asked && Box() == first && QApplication::activeWindow() == first; },
-         [&] { input::Key(*first, Qt::Key_Escape); });
+    input::When([&] { return Box() && Box() != first; },
+                [&] { input::Key(*Box(), Qt::Key_Return, {}, "\r"); });
+    input::When([&] { return asked && Box() == first && QApplication::activeWindow() == first; },
+                [&] { input::Key(*first, Qt::Key_Escape); });
     front.platform.MsgBox("Second", "Ask");
     asked = true;
   });

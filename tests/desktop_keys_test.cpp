@@ -47,8 +47,7 @@ class Keys : public testing::Test {
   }
   // Does something that opens a box or a dialog, and `meanwhile` when that stands.
   void Amid(const std::function<void()>& opens, const std::function<void()>& meanwhile) {
-    QTimer::singleShot(30, [meanwhile] {
-      ASSERT_TRUE(QApplication::activeModalWidget());
+    input::WhenModal([meanwhile] {
       meanwhile();
       while (QWidget* left = QApplication::activeModalWidget()) left->close();
     });
@@ -291,7 +290,8 @@ TEST_F(Keys, GoBackToAFieldThatWasRefused) {
     field->setFocus(Qt::TabFocusReason);
     field->selectAll();
     Type(text);
-    QTimer::singleShot(30, [this] { Press(Qt::Key_Return); });  // the box
+    input::When([] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); },
+                [this] { Press(Qt::Key_Return); });
     Press(Qt::Key_Return);
     EXPECT_TRUE(field->hasFocus()) << name;
     EXPECT_EQ(field->selectedText(), text);

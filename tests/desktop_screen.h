@@ -4,6 +4,7 @@
 #include <QtTest/qtestkeyboard.h>
 #include <QtTest/qtestmouse.h>
 #include <dlfcn.h>
+#include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QTimer>
@@ -53,12 +54,33 @@ inline void Settle() {
 
 // Lets events come until `happened()`; false if it doesn't.
 inline bool Await(const std::function<bool()>& happened) {
-  for (int i = 0; i < 2000 && !happened(); ++i) {
+  constexpr int kPatience = 20'000;  // only a test that fails waits so long
+  for (int i = 0; i < kPatience && !happened(); ++i) {
     QEventLoop loop;
     QTimer::singleShot(1, &loop, &QEventLoop::quit);
     loop.exec();
   }
   return happened();
+}
+
+// Does something from a timer as soon as `ready()`. What never becomes ready fails, and closes all boxes.
+inline void When(const std::function<bool()>& ready, const std::function<void()>& deed,
+                 int patience = 20'000) {
+  QTimer::singleShot(1, qApp, [=] {
+    if (ready()) return deed();
+    if (patience > 0) return When(ready, deed, patience - 1);
+    ADD_FAILURE() << "waited in vain";
+    while (QWidget* box = QApplication::activeModalWidget()) box->close();
+  });
+}
+// Does something when a box or a dialog stands.
+inline void WhenModal(const std::function<void()>& deed) {
+  When(
+      [] {
+        const QWidget* modal = QApplication::activeModalWidget();
+        return modal && modal->isVisible();
+      },
+      deed);
 }
 
 // Qt's way in for input that waits in its queue is no public one: where it can't be found under that name the

