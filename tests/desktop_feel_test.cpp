@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QStyleHints>
+#include <QThread>
 
 #include "games/games.h"
 #include "suite/catalogue.h"
@@ -150,6 +151,7 @@ class Feel : public testing::Test {
       }
     } paints;
     Board().installEventFilter(&paints);
+    input::Settle();  // a window that was resized or shown is told so by events
     // Whatever waits to be painted is painted with it.
     const auto paint = [&](const QRect& part) {
       const int before = paints.count;
@@ -348,6 +350,16 @@ TEST_F(Feel, CardsAreSeenToMoveButAreThereAtOnce) {
   input::Click(front, form.Card);
   input::Settle();
   EXPECT_EQ(form.log, "card ");
+  // What sets out while others are on their way leaves nothing of them either.
+  for (int wait = 5; wait <= 50; wait += 5) {
+    SetVisible({&form.Card, &form.Pile}, true);
+    Do([&] { form.Card.Move(3600, 1100, 1065, 1455), form.Other.Move(900, 300, 1065, 1455); });
+    EXPECT_TRUE(LeavesNothing());
+    Do([&] { form.Other.Move(4200, 1500, 1065, 1455); });
+    QThread::msleep(static_cast<unsigned long>(wait));  // no frame is painted meanwhile
+    Do([&] { form.Card.Move(300, 1500, 1065, 1455); });
+    EXPECT_TRUE(LeavesNothing()) << wait;
+  }
   // Nothing goes on behind what stops it, and nothing is left of it.
   const std::function<void()> stops[] = {
       [&] { Do([&] {

@@ -114,7 +114,7 @@ void Motion::Settle() {
   changed_ = false;
   const bool known = !known_.empty() && size_ == canvas_.size() && canvas_.isVisible();
   size_ = canvas_.size();
-  now_ = clock_.elapsed();
+  GoOn();
   std::vector<Change> changes = TakeChanges();
   const long long before = std::exchange(score_, Score());
   if (!known) {
@@ -246,7 +246,7 @@ void Motion::Refuse(const Visual& control) {
   std::erase_if(pieces_, [&](const Piece& each) {
     return each.kind == Piece::Kind::Flash && each.control == &control;
   });
-  now_ = clock_.elapsed();
+  GoOn();
   const QRectF rect = DrawnRect(control, front_.pictures);
   Add({Piece::Kind::Flash, &control, {}, {}, rect, rect, now_});
 }
@@ -274,20 +274,19 @@ void Motion::Drop() {
   timer_.stop();
 }
 
+void Motion::GoOn() {
+  now_ = clock_.elapsed();
+  for (Piece& piece : pieces_) {
+    canvas_.Repaint(piece.painted);
+    piece.painted = Around(AreaOf(piece));
+    canvas_.Repaint(piece.painted);
+  }
+}
+
 void Motion::Step() {
   if (!IsOn()) return Drop();
-  now_ = clock_.elapsed();
-  std::erase_if(pieces_, [this](Piece& piece) {
-    canvas_.Repaint(piece.painted);
-    const bool ended = Progress(piece) >= 1;
-    if (ended) {
-      canvas_.Repaint(Around(piece.to));
-    } else if (const QRect area = Around(AreaOf(piece)); area != piece.painted) {
-      piece.painted = area;
-      canvas_.Repaint(area);
-    }
-    return ended;
-  });
+  GoOn();
+  std::erase_if(pieces_, [this](const Piece& piece) { return Progress(piece) >= 1; });
   if (pieces_.empty()) timer_.stop();
 }
 

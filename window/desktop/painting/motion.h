@@ -71,6 +71,8 @@ class Motion {
   const Image* Pile() const;
   void Add(Piece piece);
   void RemoveCards();
+  // Lets what moves come to where it is now. Wherever it may be painted next is painted anew after that.
+  void GoOn();
   void Step();
   double Progress(const Piece& piece) const;
   QRectF AreaOf(const Piece& piece) const;
