@@ -1,8 +1,10 @@
 // How fast Handgrid is without a screen: what a bot that plays it waits for.
 #include <benchmark/benchmark.h>
 
+#include "bench/board_moves.h"
 #include "bench/open_table.h"
 #include "games/handgrid/handgrid.h"
+#include "tests/handgrid_board_player.h"
 
 namespace {
 
@@ -19,7 +21,7 @@ void BM_CardClick(benchmark::State& state) {
   for (auto _ : state) {
     if (cell == modHandgrid::kCells - 1) {
       state.PauseTiming();
-      if (game.CardsRemaining != 51 - cell) state.SkipWithError("a card wasn't laid");
+      if (std::ssize(game.board.stack) != 51 - cell) state.SkipWithError("a card wasn't laid");
       game.Reset(false);
       game.Deal();
       cell = 0;
@@ -38,10 +40,11 @@ void BM_Overwrite(benchmark::State& state) {
   for (int cell = 0; cell < modHandgrid::kCells - 1; ++cell) player::Click(game.PlayCards(cell));
   int cell = 0;
   for (auto _ : state) {
-    game.OverWritesUsed = 0;
-    if (game.CardsRemaining == 1) {
-      game.CardsRemaining = 51;
-      game.DeckPosition = 1;
+    modHandgrid::Board& board = game.board;
+    board.overWritesUsed = 0;
+    if (board.stack.size() == 1) {
+      board.stack.insert(board.stack.end(), board.covered.begin(), board.covered.end());
+      board.covered.clear();
     }
     player::Click(game.PlayCards(cell));
     cell = (cell + 1) % (modHandgrid::kCells - 1);
@@ -66,6 +69,8 @@ void BM_WholeGame(benchmark::State& state) {
       benchmark::Counter(static_cast<double>(clicks), benchmark::Counter::kAvgIterations);
 }
 BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
+
+BENCHMARK(BM_BoardMoves<HandgridPlayer>);
 
 }  // namespace
 

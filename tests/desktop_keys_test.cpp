@@ -185,10 +185,10 @@ TEST_F(Keys, StandForPlacesWhereAGameHasDigits) {
   Type("3");
   EXPECT_EQ(Cursor(), &grid.PlayCards(10));
   Type("5");
-  EXPECT_FALSE(grid.PlayedCards[14].empty());
+  EXPECT_FALSE(grid.board.cells[14].empty());
   Type("4x44");  // another key between them, and it begins anew
-  EXPECT_FALSE(grid.PlayedCards[18].empty());
-  EXPECT_EQ(std::ranges::count_if(grid.PlayedCards, [](auto& card) { return !card.empty(); }), 2);
+  EXPECT_FALSE(grid.board.cells[18].empty());
+  EXPECT_EQ(std::ranges::count_if(grid.board.cells, [](auto& card) { return !card.empty(); }), 2);
   grid.Discard();
   suite.common.selector->Show();
   input::Settle();

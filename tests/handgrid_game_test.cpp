@@ -112,6 +112,14 @@ TEST_F(Handgrid, IsPlayedThroughToTheTable) {
   EXPECT_EQ(Caption("lblCurrentScore"), "0");
 }
 
+TEST(HandgridNames, StandOnTheLabels) {
+  std::string names;
+  for (int hand = 0; hand < modHandgrid::kHands; ++hand)
+    names += std::string(HandName(static_cast<modHandgrid::Hand>(hand))) + "|";
+  EXPECT_EQ(names,
+            "Nothing|1 Pair|2 Pair|3 of a kind|Straight|Flush|Full House|4 of a kind|St. Flush|Royal Flush|");
+}
+
 // --- Laying cards ----------------------------------------------------------------------------------
 
 TEST_F(Handgrid, CardsAreLaidOverOthersAsOftenAsAllowed) {
@@ -185,8 +193,8 @@ TEST_F(Handgrid, ADeckThatRunsOutEndsTheGame) {
   EXPECT_EQ(Number("HoleCard.Picture"), 13);
   EXPECT_EQ(driver.Trace(ClickCell(24)), "* sound \"\\\\Chord.wav\"\nok\n");  // no card for an empty cell
   driver.Do(ClickCell(7));
-  EXPECT_EQ(Game().PlayedCards[7], "");
-  EXPECT_EQ(Game().HoleCount, -1);
+  EXPECT_EQ(Game().board.cells[7], "");
+  EXPECT_EQ(Game().board.holeCount, -1);
   EXPECT_EQ(Number("PlayCards(7).Picture"), 13);
   const std::string told = driver.Do(ClickCell(8) + "answer \"OK\"");
   EXPECT_EQ(Joined(BoxesOf(told)), "Subscript out of range");
@@ -199,8 +207,8 @@ TEST_F(Handgrid, AHandNamedWithNoCardLeftIsHeardInTheNextRound) {
   Load("[Over Writes]\r\n100\r\n\r\n");
   driver.Do(kPlayHandgrid);
   for (int card = 1; card <= 51; ++card) driver.Do(ClickCell(0));
-  Game().PlayedCards[1] = Game().HoleCards(1);
-  Game().PlayedCards[1].back() = Game().PlayedCards[1].back() == 'S' ? 'H' : 'S';
+  std::string& beside = Game().board.cells[1] = Game().board.hole;
+  beside.back() = beside.back() == 'S' ? 'H' : 'S';
   EXPECT_EQ(Story(driver.Trace(ClickCell(0))), "TwentyOne, Chord");
   driver.Do("advance 74000");
   EXPECT_EQ(Story(driver.Trace("advance 1000")),

@@ -7,6 +7,8 @@
 #include "tests/random_player.h"
 #include "window/text.h"
 
+using namespace modHandgrid;
+
 namespace {
 
 class HandgridPlayer : public RandomPlayer {
@@ -21,13 +23,13 @@ class HandgridPlayer : public RandomPlayer {
     if (game.standing.InputIsDead() && Chance(50)) return "advance 0";
     if (Chance(2)) return "click frmHandgrid.CardStackPicture";
     if (Chance(80))
-      for (int cell = 0; cell < modHandgrid::kCells; ++cell)
-        if (game.PlayedCards[cell].empty()) {
+      for (int cell = 0; cell < kCells; ++cell)
+        if (game.board.cells[cell].empty()) {
           ++placed;
-          filled += cell == modHandgrid::kCells - 1;
+          filled += cell == kCells - 1;
           return ClickOn(cell);
         }
-    return ClickOn(Draw(modHandgrid::kCells));
+    return ClickOn(Draw(kCells));
   }
 
   void Check(GameWindow& window) override {
@@ -41,45 +43,46 @@ class HandgridPlayer : public RandomPlayer {
     }
     bonusRounds += game.CurrentRound == 4;
     ASSERT_EQ(game.lblCurrentScore.Caption, FormatNumber(common.CurrentScore));
-    if (game.DeckPosition == 2 && common.ElapsedSeconds == 0) CheckDeck(game);
+    const Board& board = game.board;
+    if (board.stack.size() == 51 && common.ElapsedSeconds == 0) CheckDeck(board);
     const bool looks = !game.standing.IsPaused() && Chance(10);  // looking at each card takes time
     int empty = 0;
-    for (const std::string& code : game.PlayedCards) empty += code.empty();
-    for (int cell = 0; looks && cell < modHandgrid::kCells; ++cell) {
-      const std::string& code = game.PlayedCards[cell];
+    for (const std::string& code : board.cells) empty += code.empty();
+    for (int cell = 0; looks && cell < kCells; ++cell) {
+      const std::string& code = board.cells[cell];
       const Image& image = game.PlayCards(cell);
       ASSERT_TRUE(image.Visible);
       ASSERT_EQ(image.Picture, common.ImageList2(code.empty() ? "EMPTY" : CardKey(code))) << cell;
       ASSERT_EQ(image.BorderStyle, code.empty() ? 0 : 1) << cell;
     }
     ASSERT_GT(empty, 0);
-    ASSERT_EQ(game.HoleCount, 1);
-    ASSERT_EQ(game.HoleCards(1), game.RoundDeck(game.DeckPosition - 1));
-    ASSERT_EQ(game.CardsRemaining, 52 - (game.DeckPosition - 1));
-    ASSERT_EQ(game.DeckPosition - 2, 25 - empty + game.OverWritesUsed);
-    ASSERT_LE(game.OverWritesUsed, game.OverWritesAllowed);
+    ASSERT_EQ(board.holeCount, 1);
+    ASSERT_FALSE(board.hole.empty());
+    ASSERT_EQ(51 - std::ssize(board.stack), 25 - empty + board.overWritesUsed);
+    ASSERT_EQ(std::ssize(board.covered), board.overWritesUsed);
+    ASSERT_LE(board.overWritesUsed, board.overWritesAllowed);
+    ASSERT_EQ(board.overWritesAllowed, game.OverWritesAllowed);
     ASSERT_EQ(game.lblTimeBonus.Caption, std::to_string(common.TimeLimit - common.ElapsedSeconds));
     if (looks) CheckHands(game);
   }
 
   // Each card is there once.
-  void CheckDeck(frmHandgrid& game) {
-    std::set<std::string> cards;
-    for (int slot = 1; slot <= modHandgrid::kDeckCards; ++slot) cards.insert(game.RoundDeck(slot));
+  static void CheckDeck(const Board& board) {
+    std::set<std::string> cards(board.stack.begin(), board.stack.end());
+    cards.insert(board.hole);
     ASSERT_EQ(cards.size(), 52u);
   }
 
   // What the labels say is what lies there, and adds up.
-  void CheckHands(frmHandgrid& game) {
-    modHandgrid::Grid grid = game.PlayedCards;
+  static void CheckHands(frmHandgrid& game) {
+    Board judged = game.board;
+    judged.EvaluateLines();
+    ASSERT_EQ(judged, game.board);
     long long points = 0;
-    for (auto* labels : {&game.lblRow, &game.lblCol}) {
-      const modHandgrid::LineHands hands = modHandgrid::EvaluateLines(grid);
-      for (int line = 1; line <= modHandgrid::kSide; ++line) {
-        ASSERT_EQ((*labels)(line).Caption, modHandgrid::HandName(hands[line - 1]));
-        points += game.Scores.Of(hands[line - 1]);
-      }
-      modHandgrid::TransposeCards(grid);
+    for (int line = 0; line < kLines; ++line) {
+      const Label& label = line < kSide ? game.lblRow(line + 1) : game.lblCol(line - kSide + 1);
+      ASSERT_EQ(label.Caption, HandName(judged.hands[line]));
+      points += game.Scores.Of(judged.hands[line]);
     }
     ASSERT_EQ(game.lblPointsEarned.Caption, "Points Earned: " + std::to_string(points));
   }

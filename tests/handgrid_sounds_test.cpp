@@ -10,11 +10,9 @@ using namespace modHandgrid;
 namespace {
 
 // The hands of all lines, rows first.
-std::vector<std::string> HandsOf(Grid grid) {
-  std::vector<std::string> names;
-  for (int turn = 0; turn < 2; ++turn, TransposeCards(grid))
-    for (const Hand hand : EvaluateLines(grid)) names.emplace_back(HandName(hand));
-  return names;
+auto HandsOf(Board& grid) {
+  grid.EvaluateLines();
+  return grid.hands;
 }
 
 }  // namespace
@@ -40,15 +38,15 @@ TEST(HandgridSounds, AHandIsHeardOnceAndTakesThePlaceOfTheClick) {
     for (int i = 0; i < kCells; ++i) cells[i] = i;
     if (game > 0) std::ranges::shuffle(cells, chance);
     cells.insert(cells.begin() + 20, {cells[3], cells[11], cells[19]});  // three overwrites
-    Grid grid;
+    Board grid;
     for (size_t i = 0; i + 1 < cells.size() && i < deck.size(); ++i) {
-      const std::vector<std::string> before = HandsOf(grid);
-      grid[cells[i]] = deck[i];
-      const std::vector<std::string> after = HandsOf(grid);
+      const auto before = HandsOf(grid);
+      grid.cells[cells[i]] = deck[i];
+      const auto after = HandsOf(grid);
       std::vector<std::string> expected;
       for (size_t line = 0; line < after.size(); ++line) {
         if (before[line] == after[line]) continue;
-        after[line] == HandName(Hand::Nothing) ? void(++lost) : expected.push_back("\"\\\\TwentyOne.wav\"");
+        after[line] == Hand::Nothing ? void(++lost) : expected.push_back("\"\\\\TwentyOne.wav\"");
       }
       hands += static_cast<int>(expected.size());
       if (expected.empty()) ++quiet, expected.push_back("\"\\\\Click.wav\"");

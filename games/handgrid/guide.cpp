@@ -10,12 +10,9 @@ class HandgridGuide : public GameGuide {
 
   std::vector<Spot> Spots() const override {
     std::vector<Spot> spots;
-    for (int cell = 0; cell < kCells; ++cell) {
-      const bool filled = !window_.PlayedCards[cell].empty();
-      const bool takes = filled ? window_.OverWritesUsed < window_.OverWritesAllowed : window_.HoleCount > 0;
-      Add(spots, window_.PlayCards(cell), takes, false,
+    for (int cell = 0; cell < kCells; ++cell)
+      Add(spots, window_.PlayCards(cell), window_.board.Takes(cell), false,
           "row " + std::to_string(cell / kSide + 1) + ", column " + std::to_string(cell % kSide + 1));
-    }
     Add(spots, window_.CardStackPicture, false, false, "stock");
     Add(spots, window_.HoleCard, false, false, "next card");
     return spots;
@@ -37,14 +34,14 @@ class HandgridGuide : public GameGuide {
   }
 
   std::string BoardState() const override {
+    const Board& board = window_.board;
     std::string hands;
-    for (int line = 1; line <= kSide; ++line) {
-      hands += " Row " + std::to_string(line) + " " + window_.lblRow(line).Caption.get() + ".";
-    }
-    for (int line = 1; line <= kSide; ++line)
-      hands += " Column " + std::to_string(line) + " " + window_.lblCol(line).Caption.get() + ".";
-    return "Next card " + SpokenPicture(window_.HoleCard.Picture) + ". " +
-           std::to_string(window_.OverWritesAllowed - window_.OverWritesUsed) + " overwrites left." + hands;
+    for (int line = 0; line < kLines; ++line)
+      hands += (line < kSide ? " Row " : " Column ") + std::to_string(line % kSide + 1) + " " +
+               HandName(board.hands[line]) + ".";
+    const int next = window_.common.ImageList2(board.hole.empty() ? "EMPTY" : CardKey(board.hole));
+    return "Next card " + SpokenPicture(next) + ". " + std::to_string(board.OverWritesLeft()) +
+           " overwrites left." + hands;
   }
 
  private:

@@ -1,7 +1,5 @@
 #include "games/handgrid/handgrid.h"
 
-#include <algorithm>
-
 #include "suite/dial.h"
 #include "suite/score_counter.h"
 
@@ -14,10 +12,7 @@ void frmHandgrid::Deal() {
   StackPicture = "FULL";
   RefreshPlayCard();
   CardStackPicture.Visible = true;
-  for (int slot = 1; slot <= kDeckCards; ++slot) RoundDeck(slot) = common.Deck.at(slot);
-  DeckPosition = 1;
-  HoleCount = 0;
-  CardsRemaining = kDeckCards;
+  board.Deal(common.Deck, OverWritesAllowed);
   ShowCardsRemaining();
   DrawNextCard();
   for (int line = 1; line <= kSide; ++line)
@@ -28,37 +23,29 @@ void frmHandgrid::Deal() {
 }
 
 void frmHandgrid::DrawNextCard() {
-  CardsRemaining -= 1;
-  if (CardsRemaining >= 0) {
+  if (board.Draw()) {
     if (!HandSoundPlayed) PlaySound("\\Click.wav");
     HandSoundPlayed = false;
     ShowCardsRemaining();
-    HoleCount += 1;
-    HoleCards(HoleCount) = RoundDeck(DeckPosition);
-    ShowFace(HoleCard, HoleCards(HoleCount));
+    ShowFace(HoleCard, board.hole);
   } else {
-    CardsRemaining = 0;
     PlaySound("\\Chord.wav");
   }
-  StackPicture = StackStage(kDeckCards - DeckPosition);
+  const size_t left = board.stack.size();
+  StackPicture = left > 25 ? "FULL" : left > 12 ? "HALF" : left > 0 ? "BACK" : "EMPTY";
   RefreshPlayCard();
-  DeckPosition += 1;
 }
 
 void frmHandgrid::Reset(bool endOfGame) {
   ShowSplash(endOfGame);
-  for (int i = 0; i < kCells; ++i) {
-    PlayedCards[i].clear();
-    PlayCards(i).Picture = common.ImageList2("EMPTY");
-  }
+  board.Clear();
+  for (int i = 0; i < kCells; ++i) PlayCards(i).Picture = common.ImageList2("EMPTY");
   for (int column = 0; column < kSide; ++column) StackColumn(column);
   if (!endOfGame) return;
   SetPlayCaption("&Play");
   mnuPause.Enabled = true;  // although there is nothing to pause
   cmdPause.Enabled = false;
   HoleCard.BorderStyle = 0;
-  DeckPosition = 0;
-  OverWritesUsed = 0;
   ShowOverWrites();
   for (int i = 0; i < kCells; ++i) PlayCards(i).BorderStyle = 0;
 }
@@ -68,63 +55,41 @@ void frmHandgrid::Reset(bool endOfGame) {
 void frmHandgrid::PlayCards_Click(int index) {
   if (standing.InputIsDead()) return;
   RoundPoints = 0;
-  const bool filled = !PlayedCards[index].empty();
-  if (filled ? OverWritesUsed < OverWritesAllowed : HoleCount > 0) {
-    if (filled) OverWritesUsed += 1;
+  if (board.Takes(index)) {
+    const bool filled = !board.cells[index].empty();
+    board.Overwrite(index);
     ShowOverWrites();
     PlayCards(index).BorderStyle = 1;
-    PlayCards(index).Picture = HoleCard.Picture;
-    PlayedCards[index] = HoleCards(HoleCount);
-    HoleCount -= 1;
+    PlayCards(index).Picture = common.ImageList2(board.hole.empty() ? "EMPTY" : CardKey(board.hole));
+    const auto before = board.hands;
+    board.Lay(index);
     if (!filled) StackColumn(index % kSide);
-    EvaluateGrid();
-    if (HoleCount > 0) {
-      ShowFace(HoleCard, HoleCards(HoleCount));
-      if (!HandSoundPlayed) PlaySound("\\Click.wav");
-    } else {
-      ShowEmpty(HoleCard);
-      DrawNextCard();
-    }
+    ShowHands(before);
+    ShowEmpty(HoleCard);
+    DrawNextCard();
   } else {
     Refuse();
   }
   ShowScore();
-  if (std::ranges::any_of(PlayedCards, &std::string::empty)) return;
+  if (!board.IsFull()) return;
   PlaySound("\\Wingame.wav");
   NextRound(RoundEnd::GridFull);
 }
 
-void frmHandgrid::EvaluateGrid() {
-  EvaluateLines(true);
-  TransposeCards(PlayedCards);
-  EvaluateLines(false);
-  TransposeCards(PlayedCards);
-}
-
-void frmHandgrid::EvaluateLines(bool isRows) {
-  const LineHands hands = modHandgrid::EvaluateLines(PlayedCards);
-  for (int line = 1; line <= kSide; ++line) {
-    const Hand hand = hands[line - 1];
+// The sound of a new hand takes the place of the next card's click, also if nobody hears it.
+void frmHandgrid::ShowHands(const std::array<Hand, kLines>& before) {
+  for (int line = 0; line < kLines; ++line) {
+    const Hand hand = board.hands[line];
     RoundPoints += Scores.Of(hand);
     ShowPointsEarned();
-    Label& label = isRows ? lblRow(line) : lblCol(line);
+    Label& label = line < kSide ? lblRow(line + 1) : lblCol(line - kSide + 1);
     label.Caption = HandName(hand);
+    if (hand != Hand::Nothing && hand != before[line]) {
+      PlaySound("\\TwentyOne.wav");
+      HandSoundPlayed = true;
+    }
     label.ForeColor = hand == Hand::Nothing ? kButtonText : kBlue;
   }
-}
-
-// The sound of a new hand takes the place of the next card's click, also if nobody hears it.
-void frmHandgrid::lblRow_Change(int line) {
-  if (lblRow(line).Caption == HandName(Hand::Nothing)) return;
-  PlaySound("\\TwentyOne.wav");
-  HandSoundPlayed = true;
-}
-
-void frmHandgrid::lblCol_Change(int line) {
-  CenterColumnLabel(line);
-  if (lblCol(line).Caption == HandName(Hand::Nothing)) return;
-  PlaySound("\\TwentyOne.wav");
-  HandSoundPlayed = true;
 }
 
 void frmHandgrid::CardStackPicture_Click() { Refuse(); }
@@ -172,7 +137,6 @@ void frmHandgrid::Play() {
   mnuCustom.Enabled = false;
   mnuPause.Enabled = true;
   cmdPause.Enabled = true;
-  OverWritesUsed = 0;
   ShowOverWrites();
   common.ElapsedSeconds = 0;
   ShowTimeLeft();
@@ -254,7 +218,6 @@ void frmHandgrid::BeginNextRound() {
   ShowCards(true);
   ShowControls(true, true);
   common.ElapsedSeconds = 0;
-  OverWritesUsed = 0;
   ShowTimeLeft();
   ShowOverWrites();
   ResetDial();

@@ -1,8 +1,18 @@
 // frmHandgrid: the window of Handgrid, what each click, tick and menu entry does.
 #pragma once
 
-#include "games/handgrid/rules.h"
+#include "games/handgrid/board.h"
 #include "suite/game_window.h"
+
+namespace modHandgrid {
+
+// What a game pays, asks and allows when nobody has changed it.
+inline constexpr int kTimeBonus = 1, kBonusScore = 100000, kOverWrites = 3;
+
+// What the labels call it.
+const char* HandName(Hand hand);
+
+}  // namespace modHandgrid
 
 class frmHandgrid : public GameWindow {
  public:
@@ -21,10 +31,7 @@ class frmHandgrid : public GameWindow {
   Label ScoringLabel{*this, "ScoringLabel"};
 
   // --- State -------------------------------------------------------------------------------------
-  modHandgrid::Grid PlayedCards;
-  modHandgrid::Slots RoundDeck, HoleCards;  // slot 0 of `RoundDeck` is never used
-  Integer DeckPosition, HoleCount;          // the next card to draw; cards in the hole
-  Integer CardsRemaining, OverWritesUsed;
+  modHandgrid::Board board;
   Long RoundPoints;                   // of all ten hands
   bool HandSoundPlayed = false;       // a hand was named: the next card comes without a click
   const char* StackPicture = "FULL";  // the key of what the stack shows
@@ -80,13 +87,9 @@ class frmHandgrid : public GameWindow {
 
   void DrawNextCard();
   void StackColumn(int column);
-  void EvaluateGrid();
-  void EvaluateLines(bool isRows);
-  void lblRow_Change(int line);
-  void lblCol_Change(int line);
-  void lblOverwrites_Change();
+  void ShowHands(const std::array<modHandgrid::Hand, modHandgrid::kLines>& before);
   void lblRound_Change();
-  void CenterColumnLabel(int line);
+  void lblCol_Change(int line);
 
   void ForfeitRound();
   void PayRound();

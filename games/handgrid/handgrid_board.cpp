@@ -84,6 +84,13 @@ constexpr Design kButtonDesign[] = {
 
 }  // namespace
 
+const char* modHandgrid::HandName(Hand hand) {
+  static constexpr const char* kNames[kHands] = {"Nothing",   "1 Pair",     "2 Pair",     "3 of a kind",
+                                                 "Straight",  "Flush",      "Full House", "4 of a kind",
+                                                 "St. Flush", "Royal Flush"};
+  return kNames[static_cast<int>(hand)];
+}
+
 frmHandgrid::frmHandgrid(modCommon& common) : GameWindow(common, kPlan) {
   constexpr HandScores standard{};
   const auto hand = [](const char* section, Long& score, long long points) {
@@ -151,11 +158,8 @@ void frmHandgrid::SetUpLabels() {
 void frmHandgrid::BindBoardEvents() {
   PlayCards.OnClick([this](int index) { PlayCards_Click(index); });
   CardStackPicture.OnClick = [this] { CardStackPicture_Click(); };
-  for (int line = 1; line <= kSide; ++line) {
-    lblRow(line).OnChange = [this, line] { lblRow_Change(line); };
-    lblCol(line).OnChange = [this, line] { lblCol_Change(line); };
-  }
-  lblOverwrites.OnChange = [this] { lblOverwrites_Change(); };
+  for (int line = 1; line <= kSide; ++line) lblCol(line).OnChange = [this, line] { lblCol_Change(line); };
+  lblOverwrites.OnChange = [this] { CenterIn(lblOverwrites, lblScore); };
   lblRound.OnChange = [this] { lblRound_Change(); };
   lblTimeBonus.OnChange = [this] { CenterTimeBonus(); };
   ScoringLabel.OnChange = [this] { CenterScoringLabel(); };
@@ -184,7 +188,7 @@ void frmHandgrid::PlaceBoard() {
     lblRow(line).Left = kRowLabelLeft + right;
     lblRow(line).Top = kRowLabelTop[line - 1] + down;
     lblCol(line).Top = kColumnLabelTop + down;
-    CenterColumnLabel(line);
+    lblCol_Change(line);
   }
   for (const Design& row : kButtonDesign) static_cast<Visual&>(*find(row.name)).Top = row.top + down;
   lblCurrentScore.Top = ScoreRectangle.Top + (ScoreRectangle.Height - lblCurrentScore.Height) / 2;
@@ -196,14 +200,9 @@ void frmHandgrid::PlaceBoard() {
 }
 
 // Under its column's card in the lowest row.
-void frmHandgrid::CenterColumnLabel(int line) { CenterIn(lblCol(line), PlayCards(line + 19)); }
+void frmHandgrid::lblCol_Change(int line) { CenterIn(lblCol(line), PlayCards(line + 19)); }
 
 void frmHandgrid::lblRound_Change() { lblRound.Left = Surface.Left + Surface.Width / 2 - lblRound.Width / 2; }
-
-void frmHandgrid::lblOverwrites_Change() {
-  CenterIn(lblOverwrites, lblScore);
-  lblOverwrites.ForeColor = lblOverwrites.Caption.get().ends_with(" 0") ? kRed : kBlue;
-}
 
 // Somewhat up and left of the dial's middle, from the dial's corner.
 void frmHandgrid::CenterTimeBonus() {
@@ -234,10 +233,10 @@ void frmHandgrid::ShowCards(bool visible) {
     image.Picture = common.ImageList2("EMPTY");
     image.Visible = visible;
     if (!visible) continue;
-    if (PlayedCards[i].empty())
+    if (board.cells[i].empty())
       image.BorderStyle = 0;
-    else if (image.BorderStyle == 1)
-      image.Picture = common.ImageList2(CardKey(PlayedCards[i]));
+    else
+      image.Picture = common.ImageList2(CardKey(board.cells[i]));
   }
   CardStackPicture.Visible = visible;
   HoleCard.Visible = visible;
@@ -247,7 +246,7 @@ void frmHandgrid::ShowCards(bool visible) {
 void frmHandgrid::StackColumn(int column) {
   for (const bool empty : {false, true})
     for (int i = kCells - kSide + column; i >= 0; i -= kSide)
-      if (PlayedCards[i].empty() == empty) PlayCards(i).ZOrder(1);
+      if (board.cells[i].empty() == empty) PlayCards(i).ZOrder(1);
 }
 
 void frmHandgrid::ShowControls(bool roundControls, bool frameControls) {
@@ -272,11 +271,13 @@ void frmHandgrid::SetAnnouncementFont(const char* name, int size) {
 }
 
 void frmHandgrid::ShowOverWrites() {
-  lblOverwrites.Caption = "Over Writes Remaining: " + std::to_string(OverWritesAllowed - OverWritesUsed);
+  const long long left = OverWritesAllowed - board.overWritesUsed;
+  lblOverwrites.Caption = "Over Writes Remaining: " + std::to_string(left);
+  lblOverwrites.ForeColor = left == 0 ? kRed : kBlue;
 }
 
 void frmHandgrid::ShowCardsRemaining() {
-  lblCards.Caption = "Cards remaining: " + std::to_string(CardsRemaining);
+  lblCards.Caption = "Cards remaining: " + std::to_string(board.stack.size());
 }
 
 void frmHandgrid::ShowPointsEarned() {
