@@ -1,8 +1,10 @@
 // How fast Blackrush is without a screen: what a bot that plays it waits for.
 #include <benchmark/benchmark.h>
 
+#include "bench/board_moves.h"
 #include "bench/open_table.h"
 #include "games/blackrush/blackrush.h"
+#include "tests/blackrush_board_player.h"
 
 namespace {
 
@@ -15,8 +17,8 @@ int BestColumn(const frmBlackrush& game) {
   int best = -1;
   long long most = 0;
   for (int i = 0; i < modBlackrush::kColumns; ++i) {
-    Column21 column = game.columns[i];
-    const int total = modBlackrush::GetHitTotal(column, game.common.Deck[game.DeckPosition]);
+    const Column21& column = game.board.columns[i];
+    const int total = column.TotalWith(game.board.Next());
     if (total > kTwentyOne && column.softAces == 0) continue;
     if (total > most) best = i, most = total;
   }
@@ -32,16 +34,16 @@ void BM_Hit(benchmark::State& state) {
   int card = 0;
   long long hits = 0;
   for (auto _ : state) {
-    game.DeckPosition = 20;
+    game.board.position = 20;
     game.common.CurrentScore = 0;
-    game.Bonus = 0;
-    game.TwentyOnes = 0;
-    game.common.Deck[20] = kCards[card];
+    game.board.ForgetTwentyOnes();
+    game.board.gone.clear();
+    game.board.deck[20] = kCards[card];
     card = (card + 1) % 8;
     player::Click(game.cmdHit(1));
     ++hits;
   }
-  if (game.columns[1].cards > 4 || hits == 0) state.SkipWithError("cards weren't laid");
+  if (game.board.columns[1].cards.size() > 4 || hits == 0) state.SkipWithError("cards weren't laid");
 }
 BENCHMARK(BM_Hit);
 
@@ -58,6 +60,8 @@ void BM_WholeGame(benchmark::State& state) {
   });
 }
 BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
+
+BENCHMARK(BM_BoardMoves<BlackrushBoardPlayer>);
 
 }  // namespace
 

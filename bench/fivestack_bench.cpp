@@ -1,8 +1,10 @@
 // How fast Fivestack is without a screen: what a bot that plays it waits for.
 #include <benchmark/benchmark.h>
 
+#include "bench/board_moves.h"
 #include "bench/open_table.h"
 #include "games/fivestack/fivestack.h"
+#include "tests/fivestack_board_player.h"
 
 namespace {
 
@@ -14,12 +16,12 @@ struct Table : OpenTable<frmFivestack> {
 
 // The fullest column that the next card doesn't ruin, or -1.
 int BestColumn(const frmFivestack& game) {
-  const int worth = GetCardValue(game.common.Deck, game.DeckPosition);
+  const Board& board = game.board;
+  const int worth = FaceWorth(board.Next());
   int best = -1;
   for (int i = 0; i < kColumns; ++i) {
-    const Column21& column = game.columns[i];
-    const bool fits = column.cards < kCardsOfColumn && column.total + worth <= kTwentyOne;
-    if (fits && (best < 0 || column.total > game.columns[best].total)) best = i;
+    const bool fits = board.Takes(i) && board.columns[i].total + worth <= kTwentyOne;
+    if (fits && (best < 0 || board.columns[i].total > board.columns[best].total)) best = i;
   }
   return best;
 }
@@ -29,17 +31,18 @@ void BM_HitClick(benchmark::State& state) {
   Table table;
   frmFivestack& game = *table.game;
   player::Click(game.cmdPlay);
-  game.common.Deck = StandardDeck();
+  game.board.Deal(StandardDeck());
   int column = 0, cards = 0;
   for (auto _ : state) {
     if (cards == 20) {  // the next ones would close columns
       state.PauseTiming();
-      if (game.CurrentRound != 1 || game.columns[4].cards != 4) state.SkipWithError("a card wasn't laid");
+      if (game.CurrentRound != 1 || game.board.columns[4].cards.size() != 4)
+        state.SkipWithError("a card wasn't laid");
       game.Reset();
       cards = 0;
       state.ResumeTiming();
     }
-    game.DeckPosition = 14 + 13 * (cards % 3) + 1 + cards % 4;  // twos to fives
+    game.board.position = 14 + 13 * (cards % 3) + 1 + cards % 4;  // twos to fives
     player::Click(game.cmdHit(column));
     column = (column + 1) % kColumns;
     ++cards;
@@ -52,8 +55,11 @@ void BM_PassClick(benchmark::State& state) {
   frmFivestack& game = *table.game;
   player::Click(game.cmdPlay);
   for (auto _ : state) {
-    game.PassesLeft = 10;
-    if (game.DeckPosition == 52) game.DeckPosition = 2;
+    game.board.passesLeft = 10;
+    if (game.board.position == 52) {
+      game.board.position = 2;
+      game.board.passed.clear();
+    }
     player::Click(game.cmdPass);
   }
 }
@@ -70,6 +76,8 @@ void BM_WholeGame(benchmark::State& state) {
   });
 }
 BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
+
+BENCHMARK(BM_BoardMoves<FivestackBoardPlayer>);
 
 }  // namespace
 

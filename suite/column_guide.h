@@ -1,43 +1,52 @@
 // What the guides to the games with columns up to 21 have in common.
 #pragma once
 
-#include <array>
-
 #include "suite/column21.h"
 #include "suite/guide.h"
 
-template <class Window, size_t Columns>
+template <class Window>
 class ColumnGuide : public GameGuide {
  public:
-  using Column = ControlArray<Image, kCardsOfColumn>;
-
-  ColumnGuide(Window& window, const std::array<Column*, Columns>& columns)
-      : GameGuide(window), window_(window), columns_(columns) {}
+  explicit ColumnGuide(Window& window) : GameGuide(window), window_(window) {}
 
   std::vector<Spot> Spots() const override {
     std::vector<Spot> spots;
     Add(spots, window_.PlayCardPicture, false, false, "stock");
     Add(spots, window_.NextCardPicture, false, false, "next card");
-    for (int i = 0; i < static_cast<int>(Columns); ++i) {
+    for (int i = 0; i < window_.cmdHit.size(); ++i) {
+      const std::string name = "olumn " + std::to_string(i + 1);
       for (int slot = 0; slot < kCardsOfColumn; ++slot)
-        Add(spots, (*columns_[i])(slot), false, false, "column " + std::to_string(i + 1));
-      AddHit(spots, window_.cmdHit(i), window_.ColumnTotal(i), window_.ColumnSoft(i));
+        Add(spots, window_.ColumnImages(i)(slot), false, false, "c" + name);
+      if (!window_.cmdHit(i).Visible) continue;
+      spots.push_back({&window_.cmdHit(i),
+                       "C" + name + ": " + std::to_string(window_.board.columns[i].total) +
+                           (SaysSoft(i) ? ", soft" : "") + (IsOpen(i) ? "" : ", closed"),
+                       IsOpen(i) && Plays()});
     }
     return spots;
   }
 
  protected:
+  // Whether the column takes the next card, and whether the word "Soft" stands there.
+  virtual bool IsOpen(int column) const = 0;
+  virtual bool SaysSoft(int column) const = 0;
+
   std::vector<KeyRow> BoardKeys() const override {
-    return {HitKeys(Columns),
+    const int columns = window_.cmdHit.size();
+    KeyRow hits{"1 to " + std::to_string(columns), "Hit on that column", {}};
+    for (int i = 0; i < columns; ++i)
+      hits.clicks.push_back({std::to_string(i + 1), window_.cmdHit(i).NameInForm()});
+    return {hits,
             {"-", "Pass", {{"-", "cmdPass"}}},
             {"Arrows", "Go to the Hit button of another column; with Ctrl to any card", {}},
             {"Space, Return", "Click where the cursor is", {}}};
   }
 
-  std::string NextCard() const { return "Next card " + SpokenPicture(window_.NextCardPicture.Picture) + "."; }
+  std::string NextCard() const {
+    const auto& board = window_.board;
+    if (!board.HasNext()) return "Next card Empty.";
+    return "Next card " + SpokenPicture(window_.common.ImageList2(CardKey(board.Next()))) + ".";
+  }
 
   Window& window_;
-
- private:
-  const std::array<Column*, Columns> columns_;
 };

@@ -50,13 +50,6 @@ KeyRow GameGuide::BackKey() {
   return {"Backspace", "Take back the card selected last", {{"Backspace", kLastSelected}}};
 }
 
-KeyRow GameGuide::HitKeys(int columns) {
-  KeyRow row{"1 to " + std::to_string(columns), "Hit on that column", {}};
-  for (int i = 0; i < columns; ++i)
-    row.clicks.push_back({std::to_string(i + 1), "cmdHit(" + std::to_string(i) + ")"});
-  return row;
-}
-
 bool GameGuide::IsOrnament(const Control& control) const { return control.name == "imgSplashImage"; }
 
 std::string GameGuide::State() const {
@@ -83,15 +76,6 @@ void GameGuide::Add(std::vector<Spot>& spots, Image& image, bool playable, bool 
   if (!image.Visible || text.empty()) return;
   spots.push_back({&image, text + (place.empty() ? "" : ", " + place), playable && image.Enabled && Plays(),
                    selected, RankOfPicture(image.Picture)});
-}
-
-void GameGuide::AddHit(std::vector<Spot>& spots, CommandButton& button, const Label& total,
-                       const Label& soft) const {
-  if (!button.Visible) return;
-  const bool isSoft = soft.Visible && !soft.Caption.get().empty();
-  const std::string text =
-      "Column " + std::to_string(button.index + 1) + ": " + total.Caption.get() + (isSoft ? ", soft" : "");
-  spots.push_back({&button, text + (button.Enabled ? "" : ", closed"), button.Enabled && Plays()});
 }
 
 // By the splash panel.

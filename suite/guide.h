@@ -34,12 +34,9 @@ class GameGuide : public Guide {
   // doesn't show. None can be played while it is disabled or no round runs.
   void Add(std::vector<Spot>& spots, Image& image, bool playable, bool selected = false,
            const std::string& place = "") const;
-  // The same for a button that lays a card on the column above it: "Column 2: 14, soft".
-  void AddHit(std::vector<Spot>& spots, CommandButton& button, const Label& total, const Label& soft) const;
   // Rows that several games have.
   static KeyRow RankKeys();  // the next card of a rank
   static KeyRow BackKey();   // takes a selection back
-  static KeyRow HitKeys(int columns);
 
  private:
   GameWindow& window_;

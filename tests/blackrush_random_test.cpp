@@ -16,16 +16,17 @@ class BlackrushPlayer : public RandomPlayer {
   // Mostly plays well: where the card makes most without going over.
   std::string AtTheTable(GameWindow& window) override {
     auto& game = static_cast<frmBlackrush&>(window);
-    twentyOnes += game.TwentyOnes > twentyOnesBefore_;
-    twentyOnesBefore_ = static_cast<int>(game.TwentyOnes);
-    decks += game.DeckPosition == modBlackrush::kLastCard;
+    const modBlackrush::Board& board = game.board;
+    twentyOnes += board.twentyOnes > twentyOnesBefore_;
+    twentyOnesBefore_ = static_cast<int>(board.twentyOnes);
+    decks += board.position == modBlackrush::kLastCard;
     if (Chance(1)) return "click frmBlackrush.cmdPass";
     if (Chance(1)) return "click frmBlackrush.cmdTakeScore";
     int best = Draw(modBlackrush::kColumns);
     long long most = -1;
     for (int i = 0; i < modBlackrush::kColumns && !Chance(3); ++i) {
-      Column21 column = game.columns[i];
-      const int total = modBlackrush::GetHitTotal(column, suite_.common.Deck[game.DeckPosition]);
+      const Column21& column = board.columns[i];
+      const int total = column.TotalWith(board.Next());
       const bool fits = total <= kTwentyOne || column.softAces > 0;
       if (fits && total > most) best = i, most = total;
     }
@@ -38,6 +39,7 @@ class BlackrushPlayer : public RandomPlayer {
   void Check(GameWindow& window) override {
     auto& game = static_cast<frmBlackrush&>(window);
     const modCommon& common = suite_.common;
+    const modBlackrush::Board& board = game.board;
     ASSERT_FALSE(game.standing.InputIsDead());
     ASSERT_FALSE(game.lblBust.Visible || game.lblFiveCards.Visible || game.lblRoundScore.Visible);
     ASSERT_EQ(game.ScoringLabelInfo.Visible, game.standing.IsPaused());
@@ -50,23 +52,24 @@ class BlackrushPlayer : public RandomPlayer {
     }
     const bool open = !game.standing.IsPaused();
     ASSERT_EQ(game.lblTotalScore.Caption, FormatNumber(common.CurrentScore));
-    ASSERT_EQ(game.lblCardsUsedCount.Caption, std::to_string(game.DeckPosition - 1));
-    ASSERT_EQ(game.lblBonus.Caption, std::to_string(game.Bonus));
-    ASSERT_GE(game.DeckPosition, 1);
-    ASSERT_LE(game.DeckPosition, modBlackrush::kLastCard);
-    ASSERT_EQ(game.NextCardPicture.Picture, common.ImageList2(CardKey(common.Deck[game.DeckPosition])));
-    ASSERT_FALSE(game.cmdPass.Enabled && game.DeckPosition == modBlackrush::kLastCard);
+    ASSERT_EQ(game.lblCardsUsedCount.Caption, std::to_string(board.CardsUsed()));
+    ASSERT_EQ(game.lblBonus.Caption, std::to_string(board.bonus));
+    ASSERT_GE(board.position, 1);
+    ASSERT_LE(board.position, modBlackrush::kLastCard);
+    ASSERT_EQ(game.NextCardPicture.Picture, common.ImageList2(CardKey(board.Next())));
+    ASSERT_EQ(game.cmdPass.Enabled, open && board.mayPass);
     ASSERT_FALSE(game.Timer3.Enabled && game.standing.IsPaused());
-    ControlArray<Image, 5>* const images[] = {&game.Column1, &game.Column2, &game.Column3, &game.Column4};
     for (int i = 0; i < modBlackrush::kColumns; ++i) {
-      const Column21& column = game.columns[i];
+      const Column21& column = board.columns[i];
+      const int cards = static_cast<int>(column.cards.size());
       ASSERT_EQ(game.ColumnTotal(i).Caption, std::to_string(column.total));
-      ASSERT_TRUE(column.cards >= 0 && column.cards < kCardsOfColumn && column.total < kTwentyOne);
-      ASSERT_EQ(column.cards == 0, column.total == 0);
+      ASSERT_TRUE(cards < kCardsOfColumn && column.total < kTwentyOne);
+      ASSERT_EQ(cards == 0, column.total == 0);
+      ASSERT_EQ(game.ColumnSoft(i).Caption.get().empty(), board.words[i] == modBlackrush::Word::None);
       ASSERT_EQ(game.cmdHit(i).Visible, open);
       for (int slot = 0; slot < kCardsOfColumn; ++slot) {
-        const Image& image = (*images[i])(slot);
-        const bool card = slot < column.cards, place = slot == 0 && !card;
+        const Image& image = game.ColumnImages(i)(slot);
+        const bool card = slot < cards, place = slot == 0 && !card;
         ASSERT_EQ(image.Picture >= kFirstFace, card);
         ASSERT_EQ(image.BorderStyle == 1, card);
         ASSERT_EQ(image.Visible, open && (card || place));

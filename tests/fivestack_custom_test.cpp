@@ -62,7 +62,9 @@ class FivestackCustom : public ::testing::Test {
     std::string all = std::to_string(game.BonusScore);
     for (const Integer& value : {game.TimeBonusMax, game.TimeBonusMin, game.WaitPeriod, game.CardsToPass})
       all += " " + std::to_string(value);
-    return all + (game.PassesLeft == game.CardsToPass ? "" : " left " + std::to_string(game.PassesLeft));
+    return all + (game.board.passesLeft == game.CardsToPass
+                      ? ""
+                      : " left " + std::to_string(game.board.passesLeft));
   }
 
   TestFolder folder;
@@ -126,7 +128,7 @@ TEST_F(FivestackCustom, RefusedPassesHoldUntilPlay) {
   Ok({"-", "-", "-", "-", "99"});
   EXPECT_TRUE(driver.common().CustomScoringInUse);
   driver.Do(kPlayFivestack);
-  EXPECT_EQ(Game().PassesLeft, 1);
+  EXPECT_EQ(Game().board.passesLeft, 1);
 }
 
 TEST_F(FivestackCustom, DefaultChangesNothingBeforeOk) {

@@ -17,24 +17,24 @@ class FivestackPlayer : public RandomPlayer {
  private:
   std::string AtTheTable(GameWindow& window) override {
     auto& game = static_cast<frmFivestack&>(window);
-    if (game.offer == frmFivestack::Offer::TakeScore && Chance(30)) {
+    if (game.board.Worth() > 0 && Chance(30)) {
       ++taken;
       return "click frmFivestack.cmdGiveUp";
     }
     if (Chance(1)) return "click frmFivestack.cmdGiveUp";
     if (Chance(5)) return "click frmFivestack.cmdPass";
     // The fullest column that the card doesn't ruin; else one with an ace that can come down.
-    const int worth = GetCardValue(suite_.common.Deck, game.DeckPosition);
+    const std::string& card = game.board.Next();
     int best = -1, total = -1;
     for (int i = 0; i < kColumns && !Chance(10); ++i) {
-      const Column21& column = game.columns[i];
-      if (!game.cmdHit(i).Enabled || column.total <= total) continue;
-      if (column.total + worth <= kTwentyOne || (column.softAces > 0 && column.total < 20)) {
+      const Column21& column = game.board.columns[i];
+      if (!game.board.Takes(i) || column.total <= total) continue;
+      if (column.TotalWith(card) <= kTwentyOne || (column.softAces > 0 && column.total < 20)) {
         best = i;
         total = static_cast<int>(column.total);
       }
     }
-    if (best >= 0 && total + worth > kTwentyOne) ++softened;
+    if (best >= 0 && game.board.columns[best].TotalWith(card) > kTwentyOne) ++softened;
     return "click frmFivestack.cmdHit(" + std::to_string(best >= 0 ? best : Draw(kColumns)) + ")";
   }
 
@@ -51,29 +51,25 @@ class FivestackPlayer : public RandomPlayer {
     ASSERT_FALSE(game.standing.InputIsDead());
     ASSERT_TRUE(game.CurrentRound >= 1 && game.CurrentRound <= kBonusRound);
     ASSERT_EQ(game.lblTotalScore.Caption, FormatNumber(common.CurrentScore));
+    const Board& board = game.board;
     const bool paused = game.standing.IsPaused();
     ASSERT_EQ(game.ScoringLabel.Visible, paused);
-    long long sum = 0, laid = 0;
+    long long sum = 0;
     for (int i = 0; i < kColumns; ++i) {  // one look a column: it is looked at two hundred thousand times
-      const Column21& column = game.columns[i];
-      const bool counts = column.total >= column.cards && column.total <= kTwentyOne,
-                 soft = column.softAces == 1 && column.total >= 11,
+      const Column21& column = board.columns[i];
+      const bool counts = column.total <= kTwentyOne, soft = column.softAces == 1 && column.total >= 11,
                  shown = game.ColumnTotal(i).Caption == std::to_string(column.total) &&
                          game.ColumnSoft(i).Visible == (soft && !paused) && game.cmdHit(i).Visible == !paused,
-                 open = game.cmdHit(i).Enabled == (column.cards < kCardsOfColumn);
+                 open = game.cmdHit(i).Enabled == board.Takes(i);
       ASSERT_TRUE(counts && (soft || column.softAces == 0) && shown && open) << "column " << i;
       sum += column.total;
-      laid += column.cards;
     }
     ASSERT_EQ(game.lblCurrentTotal.Caption, std::to_string(sum));
-    ASSERT_EQ(game.CardTotal, sum);
-    ASSERT_EQ(game.CardTotalValue, ValueOf(sum));
-    ASSERT_EQ(game.offer == frmFivestack::Offer::TakeScore, IsPaid(sum));
+    ASSERT_EQ(board.cardTotal, sum);
+    ASSERT_EQ(game.cmdGiveUp.Caption == "&Take score", board.Worth() > 0);
     ASSERT_EQ(game.lblCurrentTotal.ForeColor == kRed, sum < kLowestPaid);
-    ASSERT_EQ(game.cmdPass.Enabled, game.PassesLeft > 0);
-    ASSERT_GE(game.DeckPosition, 2 + laid + game.CardsToPass - game.PassesLeft);
-    ASSERT_EQ(game.NextCardPicture.Picture,
-              common.ImageList2(CardKey(CardAt(common.Deck, game.DeckPosition))));
+    ASSERT_EQ(game.cmdPass.Enabled, board.passesLeft > 0);
+    ASSERT_EQ(game.NextCardPicture.Picture, common.ImageList2(CardKey(board.Next())));
     highest = std::max(highest, static_cast<int>(sum));
   }
 };

@@ -12,12 +12,12 @@ void frmBlackrush::Play() {
   ShowRound();
   common.CurrentScore = 0;
   ShowScore();
-  PassesLeft = CardsToPass;
+  board.GrantPasses(CardsToPass);
   standing.Begin();
   EnablePause(true);
   mnuUserOptions.Enabled = false;
   mnuTimeLimit.Enabled = false;
-  cmdPass.Enabled = CardsToPass != 0;
+  cmdPass.Enabled = board.mayPass;
   cmdTakeScore.Enabled = true;
   EnableHitButtons(true);
   StatusBar1.Panels(2).Text = "Create columns of 21 to increase bonus score!";
@@ -30,8 +30,8 @@ void frmBlackrush::Play() {
   Surface.Visible = true;
   ResetDial();
   common.ElapsedSeconds = 0;
-  DeckPosition = 1;
-  ShowFace(NextCardPicture, common.Deck.at(DeckPosition));
+  board.Deal(common.Deck);
+  ShowFace(NextCardPicture, board.Next());
   ShowCardsUsed(0);
   ShowPile();
   StartMusic();
@@ -41,29 +41,29 @@ void frmBlackrush::Play() {
 
 void frmBlackrush::cmdHit_Click(int index) {
   if (standing.InputIsDead()) return;
-  const int total = GetHitTotal(index);
-  if (total <= kTwentyOne) return LayCard(index, total);
-  CheckForBust(index) ? Bust() : LayCard(index, total - 10);
+  int total = GetHitTotal(index);
+  CheckForBust(index, total) ? Bust() : LayCard(index, total);
 }
 
 int frmBlackrush::GetHitTotal(int index) {
-  const long long softBefore = columns[index].softAces;
-  const int total = modBlackrush::GetHitTotal(columns[index], common.Deck.at(DeckPosition));
-  if (columns[index].softAces > softBefore) {
+  const long long softBefore = board.columns[index].softAces;
+  const int total = board.GetHitTotal(index);
+  if (board.columns[index].softAces > softBefore) {
     ColumnSoft(index).Visible = true;
     ColumnSoft(index).Caption = "Soft";
   }
   return total;
 }
 
-bool frmBlackrush::CheckForBust(int index) {
-  if (!BringAceDown(columns[index])) return true;
-  if (columns[index].softAces == 0) {
+bool frmBlackrush::CheckForBust(int index, int& total) {
+  const int asked = total;
+  const bool bust = board.CheckForBust(index, total);
+  if (total < asked && board.columns[index].softAces == 0) {
     ColumnSoft(index).Visible = false;
     ColumnSoft(index).Caption = "";
     ShowColumn(index);
   }
-  return false;
+  return bust;
 }
 
 // The card stays on show, to be played elsewhere.
@@ -76,13 +76,11 @@ void frmBlackrush::Bust() {
 }
 
 void frmBlackrush::LayCard(int index, int total) {
-  Column21& column = columns[index];
-  Image& place = ColumnImages(index)(column.cards);
+  Image& place = ColumnImages(index)(static_cast<int>(board.columns[index].cards.size()));
   place.BorderStyle = 1;
   place.Visible = true;
   place.Picture = NextCardPicture.Picture;
-  column.cards += 1;
-  switch (Judge(total, column.cards)) {
+  switch (board.LayCard(index, total)) {
     case Laid::TwentyOne:
       TwentyOne(index);
       break;
@@ -90,7 +88,6 @@ void frmBlackrush::LayCard(int index, int total) {
       FiveCardGimme(index);
       break;
     case Laid::Stays:
-      column.total = total;
       ShowColumn(index);
       PlaySound("\\Click.wav");
       break;
@@ -99,14 +96,12 @@ void frmBlackrush::LayCard(int index, int total) {
 }
 
 void frmBlackrush::TwentyOne(int index) {
-  TwentyOnes += 1;
-  lbl21s.Caption = std::to_string(TwentyOnes);
-  Bonus += TwentyOneBonusValue;
+  lbl21s.Caption = std::to_string(board.twentyOnes);
+  board.ClearTwentyOne(index, TwentyOneBonusValue);
   ShowBonus();
   ColumnTotal(index).Caption = "21";
   ClearColumn(index);
   ShowEmptyPlace(index);
-  columns[index] = {};
   ShowColumn(index);
   ColumnSoft(index).Visible = false;  // the word stays, and is seen again after a pause
   ResetCounter();
@@ -114,10 +109,7 @@ void frmBlackrush::TwentyOne(int index) {
   PlaySound("\\TwentyOne.wav");
 }
 
-// Soft aces of the column aren't forgotten: one that is left over saves a hard column later.
 void frmBlackrush::FiveCardGimme(int index) {
-  columns[index].total = 0;
-  columns[index].cards = 0;
   ClearColumn(index);
   CenterIn(lblFiveCards, ColumnImages(index)(0));
   lblFiveCards.Visible = true;
@@ -132,12 +124,12 @@ void frmBlackrush::FiveCardGimme(int index) {
 }
 
 void frmBlackrush::TurnNextCard() {
-  DeckPosition += 1;
-  ShowCardsUsed(DeckPosition - 1);
+  board.TurnNextCard();
+  ShowCardsUsed(board.CardsUsed());
   ShowPile();
-  if (DeckPosition >= kLastCard) cmdPass.Enabled = false;
-  if (DeckPosition > kLastCard) return DeckCompleted();
-  ShowFace(NextCardPicture, common.Deck.at(DeckPosition));
+  if (!board.mayPass) cmdPass.Enabled = false;
+  if (board.IsDeckCompleted()) return DeckCompleted();
+  ShowFace(NextCardPicture, board.Next());
 }
 
 void frmBlackrush::DeckCompleted() {
@@ -156,13 +148,12 @@ void frmBlackrush::DeckCompleted() {
 
 void frmBlackrush::cmdPass_Click() {
   if (standing.InputIsDead()) return;
-  PassesLeft -= 1;
-  DeckPosition += 1;
-  ShowCardsUsed(DeckPosition - 1);
+  if (!board.Pass()) return;
+  ShowCardsUsed(board.CardsUsed());
   PlaySound("\\Click.wav");
   ShowPile();
-  ShowFace(NextCardPicture, common.Deck.at(DeckPosition));
-  if (DeckPosition == kLastCard || PassesLeft == 0) cmdPass.Enabled = false;
+  ShowFace(NextCardPicture, board.Next());
+  cmdPass.Enabled = board.mayPass;
 }
 
 // --- The 21 Counter ------------------------------------------------------------------------------
@@ -174,7 +165,7 @@ void frmBlackrush::Timer3_Timer() {
     return;
   }
   ResetCounter();
-  Bonus = TwentyOneBonusValue;
+  board.bonus = TwentyOneBonusValue;
   ShowBonus();
   lblBonus.ForeColor = kRed;
   platform.Sleep(250);

@@ -1,10 +1,24 @@
 // frmBlackrush: the window of Blackrush, what each click, tick and menu entry does.
 #pragma once
 
-#include <array>
-
-#include "games/blackrush/rules.h"
+#include "games/blackrush/board.h"
 #include "suite/game_window.h"
+
+namespace modBlackrush {
+
+// What a game pays, and asks for, when nobody has changed it.
+inline constexpr int kTwentyOneBonusValue = 1000, kCardsUsedBonusValue = 100, kFiveCardGimmeBonus = 750,
+                     kDeckCompletionBonus = 100000, kBonusScore = 250000, kCardsToPass = 3,
+                     kWaitPeriod = 2000;
+
+// The 21 Counter: milliseconds a step, and its steps.
+inline constexpr int kNormalSpeed = 90, kSlowSpeed = 180, kSlowestSpeed = 360;
+inline constexpr int kCounterEnd = 100, kCounterFlashes = 50;
+constexpr bool IsCounterSpeed(int interval) {
+  return interval == kNormalSpeed || interval == kSlowSpeed || interval == kSlowestSpeed;
+}
+
+}  // namespace modBlackrush
 
 class frmBlackrush : public GameWindow {
  public:
@@ -18,8 +32,10 @@ class frmBlackrush : public GameWindow {
 
   Shape Column1Line{*this, "Column1Line"}, Column2Line{*this, "Column2Line"},
       Column3Line{*this, "Column3Line"};
-  ControlArray<Image, kCardsOfColumn> Column1{*this, "Column1"}, Column2{*this, "Column2"},
-      Column3{*this, "Column3"}, Column4{*this, "Column4"};
+  using Slots = ControlArray<Image, kCardsOfColumn>;
+  Slots Column1{*this, "Column1"}, Column2{*this, "Column2"}, Column3{*this, "Column3"},
+      Column4{*this, "Column4"};
+  Slots& ColumnImages(int i) { return *std::array{&Column1, &Column2, &Column3, &Column4}[i]; }
   ControlArray<Label, modBlackrush::kColumns> ColumnTotal{*this, "ColumnTotal"},
       ColumnSoft{*this, "ColumnSoft"};
   Image PlayCardPicture{*this, "PlayCardPicture"}, NextCardPicture{*this, "NextCardPicture"};
@@ -39,10 +55,7 @@ class frmBlackrush : public GameWindow {
   Timer& Timer6 = ClockTimer;
 
   // --- State -------------------------------------------------------------------------------------
-  std::array<Column21, modBlackrush::kColumns> columns;  // soft aces outlive rounds and games
-  Integer DeckPosition;                                  // of the card on show; 0 before a game
-  Integer PassesLeft, TwentyOnes;
-  Long Bonus;                  // the 21 Bonus Value as it now stands
+  modBlackrush::Board board;
   bool QuitRequested = false;  // End Game was confirmed: the score isn't for the table
   // Settings.
   Integer CardsToPass, CounterSpeed, WaitPeriod;
@@ -53,8 +66,8 @@ class frmBlackrush : public GameWindow {
   void cmdPass_Click();
   // What the column would total with the next card; shows that the column becomes a soft one.
   int GetHitTotal(int index);
-  // Whether the next card can't be laid, though an ace came down where one could.
-  bool CheckForBust(int index);
+  // Whether that total can't be laid; an ace that came down for it lowers it.
+  bool CheckForBust(int index, int& total);
   void LayCard(int index, int total);
   void FiveCardGimme(int index);
   void NextRound();
@@ -107,7 +120,6 @@ class frmBlackrush : public GameWindow {
   void PlaceBoard() override;
 
  private:
-  ControlArray<Image, kCardsOfColumn>& ColumnImages(int index);
   void SetUpBoard();
   void SetUpLabels();
   void BindBoardEvents();

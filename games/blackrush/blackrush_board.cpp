@@ -4,6 +4,7 @@
 
 #include "games/blackrush/blackrush.h"
 #include "games/blackrush/custom.h"
+#include "suite/column_places.h"
 
 using namespace modBlackrush;
 
@@ -103,11 +104,7 @@ constexpr Design kStatusDesign[] = {
     {"lblFiveCards", 0, 3570, 1335, 600, "Five Card Gimme"},
 };
 
-// The columns, from the first to the last.
-constexpr int kColumnLeft = 270, kHitLeft = 300, kColumnPitch = 1428;
-constexpr int kSlotTops[] = {2355, 2730, 3150, 3555, 3945};
-constexpr int kCardWidth = 1035, kCardHeight = 1455;
-constexpr int kTotalTop = 1650, kSoftTop = 2025, kHitTop = 5520;
+constexpr ColumnPlaces kPlaces = {270, 1428, 1650, 2025, {2355, 2730, 3150, 3555, 3945}, 300, 5520};
 
 }  // namespace
 
@@ -130,14 +127,7 @@ void frmBlackrush::SetUpBoard() {
   ApplyDesign(*this, kDesign);
   ApplyDesign(*this, kButtonDesign);
   ApplyDesign(*this, kStatusDesign);
-  for (int i = 0; i < kColumns; ++i) {
-    for (int slot = 0; slot < kCardsOfColumn; ++slot)
-      ColumnImages(i)(slot).Move(0, kSlotTops[slot], kCardWidth, kCardHeight);
-    ColumnTotal(i).Move(0, kTotalTop, 495, 360);
-    ColumnSoft(i).Move(0, kSoftTop, kCardWidth, 255);
-    cmdHit(i).Move(0, kHitTop, 1035, 570);
-    cmdHit(i).Caption = "Hit";
-  }
+  SetUpColumns(*this, kPlaces);
   for (Shape* line : {&Column1Line, &Column2Line, &Column3Line}) line->BorderColor = kWhite;
   ScoringLabelOutline.Filled = true;
   ScoringLabelOutline.FillColor = 0x101212;
@@ -171,13 +161,12 @@ void frmBlackrush::SetUpLabels() {
   lblBust.FontSize = 18;
   lblFiveCards.FontSize = 12;
   for (int i = 0; i < kColumns; ++i) {
-    ColumnTotal(i).Caption = "0";
     ColumnTotal(i).FontSize = 12;
     ColumnTotal(i).FontBold = true;
-    ColumnTotal(i).Alignment = ColumnSoft(i).Alignment = 2;
     ColumnTotal(i).ForeColor = kBlue;
+    ColumnSoft(i).Visual::Move(0, kPlaces.softTop, kCardWidth, 255);
+    ColumnSoft(i).Alignment = 2;
     ColumnSoft(i).ForeColor = kRed;
-    ColumnSoft(i).Visible = false;
   }
   for (Label* label : {&lblTime, &lblTotalScore, &lblBust}) label->Fit();
 }
@@ -205,29 +194,17 @@ void frmBlackrush::ShowCustomScoring() { frmBlackrushCustomScoring(*this).Show(t
 
 // --- Placing -------------------------------------------------------------------------------------
 
-ControlArray<Image, kCardsOfColumn>& frmBlackrush::ColumnImages(int index) {
-  ControlArray<Image, kCardsOfColumn>* const images[] = {&Column1, &Column2, &Column3, &Column4};
-  return *images[index];
-}
-
 void frmBlackrush::PlaceBoard() {
   PlaceInMiddle(kDesign);
-  const int right = (Width - plan.width) / 2, down = (Height - plan.height) / 2;
+  const int down = (Height - plan.height) / 2;
   for (const Design& row : kButtonDesign) static_cast<Visual&>(*find(row.name)).Top = row.top + down;
-  for (int i = 0; i < kColumns; ++i) {
-    const int left = kColumnLeft + i * kColumnPitch + right;
-    for (int slot = 0; slot < kCardsOfColumn; ++slot) {
-      ColumnImages(i)(slot).Left = left;
-      ColumnImages(i)(slot).Top = kSlotTops[slot] + down;
-    }
+  PlaceColumns(*this, kPlaces, [&](int i, int left) {
     CenterIn(ColumnTotal(i), ColumnImages(i)(0));
-    ColumnTotal(i).Top = kTotalTop + down;
+    ColumnTotal(i).Top = kPlaces.totalTop + down;
     ColumnSoft(i).Left = left;
-    ColumnSoft(i).Top = kSoftTop + down;
-    cmdHit(i).Left = kHitLeft + i * kColumnPitch + right;
-    cmdHit(i).Top = kHitTop + down;
-  }
-  lblFiveCards.Top = kSlotTops[0] + (kCardHeight - lblFiveCards.Height) / 2 + down;
+    ColumnSoft(i).Top = kPlaces.softTop + down;
+  });
+  lblFiveCards.Top = kPlaces.slotTops[0] + (kCardHeight - lblFiveCards.Height) / 2 + down;
   lblTotalScore.Top = ScoreRectangle.Top + (ScoreRectangle.Height - lblTotalScore.Height) / 2;
   CenterIn(lblTotalScore, ScoreRectangle);
   CenterIn(lblTime, Column4(0));
@@ -283,11 +260,11 @@ void frmBlackrush::EnableHitButtons(bool enable) {
   for (int i = 0; i < kColumns; ++i) cmdHit(i).Enabled = enable;
 }
 
-// The last card can't be passed.
 void frmBlackrush::EnablePlayControls(bool enable) {
   for (CommandButton* button : {&cmdPlay, &cmdExit, &cmdTakeScore}) button->Enabled = enable;
   for (Menu* entry : {&mnuPlay, &mnuExit}) entry->Enabled = enable;
-  cmdPass.Enabled = enable && PassesLeft > 0 && DeckPosition < kLastCard;
+  if (enable) board.ControlsAreBack();
+  cmdPass.Enabled = enable && board.mayPass;
   EnableHitButtons(enable);
 }
 
@@ -297,31 +274,36 @@ void frmBlackrush::EnablePause(bool enable) {
 }
 
 void frmBlackrush::ShowCards(bool visible) {
+  if (visible) board.WordsAreShownAgain();
   for (int i = 0; i < kColumns; ++i) {
-    for (int slot = 0; slot < kCardsOfColumn; ++slot) {
-      Image& image = ColumnImages(i)(slot);
-      if (image.Picture != 0) image.Visible = visible;
-    }
-    if (!ColumnSoft(i).Caption.get().empty()) ColumnSoft(i).Visible = visible;
+    const int places =
+        std::max(1, static_cast<int>(board.columns[i].cards.size()));  // the first is always there
+    for (int slot = 0; slot < places; ++slot) ColumnImages(i)(slot).Visible = visible;
+    if (board.words[i] != Word::None) ColumnSoft(i).Visible = visible;
   }
 }
 
-void frmBlackrush::ShowPile() { PlayCardPicture.Picture = common.ImageList2(PileStage(DeckPosition)); }
-
-void frmBlackrush::ShowColumn(int index) {
-  ColumnTotal(index).Caption = std::to_string(columns[index].total);
+void frmBlackrush::ShowPile() {
+  const long long position = board.position;
+  PlayCardPicture.Picture = common.ImageList2(position >= kLastCard ? "EMPTY"
+                                              : position >= 35      ? "BACK"
+                                              : position >= 17      ? "HALF"
+                                                                    : "FULL");
 }
 
-void frmBlackrush::ShowBonus() { lblBonus.Caption = std::to_string(Bonus); }
+void frmBlackrush::ShowColumn(int index) {
+  ColumnTotal(index).Caption = std::to_string(board.columns[index].total);
+}
+
+void frmBlackrush::ShowBonus() { lblBonus.Caption = std::to_string(board.bonus); }
 
 void frmBlackrush::ShowRound() { lblRound.Caption = "Round: " + std::to_string(CurrentRound); }
 
 void frmBlackrush::ShowCardsUsed(long long cards) { lblCardsUsedCount.Caption = std::to_string(cards); }
 
 void frmBlackrush::ForgetTwentyOnes() {
-  TwentyOnes = 0;
+  board.ForgetTwentyOnes();
   lbl21s.Caption = "0";
-  Bonus = 0;
   ShowBonus();
 }
 

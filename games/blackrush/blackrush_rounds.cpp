@@ -34,7 +34,7 @@ void frmBlackrush::TakeScore() {
   EnablePause(false);
   StopMusic();
   CountCardsUsed();
-  if (TwentyOnes != 0) CountTwentyOnes();
+  if (board.twentyOnes != 0) CountTwentyOnes();
   EndCount();
   CurrentRound += 1;
   common.ElapsedSeconds = 0;
@@ -45,7 +45,7 @@ void frmBlackrush::TakeScore() {
 }
 
 void frmBlackrush::CountCardsUsed() {
-  long long cards = DeckPosition - 1;
+  long long cards = board.CardsUsed();
   for (Label* label : {&lblCardsUsed, &lblCardsUsedCount}) label->ForeColor = kRed;
   if (common.CountDownScore) {
     while (cards > 0) {
@@ -64,9 +64,9 @@ void frmBlackrush::CountCardsUsed() {
 
 void frmBlackrush::CountTwentyOnes() {
   for (Label* label : {&lbl21Bonus, &lblTwentyOnes, &lbl21s, &lblBonus}) label->ForeColor = kRed;
-  const Long pay = TwentyOnesPay(TwentyOnes, Bonus);
+  const Long pay = board.TwentyOnesPay();
   lblRoundScore.Caption =
-      std::to_string(TwentyOnes) + " X " + FormatNumber(Bonus) + " = " + FormatNumber(pay);
+      std::to_string(board.twentyOnes) + " X " + FormatNumber(board.bonus) + " = " + FormatNumber(pay);
   lblRoundScoreCount.Caption = std::to_string(pay);
   SetVisible({&lblRoundScore, &lblRoundScoreCount}, true);
   platform.Sleep(750);
@@ -113,11 +113,9 @@ void frmBlackrush::EmptyBoard() {
   ClearColumns();
   Timer3.Enabled = false;
   ResetCounter();
-  Bonus = 0;  // the counter may have expired a moment ago
+  board.Clear();  // the bonus, too: the counter may have expired a moment ago
   ShowBonus();
   for (int i = 0; i < kColumns; ++i) {
-    columns[i].total = 0;
-    columns[i].cards = 0;
     ShowColumn(i);
     ColumnSoft(i).Caption = "";
   }
@@ -132,11 +130,10 @@ void frmBlackrush::PrepareRound(bool bonus) {
   ShowMessage(bonus ? "Prepare for Bonus Round" : "Prepare for Round " + std::to_string(CurrentRound), false);
   Timer1.Enabled = true;
   for (int i = 0; i < kColumns; ++i) ShowEmptyPlace(i);
-  DeckPosition = 1;
-  ShowFace(NextCardPicture, common.Deck.at(DeckPosition));
-  if (CardsToPass == 0) return;
-  cmdPass.Enabled = true;
-  PassesLeft = CardsToPass;
+  board.Deal(common.Deck);
+  ShowFace(NextCardPicture, board.Next());
+  board.GrantPasses(CardsToPass);
+  cmdPass.Enabled = board.mayPass;
 }
 
 void frmBlackrush::GameOver() {
@@ -144,7 +141,6 @@ void frmBlackrush::GameOver() {
   Timer3.Enabled = false;
   if (!QuitRequested) EnterHighScore();
   TellGameOver(ScoringLabelInfo);
-  DeckPosition = 0;
   lblRound.Caption = "Game Over";
   SetPlayCaption("&Play");
   cmdPlay.ToolTipText = "Starts a new game";
@@ -204,7 +200,6 @@ void frmBlackrush::BackToIdle() {
   EndCount();
   EmptyBoard();
   ShowGameBoard(false);
-  DeckPosition = 0;
   GameWindow::BackToIdle();
 }
 

@@ -130,7 +130,7 @@ std::optional<ScoringDialog::Refusal> frmBlackrushCustomScoring::Judge(size_t fi
 // Passes that were refused hold for no round: a game begins with `CardsToPass`.
 void frmBlackrushCustomScoring::TakeRefused(size_t field, long long setting) {
   if (field == kPasses)
-    game_.PassesLeft = setting;
+    game_.board.passesLeft = setting;
   else
     ScoringDialog::TakeRefused(field, setting);
 }

@@ -5,10 +5,9 @@
 
 namespace {
 
-class BlackrushGuide : public ColumnGuide<frmBlackrush, modBlackrush::kColumns> {
+class BlackrushGuide : public ColumnGuide<frmBlackrush> {
  public:
-  explicit BlackrushGuide(frmBlackrush& window)
-      : ColumnGuide(window, {&window.Column1, &window.Column2, &window.Column3, &window.Column4}) {}
+  using ColumnGuide::ColumnGuide;
 
   std::vector<std::string> FirstSteps() const override {
     return {"Hit lays the card that shows on its column. A column of 21 goes, and counts.",
@@ -17,9 +16,14 @@ class BlackrushGuide : public ColumnGuide<frmBlackrush, modBlackrush::kColumns> 
   }
 
  protected:
+  // All columns take cards; none while the round is paid.
+  bool IsOpen(int) const override { return !window_.standing.InputIsDead(); }
+  bool SaysSoft(int column) const override {
+    return window_.board.words[column] == modBlackrush::Word::Shown;
+  }
   std::string BoardState() const override {
-    return NextCard() + " " + std::to_string(window_.TwentyOnes) + " times 21, bonus " +
-           FormatNumber(window_.Bonus) + ".";
+    return NextCard() + " " + std::to_string(window_.board.twentyOnes) + " times 21, bonus " +
+           FormatNumber(window_.board.bonus) + ".";
   }
 };
 

@@ -91,13 +91,13 @@ std::optional<ScoringDialog::Refusal> frmFivestackCustomScoring::Judge(size_t fi
 
 void frmFivestackCustomScoring::Take(size_t field, double value) {
   ScoringDialog::Take(field, value);
-  if (field == kPasses) game_.PassesLeft = game_.CardsToPass;
+  if (field == kPasses) game_.board.passesLeft = game_.CardsToPass;
 }
 
 // A number of passes that is refused holds until the next game only.
 void frmFivestackCustomScoring::TakeRefused(size_t field, long long setting) {
   if (field == kPasses)
-    game_.PassesLeft = setting;
+    game_.board.passesLeft = setting;
   else
     ScoringDialog::TakeRefused(field, setting);
 }

@@ -8,6 +8,9 @@ namespace {
 
 constexpr int kGreen = 49152;
 
+// What Give Up reads: a total that was lost differs from none.
+constexpr char kGiveUp[] = "&Give Up", kLost[] = "&Give up", kTakeScore[] = "&Take score";
+
 }  // namespace
 
 // --- Hit and Pass --------------------------------------------------------------------------------
@@ -16,69 +19,60 @@ void frmFivestack::cmdHit_Click(int index) {
   if (standing.InputIsDead()) return;
   NextCardPicture.Visible = true;
   PlaySound("\\Click.wav");
-  CalculateColumnValue(index);
-  if (columns[index].total > kTwentyOne) {
+  const Laid laid = CalculateColumnValue(index);
+  if (laid == Laid::Refused) return;
+  if (laid == Laid::Over) {
     if (CheckForBust(index)) {
-      SetOffer(Offer::Lost);
+      cmdGiveUp.Caption = kLost;
       cmdGiveUp_Click();
       return;
     }
     SumUp();
-    if (CardTotal < kLowestPaid) {
+    if (board.cardTotal < kLowestPaid) {
       lblCurrentTotal.ForeColor = kRed;
-      SetOffer(Offer::Lost);
+      cmdGiveUp.Caption = kLost;
     }
     return;
   }
   SumUp();  // 105 ends the round in here
-  if (CardTotal >= kLowestPaid) lblCurrentTotal.ForeColor = kGreen;
+  if (board.cardTotal >= kLowestPaid) lblCurrentTotal.ForeColor = kGreen;
   ShowNextCard();
 }
 
 void frmFivestack::cmdPass_Click() {
-  PassesLeft -= 1;
-  DeckPosition += 1;
+  if (!board.Pass()) return;
   ShowNextCard();
   PlaySound("\\Click.wav");
-  if (PassesLeft <= 0) cmdPass.Enabled = false;
+  if (board.passesLeft <= 0) cmdPass.Enabled = false;
 }
 
-void frmFivestack::CalculateColumnValue(int index) {
-  Column21& column = columns.at(index);
-  Image& slot = ColumnImages(index)(column.cards);
+Laid frmFivestack::CalculateColumnValue(int index) {
+  const Laid laid = board.Lay(index);
+  if (laid == Laid::Refused) return laid;
+  const Column21& column = board.columns[index];
+  Image& slot = ColumnImages(index)(static_cast<int>(column.cards.size()) - 1);
   slot.BorderStyle = 1;
   slot.Visible = true;
   slot.Picture = NextCardPicture.Picture;
-  int worth = GetCardValue(common.Deck, DeckPosition);
-  column.cards += 1;
-  if (worth == 1) worth = TakeAce(column);
-  if (worth == 11) {
+  if (column.softAces > 0) {
     ColumnSoft(index).Caption = "Soft";
     ColumnSoft(index).Visible = true;
   }
-  column.total += worth;
   ColumnTotal(index).Caption = std::to_string(column.total);
-  DeckPosition += 1;
-  if (column.cards == kCardsOfColumn) CloseColumn(index);
+  if (!board.Takes(index)) CloseColumn(index);
+  return laid;
 }
 
 // An ace that comes down costs the card on show: it is skipped, and nobody plays it.
 bool frmFivestack::CheckForBust(int index) {
-  Column21& column = columns.at(index);
-  if (column.softAces == 0) {
+  if (board.CheckForBust(index)) {
     CloseCurrentRound();
-    CardTotal = kBustTotal;
     return true;
   }
-  DeckPosition += 1;
   ShowNextCard();
-  BringAceDown(column);
-  if (column.softAces == 0) {
-    ColumnSoft(index).Visible = false;
-    ColumnSoft(index).Caption = "";
-    ColumnTotal(index).Caption = std::to_string(column.total);
-  }
-  if (column.cards == kCardsOfColumn) CloseColumn(index);
+  ColumnSoft(index).Visible = false;
+  ColumnSoft(index).Caption = "";
+  ColumnTotal(index).Caption = std::to_string(board.columns[index].total);
   return false;
 }
 
@@ -91,7 +85,7 @@ void frmFivestack::CloseCurrentRound() {
   for (int i = 0; i < kColumns; ++i) cmdHit(i).Enabled = false;
 }
 
-void frmFivestack::ShowNextCard() { ShowFace(NextCardPicture, CardAt(common.Deck, DeckPosition)); }
+void frmFivestack::ShowNextCard() { ShowFace(NextCardPicture, board.Next()); }
 
 // --- The card total ------------------------------------------------------------------------------
 
@@ -99,10 +93,8 @@ void frmFivestack::ShowNextCard() { ShowFace(NextCardPicture, CardAt(common.Deck
 void frmFivestack::SumUp() {
   ShowCardTotal(0);
   long long sum = 0;
-  for (int i = 0; i < kColumns; ++i) {
-    sum += columns[i].total;
-    ShowCardTotal(sum);
-  }
+  for (const Column21& column : board.columns) ShowCardTotal(sum += column.total);
+  if (board.cardTotal == kPerfect) cmdGiveUp_Click();
 }
 
 void frmFivestack::ShowCardTotal(long long total) {
@@ -111,36 +103,25 @@ void frmFivestack::ShowCardTotal(long long total) {
 }
 
 void frmFivestack::lblCurrentTotal_Change() {
-  CardTotal = shownTotal_;
   UpdateCardTotalValue();
-  if (CardTotal == kPerfect) cmdGiveUp_Click();
   CenterCardTotal();
 }
 
 void frmFivestack::UpdateCardTotalValue() {
   ClearCardTotalRows();
-  const int row = RowOf(CardTotal);
-  if (row >= 0)
-    for (Label* label : {&tableRows[row]->total, &tableRows[row]->value}) {
-      label->FontBold = true;
-      label->ForeColor = kRed;
-    }
-  CardTotalValue = ValueOf(CardTotal);
-  if (IsPaid(CardTotal)) SetOffer(Offer::TakeScore);
+  const int row = RowOf(shownTotal_);
+  for (int i = 2 * row; row >= 0 && i < 2 * row + 2; ++i) {
+    tableLabels[i]->FontBold = true;
+    tableLabels[i]->ForeColor = kRed;
+  }
+  if (ValueOf(shownTotal_) > 0) cmdGiveUp.Caption = kTakeScore;
 }
 
 void frmFivestack::ClearCardTotalRows() {
-  for (const auto& row : tableRows)
-    for (Label* label : {&row->total, &row->value}) {
-      label->FontBold = false;
-      label->ForeColor = kBlack;
-    }
-}
-
-void frmFivestack::SetOffer(Offer which) {
-  static constexpr const char* kCaptions[] = {"&Give Up", "&Give up", "&Take score"};
-  offer = which;
-  cmdGiveUp.Caption = kCaptions[static_cast<int>(which)];
+  for (const auto& label : tableLabels) {
+    label->FontBold = false;
+    label->ForeColor = kBlack;
+  }
 }
 
 // --- A new game ----------------------------------------------------------------------------------
@@ -178,18 +159,16 @@ void frmFivestack::Play() {
 // The first card of the deck is never seen.
 void frmFivestack::DealCards() {
   if (common.CreateStandardDeck() && common.ShuffleDeck()) EnableControls();
-  if (Reset()) {
-    DeckPosition = 1;
-    PlayCardPicture.Visible = true;
-  }
-  DeckPosition += 1;
+  Reset();
+  PlayCardPicture.Visible = true;
+  board.Deal(common.Deck);
   ShowNextCard();
   NextCardPicture.Visible = true;
   for (int i = 0; i < kColumns; ++i) {
     ShowEmpty(ColumnImages(i)(0));
     ColumnImages(i)(0).Visible = true;
   }
-  cmdPass.Enabled = PassesLeft > 0;
+  cmdPass.Enabled = board.passesLeft > 0;
   cmdPause.Enabled = true;
   mnuPause.Enabled = true;
 }
@@ -200,7 +179,7 @@ void frmFivestack::StartClock() {
   Timer1.Enabled = true;
 }
 
-bool frmFivestack::EnableControls() {
+void frmFivestack::EnableControls() {
   for (int i = 1; i < kColumns; ++i) {  // the first one is enabled by `Reset`
     cmdHit(i).Enabled = true;
     ColumnTotal(i).Visible = true;
@@ -208,10 +187,10 @@ bool frmFivestack::EnableControls() {
   lblCurrentTotal.Visible = true;
   ShowScoringLabel(false);
   ScoringLabelOutline.Visible = false;
-  return true;
 }
 
-bool frmFivestack::Reset() {
+void frmFivestack::Reset() {
+  board.Clear(CardsToPass);
   for (int i = 0; i < kColumns; ++i) {
     for (int slot = 0; slot < kCardsOfColumn; ++slot) {
       Image& image = ColumnImages(i)(slot);
@@ -221,21 +200,17 @@ bool frmFivestack::Reset() {
     }
     ColumnSoft(i).Visible = false;
     ColumnSoft(i).Caption = "";
-    columns[i] = {};
     ColumnTotal(i).Caption = "0";
     CloseColumn(i, false);
   }
   ShowCardTotal(0);
-  SetOffer(Offer::GiveUp);
+  cmdGiveUp.Caption = kGiveUp;
   ShowHitButtons(false);
   cmdPause.Enabled = false;
   mnuPause.Enabled = false;
   Timer1.Enabled = false;
   common.ElapsedSeconds = 0;
-  ScoringLabel.FontSize = 18;
   ShowTimeBonus(TimeBonusMax);
-  PassesLeft = CardsToPass;
-  return true;
 }
 
 // --- The time bonus ------------------------------------------------------------------------------
@@ -273,7 +248,7 @@ void frmFivestack::cmdGiveUp_Click() {
     Timer1.Enabled = false;
     MousePointer = kHourglass;
     CurrentRound += 1;
-    offer == Offer::TakeScore ? TakeScore() : LoseRound();
+    board.Worth() > 0 ? TakeScore() : LoseRound();
     Reset();
     platform.DoEvents();
     if (standing.InGame()) EndRound(CurrentRound);
@@ -288,8 +263,7 @@ void frmFivestack::LoseRound() {
   StopMusic();
   ShowCards(false);
   ScoringLabel.ForeColor = kRed;
-  if (CardTotal < kLowestPaid) {
-    ScoringLabel.FontSize = 18;
+  if (board.cardTotal < kLowestPaid) {
     ScoringLabel.Caption = "Sorry, 97 or more needed to win!";
   } else {
     ScoringLabel.Caption = "Busted!";
@@ -305,19 +279,19 @@ void frmFivestack::TakeScore() {
   try {
     StopMusic();
     ShowCards(false);
-    const Long roundScore = CardTotalValue * common.TimeBonus;
+    const int worth = board.Worth();
+    const Long roundScore = worth * common.TimeBonus;
     ScoringLabelRoundTotal.Caption = "Round " + std::to_string(CurrentRound - 1) + " Total: ";
-    ScoringLabel.FontSize = 18;
     ScoringLabel.Caption = FormatNumber(roundScore);
     PlaceRoundTotal();
     ScoringLabelInfo.ForeColor = kBlack;
     ScoringLabel.ForeColor = kBlack;
-    ScoringLabelInfo.Caption = "Card Total Value (" + std::to_string(CardTotalValue) + ") X Time Bonus (" +
+    ScoringLabelInfo.Caption = "Card Total Value (" + std::to_string(worth) + ") X Time Bonus (" +
                                std::to_string(common.TimeBonus) + ")";
     ShowScoringLabel(true);
     ScoringLabelOutline.Visible = true;
     Wait();
-    if (CardTotalValue == ValueOf(kPerfect)) {
+    if (worth == ValueOf(kPerfect)) {
       ScoringLabelInfo.Caption = "Totally Awesome Score!";
       PlaySound("\\Applause.wav");
       Wait();
@@ -354,12 +328,11 @@ void frmFivestack::Wait() { platform.Sleep(std::max(0, static_cast<int>(WaitPeri
 
 // --- The next round, or the end of the game ------------------------------------------------------
 
-bool frmFivestack::EndRound(Integer round) {
+void frmFivestack::EndRound(Integer round) {
   common.ElapsedSeconds = 0;
   if (CurrentRound == kBonusRound && !EarnsBonusRound()) CurrentRound = round = kBonusRound + 1;
   StopMusic();
   round <= kBonusRound ? PrepareRound() : GameOver();
-  return true;
 }
 
 void frmFivestack::PrepareRound() {
@@ -376,7 +349,7 @@ void frmFivestack::PrepareRound() {
   ScoringLabel.Visible = true;
   Wait();
   SetVisible({&ScoringLabelOutline, &ScoringLabel}, false);
-  ShowCards(true);
+  ShowTable(true);
   DealCards();
   ShowHitButtons(true);
   ShowRoundControls(true);

@@ -1,8 +1,16 @@
 // frmFivestack: the window of Fivestack, what each click, tick and menu entry does.
 #pragma once
 
-#include "games/fivestack/rules.h"
+#include "games/fivestack/board.h"
 #include "suite/game_window.h"
+
+namespace modFivestack {
+
+// What a game pays and allows when nobody has changed it.
+inline constexpr int kTimeBonusMax = 300, kTimeBonusMin = 100, kBonusScore = 200000, kWaitPeriod = 2000,
+                     kCardsToPass = 1;
+
+}  // namespace modFivestack
 
 class frmFivestack : public GameWindow {
  public:
@@ -14,6 +22,10 @@ class frmFivestack : public GameWindow {
       Column4{*this, "Column4"}, Column5{*this, "Column5"};
   Shape Column1Line{*this, "Column1Line"}, Column2Line{*this, "Column2Line"},
       Column3Line{*this, "Column3Line"}, Column4Line{*this, "Column4Line"}, Column5Line{*this, "Column5Line"};
+  Slots& ColumnImages(int i) { return *std::array{&Column1, &Column2, &Column3, &Column4, &Column5}[i]; }
+  Shape& ColumnLine(int i) {
+    return *std::array{&Column1Line, &Column2Line, &Column3Line, &Column4Line, &Column5Line}[i];
+  }
   ControlArray<Label, modFivestack::kColumns> ColumnTotal{*this, "ColumnTotal"},
       ColumnSoft{*this, "ColumnSoft"};
   ControlArray<CommandButton, modFivestack::kColumns> cmdHit{*this, "cmdHit"};
@@ -25,13 +37,8 @@ class frmFivestack : public GameWindow {
   Label lblCurrentTotal{*this, "lblCurrentTotal"};
   Frame frmScore{*this, "frmScore"};
   Shape TableGround{frmScore, "TableGround"};  // below its rows
-  // The rows of the table in it, in the order of `kTotals`.
-  struct TableRow {
-    Label total, value;
-    TableRow(Control& frame, const modFivestack::TotalRow& row)
-        : total(frame, row.label), value(frame, row.valueLabel) {}
-  };
-  std::vector<std::unique_ptr<TableRow>> tableRows;
+  // The rows of the table in it, in the order of `kValues`: a total, and what it is worth.
+  std::vector<std::unique_ptr<Label>> tableLabels;
   Label lblTimeBonus{*this, "lblTimeBonus"};
   Shape ScoringLabelOutline{*this, "ScoringLabelOutline"};
   Label &ScoringLabel = lblMessage, &lblTotalScore = lblCurrentScore;
@@ -39,14 +46,7 @@ class frmFivestack : public GameWindow {
   CommandButton& cmdQuit = cmdExit;
 
   // --- State -------------------------------------------------------------------------------------
-  // What Give Up does by now; it reads accordingly, and a total that was lost differs from none.
-  enum class Offer { GiveUp, Lost, TakeScore };
-
-  std::array<Column21, modFivestack::kColumns> columns;
-  Integer DeckPosition;  // of the next card
-  Integer PassesLeft;
-  Integer CardTotal, CardTotalValue;
-  Offer offer = Offer::GiveUp;
+  modFivestack::Board board;
   bool QuitRequested = false;  // End Game was confirmed
   // Settings.
   Integer TimeBonusMax, TimeBonusMin, WaitPeriod, CardsToPass;
@@ -55,12 +55,12 @@ class frmFivestack : public GameWindow {
   // --- Cards -------------------------------------------------------------------------------------
   void cmdHit_Click(int index);
   void cmdPass_Click();
-  void CalculateColumnValue(int index);
+  modFivestack::Laid CalculateColumnValue(int index);
   // True if the round is lost; else an ace of the column counts 1 from now on.
   bool CheckForBust(int index);
   void CloseColumn(int index, bool close = true);
   void CloseCurrentRound();
-  bool EnableControls();
+  void EnableControls();
   void lblCurrentTotal_Change();
   void UpdateCardTotalValue();
   void ClearCardTotalRows();
@@ -70,8 +70,8 @@ class frmFivestack : public GameWindow {
   void cmdGiveUp_Click();
   void TakeScore() override;
   // The next round, or the end of the game if there is none of that number.
-  bool EndRound(Integer round);
-  bool Reset();
+  void EndRound(Integer round);
+  void Reset();
 
   // --- The frame's plan --------------------------------------------------------------------------
   std::string Welcome() const override { return "Welcome to " + common.AppTitle + "   "; }
@@ -107,13 +107,11 @@ class frmFivestack : public GameWindow {
   void SetUpBoard();
   void SetUpTable();
   void BindBoardEvents();
-  Slots& ColumnImages(int index);
-  Shape& ColumnLine(int index);
 
   void SumUp();
   void ShowCardTotal(long long total);
-  void SetOffer(Offer which);
   void ShowNextCard();
+  void ShowTable(bool visible);
   void DealCards();
   void StartClock();
   void LoseRound();

@@ -2,6 +2,7 @@
 // settings.
 #include "games/fivestack/custom.h"
 #include "games/fivestack/fivestack.h"
+#include "suite/column_places.h"
 
 using namespace modFivestack;
 
@@ -39,12 +40,8 @@ constexpr GamePlan kPlan{
     .designs = {kHotCards, kMagicHands, kNightCastle, kPalmTree},
 };
 
-// The columns, and the five places for cards of each.
-constexpr int kColumnLefts[kColumns] = {420, 1875, 3330, 4785, 6240};
-constexpr int kSlotTops[kCardsOfColumn] = {2550, 2940, 3345, 3750, 4140};
-constexpr int kCardWidth = 1035, kCardHeight = 1455;
-constexpr int kTotalTop = 1815, kTotalWidth = 495, kTotalHeight = 360, kSoftTop = 2280, kLineTop = 2535,
-              kHitTop = 5670, kHitHeight = 570;
+constexpr ColumnPlaces kPlaces = {420, 1455, 1815, 2280, {2550, 2940, 3345, 3750, 4140}, 420, 5670};
+constexpr int kLineTop = 2535;
 
 // Everything but the columns: the deck, the clock and the score above them, the table at their right.
 constexpr Design kDesign[] = {
@@ -65,6 +62,19 @@ constexpr Design kDesign[] = {
 };
 constexpr int kTableTop = 315, kTablePitch = 294, kHighScoreGap = 45;
 
+// The two labels in each row of the table, and what the left one reads.
+struct RowNames {
+  const char *total, *value, *caption;
+};
+constexpr RowNames kRowNames[] = {
+    {"lbl105", "lblScore105", "105"},    {"lbl104", "lblScore104", "104"}, {"lbl103", "lblscore103", "103"},
+    {"lbl102", "lblscore102", "102"},    {"lbl101", "lblscore101", "101"}, {"lbl100", "lblscore100", "100"},
+    {"lbl99", "lblscore99", "99"},       {"lbl98", "lblscore98", "98"},    {"lbl97", "lblscore97", "97"},
+    {"lblNothing", "lblScore0", "< 97"},
+};
+constexpr int kRows = static_cast<int>(kValues.size());
+static_assert(std::size(kRowNames) == kRows);
+
 // The buttons' place across the window is the frame's.
 constexpr Design kButtonDesign[] = {
     {"cmdPlay", 8220, 90, 1200, 420},
@@ -81,7 +91,7 @@ frmFivestack::frmFivestack(modCommon& common) : GameWindow(common, kPlan) {
               {"[WaitPeriod]", &WaitPeriod, kWaitPeriod, Customises::No},
               {"[CountDownScore]", &common.CountDownScore, true, Customises::No},
               {kPasses, &CardsToPass, kCardsToPass, Customises::No},
-              {"", &PassesLeft, kCardsToPass}};
+              {"", &board.passesLeft, kCardsToPass}};
   SetUpBoard();
   SetUpTable();
   BindBoardEvents();
@@ -96,29 +106,22 @@ bool frmFivestack::ApplyGameSetting(std::string_view section, std::string_view v
   }
   if (section != kPasses) return false;
   ApplyNumber(value, CardsToPass);
-  PassesLeft = CardsToPass;
+  board.passesLeft = CardsToPass;
   return true;
 }
 
-void frmFivestack::SettingsRead() { cmdPass.Enabled = PassesLeft > 0; }
+void frmFivestack::SettingsRead() { cmdPass.Enabled = board.passesLeft > 0; }
 
 void frmFivestack::SetUpBoard() {
   ApplyDesign(*this, kDesign);
   ApplyDesign(*this, kButtonDesign);
+  SetUpColumns(*this, {});
   for (int i = 0; i < kColumns; ++i) {
-    for (int slot = 0; slot < kCardsOfColumn; ++slot)
-      ColumnImages(i)(slot).Visual::Move(0, 0, kCardWidth, kCardHeight);
     ColumnLine(i).BorderColor = kWhite;
-    ColumnTotal(i).Visual::Move(0, 0, kTotalWidth, kTotalHeight);
     ColumnTotal(i).BackStyle = 1;
     ColumnTotal(i).FontSize = 14;
-    ColumnTotal(i).Caption = "0";
-    ColumnTotal(i).Alignment = 2;
     ColumnSoft(i).AutoSize = true;
     ColumnSoft(i).FontBold = true;
-    ColumnSoft(i).Visible = false;
-    cmdHit(i).Visual::Move(0, 0, kCardWidth, kHitHeight);
-    cmdHit(i).Caption = "Hit";
   }
   ScoringLabelOutline.Sunken = true;
   for (Label* label : {&lblTime, &lblScore, &lblCurrentRoundScore, &lblHighScore}) label->FontBold = true;
@@ -150,18 +153,16 @@ void frmFivestack::SetUpBoard() {
 void frmFivestack::SetUpTable() {
   TableGround.Sunken = true;
   TableGround.Visual::Move(150, kTableTop - 30, frmScore.Width - 300, kRows * kTablePitch + 30);
-  for (const TotalRow& row : kTotals) {
-    auto labels = std::make_unique<TableRow>(frmScore, row);
-    const int top = kTableTop + static_cast<int>(tableRows.size()) * kTablePitch;
-    labels->total.Caption = row.caption;
-    labels->total.Move(270, top, 585, 255);
-    labels->value.Caption = std::to_string(row.value);
-    labels->value.Move(960, top, 735, 255);
-    for (Label* label : {&labels->total, &labels->value}) {
-      label->FontSize = 10;
-      label->Alignment = 1;
+  for (int row = 0; row < kRows; ++row) {
+    const RowNames& names = kRowNames[row];
+    for (const bool worth : {false, true}) {
+      Label& label =
+          *tableLabels.emplace_back(std::make_unique<Label>(frmScore, worth ? names.value : names.total));
+      label.Caption = worth ? std::to_string(kValues[row]) : names.caption;
+      label.Move(worth ? 960 : 270, kTableTop + row * kTablePitch, worth ? 735 : 585, 255);
+      label.FontSize = 10;
+      label.Alignment = 1;
     }
-    tableRows.push_back(std::move(labels));
   }
 }
 
@@ -178,34 +179,17 @@ void frmFivestack::BindBoardEvents() {
   ScoringLabelInfo.OnChange = [this] { PlaceInfo(); };
 }
 
-frmFivestack::Slots& frmFivestack::ColumnImages(int index) {
-  Slots* const slots[] = {&Column1, &Column2, &Column3, &Column4, &Column5};
-  return *slots[index];
-}
-
-Shape& frmFivestack::ColumnLine(int index) {
-  Shape* const lines[] = {&Column1Line, &Column2Line, &Column3Line, &Column4Line, &Column5Line};
-  return *lines[index];
-}
-
 // --- Placing -------------------------------------------------------------------------------------
 
 void frmFivestack::PlaceBoard() {
   PlaceInMiddle(kDesign);
-  const int right = (Width - plan.width) / 2, down = (Height - plan.height) / 2;
+  const int down = (Height - plan.height) / 2;
   for (const Design& row : kButtonDesign) static_cast<Visual&>(*find(row.name)).Top = row.top + down;
-  for (int i = 0; i < kColumns; ++i) {
-    const int left = kColumnLefts[i] + right;
-    for (int slot = 0; slot < kCardsOfColumn; ++slot) {
-      ColumnImages(i)(slot).Left = left;
-      ColumnImages(i)(slot).Top = kSlotTops[slot] + down;
-    }
+  PlaceColumns(*this, kPlaces, [&](int i, int left) {
     ColumnLine(i).Visual::Move(left, kLineTop + down, kCardWidth, 0);
-    ColumnTotal(i).Top = kTotalTop + down;
-    ColumnSoft(i).Top = kSoftTop + down;
-    cmdHit(i).Left = left;
-    cmdHit(i).Top = kHitTop + down;
-  }
+    ColumnTotal(i).Top = kPlaces.totalTop + down;
+    ColumnSoft(i).Top = kPlaces.softTop + down;
+  });
   ResizeColumnHeaders();
   lblTotalScore.Top = ScoreRectangle.Top + (ScoreRectangle.Height - lblTotalScore.Height) / 2;
   CenterIn(lblTotalScore, ScoreRectangle);
@@ -260,15 +244,19 @@ void frmFivestack::PlaceInfo() {
 
 // --- Showing -------------------------------------------------------------------------------------
 
-// A place that holds no card has nothing to show.
+// The first place of a column shows itself; behind it one that holds no card has nothing to show.
 void frmFivestack::ShowCards(bool visible) {
   for (int i = 0; i < kColumns; ++i) {
-    for (int slot = 0; slot < kCardsOfColumn; ++slot) {
-      Image& image = ColumnImages(i)(slot);
-      image.Visible = visible && image.Picture != 0;
-    }
-    if (columns[i].softAces > 0) ColumnSoft(i).Visible = visible;
+    const Column21& column = board.columns[i];
+    for (int slot = 0; slot < kCardsOfColumn; ++slot)
+      ColumnImages(i)(slot).Visible = visible && (slot == 0 || slot < static_cast<int>(column.cards.size()));
+    if (column.softAces > 0) ColumnSoft(i).Visible = visible;
   }
+  ShowTable(visible);
+}
+
+// Everything but the cards on the columns.
+void frmFivestack::ShowTable(bool visible) {
   SetVisible({&NextCardPicture, &PlayCardPicture, &lblCurrentTotal, &lblCurrentRoundScore}, visible);
   ShowGraphics(visible);
 }

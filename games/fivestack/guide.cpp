@@ -4,11 +4,9 @@
 
 namespace {
 
-class FivestackGuide : public ColumnGuide<frmFivestack, modFivestack::kColumns> {
+class FivestackGuide : public ColumnGuide<frmFivestack> {
  public:
-  explicit FivestackGuide(frmFivestack& window)
-      : ColumnGuide(window,
-                    {&window.Column1, &window.Column2, &window.Column3, &window.Column4, &window.Column5}) {}
+  using ColumnGuide::ColumnGuide;
 
   std::vector<std::string> FirstSteps() const override {
     return {"Hit lays the card that shows on its column; no column may go over 21.",
@@ -17,8 +15,10 @@ class FivestackGuide : public ColumnGuide<frmFivestack, modFivestack::kColumns> 
   }
 
  protected:
+  bool IsOpen(int column) const override { return window_.board.Takes(column); }
+  bool SaysSoft(int column) const override { return window_.board.columns[column].softAces > 0; }
   std::string BoardState() const override {
-    return NextCard() + " Card total " + std::to_string(window_.CardTotal) + ".";
+    return NextCard() + " Card total " + std::to_string(window_.board.cardTotal) + ".";
   }
 };
 
