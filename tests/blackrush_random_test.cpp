@@ -85,7 +85,7 @@ class BlackrushPlayer : public RandomPlayer {
 TEST(BlackrushRandomPlayer, DoesNoHarm) {
   TestFolder folder;
   BlackrushPlayer player(folder.Path());
-  player.Play(200000);
+  player.Play(100000);
   std::cout << player.twentyOnes << " columns of 21, " << player.decks << " moments with the last card\n";
   EXPECT_GT(player.twentyOnes, 1000);
   EXPECT_GT(player.decks, 20);

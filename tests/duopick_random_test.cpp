@@ -95,7 +95,7 @@ class DuopickAtRandom : public RandomPlayer {
 TEST(DuopickRandomPlayer, DoesNoHarm) {
   TestFolder folder;
   DuopickAtRandom player(folder.Path());
-  player.Play(200000);
+  player.Play(100000);
   std::cout << player.matches << " matches, " << player.refilled << " gaps refilled, " << player.beyond
             << " moments behind the end of the stack\n";
   EXPECT_GT(player.matches, 10000);

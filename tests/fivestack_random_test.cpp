@@ -79,7 +79,7 @@ class FivestackPlayer : public RandomPlayer {
 TEST(FivestackRandomPlayer, DoesNoHarm) {
   TestFolder folder;
   FivestackPlayer player(folder.Path());
-  player.Play(200000);
+  player.Play(100000);
   std::cout << player.taken << " scores taken, " << player.softened << " aces brought down, highest total "
             << player.highest << "\n";
   EXPECT_GT(player.taken, 100);

@@ -96,7 +96,7 @@ TEST(HandgridRandomPlayer, DoesNoHarm) {
   TestFolder folder;
   folder.Write("Handgrid.Ini", "[Time Bonus]\r\n100000\r\n\r\n");  // until the dialog puts it right
   HandgridPlayer player(folder.Path());
-  player.Play(200000);
+  player.Play(100000);
   EXPECT_GT(player.placed, 10000);
   EXPECT_GT(player.filled, 500);
   EXPECT_GT(player.bonusRounds, 0);

@@ -65,7 +65,7 @@ class SpireholdAtRandom : public RandomPlayer {
 TEST(SpireholdRandomPlayer, DoesNoHarm) {
   TestFolder folder;
   SpireholdAtRandom player(folder.Path());
-  player.Play(200000);
+  player.Play(100000);
   EXPECT_GT(player.runs, 10000);
   EXPECT_GT(player.overflows, 0);
 }

@@ -145,7 +145,7 @@ class SumfallPlayer : public RandomPlayer {
 TEST(SumfallRandomPlayer, DoesNoHarm) {
   TestFolder folder;
   SumfallPlayer player(folder.Path());
-  player.Play(200000);
+  player.Play(100000);
   std::cout << player.flips << " flips\n";
   for (int goal = kLowestGoal; goal <= kHighestGoal; ++goal) {
     std::cout << "goal " << goal << ": " << player.combinations[goal] << " combinations\n";

@@ -119,7 +119,7 @@ class TreyshiftPlayer : public RandomPlayer {
 TEST(TreyshiftRandomPlayer, DoesNoHarm) {
   TestFolder folder;
   TreyshiftPlayer player(folder.Path());
-  player.Play(200000);
+  player.Play(100000);
   std::cout << "at most " << player.trips << " trips and " << player.runs << " runs in a round, "
             << player.decks << " moments with a deck used up, " << player.beyond << " beyond\n";
   EXPECT_GT(player.trips, 3);
