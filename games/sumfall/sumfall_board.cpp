@@ -174,11 +174,14 @@ void frmSumfall::BindBoardEvents() {
   });
   UpCardPicture.OnClick = [this] { UpCardPicture_Click(); };
   PlayCardPicture.OnClick = [this] { PlayCardPicture_Click(); };
-  for (auto [image, pile] : {std::pair(&UpCardPicture, &board.upCards), {&PlayCardPicture, &board.stock}})
-    image->OnMouseMove = [this, image, pile] {
-      const bool playable = !pile->empty() && !standing.IsOver();
-      image->MouseIcon = playable ? common.ImageList2("POINTER") : 0;
+  const auto pointAt = [this](Image& image, const auto& pile) {
+    image.OnMouseMove = [this, &image, &pile] {
+      const bool playable = !pile.empty() && !standing.IsOver();
+      image.MouseIcon = playable ? common.ImageList2("POINTER") : 0;
     };
+  };
+  pointAt(UpCardPicture, board.upCards);
+  pointAt(PlayCardPicture, board.stock);
   lblCurrentScore.OnChange = [this] {
     CenterIn(lblCurrentScore, ScoreRectangle);
     lblCurrentScore.ForeColor = common.CurrentScore < 0 ? kRed : kBlue;
