@@ -153,6 +153,10 @@ TEST_F(Handgrid, OverwritesRunOutByTheirLastDigitOnly) {
   driver.Do(kPlayHandgrid);
   EXPECT_EQ(Caption("lblOverwrites"), "Over Writes Remaining: 10");
   EXPECT_EQ(Number("lblOverwrites.ForeColor"), kBlue);
+  driver.Do(kPlayHandgrid + "answer \"Yes\"\n");
+  Game().OverWritesAllowed = 1;
+  driver.Do(kPlayHandgrid);
+  EXPECT_EQ(Number("lblOverwrites.ForeColor"), kBlue);
 }
 
 // Later cards lie over earlier rows, and no empty place over a card.

@@ -155,6 +155,21 @@ TEST_F(Sumfall, ASelectionAtTheTopSurvivesAPause) {
   EXPECT_EQ(Played(ClickField(0)), "Tick -1 0");
 }
 
+// It stays through the rounds and into the game after an End Game; the end of a game takes it away.
+TEST_F(Sumfall, ASelectionAtTheTopEndsWithTheGame) {
+  const std::string rectangle = "FieldSelectionRectangle(0).Visible";
+  Deal(ElevenPairs());
+  for (int place : {3, 4}) game().board.field[place].clear();
+  driver.Do(ClickField(0) + kTakeScore);
+  EXPECT_EQ(Text(rectangle) + Text("lblCurrentTotal.Caption"), "true0");
+  driver.Do("click frmSumfall.cmdPlay\nanswer \"Yes\"\n" + kPlay);
+  EXPECT_EQ(Text(rectangle), "true");
+  EXPECT_TRUE(game().board.selected[0]);
+  driver.Do(kTakeScore + kTakeScore);
+  EXPECT_EQ(Text("frmSplash.Visible") + Text(rectangle), "truefalse");
+  EXPECT_FALSE(game().board.selected[0]);
+}
+
 // What a player hears and sees while a round is scored, in order.
 std::string Story(const std::string& trace) {
   std::string story;

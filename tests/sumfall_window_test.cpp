@@ -29,8 +29,8 @@ TEST(SumfallWindow, ACardIsCoveredByWhatLiesOnIt) {
       for (int between : on) implied |= lies(other, between);
       if (!implied) direct.insert(other);
     }
-    const auto covers = CoveredBy(place);
-    EXPECT_EQ(std::set<int>(covers.begin(), covers.end()), direct) << place;
+    if (direct.empty()) direct.insert(place);
+    EXPECT_EQ(std::set<int>(std::begin(kCovers[place]), std::end(kCovers[place])), direct) << place;
   }
   // Each row pays a hundred less than the one above it, and lies 500 lower.
   for (int place = 0; place < kPlaces; ++place)

@@ -10,22 +10,6 @@ const std::string kNoCard;
 
 }  // namespace
 
-std::span<const int> CoveredBy(int place) {
-  struct Cover {
-    int count;
-    int places[2];
-  };
-  // Place 7 has no entry of its own although it lies in the fourth tier.
-  static constexpr std::array<Cover, kPlaces> kCovers = {{
-      {2, {3, 4}},   {2, {5, 6}}, {2, {8, 9}},   {2, {7, 12}},  {2, {7, 13}}, {2, {10, 11}},
-      {2, {11, 12}}, {0, {}},     {2, {13, 14}}, {2, {14, 15}}, {1, {16}},    {2, {16, 17}},
-      {1, {17}},     {1, {18}},   {2, {18, 19}}, {1, {19}},     {1, {20}},    {1, {20}},
-      {1, {21}},     {1, {21}},   {0, {}},       {0, {}},
-  }};
-  if (place < 0 || place >= kPlaces) return {};
-  return {kCovers[place].places, static_cast<size_t>(kCovers[place].count)};
-}
-
 CardCodes DeckForGoal(int cardGoal) {
   constexpr char kSuits[] = {'S', 'H', 'C', 'D'};
   CardCodes deck(1);
@@ -59,7 +43,9 @@ const std::string& Board::CardAt(int place) const {
 }
 
 bool Board::CheckLegalFieldCardMove(int place) const {
-  return std::ranges::all_of(CoveredBy(place), [this](int cover) { return field[cover].empty(); });
+  return place == kUpCard || std::ranges::all_of(kCovers[place], [this, place](int cover) {
+           return cover == place || field[cover].empty();
+         });
 }
 
 bool Board::CheckForCompletion() const { return std::ranges::all_of(field, &std::string::empty); }

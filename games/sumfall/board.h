@@ -6,7 +6,6 @@
 #pragma once
 
 #include <array>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -28,8 +27,12 @@ inline constexpr std::array<int, kPlaces + 1> kPoints = {700, 600, 600, 600, 600
 // What turning a card costs, and the same again if the one before falls into the field.
 inline constexpr int kTurnCost = 100;
 
-// The places that cover a place; the list is empty for those that are exposed from the start.
-std::span<const int> CoveredBy(int place);
+// The places that cover a place; twice the same where there is but one, and itself where there is none. Place
+// 7 is exposed from the start although it lies in the fourth tier.
+inline constexpr int kCovers[kPlaces][2] = {{3, 4},   {5, 6},   {8, 9},   {7, 12},  {7, 13},  {10, 11},
+                                            {11, 12}, {7, 7},   {13, 14}, {14, 15}, {16, 16}, {16, 17},
+                                            {17, 17}, {18, 18}, {18, 19}, {19, 19}, {20, 20}, {20, 20},
+                                            {21, 21}, {21, 21}, {20, 20}, {21, 21}};
 
 // The deck of a card goal before it is shuffled: 52 cards, and the face cards that the goal brings along.
 CardCodes DeckForGoal(int cardGoal);
