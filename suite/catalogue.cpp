@@ -14,15 +14,15 @@ PictureFiles Catalogue() {
   PictureFiles files;
   for (int design = 1; design <= 4; ++design) {
     const std::string name = "back" + std::to_string(design);
-    files.push_back({name + "-full.svg", 76, 98});
-    files.push_back({name + ".svg", 71, 96});
-    files.push_back({name + "-half.svg", 74, 97});
+    files.push_back({name + "-full.svg", 76, 98, PictureKind::Pile});
+    files.push_back({name + ".svg", 71, 96, PictureKind::Back});
+    files.push_back({name + "-half.svg", 74, 97, PictureKind::Pile});
   }
-  files.push_back({"empty.svg", 71, 96});
+  files.push_back({"empty.svg", 71, 96, PictureKind::Place});
   for (char suit : kSuits)
     for (int rank = 1; rank <= 13; ++rank) files.push_back({std::to_string(rank) + suit + ".svg", 69, 94});
   files.push_back({"pointer.svg", 32, 32});
-  files.push_back({"empty-wide.svg", 76, 100});
+  files.push_back({"empty-wide.svg", 76, 100, PictureKind::Place});
   files.push_back({"sumfall.svg", 71, 96});
   return files;
 }

@@ -21,7 +21,10 @@ class GameGuide : public Guide {
   bool IsOrnament(const Control& control) const override;
   std::optional<Note> FirstStepsPlace() const override;
   std::string PanelText(int number) const override;
-  const Label* Score() const override { return &window_.lblCurrentScore; }
+  std::optional<long long> Score() const override { return window_.common.CurrentScore; }
+  Control* Pause() const override { return &window_.cmdPause; }
+  const Menu* KeysMenu() const override { return &window_.mnuHelp; }
+  bool IsMessage(const Label& label) const override { return &label == &window_.lblMessage; }
 
  protected:
   // The rows of the game's own board, which go before the common ones.

@@ -40,7 +40,7 @@ struct Start {
     input::Click(front, Control(form, control));
     input::Settle();
   }
-  Guide& GuideTo(const char* name) { return *front.GuideOf(Window(name)); }
+  Guide& GuideTo(const char* name) { return *front.WindowOf(Window(name))->GetGuide(); }
 
   QuickDesktop front;
   std::unique_ptr<Suite> suite;
@@ -64,9 +64,9 @@ TEST_F(Comforts, TheSelectorSaysWhatGamesAreAboutAndComesBackWhereItStood) {
   }
   Start second(folder);
   EXPECT_EQ(second.Shown("frmSelect").pos(), QPoint(37, 41));
-  View view = second.front.GetView();
+  View view = second.front.looks.Now();
   view.selector = QPoint(100'000, 41);  // on a screen that is gone
-  second.front.SetView(view);
+  second.front.looks.Set(view);
   second.front.Deliver(second.Window("frmSelect"), [&] { second.Window("frmSelect").Hide(); });
   input::Settle();
   Start third(folder);
@@ -80,16 +80,16 @@ TEST_F(Comforts, TwoCopiesKeepWhatEachHasChanged) {
   };
   auto one = begin(), other = begin();
   const auto set = [](DesktopFrontEnd& front, const std::function<void(View&)>& change) {
-    View view = front.GetView();
+    View view = front.looks.Now();
     change(view);
-    front.SetView(view);
+    front.looks.Set(view);
   };
   set(*one, [](View& view) { view.waveVolume = 25, view.lastName = "Ann", view.seen << "frmSumfall"; });
   set(*other,
       [](View& view) { view.musicVolume = 50, view.lastGame = "cmdDuopick", view.seen << "frmDuopick"; });
   one.reset();
   other.reset();
-  const View kept = begin()->GetView();
+  const View kept = begin()->looks.Now();
   EXPECT_EQ(std::tuple(kept.waveVolume, kept.musicVolume, kept.lastName, kept.lastGame, kept.seen.size()),
             std::tuple(25, 50, "Ann", "cmdDuopick", 2));
 }

@@ -63,13 +63,14 @@ class frmCount : public Form {
   Image Card{*this, "Card"}, Other{*this, "Other"}, Pile{*this, "Pile"};
   ControlArray<Image, 9> Row{*this, "Row"};
   Label lblSum{*this, "lblSum"};
+  long long sum = 0;
   CommandButton cmdCount{*this, "cmdCount"}, cmdNext{*this, "cmdNext"};
 };
 
 class CountGuide : public Guide {
  public:
   explicit CountGuide(frmCount& form) : form_(form) {}
-  const Label* Score() const override { return &form_.lblSum; }
+  std::optional<long long> Score() const override { return form_.sum; }
 
  private:
   frmCount& form_;
@@ -83,7 +84,7 @@ class Feel : public testing::Test {
       form.Row(i).Move(300 + 600 * i, 3000, 1065, 1455);
       form.Row(i).BorderStyle = 1;
     }
-    form.lblSum.Caption = "1,000";
+    Say(1000);
     form.Show();
     Do([] {});
     input::Settle();
@@ -107,6 +108,10 @@ class Feel : public testing::Test {
     input::clock = [this, ahead] { return static_cast<int>(front.Milliseconds() + ahead); };
   }
   void TearDown() override { input::clock = nullptr; }
+  void Say(long long sum) {
+    form.sum = sum;
+    form.lblSum.Caption = std::to_string(sum);
+  }
   Canvas& Board() { return front.WindowOf(form)->Board(); }
   QLabel* Word() { return Board().findChild<QLabel*>("hurry"); }
   // Does something as soon as the player is offered to skip the rest.
@@ -333,7 +338,7 @@ TEST_F(Feel, CardsAreSeenToMoveButAreThereAtOnce) {
          for (int i = 0; i < 9; ++i) form.Row(i).Picture = first + i;
        },
        false},
-      {"nothing", [&] { form.lblSum.Caption = "900"; }, false},
+      {"nothing", [&] { Say(900); }, false},
   };
   for (const auto& each : cases) {
     front.Deliver(form, each.deed);
@@ -368,9 +373,9 @@ TEST_F(Feel, CardsAreSeenToMoveButAreThereAtOnce) {
       [&] { form.Hide(), form.Show(); },
       [&] { front.WindowOf(form)->resize(500, 400); },
       [&] {
-        View view = front.GetView();
+        View view = front.looks.Now();
         view.lessMotion = true;
-        front.SetView(view);
+        front.looks.Set(view);
         Do([&] { form.Card.Left += 300; });
       },
   };
@@ -389,7 +394,7 @@ TEST_F(Feel, CardsAreSeenToMoveButAreThereAtOnce) {
 
 TEST_F(Feel, SumsFloatAndRefusalsFlashForAMomentOnly) {
   const auto red = [&] {
-    const QRect rect = DrawnRect(form.Card, front.pictures);
+    const QRect rect = DrawnRect(form.Card, front.paintbox.pictures);
     const QColor edge = Screen().pixelColor(Board().mapTo(Board().window(), rect.center()).x(),
                                             Board().mapTo(Board().window(), rect.topLeft()).y() + 1);
     return edge.red() > 180 && edge.green() < 110;
@@ -412,26 +417,26 @@ TEST_F(Feel, SumsFloatAndRefusalsFlashForAMomentOnly) {
     EXPECT_TRUE(LeavesNothing());
     return front.Milliseconds() - begun > 600;
   };
-  EXPECT_TRUE(lasts([&] { form.Card.Visible = false, form.lblSum.Caption = "1,700"; }));
-  front.Deliver(form, [&] { form.lblSum.Caption = "2,000"; });
+  EXPECT_TRUE(lasts([&] { form.Card.Visible = false, Say(1700); }));
+  front.Deliver(form, [&] { Say(2000); });
   EXPECT_TRUE(Board().AtRest());
   bool floats = true;
   for (int i = 0; i < 10 && floats; ++i) {
-    lasts([&] { form.Other.Visible = true, form.lblSum.Caption = "2,000"; });
-    floats = lasts([&] { form.Other.Visible = false, form.lblSum.Caption = "1,500"; });
+    lasts([&] { form.Other.Visible = true, Say(2000); });
+    floats = lasts([&] { form.Other.Visible = false, Say(1500); });
   }
   EXPECT_FALSE(floats);
 }
 
-TEST(Strike, RisesAlongACountAndIsNeverTwiceTheSame) {
-  EXPECT_EQ(StrikeOf(0).cents, 0);
-  EXPECT_EQ(StrikeOf(0).level, 100);
+TEST(Touch, RisesAlongACountAndIsNeverTwiceTheSame) {
+  EXPECT_EQ(TouchOf(0).cents, 0);
+  EXPECT_EQ(TouchOf(0).level, 100);
   for (int step = 1; step < 90; ++step) {
-    const Strike strike = StrikeOf(step), next = StrikeOf(step + 1);
+    const Touch strike = TouchOf(step), next = TouchOf(step + 1);
     EXPECT_TRUE(strike.cents != next.cents || strike.level != next.level) << step;
     EXPECT_LE(strike.cents, 730);
     EXPECT_GE(strike.level, 80);
-    EXPECT_GT(StrikeOf(step + 20).cents, strike.cents - 56) << step;
+    EXPECT_GT(TouchOf(step + 20).cents, strike.cents - 56) << step;
   }
-  EXPECT_GT(StrikeOf(45).cents, 400);
+  EXPECT_GT(TouchOf(45).cents, 400);
 }

@@ -64,7 +64,7 @@ class Keys : public testing::Test {
     return static_cast<Window&>(Game());
   }
   const Visual* Cursor() { return front.WindowOf(Game())->Keys()->Cursor(); }
-  std::vector<Spot> Spots() { return front.GuideOf(Game())->Spots(); }
+  std::vector<Spot> Spots() { return front.WindowOf(Game())->GetGuide()->Spots(); }
   std::string Focus() { return front.WindowOf(Front())->focusWidget()->objectName().toStdString(); }
 
   const bool open = OpenScreen();
@@ -253,7 +253,7 @@ TEST_F(Keys, DontKeepAStuckBoardFromBeingPaid) {
 
 TEST_F(Keys, AreShownInMenusAndInAWindowThatPauses) {
   Press(Qt::Key_F11);  // the selector is never larger than it is
-  EXPECT_FALSE(front.GetView().fullScreen);
+  EXPECT_FALSE(front.looks.Now().fullScreen);
   auto& game = Open<frmSumfall>("1");
   FormWindow& window = *front.WindowOf(game);
   auto* help = window.findChild<QMenu*>("mnuHelp");
@@ -266,7 +266,7 @@ TEST_F(Keys, AreShownInMenusAndInAWindowThatPauses) {
   EXPECT_TRUE(game.standing.IsPaused());
   auto* table = window.findChild<QTableWidget*>();
   ASSERT_TRUE(table);
-  EXPECT_EQ(table->rowCount(), std::ssize(front.GuideOf(game)->Keys()));
+  EXPECT_EQ(table->rowCount(), std::ssize(front.WindowOf(game)->GetGuide()->Keys()));
   Press(Qt::Key_Escape);
   EXPECT_FALSE(game.standing.IsPaused());
   EXPECT_EQ(Focus(), "canvas");
@@ -280,7 +280,7 @@ TEST_F(Keys, AreShownInMenusAndInAWindowThatPauses) {
   const auto* fullScreen = window.findChild<QAction*>("viewFullScreen");
   EXPECT_EQ(fullScreen->text() + fullScreen->shortcut().toString(), "Full &ScreenF11");
   Press(Qt::Key_F11);
-  EXPECT_TRUE(front.GetView().fullScreen);
+  EXPECT_TRUE(front.looks.Now().fullScreen);
 }
 
 TEST_F(Keys, GoBackToAFieldThatWasRefused) {

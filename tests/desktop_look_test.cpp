@@ -24,10 +24,10 @@
 #include "tests/desktop_screen.h"
 #include "tests/harness.h"
 #include "window/desktop/desktop.h"
+#include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/contrast.h"
 #include "window/desktop/painting/lettering.h"
 #include "window/desktop/painting/style.h"
-#include "window/desktop/view/canvas.h"
 #include "window/desktop/view/form_window.h"
 #include "window/player.h"
 
@@ -132,7 +132,7 @@ class Look : public testing::Test {
 
   void Check(const Form& form) {
     FormWindow& window = *front.WindowOf(form);
-    const Scene scene = Arrange(form, front.pictures);
+    const Scene scene = Arrange(form, front.paintbox.pictures);
     const QRectF canvas = window.Board().rect();
     const std::vector<Text> texts = Texts(form, scene);
     ++looks;
@@ -602,7 +602,7 @@ TEST_F(Look, LettersStandOutFromTheirGround) {
       for (const Label* label : labels) {
         if (!label->Exists()) continue;
         const Seen seen =
-            LookAt(picture, LayOut(*label, DrawnRect(*label, front.pictures)), ToColour(colour));
+            LookAt(picture, LayOut(*label, DrawnRect(*label, front.paintbox.pictures)), ToColour(colour));
         const std::string which = label->FullName() + " in colour " + std::to_string(colour);
         EXPECT_GE(seen.worst, kReadable) << which;
         EXPECT_TRUE(seen.inColour) << which;

@@ -12,8 +12,8 @@
 #include <functional>
 
 #include "window/desktop/desktop.h"
+#include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/style.h"
-#include "window/desktop/view/canvas.h"
 #include "window/desktop/view/form_window.h"
 
 inline bool OpenScreen() {
@@ -33,15 +33,16 @@ inline bool OpenScreen() {
 // The real front end with short pauses.
 class QuickDesktop : public DesktopFrontEnd {
  public:
-  using DesktopFrontEnd::DesktopFrontEnd;
-  bool moves = false;             // whether cards are seen to move
+  QuickDesktop(const DesktopFolders& folders, PictureFiles pictures, Operator by = Operator::Player)
+      : DesktopFrontEnd(folders, std::move(pictures), by) {
+    looks.HoldCards(true);
+  }
   std::function<void()> onSleep;  // what happens at the screen while a handler sleeps, once
 
   void Sleep(int milliseconds) override {
     if (milliseconds > 0 && onSleep) std::exchange(onSleep, nullptr)();
     Pause(std::min(milliseconds, 3));
   }
-  bool ShowsMotion() const override { return moves; }
   void PlayWave(const std::string&) override {}
   void MediaCommand(const std::string&) override {}
 };

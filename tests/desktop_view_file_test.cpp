@@ -32,8 +32,8 @@ class ViewFileTest : public testing::Test {
   QAction* Entry(const char* name) { return front.WindowOf(*suite.common.window)->findChild<QAction*>(name); }
   // Sets a view, and waits until the file holds it.
   void Keep(const View& view) {
-    front.SetView(view);
-    ASSERT_TRUE(input::Await([&] { return Kept() == front.GetView(); }));
+    front.looks.Set(view);
+    ASSERT_TRUE(input::Await([&] { return Kept() == front.looks.Now(); }));
     input::Settle();
   }
   View Kept() { return ReadView(file); }
@@ -71,7 +71,7 @@ std::map<std::string, Change> Changes() {
 }  // namespace
 
 TEST_F(ViewFileTest, EachEntryWritesWhatItSaysAndTheRestStays) {
-  const View first = front.GetView();
+  const View first = front.looks.Now();
   const auto changes = Changes();
   int entries = 0;
   for (QAction* entry : Entries()) {
@@ -83,24 +83,24 @@ TEST_F(ViewFileTest, EachEntryWritesWhatItSaysAndTheRestStays) {
     changes.at(name)(wanted);
     entry->trigger();
     input::Settle();
-    EXPECT_EQ(front.GetView(), wanted) << name;
+    EXPECT_EQ(front.looks.Now(), wanted) << name;
     EXPECT_TRUE(input::Await([&] { return Kept() == wanted; })) << name;
     // The zoom that is ticked is the one that is seen, which the screen may limit.
     const bool says = wanted != first && entry->isCheckable() && !name.starts_with("viewZoom");
     EXPECT_TRUE(!says || entry->isChecked()) << name;
     if (says && !std::isdigit(static_cast<unsigned char>(name.back()))) {
       entry->trigger();  // a switch
-      EXPECT_EQ(front.GetView(), first) << name;
+      EXPECT_EQ(front.looks.Now(), first) << name;
       EXPECT_FALSE(entry->isChecked()) << name;
     }
-    front.SetView(first);
+    front.looks.Set(first);
     input::Settle();
   }
   EXPECT_EQ(entries, std::ssize(changes));
 }
 
 TEST_F(ViewFileTest, WhatAnotherCopyChangedMeanwhileStays) {
-  View theirs = front.GetView();
+  View theirs = front.looks.Now();
   Keep(theirs);
   const View before = theirs;
   theirs.highContrast = true;

@@ -28,7 +28,7 @@ class ViewTest : public testing::Test {
     suite.Start();
     input::Settle();
   }
-  void TearDown() override { front.SetView({}); }
+  void TearDown() override { front.looks.Set({}); }
 
   frmSelect& Selector() { return static_cast<frmSelect&>(*front.platform.FindForm("frmSelect")); }
   GameWindow& OpenGame() {
@@ -38,9 +38,9 @@ class ViewTest : public testing::Test {
   }
   FormWindow& WindowOf(const Form& form) { return *front.WindowOf(form); }
   void Set(const std::function<void(View&)>& change) {
-    View view = front.GetView();
+    View view = front.looks.Now();
     change(view);
-    front.SetView(view);
+    front.looks.Set(view);
     input::Settle();
   }
   void Choose(const Form& form, const char* entry) {
@@ -71,7 +71,7 @@ TEST_F(ViewTest, ZoomEnlargesWindowsAndTheModelKeepsItsTwips) {
   const QPoint middle = WindowOf(Selector()).geometry().center();
   input::Key(WindowOf(Selector()), Qt::Key_Equal, Qt::ControlModifier);
   input::Settle();
-  EXPECT_EQ(front.GetView().zoom, 125);
+  EXPECT_EQ(front.looks.Now().zoom, 125);
   Set([](View& view) { view.zoom = 150; });
   EXPECT_EQ(WindowOf(Selector()).size(), (QSizeF(natural) * 1.5).toSize());
   EXPECT_LE((WindowOf(Selector()).geometry().center() - middle).manhattanLength(), 4);
@@ -127,10 +127,10 @@ TEST_F(ViewTest, MaximisedWindowsFitAndComeBackAsTheyWere) {
   Choose(game, "viewFit");
   EXPECT_EQ(window.Zoom(), 1);
   EXPECT_EQ(TwipsOf(game), room * 15);
-  EXPECT_FALSE(front.GetView().fitMaximised);
+  EXPECT_FALSE(front.looks.Now().fitMaximised);
   Choose(game, "viewFit");
   Choose(game, "viewLarger");  // there is no room for more
-  EXPECT_TRUE(front.GetView().fitMaximised);
+  EXPECT_TRUE(front.looks.Now().fitMaximised);
   Choose(game, "viewFullScreen");
   EXPECT_TRUE(window.isFullScreen());
   Choose(game, "viewFullScreen");
@@ -145,12 +145,12 @@ TEST_F(ViewTest, MaximisedWindowsFitAndComeBackAsTheyWere) {
 
   // In a window that fits to its frame the frame changes the zoom; it is kept.
   Choose(game, "viewFit");
-  EXPECT_TRUE(front.GetView().fitNormal);
+  EXPECT_TRUE(front.looks.Now().fitNormal);
   window.resize(763, 640);
   input::Settle();
   EXPECT_EQ(game.Width, 9540);
   EXPECT_NEAR(game.Height, 8000, 2);
-  EXPECT_TRUE(input::Await([&] { return front.GetView().zoom == 120; }));
+  EXPECT_TRUE(input::Await([&] { return front.looks.Now().zoom == 120; }));
   EXPECT_EQ(window.size(), QSize(763, 640));
 }
 
@@ -207,10 +207,7 @@ TEST_F(ViewTest, AGameThatOpenedMaximisedIsRestoredInTheMiddle) {
 }
 
 TEST_F(ViewTest, WindowsOfAScriptHaveNoViewMenu) {
-  struct Scripted : QuickDesktop {
-    using QuickDesktop::QuickDesktop;
-    bool HeedsWindowManager() const override { return false; }
-  } scripted{{folder.Path(), CARDHAVEN_TEST_DATA}, Catalogue()};
+  QuickDesktop scripted({folder.Path(), CARDHAVEN_TEST_DATA}, Catalogue(), QuickDesktop::Operator::Script);
   Suite other(scripted.platform, {folder.Path()}, AllGames());
   other.Start();
   Form& selector = *scripted.platform.FindForm("frmSelect");
@@ -243,7 +240,7 @@ TEST_F(ViewTest, LessMotionStandsStillWhileTheModelGoesOn) {
   player::Click(game.cmdPlay);
   const auto says = [&](int colour) {
     game.lblMessage.ForeColor = colour;
-    return WindowOf(game).Board().grab(DrawnRect(game.lblMessage, front.pictures)).toImage();
+    return WindowOf(game).Board().grab(DrawnRect(game.lblMessage, front.paintbox.pictures)).toImage();
   };
   game.lblMessage.Visible = true;
   game.lblMessage.Caption = "Times running out!";
@@ -258,7 +255,7 @@ TEST_F(ViewTest, LessMotionStandsStillWhileTheModelGoesOn) {
 TEST_F(ViewTest, SuitsHaveColoursOfTheirOwnAndThePlayersCardsGoFirst) {
   GameWindow& game = OpenGame();
   const auto ink = [this](const char* key) {
-    const QImage picture = front.pictures.Get(suite.common.ImageList2(key), false, 4).toImage();
+    const QImage picture = front.paintbox.pictures.Get(suite.common.ImageList2(key), false, 4).toImage();
     return QColor(Commonest(picture, [](QRgb pixel) { return Contrast(QColor(pixel), Qt::white) > 1.2; }));
   };
   const auto inks = [&] {

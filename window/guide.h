@@ -71,8 +71,14 @@ class Guide {
   virtual bool Paused() const { return false; }
   // Where the window stands, in short sentences: "Round 2. Score 12,300. 45 seconds left."
   virtual std::string State() const { return ""; }
-  // The label that shows what the player has so far; null for a window without one.
-  virtual const Label* Score() const { return nullptr; }
+  // What the player has so far; nothing for a window that doesn't count.
+  virtual std::optional<long long> Score() const { return std::nullopt; }
+  // What pauses the window and lets it go on; null if nothing does.
+  virtual Control* Pause() const { return nullptr; }
+  // The menu in which a player looks for the table of keys; null for none.
+  virtual const Menu* KeysMenu() const { return nullptr; }
+  // Whether the label tells what has just happened, however small it is written.
+  virtual bool IsMessage(const Label& /*label*/) const { return false; }
   // Texts to be added as the window stands now.
   virtual std::vector<Note> Notes() const { return {}; }
   // A sentence on a control that has no tool tip of its own; "" for none.

@@ -8,54 +8,45 @@
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
-#include <QWindow>
 #include <algorithm>
 #include <cmath>
 #include <iostream>
 #include <utility>
 
+#include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/lettering.h"
 #include "window/desktop/painting/style.h"
-#include "window/desktop/view/animations.h"
-#include "window/desktop/view/canvas.h"
+#include "window/desktop/view/boxes.h"
 #include "window/desktop/view/form_window.h"
 #include "window/leaving.h"
 
 namespace fs = std::filesystem;
 
-namespace {
-
-constexpr int kViewDelay = 300;  // milliseconds; what changes several times in a row is written once
-
-}  // namespace
-
-DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles files)
-    : pictures(std::move(files), folders.own, folders.installed / "pictures"),
+DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles pictures, Operator by)
+    : paintbox{Pictures(std::move(pictures), folders.own, folders.installed / "pictures")},
+      looks(folders.view, paintbox),
       folders_(folders),
+      by_(by),
       media_(folders.own, folders.installed),
-      view_(ReadView(folders.view)),
-      kept_(view_) {
-  ApplyLook();
+      hurry_(
+          platform, [this] { SettleBoards(); },
+          [this] {
+            FormWindow* const window = windows_.Front();
+            return window ? &window->Board() : nullptr;
+          }) {
+  looks.HoldCards(by == Operator::Script);
+  looks.changed = [this] { ApplyView(); };
   clock_.start();
-  media_.SetVolumes(view_.waveVolume, view_.musicVolume);
+  media_.SetVolumes(looks.Now().waveVolume, looks.Now().musicVolume);
   timer_.setTimerType(Qt::PreciseTimer);
   timer_.setSingleShot(true);
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { ServeTick(); });
-  viewTimer_.setSingleShot(true);
-  viewTimer_.setInterval(kViewDelay);
-  QObject::connect(&viewTimer_, &QTimer::timeout, &timer_, [this] { KeepView(); });
   clockTimer_.setSingleShot(true);
   QObject::connect(&clockTimer_, &QTimer::timeout, &timer_, [this] { ShowClock(); });
   QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
-DesktopFrontEnd::~DesktopFrontEnd() {
-  for (const auto& [form, window] : windows_) {
-    window->Leave();
-    delete window;
-  }
-  if (viewTimer_.isActive()) KeepView();
-}
+DesktopFrontEnd::~DesktopFrontEnd() { windows_.Clear(); }
 
 // Just after the next minute has begun.
 void DesktopFrontEnd::ShowClock() {
@@ -76,76 +67,11 @@ int DesktopFrontEnd::Run(const std::function<void()>& start) {
 
 // --- Handlers, one at a time ---------------------------------------------------------------------
 
-bool DesktopFrontEnd::Knows(const Form& form) const { return windows_.contains(&form); }
-
-FormWindow* DesktopFrontEnd::WindowOf(const Form& form) const {
-  const auto found = windows_.find(&form);
-  return found == windows_.end() ? nullptr : found->second;
-}
-
-Guide* DesktopFrontEnd::GuideOf(const Form& form) const {
-  const auto found = guides_.find(&form);
-  return found == guides_.end() ? nullptr : found->second.get();
-}
-
-void DesktopFrontEnd::SetView(const View& view) {
-  if (view == view_) return;
-  View before = std::exchange(view_, view);
-  if (!folders_.view.empty() && !viewTimer_.isActive()) viewTimer_.start();
-  // Where it was and what was done last changes nothing that is seen.
-  before.selector = view.selector;
-  before.lastGame = view.lastGame;
-  before.seen = view.seen;
-  before.lastName = view.lastName;
-  if (before == view) return;
-  ApplyLook();
-  ApplyView();
-}
-
-void DesktopFrontEnd::KeepView() {
-  WriteView(folders_.view, view_, kept_);
-  kept_ = view_;
-}
-
-void DesktopFrontEnd::ApplyView() {
-  for (const bool dialogs : {false, true})  // a dialog follows the window behind it
-    for (const auto& [form, window] : windows_)
-      if (form->Modal() == dialogs) window->ApplyView();
-  media_.SetVolumes(view_.waveVolume, view_.musicVolume);
-}
-
-bool DesktopFrontEnd::LessMotion() const { return view_.lessMotion || DesktopStopsMotion(); }
-
-// Once at the start, and whenever the player comes back, perhaps from the desktop's settings.
-void DesktopFrontEnd::HeedAnimations() {
-  const auto ask = [this] {
-    const bool before = LessMotion();
-    filesStopMotion_ = animations::AreOffInFiles();
-    if (LessMotion() != before) ApplyView();
-    animations::AskPortal(timer_, [this](bool off) {
-      const bool before = LessMotion();
-      portalStopsMotion_ = off;
-      if (LessMotion() != before) ApplyView();
-    });
-  };
-  ask();
-  QObject::connect(qApp, &QGuiApplication::applicationStateChanged, &timer_,
-                   [ask](Qt::ApplicationState state) {
-                     if (state == Qt::ApplicationActive) ask();
-                   });
-}
-
-void DesktopFrontEnd::ApplyLook() {
-  pictures.SetFourColours(view_.fourColours);
-  pictures.SetStrongEdges(view_.highContrast);
-  style::SetHighContrast(view_.highContrast);
-}
-
 void DesktopFrontEnd::Run(Form* form, const std::function<void()>& handler) {
   if (platform.HasEnded() || (form && !Knows(*form))) return;
   busy_ = true;
-  const Control* const clicked = std::exchange(clicked_, nullptr);
-  ++handlerNumber_;
+  const Control* const clicked = std::exchange(paintbox.occasion.clicked, nullptr);
+  ++paintbox.occasion.number;
   {
     const Hurry::Handler within(hurry_);
     try {
@@ -155,7 +81,7 @@ void DesktopFrontEnd::Run(Form* form, const std::function<void()>& handler) {
     }
     SettleBoards();
   }
-  clicked_ = clicked;
+  paintbox.occasion.clicked = clicked;
   busy_ = false;
   PlayWaveInAHurry();
   if (platform.HasEnded()) return Quit();
@@ -223,10 +149,10 @@ Event DesktopFrontEnd::Next(const Wait& wait) {
     case Wait::Serving::All:
       break;
   }
-  const auto answer = [&] { return wait.box ? boxes_.back().answer : std::nullopt; };
-  if (wait.modal) modals_.push_back(WindowOf(*wait.modal));
+  const auto answer = [&] { return wait.box ? boxes_.back()->answer : std::nullopt; };
+  if (wait.modal) windows_.PushModal(WindowOf(*wait.modal));
   ServeAll([&] { return !answer() && platform.StillWaits(); });
-  if (wait.modal) modals_.pop_back();
+  if (wait.modal) windows_.PopModal();
   if (!answer()) return {};
   return {.kind = Event::Kind::Answer, .answer = *answer()};
 }
@@ -257,20 +183,6 @@ void DesktopFrontEnd::Wake() {
   if (loop_) loop_->quit();
 }
 
-void DesktopFrontEnd::Pause(int milliseconds) {
-  if (platform.HasEnded()) return;
-  SettleBoards();
-  QEventLoop loop;
-  if (milliseconds <= 0) {
-    loop.processEvents(QEventLoop::ExcludeUserInputEvents);
-  } else {
-    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
-  }
-  // Else the input that was held back might lie there until something else happens.
-  QAbstractEventDispatcher::instance()->wakeUp();
-}
-
 // --- Sounds --------------------------------------------------------------------------------------
 
 void DesktopFrontEnd::PlayWave(const std::string& path) {
@@ -278,12 +190,7 @@ void DesktopFrontEnd::PlayWave(const std::string& path) {
     waveInAHurry_ = path;
     return;
   }
-  constexpr int kCount = 500;  // milliseconds between the steps of a count at most
-  const long long now = Milliseconds();
-  const bool goesOn =
-      lastWave_.path == path && lastWave_.handler == handlerNumber_ && now - lastWave_.at <= kCount;
-  lastWave_ = {path, handlerNumber_, now, goesOn ? lastWave_.step + 1 : 0};
-  media_.PlayWave(path, lastWave_.step);
+  media_.PlayWave(path, paintbox.occasion.number, Milliseconds());
 }
 
 void DesktopFrontEnd::PlayWaveInAHurry() {
@@ -292,11 +199,12 @@ void DesktopFrontEnd::PlayWaveInAHurry() {
 
 // Shown and told as well as heard.
 void DesktopFrontEnd::Refused() {
-  if (!clicked_) return;
-  access_.Refused(*clicked_);
-  if (clicked_->kind != Control::Kind::Image) return;
-  if (FormWindow* window = WindowOf(clicked_->form))
-    window->Board().Refuse(static_cast<const Visual&>(*clicked_));
+  const Control* const clicked = paintbox.occasion.clicked;
+  if (!clicked) return;
+  access_.Refused(*clicked);
+  if (clicked->kind != Control::Kind::Image) return;
+  if (FormWindow* window = WindowOf(clicked->form))
+    window->Board().Refuse(static_cast<const Visual&>(*clicked));
 }
 
 // --- The world -----------------------------------------------------------------------------------
@@ -343,7 +251,7 @@ void DesktopFrontEnd::Painted() {
     media_.Start();
     ShowIcon();
     if (guides) ShowClock();
-    if (guides) HeedAnimations();
+    if (guides) looks.HeedDesktop();
   });
 }
 
@@ -373,58 +281,58 @@ void DesktopFrontEnd::SettleBoards() {
   for (const auto& [form, window] : windows_) window->Board().Settle();
 }
 
-FormWindow* DesktopFrontEnd::FrontWindow() const {
-  for (const Form* form : platform.forms)
-    if (FormWindow* window = WindowOf(*form); window && form->Visible && window->isVisible()) return window;
-  return nullptr;
+// A dialog follows the window behind it.
+void DesktopFrontEnd::ApplyView() {
+  for (const bool dialogs : {false, true})
+    for (const auto& [form, window] : windows_)
+      if (form->Modal() == dialogs) window->ApplyView();
+  media_.SetVolumes(looks.Now().waveVolume, looks.Now().musicVolume);
 }
 
-QWidget* DesktopFrontEnd::NextWindow(const QWidget* going) const {
-  for (auto modal = modals_.rbegin(); modal != modals_.rend(); ++modal)
-    if (*modal && *modal != going && (*modal)->isVisible()) return *modal;
-  return FrontWindow();
+void DesktopFrontEnd::BoxShown(const MessageBox& box) {
+  auto* const window = new BoxWindow(box, guides != nullptr, windows_.Next(nullptr));
+  window->answered = [this] { Wake(); };
+  window->leaving = [this, window] { windows_.LeaveActive(*window); };
+  boxes_.push_back(window);
+  windows_.PushModal(window);
+  window->show();
+  window->raise();
+  window->activateWindow();
 }
 
-void DesktopFrontEnd::LeaveActive(const QWidget& going) {
-  QWidget* below = FrontWindow();
-  for (QWidget* modal : modals_) {
-    if (!modal || modal == &going || !modal->isVisible()) continue;
-    if (modal->windowHandle()->transientParent() == going.windowHandle())
-      modal->windowHandle()->setTransientParent(below ? below->windowHandle() : nullptr);
-    below = modal;
-  }
-  if (below && going.isActiveWindow()) below->activateWindow();
+void DesktopFrontEnd::BoxGone(const MessageBox& box) {
+  BoxWindow* const window = boxes_.back();
+  windows_.PopModal();
+  boxes_.pop_back();
+  if (Form* modal = platform.ModalForm(); guides && modal && AnswersOf(box.buttons).size() == 1)
+    if (FormWindow* asked = WindowOf(*modal)) asked->Refused();
+  delete window;
 }
+
+QMessageBox* DesktopFrontEnd::StandingBox() const { return boxes_.empty() ? nullptr : boxes_.back(); }
 
 void DesktopFrontEnd::FormLoaded(Form& form) {
-  if (guides)
-    if (auto guide = guides(form)) guides_[&form] = std::move(guide);
-  windows_[&form] = new FormWindow(form, *this);
+  const Desk desk{*this, looks, paintbox, access_, [this] { Painted(); }, by_ == Operator::Player};
+  windows_.Add(form, *new FormWindow(form, guides ? guides(form) : nullptr, desk));
 }
 
 void DesktopFrontEnd::FormShown(Form& form) {
-  if (FormWindow* window = WindowOf(form)) window->ShowForm(NextWindow(window));
+  if (FormWindow* window = WindowOf(form)) window->ShowForm(windows_.Next(window));
 }
 
 void DesktopFrontEnd::FormHidden(Form& form) {
   if (FormWindow* window = WindowOf(form)) {
-    LeaveActive(*window);
+    windows_.LeaveActive(*window);
     window->hide();
   }
   Wake();
 }
 
 void DesktopFrontEnd::FormUnloaded(Form& form) {
-  FormWindow* window = WindowOf(form);
-  if (!window) return;
-  if (clicked_ && &clicked_->form == &form) clicked_ = nullptr;
-  access_.Gone(form);
-  windows_.erase(&form);
+  if (const Control* clicked = paintbox.occasion.clicked; clicked && &clicked->form == &form)
+    paintbox.occasion.clicked = nullptr;
   std::erase_if(deeds_, [&](const Deed& deed) { return deed.form == &form; });
-  LeaveActive(*window);
-  window->Leave();
-  window->deleteLater();
-  guides_.erase(&form);
+  windows_.Remove(form);
   Wake();
 }
 

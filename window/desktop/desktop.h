@@ -2,23 +2,23 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QPointer>
 #include <QTimer>
 #include <deque>
 #include <filesystem>
-#include <memory>
-#include <unordered_map>
 
+#include "window/desktop/input/deeds.h"
 #include "window/desktop/input/hurry.h"
-#include "window/desktop/painting/pictures.h"
+#include "window/desktop/painting/paintbox.h"
 #include "window/desktop/sound/media.h"
 #include "window/desktop/speech/access.h"
-#include "window/desktop/view/view.h"
+#include "window/desktop/view/looks.h"
+#include "window/desktop/view/windows.h"
 #include "window/guide.h"
 #include "window/platform.h"
 
-class FormWindow;
+class BoxWindow;
 class QEventLoop;
+class QMessageBox;
 
 struct DesktopFolders {
   std::filesystem::path own;        // `AppPath`; what lies here goes before what is installed
@@ -26,52 +26,26 @@ struct DesktopFolders {
   std::filesystem::path view = {};  // the file of `View`; where none is named nothing is kept
 };
 
-class DesktopFrontEnd : public FrontEnd {
+class DesktopFrontEnd : public FrontEnd, public Deeds {
  public:
-  DesktopFrontEnd(const DesktopFolders& folders, PictureFiles pictures);
+  enum class Operator { Player, Script };
+  DesktopFrontEnd(const DesktopFolders& folders, PictureFiles pictures, Operator by = Operator::Player);
   ~DesktopFrontEnd() override;
 
   Platform platform{*this};
-  Pictures pictures;
+  Paintbox paintbox;
+  Looks looks;
   Guides guides;  // set before the first window is loaded; none where a script drives the windows
 
   // Runs `start`, which shows the first window, then serves events until the program ends. The exit status.
   int Run(const std::function<void()>& start);
+  // Null if the form isn't there or loaded.
+  FormWindow* WindowOf(const Form& form) const { return windows_.Of(form); }
 
-  // Runs what the player did on a form: now, or as soon as the handler that is under way has ended or waits.
-  void Deliver(Form& form, std::function<void()> deed);
-  // A press that came by no mouse or key: whether it only lets the handler under way run on without waiting.
-  bool TakeAsHurry() { return hurry_.TakePress(); }
-  // Whether a handler is under way that doesn't wait for the player.
-  bool Busy() const { return busy_; }
-  // Whether the form is there and loaded.
-  bool Knows(const Form& form) const;
-  FormWindow* WindowOf(const Form& form) const;
-  // Null if the form has none.
-  Guide* GuideOf(const Form& form) const;
-  Access& Ears() { return access_; }
-  const View& GetView() const { return view_; }
-  // Shows all windows in this way from now on, and keeps it.
-  void SetView(const View& view);
-  // Whether nothing is to move or blink for show: asked for here or in the desktop's own settings.
-  bool LessMotion() const;
-  // Whether the desktop asks for it, whatever the View menu says.
-  bool DesktopStopsMotion() const { return filesStopMotion_ || portalStopsMotion_; }
-  // A board has been painted.
-  void Painted();
-  // A window or box that is about to be hidden hands the keyboard to the next one, as well as the boxes that
-  // belong to it: where no window manager runs nobody else does.
-  void LeaveActive(const QWidget& going);
-
-  // Whether windows follow what the window manager does to them, and cards the real pointer.
-  virtual bool HeedsWindowManager() const { return true; }
-  virtual bool HeedsPointer() const { return true; }
-  // Whether cards are seen to move.
-  virtual bool ShowsMotion() const { return !LessMotion(); }
-  // How many handlers have been run so far.
-  long long HandlerNumber() const { return handlerNumber_; }
-  // The control whose click the handler under way, or the last one, answers; null if it answers none.
-  const Control* ClickedControl() const { return clicked_; }
+  void Deliver(Form& form, std::function<void()> deed) override;
+  bool TakeAsHurry() override { return hurry_.TakePress(); }
+  bool Busy() const override { return busy_; }
+  bool Knows(const Form& form) const override { return WindowOf(form); }
 
   long long Milliseconds() override { return clock_.elapsed(); }
   DateTime Now() override;
@@ -79,7 +53,7 @@ class DesktopFrontEnd : public FrontEnd {
   Extent TextExtent(const Label& label) override;
   Event Next(const Wait& wait) override;
   void PlayWave(const std::string& path) override;
-  void Clicked(Control& control) override { clicked_ = &control; }
+  void Clicked(Control& control) override { paintbox.occasion.clicked = &control; }
   void Refused() override;
   void MediaCommand(const std::string& command) override { media_.Command(command); }
   std::string FindBrowser() override;
@@ -115,7 +89,7 @@ class DesktopFrontEnd : public FrontEnd {
   // Serves the player and the timers while `waiting()`. A handler that waits isn't busy.
   void Await(const std::function<bool()>& waiting);
   // Lets real time pass, without input and ticks. The windows stay alive.
-  void Pause(int milliseconds);
+  void Pause(int milliseconds) { hurry_.Pause(milliseconds); }
   // Lets the innermost wait look at what it waits for.
   void Wake();
   // Runs a handler, then sees to what it has left behind.
@@ -142,24 +116,17 @@ class DesktopFrontEnd : public FrontEnd {
   };
   // For what is to be called later.
   QObject& Context() { return timer_; }
+  // A board has been painted.
+  void Painted();
   bool HasPainted() const { return painted_; }
-  class QMessageBox* StandingBox() const {
-    return boxes_.empty() ? nullptr : boxes_.back().dialog;
-  }
+  QMessageBox* StandingBox() const;
 
  private:
-  friend class Hurry;
-  void ApplyLook();
-  void KeepView();
   void ApplyView();
-  void HeedAnimations();
   void ServeTick();
   void DeliverWaiting();
   // Whether a handler may begin. Not once what the innermost wait waits for has come: its handler goes first.
   bool MayRun() const { return !busy_ && (!waiting_ || (*waiting_)()); }
-  FormWindow* FrontWindow() const;
-  // The window that stands before all others once this one is gone; null if there is none.
-  QWidget* NextWindow(const QWidget* going) const;
   // What the handler under way has changed so far is set in motion.
   void SettleBoards();
   void PlayWaveInAHurry();
@@ -173,32 +140,19 @@ class DesktopFrontEnd : public FrontEnd {
   };
 
   const DesktopFolders folders_;
+  const Operator by_;
   QElapsedTimer clock_;
-  QTimer timer_, viewTimer_, clockTimer_;
+  QTimer timer_, clockTimer_;
   Media media_;
-  View view_, kept_;  // as it is, and as it was read or written last
-  std::unordered_map<const Form*, FormWindow*> windows_;
-  std::unordered_map<const Form*, std::unique_ptr<Guide>> guides_;
+  Access access_;
+  Windows windows_{platform};
   std::deque<Deed> deeds_;
-  Hurry hurry_{*this};
-  long long handlerNumber_ = 0;
-  const Control* clicked_ = nullptr;
-  struct {
-    std::string path;
-    long long handler = -1, at = 0;
-    int step = 0;
-  } lastWave_;
+  Hurry hurry_;
   std::string waveInAHurry_;  // waits for the end of what is run through
-  struct Box {
-    class QMessageBox* dialog;
-    std::optional<Answer> answer = {};  // as soon as it has been given
-  };
-  std::deque<Box> boxes_;
-  std::vector<QPointer<QWidget>> modals_;  // the boxes and the modal windows that are waited for
-  Access access_{*this};
+  std::vector<BoxWindow*> boxes_;
   QEventLoop* loop_ = nullptr;  // of the innermost wait
   const std::function<bool()>* waiting_ = nullptr;
-  bool busy_ = false, painted_ = false, filesStopMotion_ = false, portalStopsMotion_ = false;
+  bool busy_ = false, painted_ = false;
   Ticks ticks_ = Ticks::Served;
   int status_ = 0;
 };

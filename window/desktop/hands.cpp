@@ -11,7 +11,7 @@
 #include <QPointer>
 
 #include "window/desktop/desktop.h"
-#include "window/desktop/view/canvas.h"
+#include "window/desktop/painting/canvas.h"
 #include "window/desktop/view/form_window.h"
 #include "window/desktop/view/menus.h"
 #include "window/lists.h"

@@ -20,7 +20,7 @@ constexpr int kPatience = 2000;  // milliseconds for the first window to be pain
 
 ScriptedDesktop::ScriptedDesktop(const DesktopFolders& folders, PictureFiles files,
                                  const ScriptOptions& options, std::ostream& out)
-    : DesktopFrontEnd(folders, std::move(files)),
+    : DesktopFrontEnd(folders, std::move(files), Operator::Script),
       DesktopHands(static_cast<DesktopFrontEnd&>(*this)),
       options_(options),
       out_(out),

@@ -17,9 +17,6 @@ class ScriptedDesktop : public DesktopFrontEnd, private DesktopHands {
   ScriptedDesktop(const DesktopFolders& folders, PictureFiles pictures, const ScriptOptions& options,
                   std::ostream& out);
 
-  bool HeedsWindowManager() const override { return false; }
-  bool HeedsPointer() const override { return false; }
-  bool ShowsMotion() const override { return false; }
   long long Milliseconds() override { return clock_.Now(); }
   DateTime Now() override;
   std::string FindBrowser() override { return "browser"; }

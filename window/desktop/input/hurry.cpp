@@ -12,14 +12,10 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "window/desktop/desktop.h"
+#include "window/desktop/input/key_again.h"
+#include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/style.h"
-#include "window/desktop/view/canvas.h"
-#include "window/desktop/view/form_window.h"
-
-// Qt's way in for a key that goes the whole way, shortcuts included, as its test library declares it.
-void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key, Qt::KeyboardModifiers modifiers,
-                       const QString& text, bool autoRepeat, ushort count);
+#include "window/platform.h"
 
 namespace {
 
@@ -69,7 +65,10 @@ bool IsBlocked(const QWindow& window) {
 
 }  // namespace
 
-Hurry::Hurry(DesktopFrontEnd& front) : front_(front) { qApp->installEventFilter(this); }
+Hurry::Hurry(const Platform& platform, std::function<void()> settle, std::function<Canvas*()> board)
+    : platform_(platform), settle_(std::move(settle)), board_(std::move(board)) {
+  qApp->installEventFilter(this);
+}
 
 Hurry::~Hurry() { delete word_; }
 
@@ -100,20 +99,37 @@ void Hurry::Anew() {
 
 // --- Waiting -------------------------------------------------------------------------------------
 
+// The clock by which windows wait.
+long long Hurry::Now() const { return platform_.front.Milliseconds(); }
+
+void Hurry::Pause(int milliseconds) {
+  if (platform_.HasEnded()) return;
+  settle_();
+  QEventLoop loop;
+  if (milliseconds <= 0) {
+    loop.processEvents(QEventLoop::ExcludeUserInputEvents);
+  } else {
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+  }
+  // Else the input that was held back might lie there until something else happens.
+  QAbstractEventDispatcher::instance()->wakeUp();
+}
+
 void Hurry::Sleep(int milliseconds) {
-  if (state_.hurried || front_.platform.HasEnded()) return;
+  if (state_.hurried || platform_.HasEnded()) return;
   QElapsedTimer taken;
   taken.start();
-  if (state_.blocked == 0) state_.began = front_.Milliseconds();
+  if (state_.blocked == 0) state_.began = Now();
   const int alone = std::clamp(kPatience - state_.blocked, 0, std::max(0, milliseconds));
-  if (alone > 0 || milliseconds <= 0) front_.Pause(alone);
+  if (alone > 0 || milliseconds <= 0) Pause(alone);
   if (alone < milliseconds) LookWhileWaiting(milliseconds - alone);
   if (milliseconds > 0) state_.blocked += std::max(1, static_cast<int>(taken.elapsed()));
 }
 
 void Hurry::LookWhileWaiting(int milliseconds) {
   if (!word_) ShowWord();
-  front_.SettleBoards();
+  settle_();
   QEventLoop loop;
   QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
   loop_ = &loop;
@@ -129,14 +145,14 @@ void Hurry::LookWhileWaiting(int milliseconds) {
 void Hurry::Drain() {
   QEventLoop loop;
   looking_ = true;
-  for (int i = 0; i < kMostRounds && !front_.platform.HasEnded() && loop.processEvents(); ++i) continue;
+  for (int i = 0; i < kMostRounds && !platform_.HasEnded() && loop.processEvents(); ++i) continue;
   looking_ = false;
 }
 
 void Hurry::ShowWord() {
-  FormWindow* window = front_.FrontWindow();
-  if (!window) return;
-  Canvas& board = window->Board();
+  Canvas* const front = board_();
+  if (!front) return;
+  Canvas& board = *front;
   word_ = new QLabel("Click to skip", &board);
   word_->setObjectName("hurry");
   word_->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -164,7 +180,7 @@ void Hurry::Learn(const QEvent& event) {
   const auto time = static_cast<long long>(static_cast<const QInputEvent&>(event).timestamp());
   if (time == 0) return;
   constexpr long long kStarted = 5000;  // anew, or gone round
-  const long long ahead = front_.Milliseconds() - time;
+  const long long ahead = Now() - time;
   if (!ahead_ || ahead < *ahead_ || ahead > *ahead_ + kStarted) ahead_ = ahead;
 }
 
@@ -246,8 +262,7 @@ bool Hurry::DeliverOne() {
   if (IsKey(next.event->type())) {
     const auto& key = static_cast<const QKeyEvent&>(*next.event);
     sent_ = key.key();
-    qt_handleKeyEvent(next.window, key.type(), key.key(), key.modifiers(), key.text(), key.isAutoRepeat(),
-                      static_cast<ushort>(key.count()));
+    StrikeAgain(*next.window, key);
     sent_.reset();
   } else {
     QCoreApplication::sendEvent(next.window, next.event.get());

@@ -10,11 +10,13 @@
 #include <QObject>
 #include <QPointer>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
 
-class DesktopFrontEnd;
+class Canvas;
+class Platform;
 class QEventLoop;
 class QLabel;
 class QWindow;
@@ -29,9 +31,13 @@ class Hurry : public QObject {
   };
 
  public:
-  explicit Hurry(DesktopFrontEnd& front);
+  // `settle` shows what the handler under way has changed so far; `board` is that of the window in front,
+  // null if there is none.
+  Hurry(const Platform& platform, std::function<void()> settle, std::function<Canvas*()> board);
   ~Hurry() override;
 
+  // Lets real time pass, without input and ticks. The windows stay alive.
+  void Pause(int milliseconds);
   // Blocks the handler under way for that time, or for less if the player is in a hurry.
   void Sleep(int milliseconds);
   // Whether the rest of the handler under way doesn't wait any more.
@@ -78,7 +84,11 @@ class Hurry : public QObject {
   void Keep(QWindow& window, const QEvent& event);
   void ShowWord();
 
-  DesktopFrontEnd& front_;
+  long long Now() const;
+
+  const Platform& platform_;
+  const std::function<void()> settle_;
+  const std::function<Canvas*()> board_;
   State state_;
   std::deque<Kept> kept_;
   std::set<int> buttons_, keys_;  // pressed in a hurry and not let go yet

@@ -10,10 +10,8 @@
 #include <QTimer>
 #include <algorithm>
 
-#include "window/desktop/desktop.h"
-#include "window/desktop/view/canvas.h"
-#include "window/desktop/view/form_window.h"
-#include "window/player.h"
+#include "window/desktop/input/deeds.h"
+#include "window/desktop/painting/canvas.h"
 
 namespace {
 
@@ -44,23 +42,21 @@ std::string WordOf(const QKeyEvent& key) {
 
 }  // namespace
 
-Keyboard::Keyboard(FormWindow& window, DesktopFrontEnd& front, Guide& guide)
-    : QObject(&window),
-      window_(window),
-      canvas_(window.Board()),
-      front_(front),
+Keyboard::Keyboard(Canvas& canvas, Deeds& deeds, Guide& guide)
+    : QObject(canvas.parentWidget()),
+      canvas_(canvas),
+      window_(*canvas.parentWidget()),
+      deeds_(deeds),
       guide_(&guide),
       rows_(guide.Keys()) {
-  window.installEventFilter(this);
+  window_.installEventFilter(this);
   canvas_.installEventFilter(this);
-  for (Control* control : window.form.Controls())
-    if (QWidget* widget = window.WidgetOf(*control)) widget->installEventFilter(this);
+  for (const auto& [control, widget] : canvas_.widgets) widget->installEventFilter(this);
   canvas_.paintOver = [this](QPainter& painter) { Paint(painter); };
   OrderTabs();
   connect(qApp, &QApplication::focusChanged, this, [this] { ShowRing(); });
 }
 
-// The buttons for which digits stand come before the others.
 std::vector<Visual*> Keyboard::Choices() const {
   std::vector<Visual*> choices;
   for (const KeyRow& row : rows_)
@@ -71,32 +67,23 @@ std::vector<Visual*> Keyboard::Choices() const {
   return choices;
 }
 
+// The buttons for which digits stand come before the others.
 void Keyboard::OrderTabs() {
   std::vector<QWidget*> order{&canvas_};
   const auto take = [&](const Control& control) {
-    QWidget* widget = window_.WidgetOf(control);
+    QWidget* widget = canvas_.WidgetOf(control);
     if (widget && std::ranges::find(order, widget) == order.end()) order.push_back(widget);
   };
   for (const Visual* choice : Choices()) take(*choice);
-  for (const Control* control : window_.form.Controls())
-    if (control->kind != Control::Kind::StatusBar) take(*control);
+  for (const Control* control : canvas_.form.Controls()) take(*control);
   for (size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 // --- What has happened ---------------------------------------------------------------------------
 
-void Keyboard::Shown() {
-  if (!guide_->IsChoice()) return;
-  const std::vector<Visual*> choices = Choices();
-  const std::string last = front_.GetView().lastGame.toStdString();
-  const auto found = std::ranges::find(choices, last, [](const Visual* each) { return each->NameInForm(); });
-  Visual* const start = found != choices.end() ? *found : choices.empty() ? nullptr : choices.front();
-  if (start) start->SetFocus();
-}
-
 void Keyboard::Leave() {
   guide_ = nullptr;
-  canvas_.paintOver = nullptr;
+  moved = nullptr;
 }
 
 void Keyboard::Settle() {
@@ -122,7 +109,7 @@ void Keyboard::Settle() {
       const Spot* best = nullptr;
       int least = 0;
       for (const Spot& spot : spots_) {
-        const QPoint way = PlaceOf(*spot.control).center() - cursorPlace_.center();
+        const QPoint way = canvas_.PlaceOf(*spot.control).center() - cursorPlace_.center();
         const int far = cursorPlace_.isNull() ? 0 : way.manhattanLength();
         if (!best || spot.playable > best->playable || (spot.playable == best->playable && far < least)) {
           best = &spot;
@@ -131,7 +118,7 @@ void Keyboard::Settle() {
       }
       cursor_ = best->control;
     }
-    cursorPlace_ = PlaceOf(*cursor_);
+    cursorPlace_ = canvas_.PlaceOf(*cursor_);
   }
   ShowRing();
 }
@@ -154,7 +141,7 @@ bool Keyboard::eventFilter(QObject* watched, QEvent* event) {
       return false;
     case QEvent::KeyPress: {
       QWidget* const focus = window_.focusWidget();
-      if (watched != (focus ? focus : static_cast<QWidget*>(&window_))) return false;
+      if (watched != (focus ? focus : &window_)) return false;
       keysUsed_ = true;
       const bool taken = Take(static_cast<QKeyEvent&>(*event), focus);
       ShowRing();
@@ -171,16 +158,6 @@ bool Keyboard::eventFilter(QObject* watched, QEvent* event) {
       return false;
     case QEvent::Shortcut:
       return TakeShared(watched, event);
-    case QEvent::Hide:
-      if (watched == &window_ && guide_->IsChoice()) {
-        const Visual* active = window_.form.ActiveControl();
-        const auto choices = Choices();
-        if (std::ranges::find(choices, active) == choices.end()) return false;
-        View view = front_.GetView();
-        view.lastGame = QString::fromStdString(active->NameInForm());
-        front_.SetView(view);
-      }
-      return false;
     default:
       return false;
   }
@@ -258,14 +235,14 @@ bool Keyboard::TakeWord(const std::string& word, bool again) {
 void Keyboard::Do(const std::string& keys) {
   FocusBoard();
   const QPointer<Keyboard> alive = this;
-  front_.Deliver(window_.form, [this, alive, keys] {
+  deeds_.Deliver(canvas_.form, [this, alive, keys] {
     if (!alive || !guide_) return;
     Settle();
     for (const KeyRow& row : rows_)
       for (const KeyClick& click : row.clicks) {
         Control* control = click.keys == keys ? Meant(click) : nullptr;
         if (!control || !player::WhyNot(*control).empty()) continue;
-        if (keys == "Escape" && click.control == "cmdPause" && guide_->Paused()) continue;
+        if (keys == "Escape" && control == guide_->Pause() && guide_->Paused()) continue;
         if (click.control == kNextOfRank) ranks_[keys[0]] = static_cast<Visual*>(control);
         const bool follows = click.control == kNextOfRank || IsDigits(keys);
         for (const Spot& spot : spots_)
@@ -280,7 +257,7 @@ Control* Keyboard::Meant(const KeyClick& click) const {
   if (click.control == kLastSelected) return LastSelected();
   const size_t bracket = click.control.find('(');
   const int index = bracket == std::string::npos ? -1 : std::stoi(click.control.substr(bracket + 1));
-  return window_.form.find(click.control.substr(0, bracket), index);
+  return canvas_.form.find(click.control.substr(0, bracket), index);
 }
 
 // The first one behind the one clicked last; selected ones come last. Where none can be played the first that
@@ -311,7 +288,7 @@ Visual* Keyboard::LastSelected() const {
 
 void Keyboard::ClickCursor() {
   const QPointer<Keyboard> alive = this;
-  front_.Deliver(window_.form, [this, alive] {
+  deeds_.Deliver(canvas_.form, [this, alive] {
     if (!alive || !guide_) return;
     Settle();
     for (const Spot& spot : spots_)
@@ -334,12 +311,12 @@ bool Keyboard::TakeArrow(const QKeyEvent& key) {
                      key.key() == Qt::Key_Down ? 1
                      : key.key() == Qt::Key_Up ? -1
                                                : 0);
-  const QPoint from = PlaceOf(*cursor_).center();
+  const QPoint from = canvas_.PlaceOf(*cursor_).center();
   const Visual* nearest = nullptr;
   int least = 0;
   for (const Spot& spot : spots_) {
     if (spot.control == cursor_ || !(spot.playable || key.modifiers() & Qt::ControlModifier)) continue;
-    const QPoint way = PlaceOf(*spot.control).center() - from;
+    const QPoint way = canvas_.PlaceOf(*spot.control).center() - from;
     const int along = QPoint::dotProduct(way, ahead), aside = way.manhattanLength() - std::abs(along);
     if (along < 4) continue;
     if (const int cost = along + 3 * aside; !nearest || cost < least) {
@@ -361,7 +338,7 @@ void Keyboard::GoTo(const Visual& control) {
 void Keyboard::MoveTo(const Visual* control) {
   if (!control) return;
   cursor_ = control;
-  cursorPlace_ = PlaceOf(*control);
+  cursorPlace_ = canvas_.PlaceOf(*control);
   ShowRing();
 }
 
@@ -369,21 +346,16 @@ const Visual* Keyboard::Cursor() const {
   return keysUsed_ && HoldsFocus() && cursor_ && IsShown(*cursor_) ? cursor_ : nullptr;
 }
 
-// Pixels at 100 %.
-QRect Keyboard::PlaceOf(const Visual& control) const {
-  return IsDrawn(control.kind) ? DrawnRect(control, front_.pictures) : ModelRect(control);
-}
-
 QRect Keyboard::Ring() const {
   if (!keysUsed_) return {};
-  if (const Visual* cursor = Cursor()) return PlaceOf(*cursor);
+  if (const Visual* cursor = Cursor()) return canvas_.PlaceOf(*cursor);
   const QWidget* focus = window_.focusWidget();
   if (!focus || focus == &canvas_ || !canvas_.isAncestorOf(focus) || !focus->isVisible()) return {};
   return {canvas_.ToBoard(focus->pos()), focus->size() / canvas_.Zoom()};
 }
 
 void Keyboard::ShowRing() {
-  front_.Ears().CursorMoved(window_);
+  if (moved) moved();
   const QRect ring = Ring();
   if (ring == ring_) return;
   for (const QRect& each : {ring_, ring})

@@ -5,24 +5,28 @@
 #include <QElapsedTimer>
 #include <QObject>
 #include <QRect>
+#include <functional>
 #include <map>
 #include <vector>
 
 #include "window/guide.h"
 
 class Canvas;
-class DesktopFrontEnd;
-class FormWindow;
+class Deeds;
 class QKeyEvent;
 class QPainter;
 class QWidget;
 
 class Keyboard : public QObject {
  public:
-  Keyboard(FormWindow& window, DesktopFrontEnd& front, Guide& guide);
+  // Of the window that holds this board.
+  Keyboard(Canvas& canvas, Deeds& deeds, Guide& guide);
 
-  // The window is being shown.
-  void Shown();
+  // The cursor has gone to another place, or the keyboard to another control.
+  std::function<void()> moved;
+
+  // The buttons that digits stand for.
+  std::vector<Visual*> Choices() const;
   // A handler has ended: the cursor stays with the places that there are, and the board takes the keyboard
   // when a game begins.
   void Settle();
@@ -57,14 +61,12 @@ class Keyboard : public QObject {
   void MoveTo(const Visual* control);
   void FocusBoard();
   void ShowRing();
-  QRect PlaceOf(const Visual& control) const;
   void Paint(QPainter& painter);
   void OrderTabs();
-  std::vector<Visual*> Choices() const;
 
-  FormWindow& window_;
   Canvas& canvas_;
-  DesktopFrontEnd& front_;
+  QWidget& window_;
+  Deeds& deeds_;
   Guide* guide_;
   const std::vector<KeyRow> rows_;
   std::vector<Spot> spots_;              // as the last handler left them

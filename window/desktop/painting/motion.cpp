@@ -6,9 +6,7 @@
 #include <cmath>
 #include <numeric>
 
-#include "window/desktop/desktop.h"
 #include "window/desktop/painting/style.h"
-#include "window/desktop/view/canvas.h"
 
 namespace {
 
@@ -42,8 +40,8 @@ QPixmap DrawSum(const QString& text, double scale) {
 
 }  // namespace
 
-Motion::Motion(Form& form, DesktopFrontEnd& front, Canvas& canvas)
-    : form_(form), front_(front), canvas_(canvas) {
+Motion::Motion(const Form& form, const Paintbox& paintbox, std::function<void(const QRect&)> repaint)
+    : paintbox_(paintbox), repaint_(std::move(repaint)) {
   for (const Control* control : form.Controls())
     if (control->kind == Control::Kind::Image && control->parent == &form)
       images_.push_back(static_cast<const Image*>(control));
@@ -53,32 +51,20 @@ Motion::Motion(Form& form, DesktopFrontEnd& front, Canvas& canvas)
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Step(); });
 }
 
-bool Motion::IsOn() const { return front_.ShowsMotion(); }
-
 Motion::Face Motion::FaceOf(const Image& image) const {
-  Face face{0, false, DrawnRect(image, front_.pictures)};
+  Face face{0, false, DrawnRect(image, paintbox_.pictures)};
   if (IsShown(image)) face.picture = image.Picture;
   if (face.picture != 0) face.framed = image.BorderStyle == 1;
   return face;
-}
-
-long long Motion::Score() const {
-  const Guide* guide = front_.GuideOf(form_);
-  const Label* label = guide ? guide->Score() : nullptr;
-  long long score = 0;
-  if (!label) return score;
-  const std::string& text = label->Caption;
-  for (char c : text)
-    if (c >= '0' && c <= '9' && score < 1'000'000'000'000) score = 10 * score + (c - '0');
-  return text.starts_with('-') ? -score : score;
 }
 
 // The pile from which new cards come, if there is just one.
 const Image* Motion::Pile() const {
   std::vector<const Image*> piles, backs;  // the last card of a pile looks like any other back
   for (const auto& [image, face] : known_) {
-    if (front_.pictures.IsPile(face.picture)) piles.push_back(image);
-    if (front_.pictures.IsBack(face.picture)) backs.push_back(image);
+    const PictureKind kind = paintbox_.pictures.KindOf(face.picture);
+    if (kind == PictureKind::Pile) piles.push_back(image);
+    if (kind == PictureKind::Back) backs.push_back(image);
   }
   const std::vector<const Image*>& found = piles.empty() ? backs : piles;
   return found.size() == 1 ? found.front() : nullptr;
@@ -105,23 +91,23 @@ std::vector<Motion::Change> Motion::TakeChanges() {
   return changes;
 }
 
-void Motion::Settle() {
+void Motion::Settle(const Ground& ground) {
   if (!IsOn()) {
     known_.clear();
     return Drop();
   }
   if (!changed_ && !known_.empty()) return;
   changed_ = false;
-  const bool known = !known_.empty() && size_ == canvas_.size() && canvas_.isVisible();
-  size_ = canvas_.size();
+  const bool known = !known_.empty() && size_ == ground.size && ground.shows;
+  size_ = ground.size;
   GoOn();
   std::vector<Change> changes = TakeChanges();
-  const long long before = std::exchange(score_, Score());
+  const long long before = std::exchange(score_, ground.score);
   if (!known) {
     passing_.clear();
     return Drop();
   }
-  if (clearedIn_ != front_.HandlerNumber() || now_ - clearedAt_ > kCredit) clearedAt_ = -1;
+  if (clearedIn_ != paintbox_.occasion.number || now_ - clearedAt_ > kCredit) clearedAt_ = -1;
   // Places that come and go are a board that is laid out, covered or cleared away.
   const auto place = [](const Face& face) { return face.picture != 0 && !face.framed; };
   const bool covered = std::ranges::any_of(
@@ -136,12 +122,12 @@ void Motion::Settle() {
     Begin(changes);
   if (covered || changes.size() > kMost) clearedAt_ = -1;
   passing_.clear();
-  if (score_ > before && clearedAt_ >= 0) FloatSum(score_ - before);
+  if (score_ > before && clearedAt_ >= 0) FloatSum(score_ - before, ground);
 }
 
 void Motion::Begin(std::vector<Change>& changes) {
   const Image* const pile = Pile();
-  const Control* const clicked = front_.ClickedControl();
+  const Control* const clicked = paintbox_.occasion.clicked;
   const bool fromPile = pile && clicked == pile;
   std::vector<Piece> begun;
   for (Change& to : changes) {
@@ -165,9 +151,11 @@ void Motion::Begin(std::vector<Change>& changes) {
     begun.push_back({Piece::Kind::Glide, to.image, to.after, to.before,
                      WhereNow(*from->image, from->before.rect), to.after.rect, now_});
   }
+  const auto isBack = [this](const Face& face) {
+    return paintbox_.pictures.KindOf(face.picture) == PictureKind::Back;
+  };
   for (Change& each : changes) {
-    const bool isBack = front_.pictures.IsBack(each.before.picture);
-    if (each.after.IsCard() ? isBack : each.before.IsCard() && front_.pictures.IsBack(each.after.picture)) {
+    if (each.after.IsCard() ? isBack(each.before) : each.before.IsCard() && isBack(each.after)) {
       if (each.covered || (!each.after.IsCard() && each.left)) continue;
       begun.push_back(
           {Piece::Kind::Turn, each.image, each.after, each.before, each.after.rect, each.after.rect, now_});
@@ -210,7 +198,7 @@ void Motion::Begin(std::vector<Change>& changes) {
   if (!where.empty()) {
     cleared_ = std::accumulate(where.begin(), where.end(), QPointF()) / static_cast<double>(where.size());
     clearedAt_ = now_;
-    clearedIn_ = front_.HandlerNumber();
+    clearedIn_ = paintbox_.occasion.number;
   }
 
   // What still moves to a place that has changed again goes on from where it is.
@@ -221,17 +209,17 @@ void Motion::Begin(std::vector<Change>& changes) {
     if (replaced) left += piece.painted;
     return replaced;
   });
-  for (const QRect& rect : left) canvas_.Repaint(rect);
+  for (const QRect& rect : left) repaint_(rect);
   for (Piece& piece : begun) Add(std::move(piece));
 }
 
-void Motion::FloatSum(long long sum) {
+void Motion::FloatSum(long long sum, const Ground& ground) {
   clearedAt_ = -1;
   const QString text = "+" + QLocale(QLocale::English).toString(sum);
   Piece piece{Piece::Kind::Sum, nullptr, {}, {}, {}, {}, now_};
-  piece.sum = DrawSum(text, canvas_.Zoom() * canvas_.devicePixelRatioF());
-  const QSizeF size = piece.sum.deviceIndependentSize() / canvas_.Zoom();
-  const QSizeF board = QSizeF(canvas_.size()) / canvas_.Zoom();
+  piece.sum = DrawSum(text, ground.scale);
+  const QSizeF size = piece.sum.deviceIndependentSize() / ground.zoom;
+  const QSizeF board = QSizeF(ground.size) / ground.zoom;
   const double left =
       std::clamp(cleared_.x() - size.width() / 2, 0.0, std::max(0.0, board.width() - size.width()));
   const double top =
@@ -247,7 +235,7 @@ void Motion::Refuse(const Visual& control) {
     return each.kind == Piece::Kind::Flash && each.control == &control;
   });
   GoOn();
-  const QRectF rect = DrawnRect(control, front_.pictures);
+  const QRectF rect = DrawnRect(control, paintbox_.pictures);
   Add({Piece::Kind::Flash, &control, {}, {}, rect, rect, now_});
 }
 
@@ -255,7 +243,7 @@ void Motion::Refuse(const Visual& control) {
 
 void Motion::Add(Piece piece) {
   piece.painted = Around(AreaOf(piece));
-  canvas_.Repaint(piece.painted | Around(piece.from));
+  repaint_(piece.painted | Around(piece.from));
   pieces_.push_back(std::move(piece));
   if (!timer_.isActive()) timer_.start();
 }
@@ -263,13 +251,13 @@ void Motion::Add(Piece piece) {
 void Motion::RemoveCards() {
   std::erase_if(pieces_, [this](const Piece& piece) {
     const bool isCard = piece.kind != Piece::Kind::Sum && piece.kind != Piece::Kind::Flash;
-    if (isCard) canvas_.Repaint(piece.painted | Around(piece.to));
+    if (isCard) repaint_(piece.painted | Around(piece.to));
     return isCard;
   });
 }
 
 void Motion::Drop() {
-  for (const Piece& piece : pieces_) canvas_.Repaint(piece.painted | Around(piece.to));
+  for (const Piece& piece : pieces_) repaint_(piece.painted | Around(piece.to));
   pieces_.clear();
   timer_.stop();
 }
@@ -277,9 +265,9 @@ void Motion::Drop() {
 void Motion::GoOn() {
   now_ = clock_.elapsed();
   for (Piece& piece : pieces_) {
-    canvas_.Repaint(piece.painted);
+    repaint_(piece.painted);
     piece.painted = Around(AreaOf(piece));
-    canvas_.Repaint(piece.painted);
+    repaint_(piece.painted);
   }
 }
 

@@ -7,22 +7,30 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QTimer>
+#include <functional>
 #include <unordered_map>
 #include <vector>
 
 #include "window/desktop/painting/paint.h"
-
-class Canvas;
-class DesktopFrontEnd;
+#include "window/desktop/painting/paintbox.h"
 
 class Motion {
  public:
-  Motion(Form& form, DesktopFrontEnd& front, Canvas& canvas);
+  // `repaint` paints a part of the board anew; pixels at 100 %.
+  Motion(const Form& form, const Paintbox& paintbox, std::function<void(const QRect&)> repaint);
 
+  // How the board stands at the moment.
+  struct Ground {
+    QSize size;        // pixels of the window
+    double zoom = 1;   // of these to a pixel at 100 %
+    double scale = 1;  // device pixels to a pixel at 100 %
+    bool shows = false;
+    long long score = 0;  // what the player has so far
+  };
   // The control looks different from now on.
   void Changed(const Visual& control);
   // A handler has come to its end, or to a wait: what has changed since the last time is set in motion.
-  void Settle();
+  void Settle(const Ground& ground);
   // Shows that a click on this control was refused.
   void Refuse(const Visual& control);
   // Puts everything to rest where it belongs.
@@ -61,13 +69,12 @@ class Motion {
     QRect painted = {};
   };
 
-  bool IsOn() const;
+  bool IsOn() const { return paintbox_.manner.glides; }
   Face FaceOf(const Image& image) const;
   std::vector<Change> TakeChanges();
   // Sets the cards in motion, and keeps where some of them have been cleared away.
   void Begin(std::vector<Change>& changes);
-  void FloatSum(long long sum);
-  long long Score() const;
+  void FloatSum(long long sum, const Ground& ground);
   const Image* Pile() const;
   void Add(Piece piece);
   void RemoveCards();
@@ -78,9 +85,8 @@ class Motion {
   QRectF AreaOf(const Piece& piece) const;
   QRectF WhereNow(const Image& image, const QRect& rest) const;
 
-  Form& form_;
-  DesktopFrontEnd& front_;
-  Canvas& canvas_;
+  const Paintbox& paintbox_;
+  const std::function<void(const QRect&)> repaint_;
   std::vector<const Image*> images_;
   std::unordered_map<const Image*, Face> known_;  // as it was at the last `Settle`
   std::vector<Face> passing_;  // cards that have been laid since, perhaps for no time at all

@@ -294,7 +294,7 @@ void PaintPicture(const Easel& easel, int index, bool framed, const QRectF& rect
   const QPointF corner = transform.map(rect.topLeft());
   const QPointF whole(std::round(corner.x()), std::round(corner.y()));
   painter.drawPixmap(transform.inverted().map(whole), picture);
-  if (!easel.strong || !easel.pictures.IsPlace(index)) return;
+  if (!easel.strong || easel.pictures.KindOf(index) != PictureKind::Place) return;
   painter.setPen(QPen(Qt::white, 1.5));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(rect.adjusted(1, 1, -1, -1), 4, 4);

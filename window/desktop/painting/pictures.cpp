@@ -8,6 +8,7 @@
 
 #include "window/desktop/painting/screening.h"
 #include "window/desktop/painting/style.h"
+#include "window/foreign_files.h"
 #include "window/leaving.h"
 
 namespace fs = std::filesystem;
@@ -20,7 +21,7 @@ constexpr double kCorner = 4;  // radius of a framed card's corners
 // What is refused is told in one line; nothing is said of a file that isn't there.
 bool Render(const fs::path& path, QPainter& painter, const QRectF& rect) {
   std::string text, why;
-  if (!ReadMediaFile(path, kLargestPicture, text, why)) return false;
+  if (!ReadForeignFile(path, kLargestPicture, text, why)) return false;
   const leaving::Held drawing;
   QSvgRenderer renderer;
   if (why.empty()) why = WhyNotDraw(text);
@@ -66,19 +67,9 @@ QSize Pictures::Size(int index) const {
   return file ? QSize(file->width, file->height) : QSize(71, 96);
 }
 
-bool Pictures::IsPile(int index) const {
+PictureKind Pictures::KindOf(int index) const {
   const PictureFile* file = Find(index);
-  return file && (file->file.ends_with("-full.svg") || file->file.ends_with("-half.svg"));
-}
-
-bool Pictures::IsPlace(int index) const {
-  const PictureFile* file = Find(index);
-  return file && file->file.starts_with("empty");
-}
-
-bool Pictures::IsBack(int index) const {
-  const PictureFile* file = Find(index);
-  return file && file->file.starts_with("back") && !IsPile(index);
+  return file ? file->kind : PictureKind::Other;
 }
 
 QPixmap Pictures::Get(int index, bool framed, double scale) {

@@ -22,11 +22,7 @@ class Pictures {
 
   // Pixels at 100 %.
   QSize Size(int index) const;
-  // Whether the picture is the back of a single card, or that of a pile; told by the names of the files.
-  bool IsBack(int index) const;
-  bool IsPile(int index) const;
-  // A place without a card.
-  bool IsPlace(int index) const;
+  PictureKind KindOf(int index) const;
   // The picture for a screen of that scale; with a thin frame around it, which makes it 2 pixels larger
   // either way. A picture without a usable file is an outlined card that names it.
   QPixmap Get(int index, bool framed, double scale);

@@ -1,17 +1,9 @@
 #include "window/desktop/painting/screening.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <QXmlStreamReader>
-#include <cstdio>
 #include <map>
-#include <mutex>
-#include <set>
+#include <string>
 #include <vector>
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -56,33 +48,6 @@ long long Weigh(const std::string& name, const std::map<std::string, Part>& part
 }
 
 }  // namespace
-
-std::string WhyNotUse(const fs::path& path, std::uintmax_t largest) {
-  std::error_code error;
-  if (!fs::is_regular_file(path, error)) return "it is no plain file";
-  if (fs::file_size(path, error) > largest || error) return "it is too large";
-  return "";
-}
-
-bool ReadMediaFile(const fs::path& path, std::uintmax_t largest, std::string& text, std::string& why) {
-  struct stat status = {};
-  if (stat(path.c_str(), &status) != 0) return false;
-  why = WhyNotUse(path, largest);
-  if (!why.empty()) return true;
-  const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-  if (descriptor < 0 || fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
-    why = "it can't be read";
-  } else {
-    char chunk[65536];
-    ssize_t count = 0;
-    while (text.size() <= largest && (count = read(descriptor, chunk, sizeof chunk)) > 0)
-      text.append(chunk, static_cast<size_t>(count));
-    if (count < 0) why = "it can't be read";
-    if (text.size() > largest) why = "it is too large";
-  }
-  if (descriptor >= 0) close(descriptor);
-  return true;
-}
 
 std::string WhyNotDraw(std::string_view svg) {
   QXmlStreamReader reader(QByteArray(svg.data(), static_cast<qsizetype>(svg.size())));
@@ -137,12 +102,4 @@ std::string WhyNotDraw(std::string_view svg) {
   if (reader.hasError()) return "it is no picture";
   std::map<std::string, long long> known;
   return Weigh("", parts, known, 0) > kMostElements ? "it repeats too much" : "";
-}
-
-void TellRefused(const fs::path& path, const std::string& why) {
-  static std::mutex guard;
-  static std::set<fs::path> told;
-  const std::lock_guard lock(guard);
-  if (told.insert(path).second)
-    std::fprintf(stderr, "cardhaven: %s isn't used: %s\n", path.c_str(), why.c_str());
 }

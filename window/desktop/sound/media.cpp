@@ -3,8 +3,8 @@
 #include <cmath>
 #include <iterator>
 
-#include "window/desktop/painting/screening.h"
 #include "window/desktop/sound/sound.h"
+#include "window/foreign_files.h"
 
 namespace fs = std::filesystem;
 
@@ -28,7 +28,7 @@ fs::path Media::Find(const std::string& name, const char* folder) const {
   return installed_ / folder / file;
 }
 
-Strike StrikeOf(int step) {
+Touch TouchOf(int step) {
   // Uneven as a hand is, and never twice the same within a second.
   static constexpr int kWavers[] = {0, -24, 16, -8, 28, -16, 6, -28, 20, -12, 24, -20, 10};
   static constexpr int kLevels[] = {100, 90, 96, 86, 94, 100, 88, 92, 97, 87, 95};
@@ -39,10 +39,17 @@ Strike StrikeOf(int step) {
           kLevels[step % std::size(kLevels)]};
 }
 
-void Media::PlayWave(const std::string& path, int step) {
+void Media::PlayWave(const std::string& path, long long handler, long long now) {
+  constexpr int kCount = 500;  // milliseconds between the steps of a count at most
+  const bool goesOn = last_.path == path && last_.handler == handler && now - last_.at <= kCount;
+  last_ = {path, handler, now, goesOn ? last_.step + 1 : 0};
+  Strike(path, last_.step);
+}
+
+void Media::Strike(const std::string& path, int step) {
   const fs::path file = Find(path, "sounds");
-  const Strike strike = file.parent_path() == own_ ? Strike() : StrikeOf(step);
-  player_->PlayWave(file, strike.cents, strike.level);
+  const Touch touch = file.parent_path() == own_ ? Touch() : TouchOf(step);
+  player_->PlayWave(file, touch.cents, touch.level);
 }
 
 void Media::SetVolumes(int waves, int music) { player_->SetVolumes(waves, music); }

@@ -1,18 +1,21 @@
 // Waves and music by the names that the suite uses for them.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
 
 class SoundPlayer;
 
+inline constexpr std::uintmax_t kLargestWave = 16 << 20, kLargestTune = 1 << 20;
+
 // How a wave sounds at that step of a count.
-struct Strike {
+struct Touch {
   int cents = 0;    // higher than at the first step
   int level = 100;  // percent
 };
-Strike StrikeOf(int step);
+Touch TouchOf(int step);
 
 class Media {
  public:
@@ -21,9 +24,12 @@ class Media {
   ~Media();
 
   void Start();
-  // "\Chord.wav". The same wave is played again and again in a count: `step` 1, 2, 3... rises a little, and
-  // no two in a row are quite alike. A wave of the player's own is played as it is.
-  void PlayWave(const std::string& path, int step = 0);
+  // "\Chord.wav", in the handler of that number, at that moment. The same wave is played again and again in a
+  // count: it rises a little at each step, and no two in a row are quite alike. A wave of the player's own is
+  // played as it is.
+  void PlayWave(const std::string& path, long long handler, long long now);
+  // One by itself.
+  void PlayWave(const std::string& path) { Strike(path, 0); }
   // Percent; heard at once.
   void SetVolumes(int waves, int music);
   // "open "\Quillmark.MID" type sequencer alias HarbekMidi", "play HarbekMidi", "close HarbekMidi"
@@ -32,6 +38,13 @@ class Media {
   std::filesystem::path Find(const std::string& name, const char* folder) const;
 
  private:
+  void Strike(const std::string& path, int step);
+
   std::filesystem::path own_, installed_;
+  struct {
+    std::string path;
+    long long handler = -1, at = 0;
+    int step = 0;
+  } last_;  // wave
   std::unique_ptr<SoundPlayer> player_;
 };

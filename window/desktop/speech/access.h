@@ -3,47 +3,46 @@
 #pragma once
 
 #include <QAccessible>
-#include <QPointer>
 #include <QString>
 #include <QTimer>
-#include <string>
 #include <unordered_map>
 #include <unordered_set>
 
 #include "window/form.h"
 
-class DesktopFrontEnd;
-class FormWindow;
+class Canvas;
 
 class Access : private QAccessible::ActivationObserver {
  public:
-  explicit Access(DesktopFrontEnd& front);
+  Access();
   ~Access() override;
   Access(const Access&) = delete;
 
+  // A window has been made.
+  void Opened(Canvas& board);
   // What the model has done; told to listeners as soon as the handler waits or has ended.
   void Changed(const Control& control);
   void Reordered(const Form& form) { Mark(form); }
   // A window stands there, or is gone.
-  void Shown(FormWindow& window);
+  void Shown(const Form& form) { Mark(form); }
   void Gone(const Form& form);
   // A click on that control isn't done.
   void Refused(const Control& clicked);
   // The card that keys mean may be another one.
-  void CursorMoved(FormWindow& window);
+  void CursorMoved(Canvas& board);
   // How the game stands, for ears and eyes.
-  void TellState(FormWindow& window);
+  void TellState(Canvas& board);
 
  private:
   void accessibilityActiveChanged(bool active) override;
   // Says a sentence.
-  void Announce(FormWindow& window, const QString& text);
+  void Announce(Canvas& board, const QString& text);
   void Mark(const Form& form);
   void Flush();
-  void TellMessages(FormWindow& window);
+  void TellMessages(Canvas& board);
 
-  DesktopFrontEnd& front_;
   QTimer flush_;
+  std::unordered_map<const Form*, Canvas*> boards_;
   std::unordered_set<const Form*> dirty_;
   // Labels that show a message, and what was last said of each, without its figures.
   std::unordered_map<const Control*, QString> said_;

@@ -4,21 +4,19 @@
 #include <algorithm>
 #include <typeinfo>
 
-#include "window/desktop/desktop.h"
 #include "window/desktop/input/keyboard.h"
+#include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/notes.h"
-#include "window/desktop/painting/scene.h"
 #include "window/desktop/speech/access_items.h"
 #include "window/desktop/speech/access_names.h"
-#include "window/desktop/view/canvas.h"
-#include "window/desktop/view/form_window.h"
+#include "window/desktop/speech/spoken_window.h"
 
 namespace {
 
 // A window: a frame, or a dialog that stands before the others.
 class WindowAccess : public QAccessibleWidget {
  public:
-  explicit WindowAccess(FormWindow& window) : QAccessibleWidget(&window, QAccessible::Window) {}
+  explicit WindowAccess(QWidget& window) : QAccessibleWidget(&window, QAccessible::Window) {}
   QAccessible::Role role() const override {
     return widget()->isModal() ? QAccessible::Dialog : QAccessible::Window;
   }
@@ -29,62 +27,27 @@ class WindowAccess : public QAccessibleWidget {
   }
 };
 
-// Asks a guide. Who listens may ask in the middle of anything, and an answer that can't be given is none.
-template <class Answer>
-Answer Ask(const Guide* guide, Answer (Guide::*question)() const) {
-  if (!guide) return {};
-  try {
-    return (guide->*question)();
-  } catch (const std::exception&) {
-    return {};
-  }
-}
-
 }  // namespace
 
 QAccessibleInterface* MakeAccess(const QString& className, QObject* object) {
   if (className != "QWidget") return nullptr;
-  if (auto* window = dynamic_cast<FormWindow*>(object)) return new WindowAccess(*window);
+  auto* const widget = static_cast<QWidget*>(object);
+  if (dynamic_cast<SpokenWindow*>(object)) return new WindowAccess(*widget);
   if (auto* canvas = dynamic_cast<Canvas*>(object)) return new BoardAccess(*canvas);
-  if (object->objectName().startsWith("StatusBar"))
-    return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::StatusBar);
-  return nullptr;
+  const auto* window = dynamic_cast<SpokenWindow*>(object->parent());
+  return window && window->StatusLine() == widget ? new QAccessibleWidget(widget, QAccessible::StatusBar)
+                                                  : nullptr;
 }
 
-BoardAccess* BoardAccessOf(FormWindow& window) {
-  return static_cast<BoardAccess*>(QAccessible::queryAccessibleInterface(&window.Board()));
+BoardAccess* BoardAccessOf(Canvas& board) {
+  return static_cast<BoardAccess*>(QAccessible::queryAccessibleInterface(&board));
 }
 
-BoardAccess::BoardAccess(Canvas& canvas) : QAccessibleWidget(&canvas, QAccessible::Pane) {}
+BoardAccess::BoardAccess(Canvas& canvas) : BoardFace(canvas) {}
 
 BoardAccess::~BoardAccess() {
   for (const auto& [key, id] : items_) QAccessible::deleteAccessibleInterface(id);
   for (const QAccessible::Id id : sayings_) QAccessible::deleteAccessibleInterface(id);
-}
-
-FormWindow& BoardAccess::Window() const { return *static_cast<FormWindow*>(widget()->parentWidget()); }
-
-DesktopFrontEnd& BoardAccess::Front() const { return Window().Front(); }
-
-Canvas& BoardAccess::Board() const { return *static_cast<Canvas*>(widget()); }
-
-bool BoardAccess::Lives() const { return isValid() && Front().WindowOf(Window().form) == &Window(); }
-
-std::vector<Spot> BoardAccess::Spots() const {
-  return Lives() ? Ask(Front().GuideOf(Window().form), &Guide::Spots) : std::vector<Spot>();
-}
-
-std::vector<Note> BoardAccess::Notes() const { return Lives() ? Board().Notes() : std::vector<Note>(); }
-
-Spot BoardAccess::SpotOf(const Control& control) const {
-  for (Spot& spot : Spots())
-    if (spot.control == &control) return spot;
-  return {nullptr, ""};
-}
-
-QRect BoardAccess::OnScreen(const QRect& area) const {
-  const QRect there = Board().ToWindow(area) & Board().rect();
-  return {Board().mapToGlobal(there.topLeft()), there.size()};
 }
 
 // --- Children ------------------------------------------------------------------------------------
@@ -99,7 +62,7 @@ QAccessibleInterface* BoardAccess::Keep(Key key, Make make) const {
 }
 
 QAccessibleInterface* BoardAccess::CardItem(Visual& control) const {
-  return Keep({&control, 0}, [&](BoardAccess& board) { return MakeCardItem(board, control); });
+  return Keep({&control, 0}, [&](BoardFace& board) { return MakeCardItem(board, control); });
 }
 
 // The texts and widgets in the order in which they are read: line by line.
@@ -113,8 +76,8 @@ std::vector<QAccessibleInterface*> BoardAccess::Rest() const {
   const auto put = [&](const QRect& rect, QAccessibleInterface* item) {
     if (item) placed.push_back({rect, item});
   };
-  const auto names = NamesOfLabels(Window().form);
-  for (Control* control : Window().form.Controls()) {
+  const auto names = NamesOfLabels(Board().form, Board().GetGuide());
+  for (Control* control : Board().form.Controls()) {
     if (IsDrawn(control->kind) && !IsShown(static_cast<Visual&>(*control))) continue;
     switch (control->kind) {
       case Control::Kind::Label: {
@@ -122,10 +85,10 @@ std::vector<QAccessibleInterface*> BoardAccess::Rest() const {
         if (IsTable(label)) {
           if (label.form.find(label.name, label.index - 1)) break;
           put(ModelRect(label),
-              Keep({&label, 0}, [&](BoardAccess& board) { return MakeTableItem(board, label); }));
+              Keep({&label, 0}, [&](BoardFace& board) { return MakeTableItem(board, label); }));
         } else if (names.contains(&label)) {
           put(ModelRect(label),
-              Keep({&label, 0}, [&](BoardAccess& board) { return MakeTextItem(board, label); }));
+              Keep({&label, 0}, [&](BoardFace& board) { return MakeTextItem(board, label); }));
         }
         break;
       }
@@ -133,17 +96,16 @@ std::vector<QAccessibleInterface*> BoardAccess::Rest() const {
         auto& frame = static_cast<Frame&>(*control);
         if (!frame.Panel && !Spoken(frame.Caption).isEmpty())
           put({ModelRect(frame).topLeft(), QSize(1, 1)},
-              Keep({&frame, 0}, [&](BoardAccess& board) { return MakeTextItem(board, frame); }));
+              Keep({&frame, 0}, [&](BoardFace& board) { return MakeTextItem(board, frame); }));
         break;
       }
       case Control::Kind::ProgressBar: {
         auto& bar = static_cast<ProgressBar&>(*control);
-        put(ModelRect(bar), Keep({&bar, 0}, [&](BoardAccess& board) { return MakeBarItem(board, bar); }));
+        put(ModelRect(bar), Keep({&bar, 0}, [&](BoardFace& board) { return MakeBarItem(board, bar); }));
         break;
       }
       default:
-        if (QWidget* each = Window().WidgetOf(*control);
-            each && each->parentWidget() == widget() && !each->isHidden())
+        if (QWidget* each = Board().WidgetOf(*control); each && !each->isHidden())
           put(ModelRect(static_cast<Visual&>(*control)), QAccessible::queryAccessibleInterface(each));
         break;
     }
@@ -155,7 +117,7 @@ std::vector<QAccessibleInterface*> BoardAccess::Rest() const {
     if (isNumber) continue;  // the rows of a table have theirs
     const int number = static_cast<int>(i);
     put(NoteRect(notes[i]),
-        Keep({nullptr, number}, [&](BoardAccess& board) { return MakeNoteItem(board, number); }));
+        Keep({nullptr, number}, [&](BoardFace& board) { return MakeNoteItem(board, number); }));
   }
   std::ranges::stable_sort(placed, {}, [](const Placed& each) { return each.rect.center().y(); });
   for (auto line = placed.begin(); line != placed.end();) {
@@ -224,7 +186,7 @@ QAccessibleInterface* BoardAccess::focusChild() const {
 }
 
 QString BoardAccess::text(QAccessible::Text text) const {
-  return text == QAccessible::Name && Lives() && Front().GuideOf(Window().form) && IsBoard(Window().form)
+  return text == QAccessible::Name && Lives() && Board().GetGuide() && IsBoard(Board().form)
              ? "Board"
              : QAccessibleWidget::text(text);
 }

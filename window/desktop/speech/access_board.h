@@ -1,41 +1,22 @@
 // The tree within a board or dialog: cards, texts, bars and tables that one canvas draws.
 #pragma once
 
-#include <QAccessibleWidget>
 #include <deque>
 #include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "window/form.h"
-#include "window/guide.h"
-
-class Canvas;
-class DesktopFrontEnd;
-class FormWindow;
+#include "window/desktop/speech/board_face.h"
 
 // The canvas of a window. Its children are looked up in the model each time: first the cards in the order in
 // which the guide tells them, then texts, bars, tables and widgets as they are read, last what is being said.
-class BoardAccess : public QAccessibleWidget {
+class BoardAccess : public BoardFace {
  public:
   explicit BoardAccess(Canvas& canvas);
   ~BoardAccess() override;
 
-  // False once the form is gone: nothing of it may be touched any more.
-  bool Lives() const;
-  FormWindow& Window() const;
-  DesktopFrontEnd& Front() const;
-  Canvas& Board() const;
-  // What the guide tells of this place; its control is null if nothing lies there any more.
-  Spot SpotOf(const Control& control) const;
-  std::vector<Spot> Spots() const;
-  std::vector<Note> Notes() const;
-  // The card that a key would click; null while the keyboard is elsewhere.
-  QAccessibleInterface* CursorItem() const;
-  // The screen's area of an area of the board.
-  QRect OnScreen(const QRect& area) const;
-
+  QAccessibleInterface* CursorItem() const override;
   // Says a sentence.
   void Announce(const QString& text);
   // Tells listeners what has come, gone, or is called otherwise since the last time.
@@ -71,5 +52,4 @@ class BoardAccess : public QAccessibleWidget {
 
 // The makers of windows' and boards' interfaces, as `QAccessible::installFactory` wants them.
 QAccessibleInterface* MakeAccess(const QString& className, QObject* object);
-// That of a window's canvas.
-BoardAccess* BoardAccessOf(FormWindow& window);
+BoardAccess* BoardAccessOf(Canvas& board);

@@ -2,20 +2,19 @@
 
 #include <QTimer>
 
-#include "window/desktop/desktop.h"
+#include "window/desktop/input/deeds.h"
 #include "window/desktop/input/keyboard.h"
+#include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/notes.h"
-#include "window/desktop/speech/access_board.h"
 #include "window/desktop/speech/access_names.h"
-#include "window/desktop/view/canvas.h"
-#include "window/desktop/view/form_window.h"
-#include "window/player.h"
+#include "window/desktop/speech/board_face.h"
+#include "window/desktop/speech/spoken_window.h"
 
 namespace {
 
 class Item : public QAccessibleInterface {
  public:
-  explicit Item(BoardAccess& board) : board_(board) {}
+  explicit Item(BoardFace& board) : board_(board) {}
 
   bool isValid() const override { return board_.Lives(); }
   QObject* object() const override { return nullptr; }
@@ -45,16 +44,16 @@ class Item : public QAccessibleInterface {
   virtual bool Shows() const { return true; }
   virtual void Add(QAccessible::State&) const {}
 
-  BoardAccess& board_;
+  BoardFace& board_;
 };
 
 // What is a control of the model.
 class ControlItem : public Item {
  public:
-  ControlItem(BoardAccess& board, Visual& control) : Item(board), control_(control) {}
+  ControlItem(BoardFace& board, Visual& control) : Item(board), control_(control) {}
 
  protected:
-  QRect Area() const override { return DrawnRect(control_, board_.Front().pictures); }
+  QRect Area() const override { return board_.Board().PlaceOf(control_); }
   bool Shows() const override { return IsShown(control_); }
 
   Visual& control_;
@@ -77,11 +76,10 @@ class Clickable : public ControlItem, public QAccessibleActionInterface {
   void doAction(const QString& name) override {
     if (!isValid() || name != pressAction() || !TakesClick()) return;
     QTimer::singleShot(0, &board_.Board(), [this] {
-      if (board_.Front().TakeAsHurry()) return;
-      if (!isValid() || !board_.Board().SpotOf(control_)) return;  // no mouse could reach it
-      board_.Front().Deliver(control_.form, [&control = control_] {
-        if (player::WhyNot(control).empty()) player::Click(control);
-      });
+      if (!isValid()) return;
+      Deeds& deeds = board_.Window().GetDeeds();
+      if (deeds.TakeAsHurry() || !board_.Board().SpotOf(control_)) return;  // no mouse could reach it
+      deeds.Click(control_);
     });
   }
   QStringList keyBindingsForAction(const QString&) const override { return {}; }
@@ -131,7 +129,7 @@ class TextItem : public Clickable {
  protected:
   QString Name() const override {
     if (control_.kind == Control::Kind::Frame) return Spoken(static_cast<const Frame&>(control_).Caption);
-    const auto names = NamesOfLabels(control_.form);
+    const auto names = NamesOfLabels(control_.form, board_.Board().GetGuide());
     const auto found = names.find(&static_cast<const Label&>(control_));
     return found == names.end() ? QString() : found->second;
   }
@@ -140,7 +138,7 @@ class TextItem : public Clickable {
 
 class BarItem : public ControlItem, public QAccessibleValueInterface {
  public:
-  BarItem(BoardAccess& board, ProgressBar& bar) : ControlItem(board, bar), bar_(bar) {}
+  BarItem(BoardFace& board, ProgressBar& bar) : ControlItem(board, bar), bar_(bar) {}
 
   QAccessible::Role role() const override { return QAccessible::ProgressBar; }
   void* interface_cast(QAccessible::InterfaceType type) override {
@@ -162,7 +160,7 @@ class BarItem : public ControlItem, public QAccessibleValueInterface {
 
 class NoteItem : public Item {
  public:
-  NoteItem(BoardAccess& board, int number) : Item(board), number_(number) {}
+  NoteItem(BoardFace& board, int number) : Item(board), number_(number) {}
 
  protected:
   QString Name() const override { return QString::fromStdString(Told().text).simplified(); }
@@ -179,7 +177,7 @@ class NoteItem : public Item {
 
 class Saying : public Item {
  public:
-  Saying(BoardAccess& board, QString text) : Item(board), text_(std::move(text)) {}
+  Saying(BoardFace& board, QString text) : Item(board), text_(std::move(text)) {}
   QAccessible::Role role() const override { return QAccessible::Notification; }
 
  protected:
@@ -219,7 +217,7 @@ class TableItem;
 
 class CellItem : public ControlItem, public QAccessibleTableCellInterface {
  public:
-  CellItem(BoardAccess& board, TableItem& table, Label& label) : ControlItem(board, label), table_(table) {}
+  CellItem(BoardFace& board, TableItem& table, Label& label) : ControlItem(board, label), table_(table) {}
 
   QAccessible::Role role() const override { return QAccessible::Cell; }
   QAccessibleInterface* parent() const override;
@@ -247,7 +245,7 @@ class CellItem : public ControlItem, public QAccessibleTableCellInterface {
 
 class RowItem : public Item {
  public:
-  RowItem(BoardAccess& board, TableItem& table, int number) : Item(board), table_(table), number_(number) {}
+  RowItem(BoardFace& board, TableItem& table, int number) : Item(board), table_(table), number_(number) {}
 
   QAccessible::Role role() const override { return QAccessible::Row; }
   QAccessibleInterface* parent() const override;
@@ -282,7 +280,7 @@ class RowItem : public Item {
 
 class TableItem : public Item, public QAccessibleTableInterface {
  public:
-  TableItem(BoardAccess& board, Label& first) : Item(board), first_(first) {}
+  TableItem(BoardFace& board, Label& first) : Item(board), first_(first) {}
   ~TableItem() override {
     for (const auto& [key, id] : parts_) QAccessible::deleteAccessibleInterface(id);
   }
@@ -393,16 +391,12 @@ QAccessibleInterface* RowItem::child(int index) const {
 
 }  // namespace
 
-QAccessibleInterface* MakeCardItem(BoardAccess& board, Visual& control) {
-  return new CardItem(board, control);
-}
-QAccessibleInterface* MakeTextItem(BoardAccess& board, Visual& control) {
-  return new TextItem(board, control);
-}
-QAccessibleInterface* MakeBarItem(BoardAccess& board, ProgressBar& bar) { return new BarItem(board, bar); }
-QAccessibleInterface* MakeNoteItem(BoardAccess& board, int number) { return new NoteItem(board, number); }
-QAccessibleInterface* MakeSaying(BoardAccess& board, const QString& text) { return new Saying(board, text); }
-QAccessibleInterface* MakeTableItem(BoardAccess& board, Label& first) { return new TableItem(board, first); }
+QAccessibleInterface* MakeCardItem(BoardFace& board, Visual& control) { return new CardItem(board, control); }
+QAccessibleInterface* MakeTextItem(BoardFace& board, Visual& control) { return new TextItem(board, control); }
+QAccessibleInterface* MakeBarItem(BoardFace& board, ProgressBar& bar) { return new BarItem(board, bar); }
+QAccessibleInterface* MakeNoteItem(BoardFace& board, int number) { return new NoteItem(board, number); }
+QAccessibleInterface* MakeSaying(BoardFace& board, const QString& text) { return new Saying(board, text); }
+QAccessibleInterface* MakeTableItem(BoardFace& board, Label& first) { return new TableItem(board, first); }
 
 bool IsTable(const Label& label) {
   if (label.index < 0 || IsBoard(label.form)) return false;

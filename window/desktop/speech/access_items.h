@@ -6,17 +6,17 @@
 
 #include "window/controls.h"
 
-class BoardAccess;
+class BoardFace;
 
 // A card or another place to click on.
-QAccessibleInterface* MakeCardItem(BoardAccess& board, Visual& control);
+QAccessibleInterface* MakeCardItem(BoardFace& board, Visual& control);
 // A label, a frame's caption.
-QAccessibleInterface* MakeTextItem(BoardAccess& board, Visual& control);
-QAccessibleInterface* MakeBarItem(BoardAccess& board, ProgressBar& bar);
+QAccessibleInterface* MakeTextItem(BoardFace& board, Visual& control);
+QAccessibleInterface* MakeBarItem(BoardFace& board, ProgressBar& bar);
 // The note of that number that the window's guide adds.
-QAccessibleInterface* MakeNoteItem(BoardAccess& board, int number);
+QAccessibleInterface* MakeNoteItem(BoardFace& board, int number);
 // A sentence that is being said.
-QAccessibleInterface* MakeSaying(BoardAccess& board, const QString& text);
+QAccessibleInterface* MakeSaying(BoardFace& board, const QString& text);
 // Labels of an array that stand in rows and columns; null if these don't.
 bool IsTable(const Label& label);
-QAccessibleInterface* MakeTableItem(BoardAccess& board, Label& first);
+QAccessibleInterface* MakeTableItem(BoardFace& board, Label& first);

@@ -5,10 +5,7 @@
 #include <cctype>
 #include <limits>
 
-#include "window/desktop/painting/scene.h"
-#include "window/desktop/speech/access_board.h"
-#include "window/desktop/view/form_window.h"
-#include "window/desktop/view/native.h"
+#include "window/desktop/painting/canvas.h"
 
 namespace {
 
@@ -23,22 +20,21 @@ struct Lettered {
   const Label* label;
   QRect rect;
   QString text;
+  bool isMessage;
 
   // Figures say nothing without what stands beside them.
   bool IsFigure() const { return !HasLetter(text); }
   // "Time: 45" has its own.
-  bool IsTitle() const {
-    return !IsFigure() && !(text.contains(':') && text.back().isDigit()) && !IsMessage(*label);
-  }
+  bool IsTitle() const { return !IsFigure() && !(text.contains(':') && text.back().isDigit()) && !isMessage; }
 };
 
-std::vector<Lettered> LabelsOn(const Form& form) {
+std::vector<Lettered> LabelsOn(const Form& form, const Guide* guide = nullptr) {
   std::vector<Lettered> labels;
   for (const Control* each : form.Controls()) {
     if (each->kind != Control::Kind::Label) continue;
     const auto& label = static_cast<const Label&>(*each);
     if (const QString text = Spoken(label.Caption); !text.isEmpty() && IsShown(label))
-      labels.push_back({&label, ModelRect(label), text});
+      labels.push_back({&label, ModelRect(label), text, IsMessage(label, guide)});
   }
   return labels;
 }
@@ -123,8 +119,8 @@ QString LabelTextOf(const Visual& control) {
   return label ? WithoutColon(label->text) : QString();
 }
 
-std::map<const Label*, QString> NamesOfLabels(const Form& form) {
-  const std::vector<Lettered> labels = LabelsOn(form);
+std::map<const Label*, QString> NamesOfLabels(const Form& form, const Guide* guide) {
+  const std::vector<Lettered> labels = LabelsOn(form, guide);
   const bool board = IsBoard(form);
   std::map<const Label*, QString> names;
   for (const Lettered& each : labels) names[each.label] = each.text;
@@ -149,20 +145,18 @@ std::map<const Label*, QString> NamesOfLabels(const Form& form) {
   return names;
 }
 
-bool IsMessage(const Label& label) {
+bool IsMessage(const Label& label, const Guide* guide) {
   constexpr int kLarge = 12;  // points
   return label.parent == &label.form && IsBoard(label.form) && label.index < 0 &&
          !QString::fromStdString(label.Caption).trimmed().endsWith(':') &&
-         (label.FontSize >= kLarge || label.name.starts_with("ScoringLabel")) &&
+         (label.FontSize >= kLarge || (guide && guide->IsMessage(label))) &&
          HasLetter(QString::fromStdString(label.Caption));
 }
 
-void NameWidgets(FormWindow& window) {
-  const BoardAccess& board = *BoardAccessOf(window);
-  const std::vector<Spot> spots = board.Spots();
-  for (const Control* control : window.form.Controls()) {
-    if (!IsNative(control->kind)) continue;
-    QWidget* widget = window.WidgetOf(*control);
+void NameWidgets(Canvas& board, const std::vector<Spot>& spots) {
+  for (const Control* control : board.form.Controls()) {
+    QWidget* widget = board.WidgetOf(*control);
+    if (!widget) continue;
     const auto& visual = static_cast<const Visual&>(*control);
     QString name, description;
     switch (control->kind) {

@@ -4,9 +4,9 @@
 #include <QString>
 #include <map>
 
-#include "window/form.h"
+#include "window/guide.h"
 
-class FormWindow;
+class Canvas;
 
 // A text as it is spoken: on one line, without the marks of access keys.
 QString Spoken(const std::string& text);
@@ -15,8 +15,9 @@ QString Spoken(const std::string& text);
 QString LabelTextOf(const Visual& control);
 // The names of all labels that show: their texts, figures with what tells what they are about. A label that
 // only tells what figures are about has none.
-std::map<const Label*, QString> NamesOfLabels(const Form& form);
+std::map<const Label*, QString> NamesOfLabels(const Form& form, const Guide* guide);
 // Whether the label shows something that is to be said when it comes: a large text on a board.
-bool IsMessage(const Label& label);
-// Names the widgets of a window that have no caption of their own, or one that several have.
-void NameWidgets(FormWindow& window);
+bool IsMessage(const Label& label, const Guide* guide);
+// Names the widgets on a board that have no caption of their own, or one that several have; `spots` is what
+// the guide tells of it.
+void NameWidgets(Canvas& board, const std::vector<Spot>& spots);

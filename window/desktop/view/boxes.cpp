@@ -3,16 +3,13 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QShowEvent>
 #include <QWindow>
 #include <algorithm>
 
-#include "window/desktop/desktop.h"
 #include "window/desktop/painting/style.h"
-#include "window/desktop/view/form_window.h"
 
 namespace {
 
@@ -52,35 +49,6 @@ void KeepOnScreen(QMessageBox& box) {
   delete grid->replaceWidget(label, text);
 }
 
-// A box in the middle of the window behind it. It isn't that window's child: a timer may take the window away
-// while the box stands.
-class Box : public QMessageBox {
- public:
-  Box(DesktopFrontEnd& front, QWidget* behind) : front_(front), behind_(behind) {
-    style::SetZoom(*this, style::ZoomOf(behind));
-    create();
-    if (behind) windowHandle()->setTransientParent(behind->windowHandle());
-  }
-  void setVisible(bool visible) override {
-    if (!visible && isVisible()) front_.LeaveActive(*this);
-    QMessageBox::setVisible(visible);
-  }
-
- protected:
-  void showEvent(QShowEvent* event) override {
-    QMessageBox::showEvent(event);
-    if (!behind_ || event->spontaneous()) return;
-    const QRect room = behind_->screen()->availableGeometry();
-    const QPoint corner = behind_->geometry().center() - rect().center();
-    move(std::max(room.left(), std::min(corner.x(), room.right() + 1 - width())),
-         std::max(room.top(), std::min(corner.y(), room.bottom() + 1 - height())));
-  }
-
- private:
-  DesktopFrontEnd& front_;
-  const QPointer<QWidget> behind_;
-};
-
 }  // namespace
 
 QMessageBox::StandardButton ButtonOf(Answer answer) {
@@ -96,40 +64,39 @@ QMessageBox::StandardButton ButtonOf(Answer answer) {
   }
 }
 
-void DesktopFrontEnd::BoxShown(const MessageBox& box) {
+BoxWindow::BoxWindow(const MessageBox& box, bool careful, QWidget* behind) : behind_(behind) {
   const std::vector<Answer> answers = AnswersOf(box.buttons);
-  auto* const dialog = new ::Box(*this, NextWindow(nullptr));
-  dialog->setWindowTitle(QString::fromStdString(box.title));
-  dialog->setTextFormat(Qt::PlainText);
-  dialog->setText(QString::fromStdString(box.text));
-  dialog->setIcon(IconOf(box.icon));
-  KeepOnScreen(*dialog);
-  for (Answer each : answers) dialog->addButton(ButtonOf(each))->setIcon(QIcon());
-  // What would end or close something wants a key more for a player.
-  const bool asks = guides && box.buttons == Buttons::YesNo && box.icon == Icon::Question;
-  dialog->setDefaultButton(ButtonOf(asks ? Answer::No : answers.front()));
-  dialog->setEscapeButton(ButtonOf(answers.back()));
-  dialog->setWindowModality(Qt::ApplicationModal);
-  boxes_.push_back({dialog});
-  modals_.push_back(dialog);
-  QObject::connect(
-      dialog, &QDialog::finished, dialog, [this, dialog, answers, &answer = boxes_.back().answer] {
-        answer = answers.back();
-        for (Answer each : answers)
-          if (dialog->clickedButton() && dialog->standardButton(dialog->clickedButton()) == ButtonOf(each))
-            answer = each;
-        Wake();
-      });
-  dialog->show();
-  dialog->raise();
-  dialog->activateWindow();
+  style::SetZoom(*this, style::ZoomOf(behind));
+  create();
+  if (behind) windowHandle()->setTransientParent(behind->windowHandle());
+  setWindowTitle(QString::fromStdString(box.title));
+  setTextFormat(Qt::PlainText);
+  setText(QString::fromStdString(box.text));
+  setIcon(IconOf(box.icon));
+  KeepOnScreen(*this);
+  for (Answer each : answers) addButton(ButtonOf(each))->setIcon(QIcon());
+  const bool asks = careful && box.buttons == Buttons::YesNo && box.icon == ::Icon::Question;
+  setDefaultButton(ButtonOf(asks ? Answer::No : answers.front()));
+  setEscapeButton(ButtonOf(answers.back()));
+  setWindowModality(Qt::ApplicationModal);
+  connect(this, &QDialog::finished, this, [this, answers] {
+    answer = answers.back();
+    for (Answer each : answers)
+      if (clickedButton() && standardButton(clickedButton()) == ButtonOf(each)) answer = each;
+    if (answered) answered();
+  });
 }
 
-void DesktopFrontEnd::BoxGone(const MessageBox& box) {
-  QMessageBox* const dialog = boxes_.back().dialog;
-  modals_.pop_back();
-  boxes_.pop_back();
-  if (Form* modal = platform.ModalForm(); guides && modal && AnswersOf(box.buttons).size() == 1)
-    if (FormWindow* window = WindowOf(*modal)) window->Refused();
-  delete dialog;
+void BoxWindow::setVisible(bool visible) {
+  if (!visible && isVisible() && leaving) leaving();
+  QMessageBox::setVisible(visible);
+}
+
+void BoxWindow::showEvent(QShowEvent* event) {
+  QMessageBox::showEvent(event);
+  if (!behind_ || event->spontaneous()) return;
+  const QRect room = behind_->screen()->availableGeometry();
+  const QPoint corner = behind_->geometry().center() - rect().center();
+  move(std::max(room.left(), std::min(corner.x(), room.right() + 1 - width())),
+       std::max(room.top(), std::min(corner.y(), room.bottom() + 1 - height())));
 }

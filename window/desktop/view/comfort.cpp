@@ -5,31 +5,53 @@
 #include <QWidget>
 #include <algorithm>
 
-#include "window/desktop/desktop.h"
+#include "window/desktop/input/deeds.h"
+#include "window/desktop/input/keyboard.h"
+#include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/notes.h"
-#include "window/desktop/view/canvas.h"
-#include "window/desktop/view/form_window.h"
-#include "window/player.h"
+#include "window/desktop/view/looks.h"
 
-Comfort::Comfort(FormWindow& window, DesktopFrontEnd& front, Guide& guide)
-    : window_(window), front_(front), guide_(guide) {
-  for (const Control* control : window.form.Controls())
-    if (QWidget* widget = window.WidgetOf(*control))
-      ApplyToolTip(*widget, static_cast<const Visual&>(*control));
+Comfort::Comfort(Canvas& canvas, Deeds& deeds, Looks& looks, Guide& guide)
+    : canvas_(canvas),
+      window_(*canvas.parentWidget()),
+      form_(canvas.form),
+      deeds_(deeds),
+      looks_(looks),
+      guide_(guide) {
+  for (const auto& [control, widget] : canvas.widgets)
+    ApplyToolTip(*widget, static_cast<const Visual&>(*control));
 }
 
 void Comfort::BeforeShow() {
-  const auto& place = front_.GetView().selector;
+  const auto& place = looks_.Now().selector;
   if (!shown_ && guide_.KeepsPlace() && place) {
     const QScreen* screen = QGuiApplication::screenAt(*place);
     // A screen that is gone would take the window with it.
     if (screen && screen->availableGeometry().contains(QRect(*place, QSize(64, 32)))) {
-      window_.form.Left = place->x() * 15;
-      window_.form.Top = place->y() * 15;
+      form_.Left = place->x() * 15;
+      form_.Top = place->y() * 15;
     }
   }
   if (!shown_) OfferAgain();
   shown_ = true;
+}
+
+// A choice begins with what was chosen last.
+void Comfort::Shown(const Keyboard& keyboard) const {
+  if (!guide_.IsChoice()) return;
+  const std::vector<Visual*> choices = keyboard.Choices();
+  const std::string last = looks_.Now().lastGame.toStdString();
+  const auto found = std::ranges::find(choices, last, [](const Visual* each) { return each->NameInForm(); });
+  Visual* const start = found != choices.end() ? *found : choices.empty() ? nullptr : choices.front();
+  if (start) start->SetFocus();
+}
+
+void Comfort::Hidden(const Keyboard& keyboard) {
+  if (!guide_.IsChoice()) return;
+  const Visual* active = form_.ActiveControl();
+  const std::vector<Visual*> choices = keyboard.Choices();
+  if (std::ranges::find(choices, active) == choices.end()) return;
+  looks_.Alter([&](View& view) { view.lastGame = QString::fromStdString(active->NameInForm()); });
 }
 
 void Comfort::Settle() {
@@ -39,20 +61,17 @@ void Comfort::Settle() {
 }
 
 void Comfort::KeepPlace() {
-  const QPoint place(Pixels(window_.form.Left), Pixels(window_.form.Top));
-  if (front_.GetView().selector == place) return;
-  View view = front_.GetView();
-  view.selector = place;
-  front_.SetView(view);
+  const QPoint place(Pixels(form_.Left), Pixels(form_.Top));
+  looks_.Alter([&](View& view) { view.selector = place; });
 }
 
 // What the box held last is in it, selected: a player who is somebody else just writes.
 void Comfort::OfferAgain() {
   TextBox* box = guide_.OffersAgain();
-  const std::string last = front_.GetView().lastName.toStdString();
+  const std::string last = looks_.Now().lastName.toStdString();
   if (!box || last.empty()) return;
-  front_.Deliver(window_.form, [box, last] {
-    if (!player::WhyNot(*box).empty() || !box->Text.get().empty()) return;
+  deeds_.Do(*box, [box, last] {
+    if (!box->Text.get().empty()) return;
     player::Type(*box, last);
     box->SelectAll();
   });
@@ -61,9 +80,7 @@ void Comfort::OfferAgain() {
 // The form may be half gone: nothing is asked of the guide.
 void Comfort::Leave() {
   if (written_.find_first_not_of(' ') == std::string::npos) return;
-  View view = front_.GetView();
-  view.lastName = QString::fromStdString(written_);
-  front_.SetView(view);
+  looks_.Alter([&](View& view) { view.lastName = QString::fromStdString(written_); });
 }
 
 // Below the place that was told, or above it, or else before its lower part.
@@ -74,9 +91,9 @@ void Comfort::PlaceSheet(Note& sheet) const {
   const auto isFree = [&](int top) {
     sheet.top = top;
     const QRect area = NoteRect(sheet);
-    return top >= 0 && std::ranges::none_of(window_.form.Controls(), [&](const Control* control) {
-             if (control->parent != &window_.form) return false;
-             if (!IsDrawn(control->kind) && !window_.WidgetOf(*control)) return false;
+    return top >= 0 && std::ranges::none_of(form_.Controls(), [&](const Control* control) {
+             if (control->parent != &form_) return false;
+             if (!IsDrawn(control->kind) && !canvas_.WidgetOf(*control)) return false;
              const auto& visual = static_cast<const Visual&>(*control);
              return visual.Visible && ModelRect(visual).intersects(area);
            });
@@ -87,7 +104,7 @@ void Comfort::PlaceSheet(Note& sheet) const {
 // The first steps are read once a game has been played behind them.
 void Comfort::ShowNotes() {
   std::vector<Note> notes = guide_.Notes();
-  if (const QString name = window_.objectName(); !front_.GetView().seen.contains(name)) {
+  if (const QString name = window_.objectName(); !looks_.Now().seen.contains(name)) {
     std::optional<Note> sheet = guide_.FirstStepsPlace();
     if (sheet) {
       for (const std::string& line : guide_.FirstSteps())
@@ -97,13 +114,11 @@ void Comfort::ShowNotes() {
         notes.push_back(std::move(*sheet));
       }
     } else if (showsSteps_) {
-      View view = front_.GetView();
-      view.seen << name;
-      front_.SetView(view);
+      looks_.Alter([&](View& view) { view.seen << name; });
     }
     showsSteps_ = sheet.has_value();
   }
-  window_.Board().SetNotes(std::move(notes));
+  canvas_.SetNotes(std::move(notes));
 }
 
 std::string Comfort::PanelText(const Panel& panel) const {

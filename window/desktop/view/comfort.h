@@ -4,16 +4,20 @@
 
 #include "window/guide.h"
 
-class DesktopFrontEnd;
-class FormWindow;
+class Canvas;
+class Deeds;
+class Keyboard;
+class Looks;
 class QWidget;
 
 class Comfort {
  public:
-  Comfort(FormWindow& window, DesktopFrontEnd& front, Guide& guide);
+  Comfort(Canvas& canvas, Deeds& deeds, Looks& looks, Guide& guide);
 
-  // The window is about to be shown.
+  // The window is about to be shown, has been shown, or is no longer seen.
   void BeforeShow();
+  void Shown(const Keyboard& keyboard) const;
+  void Hidden(const Keyboard& keyboard);
   // A handler has ended.
   void Settle();
   // The window is hidden for good.
@@ -28,8 +32,11 @@ class Comfort {
   void OfferAgain();
   void KeepPlace();
 
-  FormWindow& window_;
-  DesktopFrontEnd& front_;
+  Canvas& canvas_;
+  QWidget& window_;
+  Form& form_;
+  Deeds& deeds_;
+  Looks& looks_;
   Guide& guide_;
   std::string written_;  // in the box that is offered again
   bool shown_ = false, showsSteps_ = false;

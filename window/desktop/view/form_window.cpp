@@ -10,14 +10,15 @@
 #include <cmath>
 #include <utility>
 
-#include "window/desktop/desktop.h"
+#include "window/desktop/input/deeds.h"
 #include "window/desktop/input/keyboard.h"
-#include "window/desktop/view/canvas.h"
+#include "window/desktop/painting/canvas.h"
+#include "window/desktop/speech/access.h"
 #include "window/desktop/view/comfort.h"
+#include "window/desktop/view/looks.h"
 #include "window/desktop/view/menus.h"
 #include "window/desktop/view/native.h"
 #include "window/desktop/view/view_menu.h"
-#include "window/player.h"
 
 namespace {
 
@@ -28,33 +29,37 @@ QString Name(const Control& control) { return QString::fromStdString(control.Nam
 
 }  // namespace
 
-FormWindow::FormWindow(Form& form, DesktopFrontEnd& front) : form(form), front_(front) {
+FormWindow::FormWindow(Form& form, std::unique_ptr<Guide> guide, const Desk& desk)
+    : form(form), desk_(desk), guide_(std::move(guide)) {
   setObjectName(QString::fromUtf8(form.name.data(), static_cast<qsizetype>(form.name.size())));
-  canvas_ = new Canvas(form, front, this);
-  menus_ = new Menus(form, front, *this);
-  if (front.HeedsWindowManager()) viewMenu_ = new ViewMenu(*this, front, menus_->Bar());
+  MakeCanvas();
+  menus_ = new Menus(form, guide_.get(), desk.deeds, *this);
+  if (desk.hasPlayer) MakeViewMenu();
   for (Control* control : form.Controls()) {
     if (control->kind == Control::Kind::StatusBar) MakeStatusBar(static_cast<StatusBar&>(*control));
     if (!IsNative(control->kind)) continue;
-    QWidget* widget = MakeNative(static_cast<Visual&>(*control), front, canvas_);
+    QWidget* widget = MakeNative(static_cast<Visual&>(*control), desk.deeds, canvas_);
     widget->setObjectName(Name(*control));
     widget->installEventFilter(this);
-    widgets_[control] = widget;
+    canvas_->widgets[control] = widget;
   }
-  if (Guide* guide = front.GuideOf(form)) {
-    comfort_ = std::make_unique<Comfort>(*this, front, *guide);
-    if (!guide->Keys().empty()) keyboard_ = new Keyboard(*this, front, *guide);
+  if (guide_) {
+    comfort_ = std::make_unique<Comfort>(*canvas_, desk.deeds, desk.looks, *guide_);
+    if (!guide_->Keys().empty()) {
+      keyboard_ = new Keyboard(*canvas_, desk.deeds, *guide_);
+      keyboard_->moved = [this] { desk_.ears.CursorMoved(*canvas_); };
+    }
     connect(new QShortcut(Qt::SHIFT | Qt::Key_F1, this), &QShortcut::activated, this,
-            [this] { front_.Ears().TellState(*this); });
+            [this] { desk_.ears.TellState(*canvas_); });
   }
+  desk.ears.Opened(*canvas_);
   setWindowTitle(QString::fromStdString(form.Caption));
   zoomKept_.setSingleShot(true);
   zoomKept_.setInterval(500);
   connect(&zoomKept_, &QTimer::timeout, this, [this] {
-    if (left_ || IsFilled() || !front_.GetView().fitNormal) return;
-    View view = front_.GetView();
-    view.zoom = std::clamp(static_cast<int>(std::lround(zoom_ * 100)), 100, 300);
-    front_.SetView(view);
+    if (left_ || IsFilled() || !desk_.looks.Now().fitNormal) return;
+    desk_.looks.Alter(
+        [&](View& view) { view.zoom = std::clamp(static_cast<int>(std::lround(zoom_ * 100)), 100, 300); });
   });
   // A window that comes back from the full screen gets its frame a moment later, and its place is that of the
   // frame.
@@ -63,11 +68,33 @@ FormWindow::FormWindow(Form& form, DesktopFrontEnd& front) : form(form), front_(
   connect(&framed_, &QTimer::timeout, this, [this] {
     if (!left_ && isVisible() && !IsFilled() && !isMinimized()) ApplyPlace();
   });
-  fits_ = front.GetView().fitNormal;
+  fits_ = desk.looks.Now().fitNormal;
   ApplySize();
 }
 
 FormWindow::~FormWindow() { delete menus_; }
+
+void FormWindow::MakeCanvas() {
+  canvas_ = new Canvas(form, guide_.get(), desk_.paintbox, this);
+  canvas_->painted = desk_.painted;
+  canvas_->pressed = [this](Visual& control) { desk_.deeds.Click(control); };
+  canvas_->pressedTwice = [this](Visual& control) {
+    desk_.deeds.Do(control, [&control] { player::DblClick(control); });
+  };
+  canvas_->passed = [this](Visual& control, bool byPlayer) {
+    if (byPlayer && !desk_.hasPlayer) return;
+    desk_.deeds.Do(control, [&control] { player::MouseMove(control); });
+  };
+}
+
+void FormWindow::MakeViewMenu() {
+  const auto size = [this] {
+    FormWindow& leader = Leader();
+    const auto fit = leader.IsFilled() ? &View::fitMaximised : &View::fitNormal;
+    return ViewMenu::Size{zoom_, leader.zoom_, leader.form.Sizable ? fit : nullptr, leader.IsFilled()};
+  };
+  viewMenu_ = new ViewMenu(*this, desk_.looks, size, menus_->Bar());
+}
 
 void FormWindow::MakeStatusBar(StatusBar& bar) {
   statusBar_ = new QWidget(this);
@@ -81,7 +108,6 @@ void FormWindow::MakeStatusBar(StatusBar& bar) {
     panel->setTextFormat(Qt::PlainText);
     panels_.push_back(panel);
   }
-  widgets_[&bar] = statusBar_;
   ApplyPanels();
 }
 
@@ -133,8 +159,7 @@ void FormWindow::ShowForm(QWidget* behind) {
     create();
     if (form.Modal() && behind) windowHandle()->setTransientParent(behind->windowHandle());
     if (form.WindowState != window_state::kNormal) ApplyForm(Prop::WindowState);
-    if (form.Sizable && front_.GetView().fullScreen && front_.HeedsWindowManager())
-      FillScreen(Qt::WindowFullScreen);
+    if (form.Sizable && desk_.looks.Now().fullScreen && desk_.hasPlayer) FillScreen(Qt::WindowFullScreen);
     if (IsFilled()) {
       Rezoom();
       TellSizeSoon();
@@ -143,22 +168,33 @@ void FormWindow::ShowForm(QWidget* behind) {
   show();
   raise();
   activateWindow();
-  if (keyboard_) keyboard_->Shown();
+  if (comfort_ && keyboard_) comfort_->Shown(*keyboard_);
   Settle();
-  front_.Ears().Shown(*this);
+  desk_.ears.Shown(form);
+}
+
+void FormWindow::hideEvent(QHideEvent*) {
+  if (comfort_ && keyboard_) comfort_->Hidden(*keyboard_);
+}
+
+void FormWindow::Forget() {
+  desk_.ears.Gone(form);
+  canvas_->Leave();
 }
 
 void FormWindow::Leave() {
+  Forget();
   if (comfort_) comfort_->Leave();
   comfort_.reset();
   left_ = true;
   if (keyboard_) keyboard_->Leave();
-  for (auto& [control, widget] : widgets_) {
+  for (auto& [control, widget] : canvas_->widgets) {
     widget->removeEventFilter(this);
     disconnect(widget, nullptr, widget, nullptr);  // not what Qt itself has tied to its end
   }
   canvas_->setEnabled(false);
   hide();
+  guide_.reset();
 }
 
 void FormWindow::Apply(Control& control, Prop prop) {
@@ -247,23 +283,22 @@ void FormWindow::SelectText(TextBox& box) {
 void FormWindow::SurfaceChanged(PictureBox& surface) { canvas_->Refresh(surface); }
 
 void FormWindow::ApplyView() {
-  if (isVisible() && form.Sizable && front_.HeedsWindowManager() && !isMinimized() &&
-      isFullScreen() != front_.GetView().fullScreen) {
-    if (front_.GetView().fullScreen)
+  if (isVisible() && form.Sizable && desk_.hasPlayer && !isMinimized() &&
+      isFullScreen() != desk_.looks.Now().fullScreen) {
+    if (desk_.looks.Now().fullScreen)
       FillScreen(Qt::WindowFullScreen);
     else
       setWindowState(windowState() & ~Qt::WindowFullScreen);
   }
-  const bool fits = front_.GetView().fitNormal;
+  const bool fits = desk_.looks.Now().fitNormal;
   if (fits && !fits_ && isVisible()) FollowFrame();
   fits_ = fits;
   Rezoom();
   ApplyLimits();
   if (isVisible()) TellSizeSoon();
   if (viewMenu_) viewMenu_->Apply();
-  for (const auto& [control, widget] : widgets_)
-    if (control->kind != Control::Kind::StatusBar)
-      RestyleNative(*widget, static_cast<const Visual&>(*control));
+  for (const auto& [control, widget] : canvas_->widgets)
+    RestyleNative(*widget, static_cast<const Visual&>(*control));
   canvas_->update();
 }
 
@@ -284,12 +319,11 @@ void FormWindow::Settle() {
 }
 
 QWidget* FormWindow::WidgetOf(const Control& control) const {
-  const auto found = widgets_.find(&control);
-  return found == widgets_.end() ? nullptr : found->second;
+  return control.kind == Control::Kind::StatusBar ? statusBar_ : canvas_->WidgetOf(control);
 }
 
 Visual* FormWindow::ControlOf(const QObject* widget) const {
-  for (const auto& [control, each] : widgets_)
+  for (const auto& [control, each] : canvas_->widgets)
     if (each == widget) return const_cast<Visual*>(static_cast<const Visual*>(control));
   return nullptr;
 }

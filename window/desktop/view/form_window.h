@@ -4,29 +4,45 @@
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
+#include <functional>
 #include <memory>
-#include <unordered_map>
 #include <vector>
 
-#include "window/form.h"
+#include "window/desktop/speech/spoken_window.h"
+#include "window/guide.h"
 
+class Access;
 class Canvas;
 class Comfort;
-class DesktopFrontEnd;
-class Keyboard;
+class Looks;
 class Menus;
 class QLabel;
 class ViewMenu;
+struct Paintbox;
 
-class FormWindow : public QWidget {
+// What all windows have in common.
+struct Desk {
+  Deeds& deeds;
+  Looks& looks;
+  Paintbox& paintbox;
+  Access& ears;
+  std::function<void()> painted;  // a board has been
+  // Whether a player moves the windows, and the pointer over them; a script's stay as the games place them.
+  bool hasPlayer = true;
+};
+
+class FormWindow : public QWidget, public SpokenWindow {
  public:
-  FormWindow(Form& form, DesktopFrontEnd& front);
+  // `guide` is null where nobody tells what the form means.
+  FormWindow(Form& form, std::unique_ptr<Guide> guide, const Desk& desk);
   ~FormWindow() override;
 
   Form& form;
 
   // Shows the form as it stands, before the window `behind` if it is modal.
   void ShowForm(QWidget* behind);
+  // The form is about to be gone: who listens must not ask for it.
+  void Forget();
   // The form is gone: no event reaches it any more.
   void Leave();
 
@@ -53,21 +69,27 @@ class FormWindow : public QWidget {
   Canvas& Board() { return *canvas_; }
   // The widget of a control; null if the canvas draws it.
   QWidget* WidgetOf(const Control& control) const;
-  // Null where no guide tells which keys there are.
-  Keyboard* Keys() const { return keyboard_; }
   Menus& MenuBar() { return *menus_; }
-  DesktopFrontEnd& Front() { return front_; }
+  // Null if the form has none.
+  Guide* GetGuide() const { return guide_.get(); }
+
+  Keyboard* Keys() const override { return keyboard_; }
+  const QWidget* StatusLine() const override { return statusBar_; }
+  Deeds& GetDeeds() const override { return desk_.deeds; }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void MakeCanvas();
   void MakeStatusBar(StatusBar& bar);
+  void MakeViewMenu();
   void LayOutParts();
   void ApplyForm(Prop prop);
   void ApplySize();
@@ -100,14 +122,14 @@ class FormWindow : public QWidget {
   void PutBackFocus();
   Visual* ControlOf(const QObject* widget) const;
 
-  DesktopFrontEnd& front_;
+  const Desk desk_;
+  std::unique_ptr<Guide> guide_;
   std::unique_ptr<Comfort> comfort_;  // null if no guide tells what the player might want
   Canvas* canvas_ = nullptr;
   Menus* menus_ = nullptr;
   ViewMenu* viewMenu_ = nullptr;  // a script's windows have none
   QWidget* statusBar_ = nullptr;
   std::vector<QLabel*> panels_;
-  std::unordered_map<const Control*, QWidget*> widgets_;
   QPointer<QWidget> behind_;  // what a dialog stands before
   QTimer zoomKept_;           // runs out when the player has let go of the frame
   QTimer framed_;             // runs while the frame of a restored window isn't known

@@ -5,11 +5,9 @@
 #include <QPlainTextEdit>
 #include <QToolTip>
 
-#include "window/desktop/desktop.h"
-#include "window/desktop/input/keyboard.h"
+#include "window/desktop/input/deeds.h"
 #include "window/desktop/painting/style.h"
 #include "window/desktop/view/form_window.h"
-#include "window/player.h"
 
 // A page that can only be read scrolls, whatever button has the focus.
 bool FormWindow::ScrollsPage(const QWidget* focus, QKeyEvent& event) {
@@ -35,9 +33,7 @@ bool FormWindow::TakeKey(const QKeyEvent& event) {
   if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Escape) return false;
   if (event.isAutoRepeat()) return true;  // one press, one click
   const Key pressed = key == Qt::Key_Escape ? Key::Escape : Key::Return;
-  front_.Deliver(form, [this, pressed] {
-    if (player::WhyNot(form).empty()) player::Press(form, pressed);
-  });
+  desk_.deeds.Do(form, [this, pressed] { player::Press(form, pressed); });
   return true;
 }
 
@@ -59,25 +55,19 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn && control->kind == Control::Kind::TextBox)
     lastField_ = static_cast<TextBox*>(control);
   // Only what the player does counts: in a handler the focus follows the model.
-  if (event->type() == QEvent::FocusIn && !front_.Busy() &&
+  if (event->type() == QEvent::FocusIn && !desk_.deeds.Busy() &&
       static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason &&
       form.ActiveControl() != control)
-    front_.Deliver(form, [this, control] {
-      if (player::WhyNot(*control).empty()) player::Focus(*control);
-    });
+    desk_.deeds.Do(*control, [control] { player::Focus(*control); });
   if (event->type() == QEvent::MouseMove && control->OnMouseMove)
-    front_.Deliver(form, [control] {
-      if (player::WhyNot(*control).empty()) player::MouseMove(*control);
-    });
+    desk_.deeds.Do(*control, [control] { player::MouseMove(*control); });
   return false;
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
   if (left_) return;
   event->ignore();
-  front_.Deliver(form, [this] {
-    if (player::WhyNot(form).empty()) player::Close(form);
-  });
+  desk_.deeds.Do(form, [this] { player::Close(form); });
 }
 
 // The field that was refused has the focus by now; where a button has it, the field written in last.

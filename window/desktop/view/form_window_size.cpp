@@ -1,15 +1,16 @@
 // The size of a window, its place and its zoom: what the model tells, and what the player does to them.
+#include <QEvent>
 #include <QScreen>
 #include <QTimer>
 #include <cmath>
 
-#include "window/desktop/desktop.h"
+#include "window/desktop/input/deeds.h"
+#include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/style.h"
-#include "window/desktop/view/canvas.h"
 #include "window/desktop/view/form_window.h"
+#include "window/desktop/view/looks.h"
 #include "window/desktop/view/menus.h"
 #include "window/desktop/view/native.h"
-#include "window/player.h"
 
 // --- Zoom ----------------------------------------------------------------------------------------
 
@@ -34,9 +35,9 @@ double FormWindow::FittingZoom() const {
 }
 
 double FormWindow::WantedZoom() const {
-  const View& view = front_.GetView();
+  const View& view = desk_.looks.Now();
   const double wanted = view.zoom / 100.0;
-  if (!front_.HeedsWindowManager()) return 1;
+  if (!desk_.hasPlayer) return 1;
   if (form.Sizable && IsFilled()) return view.fitMaximised ? FittingZoom() : std::min(wanted, FittingZoom());
   // The one that the player has dragged the window to isn't a round number.
   if (form.Sizable && view.fitNormal && (zoomKept_.isActive() || std::abs(zoom_ - wanted) < 0.006))
@@ -60,8 +61,8 @@ void FormWindow::SetZoom(double zoom) {
   style::SetZoom(*this, zoom);
   canvas_->SetZoom(zoom);
   menus_->SetZoom(zoom);
-  for (const auto& [control, widget] : widgets_)
-    if (control->kind != Control::Kind::StatusBar) ZoomNative(*widget, static_cast<const Visual&>(*control));
+  for (const auto& [control, widget] : canvas_->widgets)
+    ZoomNative(*widget, static_cast<const Visual&>(*control));
   if (!IsFilled() && !zooming_) {
     ApplySize();
     if (isVisible()) ApplyPlace();
@@ -71,8 +72,8 @@ void FormWindow::SetZoom(double zoom) {
 
 // A window that fits what it shows to its frame: the frame is dragged, and the board grows with it.
 void FormWindow::FollowFrame() {
-  if (!form.Sizable || IsFilled() || isMinimized() || zooming_ || !front_.GetView().fitNormal ||
-      !front_.HeedsWindowManager())
+  if (!form.Sizable || IsFilled() || isMinimized() || zooming_ || !desk_.looks.Now().fitNormal ||
+      !desk_.hasPlayer)
     return;
   zooming_ = true;
   SetZoom(std::min(FittingZoom(), 3.0));
@@ -86,7 +87,7 @@ void FormWindow::FollowFrame() {
 // Where nobody manages windows the size must be asked for as well.
 void FormWindow::FillScreen(Qt::WindowStates how) {
   if (!IsFilled()) {
-    const Extent screen = front_.ScreenExtent();
+    const Extent screen = form.platform.ScreenExtent();
     zooming_ = true;
     setGeometry(0, 0, Pixels(screen.width), Pixels(screen.height));
     zooming_ = false;
@@ -107,7 +108,7 @@ void FormWindow::ApplyLimits() {
     if (minimumSize() != wanted || maximumSize() != wanted) setFixedSize(wanted);
     return;
   }
-  const bool fits = (IsFilled() || front_.GetView().fitNormal) && front_.HeedsWindowManager();
+  const bool fits = (IsFilled() || desk_.looks.Now().fitNormal) && desk_.hasPlayer;
   const double least = fits ? 1 : zoom_;
   setMinimumSize(static_cast<int>(std::lround(form.MinWidth / 15.0 * least)),
                  static_cast<int>(std::lround(form.MinHeight / 15.0 * least)));
@@ -156,8 +157,8 @@ void FormWindow::TellSize() {
   Rezoom();
   TellState();
   if (size() == ShownSize()) return;
-  if (!form.Sizable || !front_.HeedsWindowManager()) return;
-  front_.Deliver(form, [this] {
+  if (!form.Sizable || !desk_.hasPlayer) return;
+  desk_.deeds.Deliver(form, [this] {
     if (MustWait()) return;
     tellsPlace_ = true;
     player::Resize(form, Told(width()), Told(height()));
@@ -177,10 +178,9 @@ void FormWindow::TellPlace() {
 }
 
 void FormWindow::moveEvent(QMoveEvent*) {
-  if (left_ || !isVisible() || IsFilled() || isMinimized() || !front_.HeedsWindowManager() || zooming_)
-    return;
+  if (left_ || !isVisible() || IsFilled() || isMinimized() || !desk_.hasPlayer || zooming_) return;
   if (pos() - Aside() != QPoint(Pixels(form.Left), Pixels(form.Top)))
-    front_.Deliver(form, [this] { TellPlace(); });
+    desk_.deeds.Deliver(form, [this] { TellPlace(); });
 }
 
 void FormWindow::changeEvent(QEvent* event) {
@@ -202,13 +202,13 @@ int FormWindow::StateNow() const {
 
 // To the games a window that takes the whole screen is maximised: so it isn't their usual size that is kept.
 void FormWindow::TellState() {
-  if (left_ || !isVisible() || !front_.HeedsWindowManager()) return;
+  if (left_ || !isVisible() || !desk_.hasPlayer) return;
   const int state = StateNow();
   // A window that opened maximised has never had a place of its own.
   const bool placeless = state == window_state::kNormal && !hasStood_;
   if (state == window_state::kNormal) hasStood_ = true;
   if (state == form.WindowState) return;
-  front_.Deliver(form, [this, placeless] {
+  desk_.deeds.Deliver(form, [this, placeless] {
     const int state = StateNow();  // it may have changed while the news waited
     if (state == form.WindowState || MustWait()) return;
     zooming_ = true;

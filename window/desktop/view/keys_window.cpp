@@ -10,10 +10,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "window/desktop/desktop.h"
+#include "window/desktop/input/deeds.h"
 #include "window/desktop/painting/style.h"
-#include "window/desktop/view/form_window.h"
-#include "window/player.h"
 
 namespace {
 
@@ -56,26 +54,14 @@ QSize SizeFor(const QTableWidget& table, const QScreen& screen) {
   return QSize(width, height).boundedTo(room);
 }
 
-// What key P stands for.
-Control* PauseOf(FormWindow& window, const std::vector<KeyRow>& rows) {
-  for (const KeyRow& row : rows)
-    for (const KeyClick& click : row.clicks)
-      if (click.keys == "P") return window.form.find(click.control);
-  return nullptr;
-}
-
 }  // namespace
 
-void ShowKeys(FormWindow& window, DesktopFrontEnd& front) {
-  Form& form = window.form;
-  const Guide* guide = front.GuideOf(form);
-  if (!guide) return;
-  const std::vector<KeyRow> rows = guide->Keys();
-  Control* const pause = PauseOf(window, rows);
+void ShowKeys(Form& form, const Guide& guide, Deeds& deeds, QWidget& window) {
+  const std::vector<KeyRow> rows = guide.Keys();
   // Presses Pause if the game stands on the other side of it; tells whether it has.
-  const auto setPaused = [&front, &form, pause](bool paused) {
-    const Guide* now = front.GuideOf(form);
-    if (!now || !pause || now->Paused() == paused || !player::WhyNot(*pause).empty()) return false;
+  const auto setPaused = [&guide](bool paused) {
+    Control* const pause = guide.Pause();
+    if (!pause || guide.Paused() == paused || !player::WhyNot(*pause).empty()) return false;
     player::Click(*pause);
     return true;
   };
@@ -96,10 +82,10 @@ void ShowKeys(FormWindow& window, DesktopFrontEnd& front) {
   auto* layout = new QVBoxLayout(dialog);
   layout->addWidget(table);
   layout->addWidget(buttons);
-  QObject::connect(dialog, &QDialog::finished, &window, [&front, &form, &window, pausedIt, setPaused] {
-    if (!front.Knows(form)) return;
+  QObject::connect(dialog, &QDialog::finished, &window, [&deeds, &form, &window, pausedIt, setPaused] {
+    if (!deeds.Knows(form)) return;
     window.activateWindow();
-    if (pausedIt) front.Deliver(form, [setPaused] { setPaused(false); });
+    if (pausedIt) deeds.Deliver(form, [setPaused] { setPaused(false); });
   });
   dialog->show();
   dialog->activateWindow();

@@ -1,8 +1,10 @@
-// The window that shows a window's table of keys.
+// The window that tells all keys.
 #pragma once
 
-class DesktopFrontEnd;
-class FormWindow;
+#include "window/guide.h"
 
-// Shows the keys before that window. A game that runs is paused meanwhile.
-void ShowKeys(FormWindow& window, DesktopFrontEnd& front);
+class Deeds;
+class QWidget;
+
+// Shows the table of keys before the window of that form. A game is paused meanwhile.
+void ShowKeys(Form& form, const Guide& guide, Deeds& deeds, QWidget& window);

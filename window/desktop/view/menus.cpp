@@ -9,11 +9,9 @@
 #include <cmath>
 #include <vector>
 
-#include "window/desktop/desktop.h"
+#include "window/desktop/input/deeds.h"
 #include "window/desktop/painting/style.h"
-#include "window/desktop/view/form_window.h"
 #include "window/desktop/view/keys_window.h"
-#include "window/player.h"
 
 namespace {
 
@@ -30,20 +28,18 @@ std::vector<Menu*> EntriesOf(const Control& parent) {
 
 }  // namespace
 
-Menus::Menus(Form& form, DesktopFrontEnd& front, FormWindow& window) : form_(form), front_(front) {
+Menus::Menus(Form& form, const Guide* guide, Deeds& deeds, QWidget& window) : form_(form), deeds_(deeds) {
   if (EntriesOf(form).empty()) return;
   bar_ = new QMenuBar(&window);
   bar_->setObjectName("menuBar");
   bar_->setNativeMenuBar(false);
   Build(form, *bar_);
-  AddKeys(window);
+  if (guide) AddKeys(*guide, window);
 }
 
 // The function keys stand beside their entries, and all keys in a window of their own.
-void Menus::AddKeys(FormWindow& window) {
-  const Guide* guide = front_.GuideOf(form_);
-  if (!guide) return;
-  for (const KeyRow& row : guide->Keys())
+void Menus::AddKeys(const Guide& guide, QWidget& window) {
+  for (const KeyRow& row : guide.Keys())
     for (const KeyClick& click : row.clicks) {
       const Control* control =
           click.keys[0] == 'F' && click.keys.size() > 1 ? form_.find(click.control) : nullptr;
@@ -54,17 +50,15 @@ void Menus::AddKeys(FormWindow& window) {
       action->setShortcut(QKeySequence::fromString(QString::fromStdString(click.keys)));
       action->setAutoRepeat(false);
     }
-  const auto* help = static_cast<const Menu*>(form_.find("mnuHelp"));
-  QAction* title = help ? ActionOf(*help) : nullptr;
+  const Menu* menu = guide.KeysMenu();
+  QAction* title = menu ? ActionOf(*menu) : nullptr;
   if (!title || !title->menu()) return;
   auto* keys = new QAction("&Keys...", title->menu());
   keys->setObjectName("keys");
   const QList<QAction*> entries = title->menu()->actions();
   title->menu()->insertAction(entries.size() > 1 ? entries[1] : nullptr, keys);
-  QObject::connect(keys, &QAction::triggered, &window, [this, &window] {
-    front_.Deliver(form_, [this, &window] {
-      if (player::WhyNot(form_).empty()) ShowKeys(window, front_);
-    });
+  QObject::connect(keys, &QAction::triggered, &window, [this, &guide, &window] {
+    deeds_.Do(form_, [this, &guide, &window] { ShowKeys(form_, guide, deeds_, window); });
   });
 }
 
@@ -84,11 +78,7 @@ void Menus::Build(const Control& parent, QWidget& holder) {
       holder.addAction(action);
       QObject::connect(action, &QAction::triggered, [this, entry] {
         Apply(*entry);  // Qt has set a tick by itself
-        const auto click = [this, entry] {
-          front_.Deliver(form_, [entry] {
-            if (player::WhyNot(*entry).empty()) player::Click(*entry);
-          });
-        };
+        const auto click = [this, entry] { deeds_.Click(*entry); };
         // Whoever asks for it over a bus gets no answer before this is done, and it may open a window.
         QAccessible::isActive() ? QTimer::singleShot(0, bar_, click) : click();
       });

@@ -3,18 +3,17 @@
 
 #include <unordered_map>
 
-#include "window/form.h"
+#include "window/guide.h"
 
-class DesktopFrontEnd;
+class Deeds;
 class QAction;
 class QMenuBar;
 class QWidget;
-class FormWindow;
 
 class Menus {
  public:
-  // Builds the bar from the form's menu entries; a form without any gets none.
-  Menus(Form& form, DesktopFrontEnd& front, FormWindow& window);
+  // Builds the bar from the form's menu entries; a form without any gets none. `guide` may be null.
+  Menus(Form& form, const Guide* guide, Deeds& deeds, QWidget& window);
 
   // The height that the bar takes from its window, in pixels.
   int Height() const;
@@ -26,10 +25,10 @@ class Menus {
 
  private:
   void Build(const Control& parent, QWidget& holder);
-  void AddKeys(FormWindow& window);
+  void AddKeys(const Guide& guide, QWidget& window);
 
   Form& form_;
-  DesktopFrontEnd& front_;
+  Deeds& deeds_;
   QMenuBar* bar_ = nullptr;
   double zoom_ = 1;
   std::unordered_map<const Menu*, QAction*> actions_;

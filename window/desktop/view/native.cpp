@@ -13,12 +13,11 @@
 #include <QSignalBlocker>
 #include <cmath>
 
-#include "window/desktop/desktop.h"
+#include "window/desktop/input/deeds.h"
 #include "window/desktop/painting/contrast.h"
 #include "window/desktop/painting/scene.h"
 #include "window/desktop/painting/style.h"
 #include "window/lists.h"
-#include "window/player.h"
 
 namespace {
 
@@ -34,74 +33,66 @@ QRect Place(const QWidget& widget, const Visual& control) {
 }
 
 // Carries a click to the model, then shows what the model made of it: the widget may have changed by itself.
-void Click(Visual& control, DesktopFrontEnd& front, QWidget& widget) {
+void Click(Visual& control, Deeds& deeds, QWidget& widget) {
   Form& form = control.form;
   const QPointer<QWidget> alive = &widget;
-  front.Deliver(form, [&control] {
-    if (player::WhyNot(control).empty()) player::Click(control);
-  });
-  if (alive && front.Knows(form)) ApplyNative(widget, control, Prop::Value);
+  deeds.Click(control);
+  if (alive && deeds.Knows(form)) ApplyNative(widget, control, Prop::Value);
 }
 
-QWidget* MakeButton(CommandButton& button, DesktopFrontEnd& front, QWidget* parent) {
+QWidget* MakeButton(CommandButton& button, Deeds& deeds, QWidget* parent) {
   auto* widget = new QPushButton(parent);
-  QObject::connect(widget, &QPushButton::clicked, widget, [&, widget] { Click(button, front, *widget); });
+  QObject::connect(widget, &QPushButton::clicked, widget, [&, widget] { Click(button, deeds, *widget); });
   return widget;
 }
 
-void Edit(TextBox& box, DesktopFrontEnd& front, const QString& text) {
-  front.Deliver(box.form, [&box, written = text.toStdString()] {
-    if (player::WhyNot(box).empty()) player::Type(box, written);
-  });
+void Edit(TextBox& box, Deeds& deeds, const QString& text) {
+  deeds.Do(box, [&box, written = text.toStdString()] { player::Type(box, written); });
 }
 
 // A line edit or a page that tells of clicks too.
 template <class Widget>
 class Clickable : public Widget {
  public:
-  Clickable(TextBox& box, DesktopFrontEnd& front, QWidget* parent)
-      : Widget(parent), box_(box), front_(front) {}
+  Clickable(TextBox& box, Deeds& deeds, QWidget* parent) : Widget(parent), box_(box), deeds_(deeds) {}
 
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override {
     Widget::mouseReleaseEvent(event);
-    Click(box_, front_, *this);
+    Click(box_, deeds_, *this);
   }
 
  private:
   TextBox& box_;
-  DesktopFrontEnd& front_;
+  Deeds& deeds_;
 };
 
-QWidget* MakeTextBox(TextBox& box, DesktopFrontEnd& front, QWidget* parent) {
+QWidget* MakeTextBox(TextBox& box, Deeds& deeds, QWidget* parent) {
   if (box.MultiLine) {
-    auto* widget = new Clickable<QPlainTextEdit>(box, front, parent);
+    auto* widget = new Clickable<QPlainTextEdit>(box, deeds, parent);
     widget->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     widget->setTabChangesFocus(true);
     widget->setReadOnly(box.Locked);
     QObject::connect(widget, &QPlainTextEdit::textChanged, widget,
-                     [&, widget] { Edit(box, front, widget->toPlainText()); });
+                     [&, widget] { Edit(box, deeds, widget->toPlainText()); });
     return widget;
   }
-  auto* widget = new Clickable<QLineEdit>(box, front, parent);
+  auto* widget = new Clickable<QLineEdit>(box, deeds, parent);
   widget->setReadOnly(box.Locked);
   QObject::connect(widget, &QLineEdit::textChanged, widget,
-                   [&](const QString& text) { Edit(box, front, text); });
+                   [&](const QString& text) { Edit(box, deeds, text); });
   return widget;
 }
 
 // A list in which keys pick as the mouse does.
 class PickList : public QListWidget {
  public:
-  PickList(ListControl& list, DesktopFrontEnd& front, QWidget* parent)
-      : QListWidget(parent), list_(list), front_(front) {
+  PickList(ListControl& list, Deeds& deeds, QWidget* parent)
+      : QListWidget(parent), list_(list), deeds_(deeds) {
     setUniformItemSizes(true);
     connect(this, &QListWidget::itemPressed, this, [this] { Pick(); });
-    connect(this, &QListWidget::itemDoubleClicked, this, [this] {
-      front_.Deliver(list_.form, [&list = list_] {
-        if (player::WhyNot(list).empty()) player::DblClick(list);
-      });
-    });
+    connect(this, &QListWidget::itemDoubleClicked, this,
+            [this] { deeds_.Do(list_, [&list = list_] { player::DblClick(list); }); });
   }
 
  protected:
@@ -113,24 +104,20 @@ class PickList : public QListWidget {
 
  private:
   void Pick() {
-    front_.Deliver(list_.form, [&list = list_, row = currentRow()] {
-      if (player::WhyNot(list).empty()) player::Select(list, row);
-    });
+    deeds_.Do(list_, [&list = list_, row = currentRow()] { player::Select(list, row); });
   }
 
   ListControl& list_;
-  DesktopFrontEnd& front_;
+  Deeds& deeds_;
 };
 
-QWidget* MakeDriveList(DriveListBox& list, DesktopFrontEnd& front, QWidget* parent) {
+QWidget* MakeDriveList(DriveListBox& list, Deeds& deeds, QWidget* parent) {
   auto* widget = new QComboBox(parent);
   widget->setPlaceholderText("Places");
   QObject::connect(widget, &QComboBox::activated, widget, [&, widget](int entry) {
     Form& form = list.form;
-    front.Deliver(form, [&list, entry] {
-      if (player::WhyNot(list).empty()) player::Select(list, entry);
-    });
-    if (front.Knows(form)) ApplyNative(*widget, list, Prop::ListIndex);
+    deeds.Do(list, [&list, entry] { player::Select(list, entry); });
+    if (deeds.Knows(form)) ApplyNative(*widget, list, Prop::ListIndex);
   });
   return widget;
 }
@@ -244,18 +231,18 @@ bool IsNative(Control::Kind kind) {
   }
 }
 
-QWidget* MakeNative(Visual& control, DesktopFrontEnd& front, QWidget* parent) {
+QWidget* MakeNative(Visual& control, Deeds& deeds, QWidget* parent) {
   QWidget* widget = nullptr;
   switch (control.kind) {
     case Control::Kind::CommandButton:
-      widget = MakeButton(static_cast<CommandButton&>(control), front, parent);
+      widget = MakeButton(static_cast<CommandButton&>(control), deeds, parent);
       break;
     case Control::Kind::TextBox:
-      widget = MakeTextBox(static_cast<TextBox&>(control), front, parent);
+      widget = MakeTextBox(static_cast<TextBox&>(control), deeds, parent);
       break;
     case Control::Kind::CheckBox: {
       auto* box = new QCheckBox(parent);
-      QObject::connect(box, &QCheckBox::clicked, box, [&, box] { Click(control, front, *box); });
+      QObject::connect(box, &QCheckBox::clicked, box, [&, box] { Click(control, deeds, *box); });
       widget = box;
       break;
     }
@@ -263,15 +250,15 @@ QWidget* MakeNative(Visual& control, DesktopFrontEnd& front, QWidget* parent) {
       auto* option = new QRadioButton(parent);
       option->setAutoExclusive(false);  // the model knows the group
       QObject::connect(option, &QRadioButton::clicked, option,
-                       [&, option] { Click(control, front, *option); });
+                       [&, option] { Click(control, deeds, *option); });
       widget = option;
       break;
     }
     case Control::Kind::DriveListBox:
-      widget = MakeDriveList(static_cast<DriveListBox&>(control), front, parent);
+      widget = MakeDriveList(static_cast<DriveListBox&>(control), deeds, parent);
       break;
     default:
-      widget = new PickList(static_cast<ListControl&>(control), front, parent);
+      widget = new PickList(static_cast<ListControl&>(control), deeds, parent);
       break;
   }
   if (control.kind == Control::Kind::CheckBox || control.kind == Control::Kind::OptionButton)

@@ -5,18 +5,19 @@
 #include <QMenuBar>
 #include <cmath>
 
-#include "window/desktop/desktop.h"
-#include "window/desktop/view/form_window.h"
+#include "window/desktop/view/looks.h"
 
 namespace {
 
 constexpr int kZooms[] = {100, 125, 150, 175, 200, 250, 300};
 constexpr int kVolumes[] = {100, 75, 50, 25, 0};
 
+bool Fits(const ViewMenu::Size& size, const View& view) { return size.fit && view.*size.fit; }
+
 }  // namespace
 
-ViewMenu::ViewMenu(FormWindow& window, DesktopFrontEnd& front, QMenuBar* bar)
-    : QObject(&window), window_(window), front_(front) {
+ViewMenu::ViewMenu(QWidget& window, Looks& looks, std::function<Size()> size, QMenuBar* bar)
+    : QObject(&window), window_(window), looks_(looks), size_(std::move(size)) {
   QMenu* menu = nullptr;
   if (bar) {
     menu = new QMenu("&View", bar);
@@ -30,9 +31,9 @@ ViewMenu::ViewMenu(FormWindow& window, DesktopFrontEnd& front, QMenuBar* bar)
   Add(
       menu, "viewFit", "&Fit to the Window",
       [this](View& view) {
-        if (const auto fit = Fit()) view.*fit = !(view.*fit);
+        if (const auto fit = size_().fit) view.*fit = !(view.*fit);
       },
-      [this](const View& view) { return Fit() && view.*Fit(); });
+      [this](const View& view) { return Fits(size_(), view); });
   QAction* fullScreen = AddSwitch(menu, "viewFullScreen", "Full &Screen", &View::fullScreen);
   fullScreen->setShortcut(QKeySequence("F11"));
   fullScreen->setAutoRepeat(false);
@@ -41,7 +42,7 @@ ViewMenu::ViewMenu(FormWindow& window, DesktopFrontEnd& front, QMenuBar* bar)
   AddSwitch(menu, "viewHighContrast", "&High Contrast", &View::highContrast);
   lessMotion_ = Add(
       menu, "viewLessMotion", "Less M&otion", [](View& view) { view.lessMotion = !view.lessMotion; },
-      [this](const View&) { return front_.LessMotion(); });
+      [this](const View&) { return looks_.LessMotion(); });
   menu->addSeparator();
   AddVolume(*menu, "viewWaves", "Sound &Volume", &View::waveVolume);
   AddVolume(*menu, "viewMusic", "&Music Volume", &View::musicVolume);
@@ -54,9 +55,7 @@ QAction* ViewMenu::Add(QMenu* menu, const char* name, const QString& text, std::
   action->setObjectName(name);
   if (isTicked) action->setCheckable(true);
   connect(action, &QAction::triggered, this, [this, choose] {
-    View view = front_.GetView();
-    choose(view);
-    front_.SetView(view);
+    looks_.Alter(choose);
     Apply();  // Qt has set a tick by itself
   });
   menu ? menu->addAction(action) : window_.addAction(action);
@@ -79,7 +78,7 @@ void ViewMenu::AddZooms(QMenu* menu) {
         zooms, qPrintable("viewZoom" + QString::number(percent)), QString("%1 %").arg(percent),
         [this, percent](View& view) { ChooseZoom(view, percent); },
         [this, percent](const View& view) {
-          return !(Fit() && view.*Fit()) && std::lround(window_.Zoom() * 100) == percent;
+          return !Fits(size_(), view) && std::lround(size_().zoom * 100) == percent;
         });
 }
 
@@ -100,28 +99,21 @@ void ViewMenu::AddVolume(QMenu& menu, const char* name, const QString& text, int
 }
 
 void ViewMenu::Apply() {
-  if (lessMotion_) lessMotion_->setEnabled(!front_.DesktopStopsMotion());
-  for (const Entry& entry : entries_) entry.action->setChecked(entry.isTicked(front_.GetView()));
-}
-
-bool View::*ViewMenu::Fit() const {
-  const FormWindow& leader = window_.Leader();
-  if (!leader.form.Sizable) return nullptr;
-  return leader.IsFilled() ? &View::fitMaximised : &View::fitNormal;
+  if (lessMotion_) lessMotion_->setEnabled(!looks_.DesktopStopsMotion());
+  for (const Entry& entry : entries_) entry.action->setChecked(entry.isTicked(looks_.Now()));
 }
 
 // Who asks for a size of their own no longer wants the one that fits, unless the screen has room for no more.
 void ViewMenu::ChooseZoom(View& view, int percent) const {
-  const auto fit = Fit();
-  const bool isFull = fit && view.*fit && window_.Leader().IsFilled();
-  if (isFull && percent >= std::lround(window_.Leader().Zoom() * 100)) return;
+  const Size size = size_();
+  if (size.filled && Fits(size, view) && percent >= std::lround(size.leadersZoom * 100)) return;
   view.zoom = percent;
-  if (fit) view.*fit = false;
+  if (size.fit) view.*size.fit = false;
 }
 
 // From what is seen, which may be less than what was asked for.
 int ViewMenu::NextZoom(bool larger) const {
-  const int now = static_cast<int>(std::lround(window_.Zoom() * 100));
+  const int now = static_cast<int>(std::lround(size_().zoom * 100));
   int next = larger ? kZooms[std::size(kZooms) - 1] : kZooms[0];
   for (const int each : kZooms) {
     if (larger && each > now) return each;

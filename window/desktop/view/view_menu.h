@@ -8,16 +8,23 @@
 
 #include "window/desktop/view/view.h"
 
-class DesktopFrontEnd;
-class FormWindow;
+class Looks;
 class QAction;
 class QMenu;
 class QMenuBar;
+class QWidget;
 
 class ViewMenu : public QObject {
  public:
+  // How large a window is drawn, and, where its board can be fitted to the frame, which switch fits it just
+  // now and how large the board that it follows is.
+  struct Size {
+    double zoom = 1, leadersZoom = 1;
+    bool View::*fit = nullptr;
+    bool filled = false;  // the frame can't grow
+  };
   // Stands before the last menu of the bar; without a bar there are its keys alone.
-  ViewMenu(FormWindow& window, DesktopFrontEnd& front, QMenuBar* bar);
+  ViewMenu(QWidget& window, Looks& looks, std::function<Size()> size, QMenuBar* bar);
 
   // Ticks what is in force.
   void Apply();
@@ -35,11 +42,10 @@ class ViewMenu : public QObject {
   void AddVolume(QMenu& menu, const char* name, const QString& text, int View::*volume);
   void ChooseZoom(View& view, int percent) const;
   int NextZoom(bool larger) const;
-  // Which of the two a change of "Fit to the Window" means just now; null where nothing is to be fitted.
-  bool View::*Fit() const;
 
-  FormWindow& window_;
-  DesktopFrontEnd& front_;
+  QWidget& window_;
+  Looks& looks_;
+  const std::function<Size()> size_;
   std::vector<Entry> entries_;
   QAction* lessMotion_ = nullptr;
 };

@@ -1,16 +1,14 @@
-#include "window/desktop/view/canvas.h"
+#include "window/desktop/painting/canvas.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
 
-#include "window/desktop/desktop.h"
 #include "window/desktop/painting/baize.h"
 #include "window/desktop/painting/notes.h"
 #include "window/desktop/painting/paint.h"
 #include "window/desktop/painting/style.h"
-#include "window/player.h"
 
 namespace {
 
@@ -21,8 +19,13 @@ constexpr QPoint kFingertip(5, 1);
 
 }  // namespace
 
-Canvas::Canvas(Form& form, DesktopFrontEnd& front, QWidget* parent)
-    : QWidget(parent), form_(form), front_(front), board_(IsBoard(form)), motion_(form, front, *this) {
+Canvas::Canvas(Form& form, const Guide* guide, Paintbox& paintbox, QWidget* parent)
+    : QWidget(parent),
+      form(form),
+      guide_(guide),
+      paintbox_(paintbox),
+      board_(IsBoard(form)),
+      motion_(form, paintbox, [this](const QRect& area) { Repaint(area); }) {
   setObjectName("canvas");
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
@@ -48,7 +51,7 @@ void Canvas::Refresh(const Visual& control) {
     if (!IsShown(control)) reach_.erase(known);
   }
   if (!IsShown(control)) return;
-  const QRect reach = Reach(control, front_.pictures);
+  const QRect reach = Reach(control, paintbox_.pictures);
   reach_[&control] = reach;
   Repaint(reach);
 }
@@ -60,10 +63,30 @@ void Canvas::SetNotes(std::vector<Note> notes) {
   for (const Note& note : notes_) Repaint(NoteRect(note));
 }
 
+void Canvas::Settle() {
+  const std::optional<long long> score = guide_ ? guide_->Score() : std::nullopt;
+  motion_.Settle({size(), zoom_, zoom_ * devicePixelRatioF(), isVisible(), score.value_or(0)});
+}
+
+void Canvas::Leave() {
+  guide_ = nullptr;
+  paintOver = nullptr;
+  lives_ = false;
+}
+
+QWidget* Canvas::WidgetOf(const Control& control) const {
+  const auto found = widgets.find(&control);
+  return found == widgets.end() ? nullptr : found->second;
+}
+
+QRect Canvas::PlaceOf(const Visual& control) const {
+  return IsDrawn(control.kind) ? DrawnRect(control, paintbox_.pictures) : ModelRect(control);
+}
+
 void Canvas::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const double scale = devicePixelRatioF();
-  const bool strong = front_.GetView().highContrast;
+  const bool strong = paintbox_.manner.strong;
   if (board_ && strong) {
     painter.fillRect(event->rect(), style::kStrongGround);
   } else if (board_) {
@@ -75,21 +98,21 @@ void Canvas::paintEvent(QPaintEvent* event) {
   }
   painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(zoom_, zoom_);
-  if (!front_.LessMotion()) {
+  if (!paintbox_.manner.calm) {
     calm_.reset();
   } else {
     if (!calm_) calm_ = std::make_unique<Calm>([this](const Visual& control) { Refresh(control); });
-    if (const Guide* guide = front_.GuideOf(form_)) calm_->Keep(form_, *guide);
+    if (guide_) calm_->Keep(form, *guide_);
   }
-  const Scene scene = Arrange(form_, front_.pictures, calm_ ? calm_->Kept() : Stills());
-  const Easel easel{painter, front_.pictures, scene, board_, scale * zoom_, strong, calm_.get()};
+  const Scene scene = Arrange(form, paintbox_.pictures, calm_ ? calm_->Kept() : Stills());
+  const Easel easel{painter, paintbox_.pictures, scene, board_, scale * zoom_, strong, calm_.get()};
   const auto paintNotes = [&](NoteLayer layer) {
     for (const Note& note : notes_)
       if (event->region().intersects(ToWindow(NoteRect(note)))) PaintNote(painter, note, layer, strong);
   };
   paintNotes(NoteLayer::Beneath);
   for (size_t i = 0; i < scene.size(); ++i) {
-    const QRect reach = Reach(*scene[i].control, front_.pictures);
+    const QRect reach = Reach(*scene[i].control, paintbox_.pictures);
     reach_[scene[i].control] = reach;
     if (event->region().intersects(ToWindow(reach)) && !motion_.PaintInstead(easel, scene[i]))
       PaintControl(easel, i);
@@ -97,15 +120,15 @@ void Canvas::paintEvent(QPaintEvent* event) {
   paintNotes(NoteLayer::Above);
   motion_.PaintAbove(easel);
   if (paintOver) paintOver(painter);
-  front_.Painted();
+  if (painted) painted();
 }
 
-Visual* Canvas::At(QPoint point) const { return HitTest(Arrange(form_, front_.pictures), ToBoard(point)); }
+Visual* Canvas::At(QPoint point) const { return HitTest(Arrange(form, paintbox_.pictures), ToBoard(point)); }
 
 std::optional<QPoint> Canvas::SpotOf(const Visual& control) const {
   constexpr int kGrid = 15;
-  const Scene scene = Arrange(form_, front_.pictures);
-  const QRect area = DrawnRect(control, front_.pictures);
+  const Scene scene = Arrange(form, paintbox_.pictures);
+  const QRect area = PlaceOf(control);
   const auto inWindow = [&](QPoint point) { return (QPointF(point) * zoom_).toPoint(); };
   const auto fits = [&](QPoint point) {
     const QPoint there = inWindow(point);
@@ -122,41 +145,27 @@ std::optional<QPoint> Canvas::SpotOf(const Visual& control) const {
 }
 
 // Cards answer to the press: waiting for the release would cost time that counts.
-void Canvas::Press(QPoint point) {
-  Visual* control = At(point);
-  if (!control) return;
-  front_.Deliver(form_, [control] {
-    if (player::WhyNot(*control).empty()) player::Click(*control);
-  });
-}
-
 void Canvas::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) Press(event->position().toPoint());
+  if (event->button() != Qt::LeftButton) return;
+  if (Visual* control = At(event->position().toPoint()); control && pressed) pressed(*control);
 }
 
 // For a fast player two clicks in a row are two clicks, unless the control knows what a double click is.
 void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  const QPoint point = event->position().toPoint();
-  Visual* control = At(point);
-  if (!control) return;
-  if (!control->OnDblClick) return Press(point);
-  front_.Deliver(form_, [control] {
-    if (player::WhyNot(*control).empty()) player::DblClick(*control);
-  });
+  Visual* control = At(event->position().toPoint());
+  const auto& tell = control && control->OnDblClick ? pressedTwice : pressed;
+  if (control && tell) tell(*control);
 }
 
 void Canvas::mouseMoveEvent(QMouseEvent* event) {
   Visual* control = At(event->position().toPoint());
-  if (control && control->OnMouseMove && (front_.HeedsPointer() || !event->spontaneous()))
-    front_.Deliver(form_, [control] {
-      if (player::WhyNot(*control).empty()) player::MouseMove(*control);
-    });
+  if (control && control->OnMouseMove && passed) passed(*control, event->spontaneous());
   UpdatePointer();
 }
 
 void Canvas::UpdatePointer() {
-  int wanted = form_.MousePointer;
+  int wanted = form.MousePointer;
   if (wanted != kWaiting) {
     const QPoint point = mapFromGlobal(QCursor::pos());
     const Visual* control = rect().contains(point) ? At(point) : nullptr;
@@ -178,14 +187,14 @@ void Canvas::UpdatePointer() {
 QCursor Canvas::PointerOf(int picture) {
   constexpr double kLargest = 3;  // where larger ones are, screens may cut them off
   const double zoom = std::min(zoom_, kLargest), scale = devicePixelRatioF();
-  QPixmap pixels = front_.pictures.Get(picture, false, scale * zoom);
+  QPixmap pixels = paintbox_.pictures.Get(picture, false, scale * zoom);
   pixels.setDevicePixelRatio(scale);
   const QPointF tip = QPointF(kFingertip) * zoom;
   return QCursor(pixels, tip.toPoint().x(), tip.toPoint().y());
 }
 
 void Canvas::ShowToolTip(QHelpEvent& event) {
-  const Scene scene = Arrange(form_, front_.pictures);
+  const Scene scene = Arrange(form, paintbox_.pictures);
   const QPoint point = ToBoard(event.pos());
   for (auto it = scene.rbegin(); it != scene.rend(); ++it) {
     if (!it->rect.contains(point) || !it->clip.contains(point)) continue;

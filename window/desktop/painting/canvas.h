@@ -13,13 +13,19 @@
 #include "window/desktop/painting/scene.h"
 #include "window/guide.h"
 
-class DesktopFrontEnd;
-class Pictures;
 class QHelpEvent;
 
 class Canvas : public QWidget {
  public:
-  Canvas(Form& form, DesktopFrontEnd& front, QWidget* parent);
+  Canvas(Form& form, const Guide* guide, Paintbox& paintbox, QWidget* parent);
+
+  Form& form;
+
+  // What the mouse does on a control.
+  std::function<void(Visual&)> pressed, pressedTwice;
+  std::function<void(Visual&, bool byPlayer)> passed;
+  // The board has been painted.
+  std::function<void()> painted;
 
   // How much larger than at 100 % the board is drawn. Scenes, reaches and painting are in pixels at 100 %;
   // mouse and widgets in pixels of the window.
@@ -33,11 +39,16 @@ class Canvas : public QWidget {
   // The control looks different from now on, or lies elsewhere.
   void Refresh(const Visual& control);
   // What has changed since the last time is set in motion.
-  void Settle() { motion_.Settle(); }
+  void Settle();
   // Shows that a click on the control was refused.
   void Refuse(const Visual& control) { motion_.Refuse(control); }
   // Whether nothing moves, so that the board is painted as it stands.
   bool AtRest() const { return motion_.AtRest(); }
+  // The form and its guide are gone: nothing of them may be touched any more.
+  void Leave();
+  bool Lives() const { return lives_; }
+  // Null where nobody tells what the board means.
+  const Guide* GetGuide() const { return guide_; }
   // Shows the pointer that the control under the mouse asks for.
   void UpdatePointer();
 
@@ -47,6 +58,12 @@ class Canvas : public QWidget {
   // Draws over everything else; pixels at 100 %.
   std::function<void(QPainter&)> paintOver;
 
+  // The widgets that stand on the board, by their controls.
+  std::unordered_map<const Control*, QWidget*> widgets;
+  // Null if the canvas draws the control.
+  QWidget* WidgetOf(const Control& control) const;
+  // Where a control is drawn, pixels at 100 %.
+  QRect PlaceOf(const Visual& control) const;
   // The control that a click at this point of the window means.
   Visual* At(QPoint point) const;
   // A spot that means this control: its middle if that shows. Nothing if the control is wholly covered.
@@ -64,9 +81,10 @@ class Canvas : public QWidget {
   void ShowToolTip(QHelpEvent& event);
   QCursor PointerOf(int picture);
 
-  Form& form_;
-  DesktopFrontEnd& front_;
+  const Guide* guide_;
+  Paintbox& paintbox_;
   const bool board_;
+  bool lives_ = true;
   std::vector<Note> notes_;
   double zoom_ = 1;
   int pointer_ = 0;  // the one that shows; above 99 that picture
