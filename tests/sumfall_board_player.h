@@ -24,7 +24,7 @@ struct SumfallPlayer {
     constexpr int kClicks = modSumfall::kUpCard + 1;
     const int start = chance.Draw(kClicks);
     if (chance.Percent(8)) return {Move::Click, start};
-    if (chance.Percent(2)) return {chance.Percent(75) ? Move::Turn : Move::Pause};
+    if (chance.Percent(15)) return {chance.Percent(95) ? Move::Turn : Move::Pause};
     for (const bool selected : {false, true}) {
       if (selected && chance.Percent(40)) break;
       for (int i = 0; i < kClicks; ++i) {
@@ -49,7 +49,10 @@ struct SumfallPlayer {
     return true;
   }
 
-  static bool IsOver(const Board& board) { return board.CheckForCompletion() || board.IsStuck(); }
+  // With the stock used up a player at random would seek the last combinations for long.
+  static bool IsOver(const Board& board) {
+    return board.CheckForCompletion() || board.stock.empty() || board.IsStuck();
+  }
 
   static void Count(const Board& board, Census& census) {
     for (const std::string& card : board.field) census("field", card);
