@@ -5,8 +5,7 @@
 //
 //   template <class Self, class Visit>
 //   static void VisitFields(Self& board, Visit&& visit) {
-//     visit("field", board.field);
-//     visit("position", board.deckPosition);
+//     visit("field", board.field, "position", board.deckPosition);
 //   }
 //
 // A field is a whole number, a flag, an enumeration, a card code, or an array or vector of fields.
@@ -26,13 +25,14 @@ class BoardReader {
  public:
   explicit BoardReader(std::string_view line) : rest_(line) {}
 
-  template <class Field>
-  void operator()(std::string_view name, Field& field) {
+  template <class Field, class... More>
+  void operator()(std::string_view name, Field& field, More&... more) {
     if (!first_) Skip(' ');
     first_ = false;
     for (const char letter : name) Skip(letter);
     Skip('=');
     Read(field);
+    if constexpr (sizeof...(more) > 0) (*this)(more...);
   }
   // All has been read, and all of it fitted.
   bool Ended() const { return fits_ && rest_.empty(); }
@@ -88,11 +88,12 @@ class BoardReader {
 
 class BoardWriter {
  public:
-  template <class Field>
-  void operator()(std::string_view name, const Field& field) {
+  template <class Field, class... More>
+  void operator()(std::string_view name, const Field& field, const More&... more) {
     if (!line.empty()) line += ' ';
     line.append(name) += '=';
     Write(field);
+    if constexpr (sizeof...(more) > 0) (*this)(more...);
   }
   std::string line;
 

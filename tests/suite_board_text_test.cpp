@@ -19,11 +19,8 @@ struct Sample {
 
   template <class Self, class Visit>
   static void VisitFields(Self& board, Visit&& visit) {
-    visit("field", board.field);
-    visit("piles", board.piles);
-    visit("zone", board.zone);
-    visit("position", board.position);
-    visit("selected", board.selected);
+    visit("field", board.field, "piles", board.piles, "zone", board.zone, "position", board.position,
+          "selected", board.selected);
   }
   bool operator==(const Sample&) const = default;
 };

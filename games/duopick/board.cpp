@@ -64,7 +64,7 @@ Outcome Board::Take(int card) {
 }
 
 void Board::TakeAway(int card) {
-  taken.push_back(std::exchange(card == kUpCard ? waste.back() : field[card], ""));
+  taken.push_back(std::exchange(card == kUpCard ? waste.back() : field[card], {}));
   if (card == kUpCard) waste.pop_back();
 }
 

@@ -60,13 +60,8 @@ struct Board {
   bool operator==(const Board&) const = default;
   template <class Self, class Visit>
   static void VisitFields(Self& board, Visit&& visit) {
-    visit("field", board.field);
-    visit("waste", board.waste);
-    visit("stack", board.stack);
-    visit("taken", board.taken);
-    visit("selected", board.selected);
-    visit("pairs", board.PairsCount);
-    visit("runs", board.RunsCount);
+    visit("field", board.field, "waste", board.waste, "stack", board.stack, "taken", board.taken, "selected",
+          board.selected, "pairs", board.PairsCount, "runs", board.RunsCount);
   }
 
  private:

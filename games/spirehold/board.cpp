@@ -33,7 +33,7 @@ bool Board::CheckForLegalMove(int card) const {
 
 bool Board::Take(int card) {
   if (!CheckForLegalMove(card)) return false;
-  pile.push_back(std::exchange(table[card], ""));
+  pile.push_back(std::exchange(table[card], {}));
   return true;
 }
 

@@ -58,13 +58,8 @@ struct Board {
   bool operator==(const Board&) const = default;
   template <class Self, class Visit>
   static void VisitFields(Self& board, Visit&& visit) {
-    visit("table", board.table);
-    visit("stack", board.stack);
-    visit("pile", board.pile);
-    visit("run", board.CurrentRun);
-    visit("highest", board.HighestRun);
-    visit("value", board.RunValue);
-    visit("new", board.NewHighRun);
+    visit("table", board.table, "stack", board.stack, "pile", board.pile, "run", board.CurrentRun, "highest",
+          board.HighestRun, "value", board.RunValue, "new", board.NewHighRun);
   }
 
  private:
