@@ -126,7 +126,11 @@ void frmRules::Form_Load() {
   Caption = common_.AppTitle + " Rules, Notes and Strategy";
   CenterAcross(cmdOK);
   cmdOK.SetFocus();
-  lblRules.Text = ComposeRules(common_.AppTitle, game_.Rules());
+  RulesText rules = game_.Rules();
+  rules.values.insert(rules.values.end(), {{"title", common_.AppTitle},
+                                           {"limit", std::to_string(common_.TimeLimit)},
+                                           {"bonusScore", FormatNumber(game_.BonusScore)}});
+  lblRules.Text = ComposeRules(common_.AppTitle, rules);
 }
 
 frmAbout::frmAbout(modCommon& common) : Form(common.platform, "frmAbout"), common_(common) {

@@ -35,10 +35,7 @@ constexpr RulesParagraph kParagraphs[] = {
 RulesText frmBlackrush::Rules() const {
   return {33,
           kParagraphs,
-          {{"title", common.AppTitle},
-           {"limit", FormatNumber(common.TimeLimit)},
-           {"bonusScore", FormatNumber(BonusScore)},
-           {"twentyOneBonus", FormatNumber(TwentyOneBonusValue)},
+          {{"twentyOneBonus", FormatNumber(TwentyOneBonusValue)},
            {"fiveCardBonus", FormatNumber(FiveCardGimmeBonus)},
            {"deckBonus", FormatNumber(DeckCompletionBonus)},
            {"cardsUsedBonus", FormatNumber(CardsUsedBonusValue)}}};

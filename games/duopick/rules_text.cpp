@@ -28,10 +28,7 @@ constexpr RulesParagraph kParagraphs[] = {
 RulesText frmDuopick::Rules() const {
   return {33,
           kParagraphs,
-          {{"title", common.AppTitle},
-           {"limit", FormatNumber(common.TimeLimit)},
-           {"bonusScore", FormatNumber(BonusScore)},
-           {"pairsBonus", FormatNumber(PairsBonus)},
+          {{"pairsBonus", FormatNumber(PairsBonus)},
            {"runsBonus", FormatNumber(RunsBonus)},
            {"completionBonus", FormatNumber(CompletionBonus)},
            {"timeBonus", FormatNumber(common.TimeBonus)}}};

@@ -35,10 +35,7 @@ constexpr RulesParagraph kParagraphs[] = {
 RulesText frmFivestack::Rules() const {
   return {33,
           kParagraphs,
-          {{"title", common.AppTitle},
-           {"limit", std::to_string(common.TimeLimit)},
-           {"bonusScore", FormatNumber(BonusScore)},
-           {"bonusMax", std::to_string(TimeBonusMax)},
+          {{"bonusMax", std::to_string(TimeBonusMax)},
            {"decay", std::to_string(static_cast<long long>(std::trunc(TimeBonusDecay())))},
            {"bonusMin", std::to_string(TimeBonusMin)},
            {"passes", std::to_string(CardsToPass)}}};

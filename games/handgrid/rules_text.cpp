@@ -41,10 +41,7 @@ RulesText frmHandgrid::Rules() const {
   const auto plain = [](long long value) { return std::to_string(value); };
   return {31,
           kParagraphs,
-          {{"title", common.AppTitle},
-           {"limit", plain(common.TimeLimit)},
-           {"bonusScore", FormatNumber(BonusScore)},
-           {"overWrites", plain(OverWritesAllowed)},
+          {{"overWrites", plain(OverWritesAllowed)},
            {"pair", plain(Scores.PairScore)},
            {"twoPair", plain(Scores.TwoPairScore)},
            {"trips", plain(Scores.TripsScore)},

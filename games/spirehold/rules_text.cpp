@@ -30,10 +30,7 @@ constexpr RulesParagraph kParagraphs[] = {
 RulesText frmSpirehold::Rules() const {
   return {33,
           kParagraphs,
-          {{"title", common.AppTitle},
-           {"limit", FormatNumber(common.TimeLimit)},
-           {"bonusScore", FormatNumber(BonusScore)},
-           {"cardValue", FormatNumber(CardValue)},
+          {{"cardValue", FormatNumber(CardValue)},
            {"highRunBonus", FormatNumber(HighRunBonus)},
            {"towerBonus", FormatNumber(TowerBonus)},
            {"timeBonus", FormatNumber(common.TimeBonus)}}};

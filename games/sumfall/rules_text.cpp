@@ -41,9 +41,7 @@ constexpr RulesParagraph kParagraphs[] = {
 RulesText frmSumfall::Rules() const {
   return {30,
           kParagraphs,
-          {{"title", common.AppTitle},
-           {"limit", std::to_string(common.TimeLimit)},
-           {"quarter", std::to_string(common.TimeLimit / 4)},
+          {{"quarter", std::to_string(common.TimeLimit / 4)},
            {"bonusRoundScore", std::to_string(BonusRoundScore)},
            {"combinationBonus", std::to_string(CombinationBonus)},
            {"completionBonus", std::to_string(CompletionBonus)},

@@ -34,10 +34,7 @@ constexpr RulesParagraph kParagraphs[] = {
 RulesText frmTreyshift::Rules() const {
   return {31,
           kParagraphs,
-          {{"title", common.AppTitle},
-           {"limit", std::to_string(common.TimeLimit)},
-           {"bonusScore", FormatNumber(BonusScore)},
-           {"tripValue", std::to_string(TripValue)},
+          {{"tripValue", std::to_string(TripValue)},
            {"runValue", std::to_string(RunValue)},
            {"flushValue", std::to_string(FlushValue)},
            {"deckValue", std::to_string(DeckValue)},
