@@ -1,8 +1,10 @@
 // How fast Treyshift is without a screen: what a bot that plays it waits for.
 #include <benchmark/benchmark.h>
 
+#include "bench/board_moves.h"
 #include "bench/open_table.h"
 #include "games/treyshift/treyshift.h"
+#include "tests/treyshift_board_player.h"
 
 namespace {
 
@@ -20,8 +22,6 @@ void DealInTrips(frmTreyshift& game) {
     for (char suit : {'S', 'H', 'C'}) deck.push_back(NumberedCode(rank, suit));
   for (int rank = 1; rank <= 13; ++rank) deck.push_back(NumberedCode(rank, 'D'));
   game.Deal();
-  game.TripCount = 0;
-  game.RunCount = 0;
   game.common.CurrentScore = 0;
 }
 
@@ -32,13 +32,13 @@ void BM_CardClick(benchmark::State& state) {
   player::Click(game.cmdPlay);
   DealInTrips(game);
   for (auto _ : state) {
-    if (game.DeckPosition == kUsedUp - 1) {
+    if (game.board.DeckPosition == kUsedUp - 1) {
       state.PauseTiming();
-      if (game.TripCount != 13 || game.RunCount != 4) state.SkipWithError("a column wasn't paid");
+      if (game.board.TripCount != 13 || game.board.RunCount != 4) state.SkipWithError("a column wasn't paid");
       DealInTrips(game);
       state.ResumeTiming();
     }
-    player::Click(game.Selected ? game.PlayCard(2) : game.UpCard(kInPlay));
+    player::Click(game.board.Selected() ? game.PlayCard(2) : game.UpCard(kInPlay));
   }
 }
 BENCHMARK(BM_CardClick);
@@ -52,16 +52,20 @@ void BM_StorageClick(benchmark::State& state) {
   player::Click(game.TempCard(0));
   int lies = 0;
   for (auto _ : state) {
-    player::Click(game.TempCard(game.Selected ? 1 - lies : lies));
-    if (!game.Selected) lies = 1 - lies;
+    player::Click(game.TempCard(game.board.Selected() ? 1 - lies : lies));
+    if (!game.board.Selected()) lies = 1 - lies;
   }
-  if (game.TempCards[lies].empty()) state.SkipWithError("the card is lost");
+  if (game.board.TempCards[lies].empty()) state.SkipWithError("the card is lost");
 }
 BENCHMARK(BM_StorageClick);
 
+bool Completes(int top, int middle, int rank) {
+  return middle - top == rank - middle && middle - top >= -1 && middle - top <= 1;
+}
+
 // Where the card in play does most: a column that it completes or extends, an empty one, any with room.
 Image* BestPlace(frmTreyshift& game) {
-  const int rank = CardValue(game.UpCards[kInPlay]);
+  const int rank = CardValue(game.board.UpCards[kInPlay]);
   Image* best = nullptr;
   int most = 0;
   const auto consider = [&](Image& place, int worth) {
@@ -70,19 +74,19 @@ Image* BestPlace(frmTreyshift& game) {
     best = &place;
   };
   for (int column = 0; column < kColumns; ++column) {
-    const int top = CardValue(game.FieldCards[column]),
-              middle = CardValue(game.FieldCards[column + kSecondRow]);
-    if (!game.FieldCards[column + kThirdRow].empty()) continue;
+    const int top = CardValue(game.board.FieldCards[column]),
+              middle = CardValue(game.board.FieldCards[column + kSecondRow]);
+    if (!game.board.FieldCards[column + kThirdRow].empty()) continue;
     const int apart = rank > top ? rank - top : top - rank;
     if (top == 0)
       consider(game.PlayCard(column), 2);
     else if (middle == 0)
       consider(game.PlayCard(column), apart == 1 ? 3 : 1);
     else
-      consider(game.PlayCard(column), Judge(top, middle, rank) != Worth::Nothing ? 4 : 1);
+      consider(game.PlayCard(column), Completes(top, middle, rank) ? 4 : 1);
   }
   for (int slot = 0; slot < kTempSlots; ++slot)
-    if (game.TempCards[slot].empty()) consider(game.TempCard(slot), 1);
+    if (game.board.TempCards[slot].empty()) consider(game.TempCard(slot), 1);
   return best;
 }
 
@@ -94,7 +98,7 @@ void BM_WholeGame(benchmark::State& state) {
   for (auto _ : state) {
     player::Click(game.mnuPlay);
     while (game.standing.InGame()) {
-      Image* place = game.DeckPosition < kUsedUp ? BestPlace(game) : nullptr;
+      Image* place = game.board.DeckPosition < kUsedUp ? BestPlace(game) : nullptr;
       clicks += 1 + (place != nullptr);
       if (place) {
         player::Click(game.UpCard(kInPlay));
@@ -108,6 +112,8 @@ void BM_WholeGame(benchmark::State& state) {
       benchmark::Counter(static_cast<double>(clicks), benchmark::Counter::kAvgIterations);
 }
 BENCHMARK(BM_WholeGame)->Unit(benchmark::kMicrosecond);
+
+BENCHMARK(BM_BoardMoves<TreyshiftPlayer>);
 
 }  // namespace
 

@@ -194,12 +194,13 @@ TEST_F(Keys, StandForPlacesWhereAGameHasDigits) {
   input::Settle();
   auto& shift = Open<frmTreyshift>("7");
   Type("d");
-  EXPECT_TRUE(shift.Selected);
+  EXPECT_TRUE(shift.board.Selected());
   Press(Qt::Key_Escape);
-  EXPECT_FALSE(shift.Selected);
+  EXPECT_FALSE(shift.board.Selected());
   EXPECT_FALSE(shift.standing.IsPaused());
   Type("d2dwd2");
-  EXPECT_FALSE(shift.FieldCards[1].empty() || shift.FieldCards[5].empty() || shift.TempCards[1].empty());
+  EXPECT_FALSE(shift.board.FieldCards[1].empty() || shift.board.FieldCards[5].empty() ||
+               shift.board.TempCards[1].empty());
   Press(Qt::Key_Escape);
   EXPECT_TRUE(shift.standing.IsPaused());
   shift.Discard();
@@ -236,9 +237,9 @@ TEST_F(Keys, StayWithABoardThatIsEmptyForAWhile) {
 // Who goes on pressing keys at a stuck board is told so once, and paid.
 TEST_F(Keys, DontKeepAStuckBoardFromBeingPaid) {
   auto& game = Open<frmTreyshift>("7");
-  for (std::string& code : game.TempCards) code = "1S";
+  for (std::string& code : game.board.TempCards) code = "1S";
   for (int slot = modTreyshift::kThirdRow; slot < modTreyshift::kFieldSlots; ++slot)
-    game.FieldCards[slot] = "2S";
+    game.board.FieldCards[slot] = "2S";
   int told = 0;
   const std::function<void()> meanwhile = [&] {
     if (game.lblScoring.Caption != "No more legal moves left!" || ++told > 20) return;

@@ -457,7 +457,7 @@ TEST_F(Look, TreyshiftTellsWhatColumnsAndDecksBring) {
       for (int i = 0; i < 9; ++i) lay(i / 3);
       player::Click(game.UpCard(kInPlay));
       player::Click(game.TempCard(1));
-      game.ShowEmpty(game.UpCard(kInPlay));
+      game.board.UpCards[kInPlay].clear();
       game.PenaltyValue = 20000;
       player::Click(game.cmdTakeScore);
       deck = StandardDeck();

@@ -101,7 +101,7 @@ TEST_F(TreyshiftCustom, APenaltyThatWasTooHighPays) {
   EXPECT_EQ(Asked(tooHigh + kCancel + kOptions + Read("txtPenaltyValue") + kCancel), "\"--20000\"");
   EXPECT_EQ(Game().PenaltyValue, -20000);
   driver.Do(kPlayTreyshift + Lay(1));
-  Game().ShowEmpty(Game().UpCard(modTreyshift::kInPlay));
+  Game().board.UpCards[modTreyshift::kInPlay].clear();
   driver.common().TimeBonus = 0;
   EXPECT_TRUE(Contains(TreyshiftStory(driver.Trace(kTakeTreyshift)),
                        "\"Removing left over cards\", \"--20000\", 1000, Click, 500"));

@@ -10,9 +10,10 @@ namespace {
 
 using namespace modTreyshift;
 
-class TreyshiftPlayer : public RandomPlayer {
+class TreyshiftAtRandom : public RandomPlayer {
  public:
-  explicit TreyshiftPlayer(const std::filesystem::path& folder) : RandomPlayer(folder, "cmdTreyshift", 23) {}
+  explicit TreyshiftAtRandom(const std::filesystem::path& folder)
+      : RandomPlayer(folder, "cmdTreyshift", 23) {}
 
   int trips = 0, runs = 0, decks = 0, beyond = 0, stuck = 0;
 
@@ -21,33 +22,33 @@ class TreyshiftPlayer : public RandomPlayer {
 
   std::string AtTheTable(GameWindow& window) override {
     auto& game = static_cast<frmTreyshift&>(window);
-    trips = std::max(trips, static_cast<int>(game.TripCount));
-    runs = std::max(runs, static_cast<int>(game.RunCount));
-    if (game.DeckPosition == kUsedUp) ++decks;
-    if (game.DeckPosition == kBeyondDeck) ++beyond;
+    Board& board = game.board;
+    trips = std::max(trips, static_cast<int>(board.TripCount));
+    runs = std::max(runs, static_cast<int>(board.RunCount));
+    if (board.DeckPosition == kUsedUp) ++decks;
+    if (board.DeckPosition == kBeyondDeck) ++beyond;
     // Now and then a deck that goes well: without one nobody gets to its end.
-    CardCodes& deck = suite_.common.Deck;
-    if (game.DeckPosition == kDealt && Chance(10))
-      std::sort(deck.begin() + kDealt + 1, deck.end(),
+    if (board.DeckPosition == kDealt && Chance(10))
+      std::sort(board.deck.begin() + kDealt + 1, board.deck.end(),
                 [](const std::string& a, const std::string& b) { return CardValue(a) < CardValue(b); });
     if (Chance(5)) return Click(Draw(2) ? game.CardStackPicture : game.UpCard(Draw(2)));
-    if (game.DeckPosition >= kUsedUp && Chance(20)) return Click(game.cmdTakeScore);
-    if (!game.Selected) {
+    if (board.DeckPosition >= kUsedUp && Chance(20)) return Click(game.cmdTakeScore);
+    if (!board.Selected()) {
       if (Chance(80)) return Click(game.UpCard(kInPlay));
       return Chance(50) ? Click(game.TempCard(Draw(kTempSlots))) : Click(game.PlayCard(Draw(kFieldSlots)));
     }
     // Mostly what makes a column worth something, else what fits.
-    const std::string code = game.SourceZone == frmTreyshift::ZoneDeck   ? game.UpCards[kInPlay]
-                             : game.SourceZone == frmTreyshift::ZoneTemp ? game.TempCards[game.SourceIndex]
-                                                                         : game.FieldCards[game.SourceIndex];
+    const std::string code = board.CodeAt(board.SourceZone, board.SourceIndex);
     const int rank = CardValue(code);
     for (int column = 0; column < kColumns && !Chance(10); ++column) {
-      const int top = CardValue(game.FieldCards[column]),
-                middle = CardValue(game.FieldCards[column + kSecondRow]);
-      const bool isFull = !game.FieldCards[column + kThirdRow].empty();
+      const int top = CardValue(board.FieldCards[column]);
+      const bool isFull = !board.FieldCards[column + kThirdRow].empty();
       if (isFull || top == 0) continue;
-      const bool fits = middle == 0 ? std::abs(rank - top) < 2 : Judge(top, middle, rank) != Worth::Nothing;
-      if (fits) return Click(game.PlayCard(column));
+      Board laid = board;
+      laid.FieldCards[column + kThirdRow] = code;
+      const bool hasTwo = !board.FieldCards[column + kSecondRow].empty();
+      if (hasTwo ? laid.Judge(column) != Worth::Nothing : std::abs(rank - top) < 2)
+        return Click(game.PlayCard(column));
     }
     return Chance(30) ? Click(game.TempCard(Draw(kTempSlots))) : Click(game.PlayCard(Draw(kColumns)));
   }
@@ -63,32 +64,24 @@ class TreyshiftPlayer : public RandomPlayer {
     ASSERT_FALSE(game.lblFlush.Visible || game.ScoringLabelOutline.Visible);
     ASSERT_EQ(game.lblMessage.Visible, paused);
 
-    // No card is there twice, and none is lost but those that were paid.
-    seen_.fill(0);
-    for (const std::string& code : game.FieldCards) ++seen_.at(FaceOf(code));
-    for (const std::string& code : game.TempCards) ++seen_.at(FaceOf(code));
-    for (const std::string& code : game.UpCards) ++seen_.at(FaceOf(code));
-    for (long long i = game.DeckPosition + 1; i <= 52; ++i) ++seen_.at(FaceOf(suite_.common.Deck[i]));
-    long long cards = 3 * (game.TripCount + game.RunCount);
-    for (int face = kFirstFace; face <= kLastFace; ++face) {
-      ASSERT_LE(seen_[face], 1) << face;
-      cards += seen_[face];
+    const Board& board = game.board;
+    // A slot that is open takes clicks, also while the cards are gone.
+    for (int i = kSecondRow; i < kFieldSlots; ++i) {
+      const bool hidden = paused && !board.FieldCards[i].empty();
+      ASSERT_EQ(game.PlayCard(i).Visible, board.open[i] && !hidden) << i;
     }
-    // A run may have ended in the card that isn't one.
-    ASSERT_TRUE(cards == 52 || (cards == 53 && game.DeckPosition == kBeyondDeck)) << cards;
-
     for (int i = 0; i < kFieldSlots; ++i)
-      CheckSlot(game, game.PlayCard(i), game.FieldCards[i], i >= kSecondRow);
-    for (int i = 0; i < kTempSlots; ++i) CheckSlot(game, game.TempCard(i), game.TempCards[i], false);
-    for (int i = 0; i < kUpSlots; ++i) CheckSlot(game, game.UpCard(i), game.UpCards[i], false);
-    if (game.DeckPosition >= kBeyondDeck) return;
+      CheckSlot(game, game.PlayCard(i), board.FieldCards[i], i >= kSecondRow);
+    for (int i = 0; i < kTempSlots; ++i) CheckSlot(game, game.TempCard(i), board.TempCards[i], false);
+    for (int i = 0; i < kUpSlots; ++i) CheckSlot(game, game.UpCard(i), board.UpCards[i], false);
+    if (game.board.DeckPosition >= kBeyondDeck) return;
     // A column has no gap, and at most one card is marked.
     for (int i = kSecondRow; i < kFieldSlots; ++i)
-      ASSERT_TRUE(game.FieldCards[i].empty() || !game.FieldCards[i - kColumns].empty()) << i;
+      ASSERT_TRUE(board.FieldCards[i].empty() || !board.FieldCards[i - kColumns].empty()) << i;
     int outlines = game.UpCardSelection.Visible;
     for (int i = 0; i < kTempSlots; ++i) outlines += game.TempCardSelection(i).Visible;
     for (int i = 0; i < kFieldSlots; ++i) outlines += game.PlayCardSelection(i).Visible;
-    ASSERT_EQ(outlines, game.Selected && !paused ? 1 : 0);
+    ASSERT_EQ(outlines, board.Selected() && !paused ? 1 : 0);
   }
 
   // The picture of a card by its place in the catalogue; 0 for no card.
@@ -99,26 +92,25 @@ class TreyshiftPlayer : public RandomPlayer {
   }
 
   // A slot shows what lies there.
-  void CheckSlot(const frmTreyshift& game, const Image& slot, const std::string& code, bool mayShowNothing) {
+  static void CheckSlot(const frmTreyshift& game, const Image& slot, const std::string& code,
+                        bool mayShowNothing) {
     constexpr int kEmpty = 13;
     if (code.empty()) {
       ASSERT_TRUE(slot.Picture == kEmpty || (mayShowNothing && slot.Picture == 0)) << slot.FullName();
-      ASSERT_TRUE(slot.BorderStyle == 0 || game.DeckPosition >= kBeyondDeck) << slot.FullName();
+      ASSERT_TRUE(slot.BorderStyle == 0 || game.board.DeckPosition >= kBeyondDeck) << slot.FullName();
       return;
     }
     ASSERT_EQ(slot.Picture, FaceOf(code)) << slot.FullName();
     ASSERT_EQ(slot.BorderStyle, 1) << slot.FullName();
     ASSERT_NE(slot.Visible, game.standing.IsPaused()) << slot.FullName();
   }
-
-  std::array<int, kLastFace + 1> seen_{};
 };
 
 }  // namespace
 
 TEST(TreyshiftRandomPlayer, DoesNoHarm) {
   TestFolder folder;
-  TreyshiftPlayer player(folder.Path());
+  TreyshiftAtRandom player(folder.Path());
   player.Play(100000);
   std::cout << "at most " << player.trips << " trips and " << player.runs << " runs in a round, "
             << player.decks << " moments with a deck used up, " << player.beyond << " beyond\n";

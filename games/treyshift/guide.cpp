@@ -10,16 +10,17 @@ class TreyshiftGuide : public GameGuide {
 
   std::vector<Spot> Spots() const override {
     std::vector<Spot> spots;
+    const Board& board = window_.board;
+    const auto add = [&](Zone zone, Image& image, const std::string& place) {
+      Add(spots, image, board.Takes(zone, image.index), board.IsSelected(zone, image.index), place);
+    };
     for (int i = 0; i < kTempSlots; ++i)
-      Add(spots, window_.TempCard(i), TakesStored(i), window_.TempCardSelection(i).Visible,
-          "storage " + std::to_string(i + 1));
+      add(Zone::Temp, window_.TempCard(i), "storage " + std::to_string(i + 1));
     for (int slot = 0; slot < kFieldSlots; ++slot)
-      Add(spots, window_.PlayCard(slot), TakesColumn(slot % kColumns),
-          window_.PlayCardSelection(slot).Visible, "column " + std::to_string(slot % kColumns + 1));
+      add(Zone::Field, window_.PlayCard(slot), "column " + std::to_string(slot % kColumns + 1));
     Add(spots, window_.CardStackPicture, false, false, "stock");
     for (int i = 0; i < kUpSlots; ++i)
-      Add(spots, window_.UpCard(i), i == kInPlay && (!window_.Selected || window_.UpCardSelection.Visible),
-          i == kInPlay && window_.UpCardSelection.Visible, i == kInPlay ? "deck" : "deck, later");
+      add(Zone::Deck, window_.UpCard(i), i == kInPlay ? "deck" : "deck, later");
     return spots;
   }
 
@@ -47,30 +48,11 @@ class TreyshiftGuide : public GameGuide {
   }
 
   std::string BoardState() const override {
-    return std::to_string(window_.TripCount) + " trips, " + std::to_string(window_.RunCount) + " runs, " +
-           std::to_string(CardsRemaining(window_.DeckPosition)) + " cards remaining.";
+    return std::to_string(window_.board.TripCount) + " trips, " + std::to_string(window_.board.RunCount) +
+           " runs, " + std::to_string(window_.board.CardsRemaining()) + " cards remaining.";
   }
 
  private:
-  bool CanMove() const { return window_.DeckPosition < kBeyondDeck; }
-  bool IsEmpty(const Image& slot) const { return slot.Picture == kEmptyPlace; }
-
-  bool TakesStored(int index) const {
-    if (IsEmpty(window_.TempCard(index))) return window_.Selected && CanMove();
-    return !window_.Selected || window_.TempCardSelection(index).Visible;
-  }
-
-  // Wherever a column is clicked, its lowest slot is meant.
-  bool TakesColumn(int column) const {
-    int slot = column;
-    for (int below = slot + kColumns; below < kFieldSlots; below += kColumns)
-      if (window_.PlayCard(below).Visible) slot = below;
-    const Image& lowest = window_.PlayCard(slot);
-    if (!window_.Selected) return !IsEmpty(lowest);
-    if (window_.PlayCardSelection(slot).Visible) return true;
-    return CanMove() && (slot < kThirdRow || lowest.Picture == 0);
-  }
-
   frmTreyshift& window_;
 };
 

@@ -1,11 +1,16 @@
 // frmTreyshift: the window of Treyshift, what each click, tick and menu entry does.
 #pragma once
 
-#include <array>
-#include <string>
-
-#include "games/treyshift/rules.h"
+#include "games/treyshift/board.h"
 #include "suite/game_window.h"
+
+namespace modTreyshift {
+
+// What a game pays when nobody has changed it.
+inline constexpr int kTripValue = 6000, kRunValue = 300, kFlushValue = 5000, kDeckValue = 15000,
+                     kPenaltyValue = 250, kTimeBonus = 200, kBonusScore = 100000;
+
+}  // namespace modTreyshift
 
 class frmTreyshift : public GameWindow {
  public:
@@ -31,16 +36,7 @@ class frmTreyshift : public GameWindow {
   Shape ScoringLabelOutline{*this, "ScoringLabelOutline"};
 
   // --- State -------------------------------------------------------------------------------------
-  enum Zone { ZoneNone = -1, ZoneDeck, ZoneTemp, ZoneField };
-  // Card codes by slot, "" where no card lies.
-  std::array<std::string, modTreyshift::kFieldSlots> FieldCards;
-  std::array<std::string, modTreyshift::kTempSlots> TempCards;
-  std::array<std::string, modTreyshift::kUpSlots> UpCards;
-  Integer DeckPosition;  // the slot of the deck that was turned up last
-  bool Selected = false;
-  Zone SourceZone = ZoneNone;  // with `SourceIndex` where the selected card lies; they outlive the selection
-  int SourceIndex = -1;
-  Integer TripCount, RunCount;  // of the round
+  modTreyshift::Board board;
   // Settings.
   Long TripValue, RunValue, FlushValue, DeckValue, PenaltyValue;
 
@@ -49,8 +45,6 @@ class frmTreyshift : public GameWindow {
   void TempCard_Click(int index);
   void UpCard_Click(int index);
   void CardStackPicture_Click();
-  // Moves the selected card; `destIndex` becomes the slot in which it lies.
-  void MoveCard(int& destIndex, Zone destZone);
   void UpDateDeck();
   void Deal();
   void NoMovesLeft();
@@ -58,7 +52,6 @@ class frmTreyshift : public GameWindow {
   // --- Columns -----------------------------------------------------------------------------------
   // Pays a full column, if it is worth something.
   void CheckColumn(int column);
-  bool CheckFlush(int column) const;
   void ClearColumn(int column);
   void ShowFlushMessage(int column);
 
@@ -97,19 +90,14 @@ class frmTreyshift : public GameWindow {
   void SetUpBoard();
   void BindBoardEvents();
 
-  bool ShowsEmpty(const Image& slot) const;
-  bool HasCard(const Image& slot) const;
   bool SlotsAreClosed();
-  void Select(Zone zone, int index);
-  void CancelSelection();
-  Shape& SelectionOf(Zone zone, int index);
-  void SelectFieldCard(int& index);
-  void LayInColumn(int& index);
-  void MoveToField(int& index);
-  void MoveToTemp(int index);
-  void LayOn(Image& slot, std::string& code);
+  int Take(modTreyshift::Zone zone, int slot);
+  Image& CardOf(modTreyshift::Zone zone, int index);
+  Shape& SelectionOf(modTreyshift::Zone zone, int index);
+  void ShowOpenSlots(int column);
+  void ShowMove(modTreyshift::Zone source, modTreyshift::Zone zone, int slot);
   void ClearFieldSlot(int slot);
-  bool IsStuck() const;
+  void ShowNoCard(int slot);
   void EndStuckRound();
 
   void BeginRound();

@@ -75,6 +75,11 @@ constexpr Design kButtonDesign[] = {
 constexpr int kCardWidth = 1035, kCardHeight = 1455;
 constexpr int kDeckTop = 4680, kStorageTop = 240;
 
+void CenterWithin(Label& label, const Shape& box) {
+  CenterIn(label, box);
+  label.Top = box.Top + (box.Height - label.Height) / 2;
+}
+
 }  // namespace
 
 frmTreyshift::frmTreyshift(modCommon& common) : GameWindow(common, kPlan) {
@@ -183,10 +188,7 @@ void frmTreyshift::PlaceBoard() {
 }
 
 void frmTreyshift::CenterFigures() {
-  const auto center = [](Label& figure, const Shape& box) {
-    CenterIn(figure, box);
-    figure.Top = box.Top + (box.Height - figure.Height) / 2;
-  };
+  const auto center = [](Label& figure, const Shape& box) { CenterWithin(figure, box); };
   center(lblCurrentScore, ScoreRectangle);
   center(lblScoreTrips, TripsRectangle);
   center(lblScoreRuns, RunRectangle);
@@ -194,15 +196,9 @@ void frmTreyshift::CenterFigures() {
   CenterIn(lblRuns, RunRectangle);
 }
 
-void frmTreyshift::CenterScoringLabel() {
-  CenterIn(lblScoring, ScoringLabelOutline);
-  lblScoring.Top = ScoringLabelOutline.Top + (ScoringLabelOutline.Height - lblScoring.Height) / 2;
-}
+void frmTreyshift::CenterScoringLabel() { CenterWithin(lblScoring, ScoringLabelOutline); }
 
-void frmTreyshift::PlaceMessage() {
-  CenterIn(lblMessage, ScoringLabelOutline);
-  lblMessage.Top = ScoringLabelOutline.Top + (ScoringLabelOutline.Height - lblMessage.Height) / 2;
-}
+void frmTreyshift::PlaceMessage() { CenterWithin(lblMessage, ScoringLabelOutline); }
 
 // While an amount is counted, what it is for stands to its left.
 void frmTreyshift::PlaceScoring() {
@@ -216,17 +212,17 @@ void frmTreyshift::ShowCards(bool visible) {
   for (int i = 0; i < kTempSlots; ++i) TempCard(i).Visible = visible;
   for (int i = 0; i < kUpSlots; ++i) UpCard(i).Visible = visible;
   for (int i = 0; i < kFieldSlots; ++i)
-    if (i < kSecondRow || !FieldCards[i].empty()) PlayCard(i).Visible = visible;
+    if (i < kSecondRow || !board.FieldCards[i].empty()) PlayCard(i).Visible = visible;
   CardStackPicture.Visible = visible;
-  if (Selected) SelectionOf(SourceZone, SourceIndex).Visible = visible;
+  if (board.Selected()) SelectionOf(board.SourceZone, board.SourceIndex).Visible = visible;
 }
 
 void frmTreyshift::RefreshPlayCard() {
-  CardStackPicture.Picture = common.ImageList2(StackStage(DeckPosition));
+  CardStackPicture.Picture = common.ImageList2(StockKey(52 - board.DeckPosition, 33, 17));
 }
 
 void frmTreyshift::ShowCardCount() {
-  lblCardCount.Caption = "Cards remaining: " + std::to_string(CardsRemaining(DeckPosition));
+  lblCardCount.Caption = "Cards remaining: " + std::to_string(board.CardsRemaining());
 }
 
 void frmTreyshift::ShowScoringLabel(bool visible) {

@@ -37,9 +37,7 @@ void frmTreyshift::InitRound() {
   standing.Hold();
   platform.DoEvents();
   standing.InputLives();
-  FieldCards.fill("");
-  UpCards.fill("");
-  TempCards.fill("");
+  board.Clear();
   for (int i = 0; i < kFieldSlots; ++i) {
     PlayCard(i).Picture = 0;
     PlayCard(i).BorderStyle = 0;
@@ -56,12 +54,7 @@ void frmTreyshift::InitRound() {
     TempCardSelection(i).Visible = false;
   }
   UpCardSelection.Visible = false;
-  Selected = false;
-  SourceIndex = -1;
-  SourceZone = ZoneNone;
   common.ElapsedSeconds = 0;
-  TripCount = 0;
-  RunCount = 0;
   lblRound.Caption = "Round: " + std::to_string(CurrentRound);
   ShowCardCount();  // of the deck that was
   ShowScore();
@@ -83,13 +76,10 @@ void frmTreyshift::BeginRound() {
 }
 
 void frmTreyshift::Deal() {
-  for (int i = 0; i < kUpSlots; ++i) {
-    UpCards[i] = common.Deck.at(i + 1);
-    UpCard(i).Picture = common.ImageList2(CardKey(UpCards[i]));
-  }
+  board.Deal(common.Deck);
+  for (int i = 0; i < kUpSlots; ++i) UpCard(i).Picture = common.ImageList2(CardKey(board.UpCards[i]));
   for (int i = 0; i < kTempSlots; ++i) TempCard(i).Picture = common.ImageList2("EMPTY");
   for (int i = 0; i < kColumns; ++i) PlayCard(i).Picture = common.ImageList2("EMPTY");
-  DeckPosition = kDealt;
   RefreshPlayCard();
   ResetDial();
   Timer1.Enabled = true;
@@ -132,7 +122,7 @@ void frmTreyshift::EndRound() {
   lblScoring.ForeColor = kBlue;
   StopMusic();
   ShowControls(false, true);
-  if (ShowsEmpty(UpCard(kInPlay))) CompleteDeck();
+  if (board.DeckIsUsedUp()) CompleteDeck();
   ShowCards(false);
   lblMessage.Caption = "Speed Bonus!";
   PlaceMessage();
@@ -174,7 +164,7 @@ void frmTreyshift::CompleteDeck() {
   ShowInDeckPlace(2000);
   SetVisible({&lblScoring, &lblMessage}, false);
   const auto isFilled = [](const std::string& code) { return !code.empty(); };
-  if (std::ranges::any_of(FieldCards, isFilled) || std::ranges::any_of(TempCards, isFilled))
+  if (std::ranges::any_of(board.FieldCards, isFilled) || std::ranges::any_of(board.TempCards, isFilled))
     RemoveLeftOvers();
 }
 
@@ -197,7 +187,7 @@ void frmTreyshift::RemoveLeftOvers() {
   lblFlush.FontSize = 10;
   lblFlush.Top = PlayCardSelection(0).Top - 250;
   for (int i = kFieldSlots - 1; i >= 0; --i) {
-    if (FieldCards[i].empty()) continue;
+    if (board.FieldCards[i].empty()) continue;
     RemoveCard(PlayCard(i), PlayCardSelection(i));
     if (i < kSecondRow)
       ShowEmpty(PlayCard(i));
@@ -206,7 +196,7 @@ void frmTreyshift::RemoveLeftOvers() {
   }
   lblFlush.Top = TempCardSelection(0).Top - 250;
   for (int i = kTempSlots - 1; i >= 0; --i) {
-    if (TempCards[i].empty()) continue;
+    if (board.TempCards[i].empty()) continue;
     RemoveCard(TempCard(i), TempCardSelection(i));
     ShowEmpty(TempCard(i));
   }
