@@ -310,7 +310,7 @@ TEST_F(Blackrush, WhatValuesFromTheFilePay) {
     int score;
   } values[] = {
       {"[Count Down Score]", "False", "500, 750, 500, \"Prepare for Round 2\", 2000", 1200},
-      {"[TwentyOne Bonus Value]", "0", "Count x2, 750, 500, \"Prepare for Round 2\", 2000", 200},
+      {"[TwentyOne Bonus Value]", "0", "Count x2, 750, \"Prepare for Round 2\", 2000", 200},
       {"[TwentyOne Bonus Value]", "-50", "Count x2, 750, 500, \"Prepare for Round 2\", 2000", 150},
       {"[Cards Used Bonus Value]", "-7", "Count x2, 750, Count x1, \"Prepare for Round 2\", 2000", 986},
       {"[Wait Period]", "-9", "Count x2, 750, Count x1, \"Prepare for Round 2\", 0", 1200},

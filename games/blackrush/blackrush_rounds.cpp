@@ -70,6 +70,7 @@ void frmBlackrush::CountTwentyOnes() {
   lblRoundScoreCount.Caption = std::to_string(pay);
   SetVisible({&lblRoundScore, &lblRoundScoreCount}, true);
   platform.Sleep(750);
+  if (common.CountDownScore && pay == 0) return;
   if (common.CountDownScore && TwentyOneBonusValue > 0) {  // other steps would never end
     long long left = pay;
     CountInSteps(pay, TwentyOneBonusValue, [&](long long step) {
