@@ -240,7 +240,12 @@ TEST_F(Blackrush, AGameGoesThroughToTheTable) {
   driver.Do(kPlayBlackrush);
   Game().CurrentRound = 3;
   common().CurrentScore = 250000;
-  EXPECT_TRUE(Tell(kTake + kEnterName).ends_with("\"Game Over\", 2000"));
+  const std::string over = driver.Trace(kTake + kEnterName);
+  EXPECT_TRUE(Story(over).ends_with("\"Game Over\", 2000"));
+  // The round that never comes stands under the announcement.
+  EXPECT_EQ(Joined(LinesOf(over, "* set frmBlackrush.lblRound.Caption ")), "\"Round: 4\"|\"Game Over\"");
+  EXPECT_LT(over.find("Round: 4"), over.find("* show frmHiScoreName"));
+  EXPECT_LT(over.find("* sleep 2000"), over.find("lblRound.Caption \"Game Over\""));
 }
 
 TEST_F(Blackrush, TimeRunsOut) {
