@@ -390,15 +390,15 @@ TEST_F(Look, GamesStandAtEverySize) {
         spirehold->board.HighestRun = 1;
       }
       if (auto* blackrush = dynamic_cast<frmBlackrush*>(&game)) {
-        blackrush->TwentyOnes = 26;
-        blackrush->Bonus = 130000;
+        blackrush->board.twentyOnes = 26;
+        blackrush->board.bonus = 130000;
         blackrush->ColumnSoft(1).Caption = "Soft";
         blackrush->ColumnSoft(1).Visible = true;
         blackrush->lblBust.Visible = true;
         Check(game);
         blackrush->lblBust.Visible = false;
         for (int card = 0; card < kCardsOfColumn; ++card) {  // a Five Card Gimme
-          suite.common.Deck[blackrush->DeckPosition] = "2S";
+          blackrush->board.deck[blackrush->board.position] = "2S";
           player::Click(blackrush->cmdHit(0));
         }
       }
@@ -409,7 +409,7 @@ TEST_F(Look, GamesStandAtEverySize) {
         fivestack->ColumnSoft(4).Visible = true;
         suite.common.TimeBonus = 10000;
         suite.common.CountDownScore = false;
-        fivestack->CardTotal = modFivestack::kPerfect;
+        fivestack->board.cardTotal = modFivestack::kPerfect;
         fivestack->UpdateCardTotalValue();
         Check(game);
       }
