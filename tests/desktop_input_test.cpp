@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <QBuffer>
+#include <QImage>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMouseEvent>
@@ -492,4 +494,41 @@ TEST(OwnFiles, AreRefusedWhereTheyMightDoHarm) {
       EXPECT_EQ(testing::internal::GetCapturedStderr(),
                 "cardhaven: " + (own.Path() / name).string() + " isn't used: " + each.why + "\n");
     }
+}
+
+TEST(OwnFiles, HoldPixelsOnlyAndNotTooManyOfThem) {
+  OpenScreen();
+  const auto image = [](int width, int height, const char* format) {
+    QImage drawn(width, height, QImage::Format_Grayscale8);
+    drawn.fill(200);
+    QBuffer bytes;
+    drawn.save(&bytes, format);
+    return bytes.data();
+  };
+  const auto data = [](const QByteArray& bytes) { return "data:image/png;base64," + bytes.toBase64(); };
+  const QByteArray inner = "<svg xmlns='http://www.w3.org/2000/svg'><image href='/etc/hostname'/></svg>";
+  const QByteArray small = data(image(60, 90, "PNG")), large = data(image(1500, 1500, "PNG"));
+  QByteArray folded = small;
+  folded.insert(60, "\n  ");
+  const std::tuple<const char*, QByteArray, QByteArray> cases[] = {
+      {"", small, small},
+      {"", folded, data(image(60, 90, "JPG"))},
+      {"", large, "#a"},
+      {"it holds what is no PNG or JPEG", small, data(inner)},
+      {"it holds what is no PNG or JPEG", data(qCompress(inner).mid(4)), small},
+      {"it holds what is no PNG or JPEG", "data:image/svg+xml;utf8,&lt;svg/>", small},
+      {"it holds what is no PNG or JPEG", data(image(60, 90, "PNG").left(12)), small},
+      {"it holds what is no PNG or JPEG", data(image(60, 90, "BMP")), small},
+      {"it holds what is no PNG or JPEG", small + "/../picture.png", small},
+      {"it holds too large a picture", large, large},
+      {"it holds too large a picture", data(image(2100, 2100, "JPG")), small},
+      {"it refers to another file", small, "picture.png"},
+  };
+  for (const auto& [why, first, second] : cases) {
+    const auto draw = [&](const QByteArray& text) { return WhyNotDraw(std::string_view(text)); };
+    EXPECT_EQ(draw("<svg><image href='" + first + "'/><image href='" + second + "'/></svg>"), why)
+        << first.left(80).constData();
+    EXPECT_EQ(draw("<svg><rect fill='url(" + first + ")'/><g style='a:url(\"" + second + "\")'/></svg>"),
+              why);
+  }
 }

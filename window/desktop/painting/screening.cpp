@@ -1,5 +1,7 @@
 #include "window/desktop/painting/screening.h"
 
+#include <QBuffer>
+#include <QImageReader>
 #include <QXmlStreamReader>
 #include <map>
 #include <string>
@@ -9,22 +11,48 @@ namespace {
 
 constexpr long long kMostElements = 50'000;  // with all repetitions
 
+constexpr long long kMostPixels = 4'000'000;  // of all pictures within it
+
+// Why a picture written into the reference isn't drawn: what its bytes are counts, not what it is called, and
+// its size is known before it is unpacked.
+std::string WhyNotUnpack(QStringView data, long long& pixels) {
+  constexpr QStringView kMark = u"base64,";
+  const qsizetype mark = data.lastIndexOf(kMark);
+  const QByteArray written = data.mid(mark + kMark.size()).toLatin1().simplified().replace(' ', "");
+  const auto unpacked = QByteArray::fromBase64Encoding(written, QByteArray::AbortOnBase64DecodingErrors);
+  if (mark < 0 || !unpacked) return "it holds what is no PNG or JPEG";
+  QByteArray bytes = *unpacked;
+  const char* const format = bytes.startsWith("\x89PNG\r\n\x1a\n") ? "png"
+                             : bytes.startsWith("\xff\xd8\xff")    ? "jpeg"
+                                                                   : nullptr;
+  if (!format) return "it holds what is no PNG or JPEG";
+  QBuffer buffer(&bytes);
+  const QSize size = QImageReader(&buffer, format).size();
+  if (size.isEmpty()) return "it holds what is no PNG or JPEG";
+  pixels += static_cast<long long>(size.width()) * size.height();
+  return pixels > kMostPixels ? "it holds too large a picture" : "";
+}
+
 // "#..." and "data:" stay within the file.
-bool StaysWithin(QStringView reference) {
+std::string WhyNotFollow(QStringView reference, long long& pixels) {
   reference = reference.trimmed();
-  return reference.startsWith(u'#') || reference.startsWith(u"data:", Qt::CaseInsensitive);
+  if (reference.startsWith(u'#')) return "";
+  if (reference.startsWith(u"data:", Qt::CaseInsensitive)) return WhyNotUnpack(reference, pixels);
+  return "it refers to another file";
 }
 
 // Every url(...) of a style or an attribute.
-bool UrlsStayWithin(QStringView value) {
+std::string WhyNotFollowUrls(QStringView value, long long& pixels) {
   qsizetype at = 0;
   while ((at = value.indexOf(u"url(", at, Qt::CaseInsensitive)) >= 0) {
     at += 4;
-    QStringView inside = value.mid(at).trimmed();
+    const qsizetype end = value.indexOf(u')', at);
+    QStringView inside = value.mid(at, end < 0 ? -1 : end - at).trimmed();
     if (inside.startsWith(u'"') || inside.startsWith(u'\'')) inside = inside.mid(1);
-    if (!StaysWithin(inside)) return false;
+    if (inside.endsWith(u'"') || inside.endsWith(u'\'')) inside.chop(1);
+    if (std::string why = WhyNotFollow(inside, pixels); !why.empty()) return why;
   }
-  return !value.contains(u"@import", Qt::CaseInsensitive);
+  return value.contains(u"@import", Qt::CaseInsensitive) ? "it refers to another file" : "";
 }
 
 struct Part {
@@ -54,6 +82,7 @@ std::string WhyNotDraw(std::string_view svg) {
   std::map<std::string, Part> parts;
   std::vector<std::string> open;  // the named elements around; "" is the whole picture
   std::vector<bool> named;
+  long long pixels = 0;
   open.emplace_back();
   parts[""];
   while (!reader.atEnd()) {
@@ -74,8 +103,9 @@ std::string WhyNotDraw(std::string_view svg) {
         if (named.size() > kDeepest) return "it is nested too deeply";
         for (const auto& attribute : attributes) {
           const bool refers = attribute.name() == u"href" || attribute.name() == u"src";
-          if ((refers && !StaysWithin(attribute.value())) || !UrlsStayWithin(attribute.value()))
-            return "it refers to another file";
+          std::string why = refers ? WhyNotFollow(attribute.value(), pixels) : "";
+          if (why.empty()) why = WhyNotFollowUrls(attribute.value(), pixels);
+          if (!why.empty()) return why;
           if (refers && attribute.value().trimmed().startsWith(u'#')) {
             const std::string target = attribute.value().trimmed().mid(1).toString().toStdString();
             for (const std::string& around : open) parts[around].repeats.push_back(target);
@@ -88,7 +118,7 @@ std::string WhyNotDraw(std::string_view svg) {
         named.pop_back();
         break;
       case QXmlStreamReader::Characters:
-        if (!UrlsStayWithin(reader.text())) return "it refers to another file";
+        if (std::string why = WhyNotFollowUrls(reader.text(), pixels); !why.empty()) return why;
         break;
       case QXmlStreamReader::ProcessingInstruction:
         if (reader.processingInstructionTarget() == u"xml-stylesheet") return "it refers to another file";

@@ -15,41 +15,41 @@
 
 namespace fs = std::filesystem;
 
-/// A wave as it is to be heard.
+// A wave as it is to be heard.
 struct AskedWave {
   fs::path path;
   int cents, level;
 };
 
-/// What the caller wants and how far the two threads have come. All of it is guarded by `mutex`.
+// What the caller wants and how far the two threads have come. All of it is guarded by `mutex`.
 struct SoundState {
   std::mutex mutex;
   std::condition_variable changed;
-  fs::path module_file;
+  fs::path moduleFile;
   bool started = false;
   bool quit = false;
 
   std::vector<AskedWave> waves;  // asked for and not yet tried, the newest last
-  int wave_volume = 100, music_volume = 100;
-  bool volumes_changed = false;
+  int waveVolume = 100, musicVolume = 100;
+  bool volumesChanged = false;
 
   // The newest wish for the tune: each open or close is a new edition, which nobody has asked to play yet.
   fs::path music;
-  std::uint64_t music_edition = 0;
-  bool play_music = false;
+  std::uint64_t musicEdition = 0;
+  bool playMusic = false;
 
   const CardHavenSoundModule* module = nullptr;  // set while the device is open
-  bool device_settled = false;                   // opened, or known to be out of reach
-  bool music_done = false;                       // the tune's thread has ended
-  bool wave_done = false;                        // the device's thread has ended
-  std::thread wave_thread;
-  std::thread music_thread;
+  bool deviceSettled = false;                    // opened, or known to be out of reach
+  bool musicDone = false;                        // the tune's thread has ended
+  bool waveDone = false;                         // the device's thread has ended
+  std::thread waveThread;
+  std::thread musicThread;
 };
 
 namespace {
 
 constexpr char kModuleName[] = "cardhaven-sound.so";
-constexpr std::size_t kMostWaitingWaves = 16;
+constexpr size_t kMostWaitingWaves = 16;
 constexpr std::chrono::milliseconds kFarewell(150);
 
 const CardHavenSoundModule* LoadModule(const fs::path& given) {
@@ -69,29 +69,29 @@ const CardHavenSoundModule* LoadModule(const fs::path& given) {
   for (const fs::path& place : places) {
     // Never unloaded: the sound libraries leave threads and exit handlers behind.
     void* library = dlopen(place.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (library == nullptr) continue;
+    if (!library) continue;
     const auto entry = reinterpret_cast<decltype(&CardHavenSound)>(dlsym(library, "CardHavenSound"));
-    if (entry != nullptr) return entry();
+    if (entry) return entry();
   }
   return nullptr;
 }
 
-/// The device's thread: opens it, plays the waves, closes it when the tune's thread has let go.
+// The device's thread: opens it, plays the waves, closes it when the tune's thread has let go.
 void RunWaves(const std::shared_ptr<SoundState>& state) {
   std::unique_lock lock(state->mutex);
-  const fs::path file = state->module_file;
+  const fs::path file = state->moduleFile;
   lock.unlock();
   const CardHavenSoundModule* module = LoadModule(file);
-  if (module != nullptr && !module->open()) module = nullptr;
+  if (module && !module->open()) module = nullptr;
   lock.lock();
   state->module = module;
-  state->device_settled = true;
+  state->deviceSettled = true;
   state->changed.notify_all();
-  while (module != nullptr && !state->quit) {
-    if (std::exchange(state->volumes_changed, false)) {
-      const int waves = state->wave_volume, music = state->music_volume;
+  while (module && !state->quit) {
+    if (std::exchange(state->volumesChanged, false)) {
+      const int waves = state->waveVolume, music = state->musicVolume;
       lock.unlock();
-      module->set_volumes(waves, music);
+      module->setVolumes(waves, music);
       lock.lock();
       continue;
     }
@@ -103,55 +103,55 @@ void RunWaves(const std::shared_ptr<SoundState>& state) {
     lock.unlock();
     // Only the last one would be heard; those before it matter when it can't be played.
     for (auto wave = waves.rbegin(); wave != waves.rend(); ++wave)
-      if (module->play_wave(wave->path.c_str(), wave->cents, wave->level)) break;
+      if (module->playWave(wave->path.c_str(), wave->cents, wave->level)) break;
     lock.lock();
   }
-  state->changed.wait(lock, [&] { return state->music_done; });
+  state->changed.wait(lock, [&] { return state->musicDone; });
   lock.unlock();
-  if (module != nullptr) module->close();
+  if (module) module->close();
   lock.lock();
-  state->wave_done = true;
+  state->waveDone = true;
   state->changed.notify_all();
 }
 
-/// The tune's thread: a soundfont takes long to read, and the waves must not wait for it.
+// The tune's thread: a soundfont takes long to read, and the waves must not wait for it.
 void RunMusic(const std::shared_ptr<SoundState>& state) {
   std::unique_lock lock(state->mutex);
-  state->changed.wait(lock, [&] { return state->device_settled; });
+  state->changed.wait(lock, [&] { return state->deviceSettled; });
   const CardHavenSoundModule* module = state->module;
   void* music = nullptr;
   std::uint64_t edition = 0;
-  while (module != nullptr && !state->quit) {
-    if (edition != state->music_edition) {
-      edition = state->music_edition;
+  while (module && !state->quit) {
+    if (edition != state->musicEdition) {
+      edition = state->musicEdition;
       const fs::path path = state->music;
       lock.unlock();
-      if (music != nullptr) module->free_music(std::exchange(music, nullptr));
+      if (music) module->freeMusic(std::exchange(music, nullptr));
       if (!path.empty()) {
         const fs::path soundfont = FindSoundfont();
-        if (!soundfont.empty()) music = module->load_music(path.c_str(), soundfont.c_str());
+        if (!soundfont.empty()) music = module->loadMusic(path.c_str(), soundfont.c_str());
       }
       lock.lock();
-    } else if (std::exchange(state->play_music, false)) {
-      if (music == nullptr) continue;
+    } else if (std::exchange(state->playMusic, false)) {
+      if (!music) continue;
       lock.unlock();
-      module->play_music(music);
+      module->playMusic(music);
       lock.lock();
     } else {
       state->changed.wait(lock);
     }
   }
   lock.unlock();
-  if (music != nullptr) module->free_music(music);
+  if (music) module->freeMusic(music);
   lock.lock();
-  state->music_done = true;
+  state->musicDone = true;
   state->changed.notify_all();
 }
 
 }  // namespace
 
 SoundPlayer::SoundPlayer(fs::path module) : state_(std::make_shared<SoundState>()) {
-  state_->module_file = std::move(module);
+  state_->moduleFile = std::move(module);
 }
 
 SoundPlayer::~SoundPlayer() {
@@ -159,11 +159,11 @@ SoundPlayer::~SoundPlayer() {
   if (!state_->started) return;
   state_->quit = true;
   state_->changed.notify_all();
-  const bool done = state_->changed.wait_for(lock, kFarewell, [&] { return state_->wave_done; });
-  std::thread wave_thread = std::move(state_->wave_thread);
-  std::thread music_thread = std::move(state_->music_thread);
+  const bool done = state_->changed.wait_for(lock, kFarewell, [&] { return state_->waveDone; });
+  std::thread waveThread = std::move(state_->waveThread);
+  std::thread musicThread = std::move(state_->musicThread);
   lock.unlock();
-  for (std::thread* thread : {&wave_thread, &music_thread}) {
+  for (std::thread* thread : {&waveThread, &musicThread}) {
     if (!thread->joinable()) continue;
     if (done) {
       thread->join();
@@ -179,19 +179,19 @@ void SoundPlayer::Start() {
   state_->started = true;
   try {
     // The tune's thread first: the device's thread waits for its end.
-    state_->music_thread = std::thread(RunMusic, state_);
-    state_->wave_thread = std::thread(RunWaves, state_);
+    state_->musicThread = std::thread(RunMusic, state_);
+    state_->waveThread = std::thread(RunWaves, state_);
   } catch (const std::system_error&) {
     // No threads, no sound.
-    state_->device_settled = true;
-    state_->wave_done = true;
+    state_->deviceSettled = true;
+    state_->waveDone = true;
     state_->changed.notify_all();
   }
 }
 
 void SoundPlayer::PlayWave(const fs::path& path, int cents, int level) {
   const std::lock_guard lock(state_->mutex);
-  if (state_->device_settled && state_->module == nullptr) return;
+  if (state_->deviceSettled && state_->module == nullptr) return;
   if (!state_->started) state_->waves.clear();
   if (state_->waves.size() == kMostWaitingWaves) state_->waves.erase(state_->waves.begin());
   state_->waves.push_back({path, cents, level});
@@ -200,25 +200,25 @@ void SoundPlayer::PlayWave(const fs::path& path, int cents, int level) {
 
 void SoundPlayer::SetVolumes(int waves, int music) {
   const std::lock_guard lock(state_->mutex);
-  if (state_->wave_volume == waves && state_->music_volume == music) return;
-  state_->wave_volume = waves;
-  state_->music_volume = music;
-  state_->volumes_changed = true;
+  if (state_->waveVolume == waves && state_->musicVolume == music) return;
+  state_->waveVolume = waves;
+  state_->musicVolume = music;
+  state_->volumesChanged = true;
   state_->changed.notify_all();
 }
 
 void SoundPlayer::OpenMusic(const fs::path& path) {
   const std::lock_guard lock(state_->mutex);
   state_->music = path;
-  ++state_->music_edition;
-  state_->play_music = false;
+  ++state_->musicEdition;
+  state_->playMusic = false;
   state_->changed.notify_all();
 }
 
 void SoundPlayer::PlayMusic() {
   const std::lock_guard lock(state_->mutex);
   if (state_->music.empty()) return;
-  state_->play_music = true;
+  state_->playMusic = true;
   state_->changed.notify_all();
 }
 

@@ -21,25 +21,25 @@ constexpr int kRate = 44100;
 constexpr int kBufferFrames = 512;
 constexpr int kWaveVolume = 104;
 constexpr int kMusicVolume = 56;  // of 128: the waves stay in front
-constexpr std::size_t kMostChunks = 32;
+constexpr size_t kMostChunks = 32;
 constexpr int kCutFrames = 176;  // 4 ms, so that a wave cut in the middle doesn't crack
 
-/// Waves take turns on two channels: while one begins, the other dies away.
+// Waves take turns on two channels: while one begins, the other dies away.
 struct Voice {
   std::atomic<bool> cut = false;
-  int frames_left = 0;
+  int framesLeft = 0;
   std::vector<std::int16_t> varied;  // what it plays where that isn't the wave as it is
   Mix_Chunk chunk = {};              // around `varied`
 };
 Voice voices[2];
-int last_voice = 0;
+int lastVoice = 0;
 
 struct CachedChunk {
   std::string path;
   Mix_Chunk* chunk;
 };
 
-/// The one used last in front. Never destroyed: a device that hung may come back while the program ends.
+// The one used last in front. Never destroyed: a device that hung may come back while the program ends.
 std::list<CachedChunk>& Chunks() {
   static auto* const chunks = new std::list<CachedChunk>;
   return *chunks;
@@ -51,10 +51,10 @@ void HushFluid(int, const char*, void*) {}
 
 void* LibraryFunction(const char* library, const char* function) {
   void* handle = dlopen(library, RTLD_LAZY | RTLD_NOLOAD);
-  return handle == nullptr ? nullptr : dlsym(handle, function);
+  return !handle ? nullptr : dlsym(handle, function);
 }
 
-/// Two libraries below report a missing device or a bad file on the terminal by themselves.
+// Two libraries below report a missing device or a bad file on the terminal by themselves.
 void HushLibraries() {
   SDL_LogSetOutputFunction(Hush, nullptr);
   using AlsaHandler = void (*)(const char*, int, const char*, int, const char*, ...);
@@ -68,7 +68,7 @@ void HushLibraries() {
   }
 }
 
-/// Runs in the device's thread over what a channel is about to play.
+// Runs in the device's thread over what a channel is about to play.
 void FadeWhenCut(int, void* stream, int length, void* user) {
   Voice& voice = *static_cast<Voice*>(user);
   if (!voice.cut) return;
@@ -77,12 +77,12 @@ void FadeWhenCut(int, void* stream, int length, void* user) {
   for (int i = 0; i < frames; ++i) {
     for (int side = 0; side < 2; ++side)
       samples[2 * i + side] =
-          static_cast<std::int16_t>(samples[2 * i + side] * voice.frames_left / kCutFrames);
-    voice.frames_left = std::max(0, voice.frames_left - 1);
+          static_cast<std::int16_t>(samples[2 * i + side] * voice.framesLeft / kCutFrames);
+    voice.framesLeft = std::max(0, voice.framesLeft - 1);
   }
 }
 
-/// Gives back what the library keeps for the program and for the calling thread.
+// Gives back what the library keeps for the program and for the calling thread.
 void Quit() {
   SDL_Quit();
   SDL_TLSCleanup();
@@ -119,7 +119,7 @@ void Close() {
   Quit();
 }
 
-/// The decoded wave; null when the file is missing or rubbish, which is asked again the next time.
+// The decoded wave; null when the file is missing or rubbish, which is asked again the next time.
 Mix_Chunk* Chunk(const std::string& path) {
   std::list<CachedChunk>& chunks = Chunks();
   const auto found = std::find_if(chunks.begin(), chunks.end(),
@@ -129,7 +129,7 @@ Mix_Chunk* Chunk(const std::string& path) {
     return chunks.front().chunk;
   }
   Mix_Chunk* chunk = Mix_LoadWAV(path.c_str());
-  if (chunk == nullptr) return nullptr;
+  if (!chunk) return nullptr;
   if (chunk->alen == 0) {
     Mix_FreeChunk(chunk);
     return nullptr;
@@ -142,17 +142,17 @@ Mix_Chunk* Chunk(const std::string& path) {
   return chunk;
 }
 
-/// The wave at another pitch and level, in the voice's own memory. The voice must be silent.
+// The wave at another pitch and level, in the voice's own memory. The voice must be silent.
 Mix_Chunk* Vary(Voice& voice, const Mix_Chunk& wave, int cents, int level) {
   const auto* from = reinterpret_cast<const std::int16_t*>(wave.abuf);
-  const std::size_t frames = wave.alen / 4;
+  const size_t frames = wave.alen / 4;
   const double step = std::pow(2, cents / 1200.0);
-  const auto made = static_cast<std::size_t>(static_cast<double>(frames - 1) / step) + 1;
+  const auto made = static_cast<size_t>(static_cast<double>(frames - 1) / step) + 1;
   voice.varied.resize(2 * made);
-  for (std::size_t i = 0; i < made; ++i) {
+  for (size_t i = 0; i < made; ++i) {
     const double place = static_cast<double>(i) * step;
-    const auto left = std::min(static_cast<std::size_t>(place), frames - 1);
-    const std::size_t right = std::min(left + 1, frames - 1);
+    const auto left = std::min(static_cast<size_t>(place), frames - 1);
+    const size_t right = std::min(left + 1, frames - 1);
     const double share = place - static_cast<double>(left);
     for (int side = 0; side < 2; ++side) {
       const double sample = from[2 * left + side] * (1 - share) + from[2 * right + side] * share;
@@ -167,19 +167,19 @@ Mix_Chunk* Vary(Voice& voice, const Mix_Chunk& wave, int cents, int level) {
 
 bool PlayWave(const char* path, int cents, int level) {
   Mix_Chunk* chunk = Chunk(path);
-  if (chunk == nullptr) return false;
-  const int channel = 1 - last_voice;
-  Voice& old = voices[last_voice];
+  if (!chunk) return false;
+  const int channel = 1 - lastVoice;
+  Voice& old = voices[lastVoice];
   Voice& next = voices[channel];
   // Halting takes the channel's effect away, so that the next wave's fade can be set up unseen.
   Mix_HaltChannel(channel);
   next.cut = false;
-  next.frames_left = kCutFrames;
+  next.framesLeft = kCutFrames;
   if ((cents != 0 || level != 100) && chunk->alen >= 4) chunk = Vary(next, *chunk, cents, level);
   Mix_RegisterEffect(channel, FadeWhenCut, nullptr, &next);
   Mix_PlayChannel(channel, chunk, 0);
   old.cut = true;
-  last_voice = channel;
+  lastVoice = channel;
   return true;
 }
 
@@ -190,7 +190,7 @@ void SetVolumes(int waves, int music) {
 
 bool BeginsLikeMidi(const char* path) {
   SDL_RWops* file = SDL_RWFromFile(path, "rb");
-  if (file == nullptr) return false;
+  if (!file) return false;
   char mark[4] = {};
   const bool read = SDL_RWread(file, mark, 1, 4) == 4;
   SDL_RWclose(file);

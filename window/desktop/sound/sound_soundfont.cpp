@@ -23,16 +23,16 @@ fs::path FindSoundfont() {
     return fs::is_regular_file(first, error) ? first : fs::path();
   }
   fs::path best;
-  std::uintmax_t best_weight = 0;
+  std::uintmax_t bestWeight = 0;
   for (const fs::path place : kPlaces) {
     std::error_code error;
     std::uintmax_t weight = fs::file_size(place, error);
     if (error || weight == 0) continue;
     // A compressed one is several times its size once it is unpacked in memory.
     if (place.extension() == ".sf3") weight *= 6;
-    if (!best.empty() && weight >= best_weight) continue;
+    if (!best.empty() && weight >= bestWeight) continue;
     best = place;
-    best_weight = weight;
+    bestWeight = weight;
   }
   return best;
 }
