@@ -14,6 +14,7 @@ void Board::Clear() {
 void Board::Deal(const CardCodes& cards) {
   Clear();
   deck = cards;
+  paid.reserve(deck.size());
   std::copy_n(deck.begin() + 1, kUpSlots, UpCards.begin());
   std::fill_n(open.begin(), kColumns, true);
   DeckPosition = kDealt;

@@ -71,8 +71,8 @@ Shape& frmTreyshift::SelectionOf(Zone zone, int index) {
 }
 
 void frmTreyshift::ShowOpenSlots(int column) {
-  for (int slot = column + kThirdRow; slot >= kSecondRow; slot -= kColumns)
-    PlayCard(slot).Visible = board.open[slot];
+  PlayCard(column + kThirdRow).Visible = board.open[column + kThirdRow];
+  PlayCard(column + kSecondRow).Visible = board.open[column + kSecondRow];
 }
 
 // --- Moves ---------------------------------------------------------------------------------------
