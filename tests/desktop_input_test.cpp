@@ -21,6 +21,7 @@
 #include "window/desktop/painting/pictures.h"
 #include "window/desktop/painting/screening.h"
 #include "window/desktop/sound/media.h"
+#include "window/desktop/sound/wave.h"
 
 #ifdef __SANITIZE_ADDRESS__
 // The font library keeps a block of its own till the end, which is no leak of ours.
@@ -436,6 +437,40 @@ TEST_F(Playing, TheCloseBoxWhileTheRoundIsCountedAsksOnce) {
   }
 }
 
+// A wave of so many bytes of samples; `kind` 1 are plain ones.
+std::string Wave(int kind, int channels, int rate, int bits, size_t bytes) {
+  const auto number = [](unsigned value, int size) {
+    std::string text;
+    for (int i = 0; i < size; ++i) text += static_cast<char>(value >> 8 * i);
+    return text;
+  };
+  const int frame = channels * bits / 8;
+  return "RIFF" + number(36 + bytes, 4) + "WAVEfmt " + number(16, 4) + number(kind, 2) + number(channels, 2) +
+         number(rate, 4) + number(rate * frame, 4) + number(frame, 2) + number(bits, 2) + "data" +
+         number(bytes, 4) + std::string(bytes, 'x');
+}
+
+TEST(OwnFiles, AreNoWavesThatGrowWhenTheyArePlayed) {
+  TestFolder own;
+  const std::pair<const char*, std::string> cases[] = {
+      {"", Wave(1, 1, 22050, 8, 100'000)},
+      {"", Wave(1, 2, 44100, 16, 1'000'000)},
+      {"", Wave(3, 2, 48000, 32, 1000)},
+      {"it is no wave", Wave(1, 1, 1, 8, 100'000)},
+      {"it is no wave", Wave(1, 1, 500'000, 8, 1000)},
+      {"it is no wave", Wave(1, 200, 22050, 8, 1000)},
+      {"it is no wave", Wave(2, 1, 22050, 8, 1000)},
+      {"it is no wave", "OggS" + std::string(1000, 'x')},
+      {"it is no wave", Wave(1, 1, 22050, 8, 0).insert(12, Wave(1, 1, 22050, 8, 0).substr(12, 24))},
+      {"it is no wave", ""},
+      {"it is too large", Wave(1, 1, 4000, 8, 400'000)},
+  };
+  for (const auto& [why, text] : cases) {
+    own.Write("Chord.wav", text);
+    EXPECT_EQ(WhyNotPlay(own.Path() / "Chord.wav"), why) << text.substr(20, 16);
+  }
+}
+
 TEST(OwnFiles, GoBeforeTheSuites) {
   OpenScreen();
   TestFolder own, installed;
@@ -451,10 +486,10 @@ TEST(OwnFiles, GoBeforeTheSuites) {
   EXPECT_EQ(pictures.Get(1, false, 1).toImage().pixelColor(5, 5), QColor(Qt::red));
   EXPECT_EQ(pictures.Get(2, false, 1).toImage().pixelColor(5, 5), QColor(Qt::blue));
 
-  own.Write("Chord.wav", "mine");
+  own.Write("Chord.wav", Wave(1, 2, 44100, 16, 100));
   const Media media(own.Path(), installed.Path());
   const auto largest = [&](const char* name, std::uintmax_t size) {
-    own.Write(name, "mine");
+    own.Write(name, Wave(1, 2, 44100, 16, 100));
     std::filesystem::resize_file(own.Path() / name, size);
   };
   largest("Large.wav", kLargestWave);

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "window/desktop/sound/sound.h"
+#include "window/desktop/sound/wave.h"
 #include "window/foreign_files.h"
 
 namespace fs = std::filesystem;
@@ -20,8 +21,9 @@ fs::path Media::Find(const std::string& name, const char* folder) const {
   std::error_code error;
   const fs::path mine = own_ / file;
   if (fs::exists(mine, error)) {
-    const std::string why =
-        WhyNotUse(mine, std::string_view(folder) == "music" ? kLargestTune : kLargestWave);
+    const bool wave = std::string_view(folder) != "music";
+    std::string why = WhyNotUse(mine, wave ? kLargestWave : kLargestTune);
+    if (wave && why.empty()) why = WhyNotPlay(mine);
     if (why.empty()) return mine;
     TellRefused(mine, why);
   }

@@ -8,7 +8,7 @@
 
 class SoundPlayer;
 
-inline constexpr std::uintmax_t kLargestWave = 16 << 20, kLargestTune = 1 << 20;
+inline constexpr std::uintmax_t kLargestTune = 1 << 20;
 
 // How a wave sounds at that step of a count.
 struct Touch {

@@ -21,7 +21,7 @@ constexpr int kRate = 44100;
 constexpr int kBufferFrames = 512;
 constexpr int kWaveVolume = 104;
 constexpr int kMusicVolume = 56;  // of 128: the waves stay in front
-constexpr size_t kMostChunks = 32;
+constexpr size_t kMostChunks = 32, kMostBytes = 64 << 20;
 constexpr int kCutFrames = 176;  // 4 ms, so that a wave cut in the middle doesn't crack
 
 // Waves take turns on two channels: while one begins, the other dies away.
@@ -135,7 +135,10 @@ Mix_Chunk* Chunk(const std::string& path) {
     return nullptr;
   }
   chunks.push_front({path, chunk});
-  if (chunks.size() > kMostChunks) {
+  size_t bytes = 0;
+  for (const CachedChunk& cached : chunks) bytes += cached.chunk->alen;
+  while (chunks.size() > kMostChunks || (chunks.size() > 1 && bytes > kMostBytes)) {
+    bytes -= chunks.back().chunk->alen;
     Mix_FreeChunk(chunks.back().chunk);
     chunks.pop_back();
   }
