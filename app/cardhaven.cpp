@@ -6,7 +6,6 @@
 
 #include "app/options.h"
 #include "games/games.h"
-#include "games/guides.h"
 #include "suite/catalogue.h"
 #include "suite/suite.h"
 #include "window/desktop/program.h"

@@ -39,24 +39,19 @@ int modCommon::RandomInteger(int lower, int upper) {
   return static_cast<int>(std::floor((upper - lower + 1) * platform.random.Next() + lower));
 }
 
+bool modCommon::Try(const std::function<void()>& deed, const std::string& failure, Icon icon) {
+  if (!FailureOf(deed)) return true;
+  MsgBox(failure, icon);
+  return false;
+}
+
 bool modCommon::CreateStandardDeck() {
-  try {
-    Deck = StandardDeck();
-    return true;
-  } catch (const RuntimeError&) {
-    MsgBox("Unable to create the deck.");
-    return false;
-  }
+  return Try([this] { Deck = StandardDeck(); }, "Unable to create the deck.");
 }
 
 bool modCommon::ShuffleDeck() {
-  try {
-    Shuffle(Deck, [this](int lower, int upper) { return RandomInteger(lower, upper); });
-    return true;
-  } catch (const RuntimeError&) {
-    MsgBox("Unable to shuffle the deck.", Icon::Critical);
-    return false;
-  }
+  const auto draw = [this](int lower, int upper) { return RandomInteger(lower, upper); };
+  return Try([&] { Shuffle(Deck, draw); }, "Unable to shuffle the deck.", Icon::Critical);
 }
 
 void modCommon::PlayWaveFile(const std::string& path) { platform.sndPlaySound(path); }

@@ -60,6 +60,9 @@ class modCommon {
 
   void OpenWebPage(const std::string& url);
 
+  // Does it. If it fails the player is told that, and it gives false.
+  bool Try(const std::function<void()>& deed, const std::string& failure, Icon icon = Icon::None);
+
   // A message box with the title `AppTitle`.
   Answer MsgBox(const std::string& text, Icon icon = Icon::None, Buttons buttons = Buttons::OK);
   // Asks Yes or No with the question icon; true for Yes.

@@ -126,11 +126,7 @@ void frmRules::Form_Load() {
   Caption = common_.AppTitle + " Rules, Notes and Strategy";
   CenterAcross(cmdOK);
   cmdOK.SetFocus();
-  RulesText rules = game_.Rules();
-  rules.values.insert(rules.values.end(), {{"title", common_.AppTitle},
-                                           {"limit", std::to_string(common_.TimeLimit)},
-                                           {"bonusScore", FormatNumber(game_.BonusScore)}});
-  lblRules.Text = ComposeRules(common_.AppTitle, rules);
+  lblRules.Text = game_.RulesPage();
 }
 
 frmAbout::frmAbout(modCommon& common) : Form(common.platform, "frmAbout"), common_(common) {

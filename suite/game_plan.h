@@ -2,11 +2,12 @@
 // settings. A game fills a `GamePlan` with designated initialisers; what it leaves out is as in most games.
 #pragma once
 
+#include <optional>
 #include <span>
-#include <variant>
 
 #include "suite/catalogue.h"
-#include "window/number.h"
+#include "suite/rules_text.h"
+#include "window/box.h"
 
 // One entry of the time limit menu.
 struct TimeLimitEntry {
@@ -66,6 +67,20 @@ constexpr HighScoreTables OneTable(const char* name, const char* defaultScore) {
   return {{name, defaultScore}, {name, defaultScore}, {name, defaultScore}};
 }
 
+// The scoring dialog: its names, and what stands on it beside the fields.
+struct ScoringNames {
+  const char* window;
+  const char* frame = "frmScoringOptions";
+  const char* frameCaption = "AppTitle Scoring Options";
+  const char* countDown = "chkCountDown";
+  const char* countDownCaption = "&Count Down when taking score";
+  const char* info =
+      "Note: Changing any of the Scoring Options will cause your high scores to be marked with an * "
+      "indicating custom scoring was in use.";
+  int moreRows = 0;          // kept free behind the count-down switch, for controls of the game's own
+  bool overTheGame = false;  // it stands in the middle of the game's window, not of the screen
+};
+
 struct GamePlan {
   GameNames names;
   HighScoreTables tables;
@@ -73,19 +88,14 @@ struct GamePlan {
   std::span<const TimeLimitEntry> limits;
   int timeLimit;                          // the default, seconds
   std::span<const char* const> sections;  // of the settings file, in writing order
-  int rounds = 2;                         // before the bonus round
+  const RulesText& rules;
+  ScoringNames dialog{};
+  int rounds = 2;  // before the bonus round
   // The back designs that "[Deck]" 1 to 4 stand for, and the default number.
   BackDesign designs[4] = {kPalmTree, kMagicHands, kNightCastle, kHotCards};
   int deckDesign = 1;
   int splashInterval = 200;  // milliseconds
-};
-
-// A value of the game's own that is a default at load, is kept in the settings file, or makes scoring a
-// customised one.
-enum class Customises { Yes, No };
-struct GameSetting {
-  const char* section;  // "" if it isn't kept
-  std::variant<Integer*, Long*, bool*> value;
-  int standard;  // 1 for true
-  Customises customises = Customises::Yes;
+  // With which icon an error on the way into a game is told before the program ends; without one it is told
+  // as any other failure, and the suite goes on.
+  std::optional<Icon> playFailure = Icon::None;
 };

@@ -4,14 +4,6 @@
 #include "suite/high_scores.h"
 #include "suite/score_counter.h"
 
-namespace {
-
-void SetStandard(const GameSetting& setting) {
-  std::visit([&](auto* value) { *value = setting.standard; }, setting.value);
-}
-
-}  // namespace
-
 // --- Loading -------------------------------------------------------------------------------------
 
 void GameWindow::Form_Load() {
@@ -26,7 +18,7 @@ void GameWindow::Form_Load() {
   common.CountDownScore = true;
   common.CustomScoringInUse = false;
   standing.Rest();
-  for (const GameSetting& setting : settings) SetStandard(setting);
+  for (const GameSetting& setting : settings) setting.SetNumber(setting.standard);
   SetDefaults();
   for (Visual* above : std::initializer_list<Visual*>{&frmSplash, &lblMessage, &lblScoring}) above->ZOrder(0);
   Caption = common.AppTitle;
@@ -93,11 +85,7 @@ void GameWindow::LeaveIdle() {
 void GameWindow::StartGame() {
   HideMessage();
   standing.Hold();
-  try {
-    Play();
-  } catch (const std::exception& error) {
-    PlayFailed(error.what());
-  }
+  if (const auto failure = FailureOf<std::exception>([this] { Play(); })) PlayFailed(*failure);
   if (!Loaded()) return;
   if (!standing.InGame())
     BackToIdle();
@@ -106,7 +94,8 @@ void GameWindow::StartGame() {
 }
 
 void GameWindow::PlayFailed(const std::string& description) {
-  common.MsgBox(description);
+  if (!plan.playFailure) throw RuntimeError(description);
+  common.MsgBox(description, *plan.playFailure);
   platform.End(description);
 }
 

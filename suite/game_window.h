@@ -13,10 +13,11 @@
 
 #include "suite/common.h"
 #include "suite/game_plan.h"
-#include "suite/rules_text.h"
-#include "suite/settings_file.h"
+#include "suite/settings.h"
 #include "suite/standing.h"
 #include "window/text.h"
+
+class Guide;
 
 // What the menu bar and the status bar take off a window's height, at most.
 inline constexpr int kBars = 750;
@@ -39,7 +40,7 @@ class GameWindow : public Form {
   Standing standing;
   Integer CurrentRound;
   Long BonusScore;  // for the bonus round
-  // The game's own values, named in its constructor; see `GameSetting`.
+  // The game's own values, named in its constructor; those with a field in the order of the dialog's checks.
   std::vector<GameSetting> settings;
 
   // === What a game must give =======================================================================
@@ -53,9 +54,6 @@ class GameWindow : public Form {
   virtual void ShowCards(bool visible) = 0;
   // Shows the stock in the back design in force.
   virtual void RefreshPlayCard() = 0;
-  // The customised scoring dialog.
-  virtual void ShowCustomScoring() = 0;
-  virtual RulesText Rules() const = 0;
 
   // === Steps, by when they come ====================================================================
 
@@ -74,6 +72,10 @@ class GameWindow : public Form {
   virtual void CheckForCustom();
   // What stands under a section when the file is written.
   virtual std::string SettingText(std::string_view section) const;
+  // The customised scoring dialog.
+  virtual void ShowCustomScoring();
+  // What the text of the rules names beside `settings`, the title and the limit.
+  virtual RulesValues MoreRulesValues() const { return {}; }
   // The name of a table's file for the present settings.
   virtual std::string TableFile(const std::string& tableName) const;
   virtual std::string HighScorePrefix() const { return "High Score: "; }
@@ -93,8 +95,6 @@ class GameWindow : public Form {
   virtual void mnuPlay_Click() { cmdPlay_Click(); }
   // Play was pressed: tool tip and captions, the splash panel goes.
   virtual void LeaveIdle();
-  // An error ended `Play`: the player is told, and the program ends. Called while the error is being handled.
-  virtual void PlayFailed(const std::string& description);
   // No game came of it: the window is as before a game.
   virtual void BackToIdle();
   // Deals round `CurrentRound` and starts its clock. For a game that ends its rounds by the common
@@ -186,6 +186,8 @@ class GameWindow : public Form {
 
   // Runs `Play`, as `LeaveIdle` has left the window. If no game comes of it the window is idle again.
   void StartGame();
+  // An error has left no game that could be played: the player is told, and the program ends.
+  void PlayFailed(const std::string& description);
   void AskToEndGame(const std::string& question);
   // A click on Pause: pauses the game, or resumes it.
   void Pause();
@@ -245,15 +247,10 @@ class GameWindow : public Form {
   void ChooseDeck(int number);
   // Ticks `entry` and no other entry of its menu.
   void TickOnly(Menu& entry);
-  // Applies "True" or "False" to a flag; other values change nothing.
-  static void ApplyFlag(std::string_view value, bool& flag);
-  // Applies a whole number; what is none, or doesn't fit, changes nothing.
-  template <class Rep>
-  static void ApplyNumber(std::string_view value, Checked<Rep>& number) {
-    int read = 0;
-    if (ParseLong(value, read) && std::in_range<Rep>(read)) number = read;
-  }
-
+  // The game's own value under a section; null if it has none.
+  const GameSetting* OwnSetting(std::string_view section) const;
+  // The text of the rules window.
+  std::string RulesPage() const;
   // Writes the settings file; the text that it holds now.
   std::string KeepSettings();
 
@@ -297,7 +294,6 @@ class GameWindow : public Form {
   void BindEvents();
   void ReadSettingsINI();
   bool ApplySetting(std::string_view section, std::string_view value);
-  bool ApplyOwnSetting(std::string_view section, std::string_view value);
   void ApplySize(std::string_view section, int value);
   // The same, and tells what can't be kept.
   std::string SaveSettings();

@@ -84,7 +84,7 @@ void GameWindow::GameFailed() {
 }
 
 void GameWindow::FinishGame() {
-  try {
+  const auto finish = [this] {
     Timer1.Enabled = false;
     standing.GameOver();
     SetPlayCaption("&Play");
@@ -97,11 +97,11 @@ void GameWindow::FinishGame() {
     ShowCards(false);
     ShowControls(false, true);
     StatusBar1.Panels(2).Text = "Game Over";
-  } catch (const RuntimeError&) {
-    common.MsgBox(
-        "An error occured when attmpting to access the High Score Table. Please close and restart the game.",
-        Icon::Critical);
-  }
+  };
+  common.Try(
+      finish,
+      "An error occured when attmpting to access the High Score Table. Please close and restart the game.",
+      Icon::Critical);
 }
 
 void GameWindow::EnterHighScore() {

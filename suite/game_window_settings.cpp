@@ -2,25 +2,8 @@
 #include <algorithm>
 
 #include "suite/game_window.h"
-
-namespace {
-
-template <class... Way>
-struct Ways : Way... {
-  using Way::operator()...;
-};
-template <class... Way>
-Ways(Way...) -> Ways<Way...>;
-
-bool IsStandard(const GameSetting& setting) {
-  return std::visit(Ways{[&](const bool* flag) { return *flag == (setting.standard != 0); },
-                         [&](const auto* number) { return *number == setting.standard; }},
-                    setting.value);
-}
-
-std::string FlagText(bool flag) { return flag ? "True" : "False"; }
-
-}  // namespace
+#include "suite/settings_file.h"
+#include "window/text.h"
 
 void GameWindow::ReadSettingsINI() {
   const auto apply = [this](std::string_view section, std::string_view value) {
@@ -35,7 +18,11 @@ void GameWindow::ReadSettingsINI() {
 }
 
 bool GameWindow::ApplySetting(std::string_view section, std::string_view value) {
-  if (ApplyGameSetting(section, value) || ApplyOwnSetting(section, value)) return true;
+  if (ApplyGameSetting(section, value)) return true;
+  if (const GameSetting* own = OwnSetting(section)) {
+    own->Apply(value);
+    return true;
+  }
   int number = 0;
   const bool isNumber = ParseLong(value, number);
   if (section == plan.names.timeSection) {
@@ -60,14 +47,10 @@ bool GameWindow::ApplySetting(std::string_view section, std::string_view value) 
   return true;
 }
 
-bool GameWindow::ApplyOwnSetting(std::string_view section, std::string_view value) {
-  if (section.empty()) return false;
+const GameSetting* GameWindow::OwnSetting(std::string_view section) const {
+  if (section.empty()) return nullptr;
   const auto setting = std::ranges::find(settings, section, &GameSetting::section);
-  if (setting == settings.end()) return false;
-  std::visit(
-      Ways{[&](bool* flag) { ApplyFlag(value, *flag); }, [&](auto* number) { ApplyNumber(value, *number); }},
-      setting->value);
-  return true;
+  return setting == settings.end() ? nullptr : &*setting;
 }
 
 // A window larger than the screen couldn't be handled: it may have been kept on a larger one.
@@ -82,23 +65,14 @@ void GameWindow::ApplySize(std::string_view section, int value) {
     Height = std::clamp(value, resizes ? 1 : plan.height, std::max(plan.height, screen.height));
 }
 
-void GameWindow::ApplyFlag(std::string_view value, bool& flag) {
-  if (value == "True") flag = true;
-  if (value == "False") flag = false;
-}
-
 void GameWindow::CheckForCustom() {
   common.CustomScoringInUse = std::ranges::any_of(settings, [](const GameSetting& setting) {
-    return setting.customises == Customises::Yes && !IsStandard(setting);
+    return setting.customises == Customises::Yes && !setting.IsStandard();
   });
 }
 
 std::string GameWindow::SettingText(std::string_view section) const {
-  const auto setting = std::ranges::find(settings, section, &GameSetting::section);
-  if (setting != settings.end())
-    return std::visit(Ways{[](const bool* flag) { return FlagText(*flag); },
-                           [](const auto* number) { return std::to_string(*number); }},
-                      setting->value);
+  if (const GameSetting* own = OwnSetting(section)) return own->Text();
   const bool maximised = WindowState == window_state::kMaximised;
   if (section == plan.names.timeSection) return std::to_string(common.TimeLimit);
   if (section == "[Play Sounds]") return FlagText(common.PlaySounds);
@@ -132,4 +106,12 @@ std::string GameWindow::SaveSettings() {
 
 std::string GameWindow::TableFile(const std::string& tableName) const {
   return "\\" + tableName + std::to_string(common.TimeLimit) + ".Txt";
+}
+
+std::string GameWindow::RulesPage() const {
+  RulesValues values = MoreRulesValues();
+  values.emplace_back("title", common.AppTitle);
+  values.emplace_back("limit", std::to_string(common.TimeLimit));
+  for (const GameSetting& setting : settings) values.emplace_back(setting.name, setting.Text());
+  return ComposeRules(common.AppTitle, plan.rules, values);
 }

@@ -3,6 +3,7 @@
 
 #include "suite/game_window.h"
 #include "suite/high_scores.h"
+#include "suite/scoring_dialog.h"
 
 // --- Commands, messages, score -------------------------------------------------------------------
 
@@ -185,6 +186,8 @@ void GameWindow::ToggleMusic() {
   if (!standing.InGame() || standing.IsPaused()) return;
   common.PlayMusic ? common.StartMusic() : common.StopMusic();
 }
+
+void GameWindow::ShowCustomScoring() { ScoringDialog(*this).Show(true); }
 
 void GameWindow::mnuClear_Click() {
   const HighScoreTable& table = plan.tables.cleared;

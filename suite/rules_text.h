@@ -18,11 +18,11 @@ using RulesValues = std::vector<std::pair<std::string_view, std::string>>;
 struct RulesText {
   int blanks;  // before the heading
   std::span<const RulesParagraph> paragraphs;
-  RulesValues values;
 };
 
-// The text with its values in place of "{name}". Throws std::logic_error for a name that isn't among them.
+// The text with its values in place of "{name}"; in that of "{#name}" a number is grouped. Throws
+// std::logic_error for a name that isn't among them.
 std::string Fill(std::string_view text, const RulesValues& values);
 
 // The whole page: heading and paragraphs.
-std::string ComposeRules(const std::string& title, const RulesText& rules);
+std::string ComposeRules(const std::string& title, const RulesText& rules, const RulesValues& values);

@@ -1,7 +1,8 @@
 #include "suite/scoring_dialog.h"
 
-#include <cmath>
+#include <algorithm>
 #include <cstdio>
+#include <numeric>
 
 namespace {
 
@@ -9,34 +10,37 @@ constexpr int kWidth = 8400, kRowHeight = 465;
 
 }  // namespace
 
+std::vector<size_t> ScoringDialog::FromTopToBottom() const {
+  std::vector<size_t> order(settings_.size());
+  std::iota(order.begin(), order.end(), 0);
+  std::ranges::stable_sort(order, {}, [&](size_t field) { return Rule(field).place; });
+  return order;
+}
+
 // The boxes take the focus in the order in which they stand.
-std::vector<std::unique_ptr<ScoringDialog::Row>> ScoringDialog::MakeRows(Control& parent,
-                                                                         std::span<const ScoringField> fields,
-                                                                         std::span<const int> order) {
-  std::vector<std::unique_ptr<Row>> rows(fields.size());
-  for (size_t i = 0; i < fields.size(); ++i) {
-    const size_t field = order.empty() ? i : order[i];
-    rows[field] = std::make_unique<Row>(parent, fields[field]);
-  }
+std::vector<std::unique_ptr<ScoringDialog::Row>> ScoringDialog::MakeRows() {
+  std::vector<std::unique_ptr<Row>> rows(settings_.size());
+  for (const size_t field : FromTopToBottom())
+    rows[field] = std::make_unique<Row>(frmScoringOptions, Rule(field));
   return rows;
 }
 
-ScoringDialog::ScoringDialog(GameWindow& game, const ScoringNames& names,
-                             std::span<const ScoringField> fields)
-    : Form(game.platform, names.window),
-      fields_(fields),
-      frmScoringOptions(*this, names.frame),
-      rows(MakeRows(frmScoringOptions, fields, names.order)),
-      chkCountDown(frmScoringOptions, names.countDown),
+ScoringDialog::ScoringDialog(GameWindow& game)
+    : Form(game.platform, game.plan.dialog.window),
+      settings_(WithField(game.settings)),
+      frmScoringOptions(*this, game.plan.dialog.frame),
+      rows(MakeRows()),
+      chkCountDown(frmScoringOptions, game.plan.dialog.countDown),
       window(game) {
+  const ScoringNames& names = game.plan.dialog;
   int top = 360;
-  for (size_t i = 0; i < rows.size(); ++i, top += kRowHeight) {
-    const size_t field = names.order.empty() ? i : names.order[i];
-    rows[field]->label.Caption = fields[field].caption;
+  for (const size_t field : FromTopToBottom()) {
+    rows[field]->label.Caption = Rule(field).caption;
     rows[field]->label.Move(240, top + 60, 5940, 285);
     TextBox& box = rows[field]->box;
     box.Move(6240, top, 1440, 345);
     box.OnGotFocus = [&box] { box.SelectAll(); };
+    top += kRowHeight;
   }
   chkCountDown.Caption = names.countDownCaption;
   chkCountDown.Move(240, top, 5940, 285);
@@ -63,29 +67,28 @@ ScoringDialog::ScoringDialog(GameWindow& game, const ScoringNames& names,
   cmdOK.OnClick = [this] { cmdOK_Click(); };
   cmdCancel.OnClick = [this] { Unload(); };
   cmdDefault.OnClick = [this] {
-    for (size_t i = 0; i < rows.size(); ++i) rows[i]->box.Text = std::to_string(fields_[i].standard);
+    for (size_t i = 0; i < rows.size(); ++i) rows[i]->box.Text = Shown(i, settings_[i]->standard);
     chkCountDown.Value = 1;
     DefaultsShown();
   };
 }
 
 void ScoringDialog::Form_Load() {
-  PlaceDialog();
+  if (window.plan.dialog.overTheGame)
+    Form::Move(window.Left + (window.Width - Width) / 2, window.Top + (window.Height - Height) / 2, Width,
+               Height);
+  else
+    CenterOnScreen();
   Caption = window.common.AppTitle + " User Options";
-  for (size_t i = 0; i < rows.size(); ++i) rows[i]->box.Text = Shown(i);
+  for (size_t i = 0; i < rows.size(); ++i) rows[i]->box.Text = Shown(i, settings_[i]->Number());
   chkCountDown.Value = window.common.CountDownScore ? 1 : 0;
   if (Visual* first = ActiveControl()) first->SetFocus();
 }
 
 int ScoringDialog::FreeRowTop(int row) const { return freeRowsTop_ + row * kRowHeight; }
 
-std::string ScoringDialog::Shown(size_t field) {
-  const double kept = std::visit([](auto* number) { return static_cast<double>(*number); }, Setting(field));
-  return Plain(kept / fields_[field].unit);
-}
-
-void ScoringDialog::SetNumber(size_t field, long long value) {
-  std::visit([&](auto* number) { *number = value; }, Setting(field));
+std::string ScoringDialog::Shown(size_t field, long long kept) const {
+  return Plain(static_cast<double>(kept) / Rule(field).unit);
 }
 
 std::string ScoringDialog::Plain(double number) {
@@ -97,17 +100,17 @@ std::string ScoringDialog::Plain(double number) {
 double ScoringDialog::NumberIn(size_t field) const { return Val(rows[field]->box.Text.get()); }
 
 std::optional<ScoringDialog::Refusal> ScoringDialog::Judge(size_t field, double value) {
-  const ScoringField& rule = fields_[field];
+  const ScoringField& rule = Rule(field);
   if (value >= rule.lowest && value <= rule.highest) return std::nullopt;
   const OutOfBounds& wrong = value < rule.lowest ? rule.below : rule.above;
   return Refusal{wrong.message, &rows[field]->box, std::to_string(wrong.text), wrong.setting};
 }
 
 void ScoringDialog::Take(size_t field, double value) {
-  SetNumber(field, RoundHalfEven(value * fields_[field].unit));
+  settings_[field]->SetNumber(RoundHalfEven(value * Rule(field).unit));
 }
 
-void ScoringDialog::TakeRefused(size_t field, long long setting) { SetNumber(field, setting); }
+void ScoringDialog::TakeRefused(size_t field, long long setting) { settings_[field]->SetNumber(setting); }
 
 bool ScoringDialog::TakeField(size_t field) {
   const double value = NumberIn(field);
@@ -140,18 +143,20 @@ void ScoringDialog::FieldsChecked(bool lastPassed) {
 }
 
 // Every field is looked at, also after one that had to be put right.
-void ScoringDialog::cmdOK_Click() {
+bool ScoringDialog::TakeFields() {
   bool allPassed = true, passed = true;
-  try {
-    BeforeFields();
-    for (size_t i = 0; i < fields_.size(); ++i) {
-      passed = TakeField(i);
-      allPassed = allPassed && passed;
-    }
-    FieldsChecked(passed);
-  } catch (const RuntimeError& error) {
-    window.common.MsgBox(error.what(), Icon::Exclamation);
-    allPassed = false;
+  BeforeFields();
+  for (size_t i = 0; i < settings_.size(); ++i) {
+    passed = TakeField(i);
+    allPassed = allPassed && passed;
   }
+  FieldsChecked(passed);
+  return allPassed;
+}
+
+void ScoringDialog::cmdOK_Click() {
+  bool allPassed = false;
+  const auto failure = FailureOf([&] { allPassed = TakeFields(); });
+  if (failure) window.common.MsgBox(*failure, Icon::Exclamation);
   if (allPassed) Unload();
 }

@@ -1,86 +1,43 @@
 // The dialog behind the menu entry for customised scoring: number fields with bounds, the count-down switch,
-// OK, Cancel, Default. A game gives a table of its fields and says where their values are kept; where its
-// dialog does something else, a step says so.
+// OK, Cancel, Default. Its fields are those of the game's `settings`; where a game's dialog does something
+// else, a step says so.
 #pragma once
 
 #include <memory>
 #include <optional>
-#include <span>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "suite/game_window.h"
 
-// What becomes of a number beyond a bound.
-struct OutOfBounds {
-  const char* message;
-  long long text;     // put into the field
-  long long setting;  // taken
-};
-
-// All numbers but `OutOfBounds::setting` are as the field shows them.
-struct ScoringField {
-  const char* box;
-  const char* label;
-  const char* caption;     // of the label
-  long long standard;      // what Default writes
-  double lowest, highest;  // both allowed
-  OutOfBounds below, above;
-  int unit = 1;  // of the setting in one of the field: 1000 where seconds are kept as milliseconds
-};
-
 // The field of the games in which cards may be passed.
-constexpr ScoringField PassesField(int standard) {
-  return {"txtNumberOfCardsToPass",
-          "lblNumberOfCardsToPass",
-          "Number of cards user may pass (0 - 10):",
-          standard,
-          0,
-          10,
-          {"Sorry, you cannot pass fewer than 0 cards.", 0, 0},
-          {"Sorry, you cannot pass more than 10 cards.", 10, 10}};
-}
-
-struct ScoringNames {
-  const char* window;
-  const char* frame = "frmScoringOptions";
-  const char* frameCaption = "AppTitle Scoring Options";
-  const char* countDown = "chkCountDown";
-  const char* countDownCaption = "&Count Down when taking score";
-  const char* info =
-      "Note: Changing any of the Scoring Options will cause your high scores to be marked with an * "
-      "indicating custom scoring was in use.";
-  // The fields from top to bottom, by their places in the table, where that isn't the order of the checks.
-  std::span<const int> order{};
-  int moreRows = 0;  // kept free behind the count-down switch, for controls of the game's own
-};
+inline constexpr ScoringField kPassesField = BoundedField(
+    "txtNumberOfCardsToPass", "lblNumberOfCardsToPass", "Number of cards user may pass (0 - 10):", 0, 10,
+    "Sorry, you cannot pass fewer than 0 cards.", "Sorry, you cannot pass more than 10 cards.");
 
 class ScoringDialog : public Form {
  public:
-  // `fields` in the order in which OK looks at them. Both must outlive the dialog.
-  ScoringDialog(GameWindow& game, const ScoringNames& names, std::span<const ScoringField> fields);
+  explicit ScoringDialog(GameWindow& game);
   void Form_Load() override;
 
  private:
-  const std::span<const ScoringField> fields_;
+  const std::vector<const GameSetting*> settings_;  // in the order in which OK looks at them
   struct Row {
     Row(Control& parent, const ScoringField& field) : label(parent, field.label), box(parent, field.box) {}
     Label label;
     TextBox box;
   };
-  static std::vector<std::unique_ptr<Row>> MakeRows(Control& parent, std::span<const ScoringField> fields,
-                                                    std::span<const int> order);
+  std::vector<std::unique_ptr<Row>> MakeRows();
+  std::vector<size_t> FromTopToBottom() const;
 
  public:
   Frame frmScoringOptions;
-  const std::vector<std::unique_ptr<Row>> rows;  // as in the table
+  const std::vector<std::unique_ptr<Row>> rows;  // in the order of the checks
   CheckBox chkCountDown;
   Label lblInfo{*this, "lblInfo"};
   CommandButton cmdOK{*this, "cmdOK"}, cmdCancel{*this, "cmdCancel"}, cmdDefault{*this, "cmdDefault"};
 
  protected:
-  using Number = std::variant<Integer*, Long*>;
   struct Refusal {
     std::string message;
     TextBox* box;  // gets the text and the focus
@@ -88,10 +45,8 @@ class ScoringDialog : public Form {
     std::optional<long long> setting;  // taken all the same
   };
 
-  // Where the setting of a field is kept.
-  virtual Number Setting(size_t field) = 0;
-  // What a field shows when the dialog opens.
-  virtual std::string Shown(size_t field);
+  // How a field shows what is kept.
+  virtual std::string Shown(size_t field, long long kept) const;
   // Why the number in a field is refused, if it is; by the bounds of the table.
   virtual std::optional<Refusal> Judge(size_t field, double value);
   // Tells why a number is refused, and puts the field right.
@@ -108,14 +63,13 @@ class ScoringDialog : public Form {
 
   // Default was pressed: the fields and the switch are filled already.
   virtual void DefaultsShown() {}
-  virtual void PlaceDialog() { CenterOnScreen(); }
 
   // Takes the count-down switch; sees whether scoring is customised; and tells the bonus round's score.
   void TakeRest();
   // The top of a free row within the frame; see `ScoringNames::moreRows`.
   int FreeRowTop(int row) const;
-  void SetNumber(size_t field, long long value);
   double NumberIn(size_t field) const;
+  const ScoringField& Rule(size_t field) const { return *settings_[field]->field; }
   // A number as plain text, with no more decimals than it has.
   static std::string Plain(double number);
 
@@ -123,6 +77,8 @@ class ScoringDialog : public Form {
 
  private:
   void cmdOK_Click();
+  // Takes the fields and the rest; false if a field had to be put right.
+  bool TakeFields();
   // Takes a field, or puts it right and tells the player. False if it had to be put right.
   bool TakeField(size_t field);
 

@@ -15,6 +15,8 @@ struct GameEntry {
   const char* title;    // `AppTitle`
   const char* what;     // what it is about, in a sentence
   std::function<std::unique_ptr<GameWindow>(modCommon&)> create;
+  // The guide to the game's window or to a dialog of its own; null for any other.
+  std::unique_ptr<Guide> (*guide)(Form&) = nullptr;
 };
 
 class frmSelect : public Form {

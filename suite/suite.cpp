@@ -38,13 +38,14 @@ void Suite::Fail(const std::string& description) {
     Standing& standing = common.window->standing;
     standing.InputLives();
     common.window->MousePointer = kDefaultPointer;
-    try {
+    const auto again = FailureOf([&] {
       if (standing.InGame())
         common.window->GameFailed();
       else if (!standing.CanStart())
         common.window->BackToIdle();
-    } catch (const RuntimeError& again) {
-      common.MsgBox(again.what(), Icon::Critical);
+    });
+    if (again) {
+      common.MsgBox(*again, Icon::Critical);
       common.window->BackToIdle();
     }
   }

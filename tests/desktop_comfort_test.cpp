@@ -6,7 +6,6 @@
 #include <QPushButton>
 
 #include "games/games.h"
-#include "games/guides.h"
 #include "suite/catalogue.h"
 #include "suite/suite.h"
 #include "tests/desktop_screen.h"

@@ -13,7 +13,6 @@
 #include "games/duopick/duopick.h"
 #include "games/fivestack/fivestack.h"
 #include "games/games.h"
-#include "games/guides.h"
 #include "games/handgrid/handgrid.h"
 #include "games/sumfall/sumfall.h"
 #include "games/treyshift/treyshift.h"

@@ -5,7 +5,7 @@
 #include <QMenu>
 #include <map>
 
-#include "games/guides.h"
+#include "games/games.h"
 #include "suite/suite.h"
 #include "tests/desktop_screen.h"
 #include "tests/harness.h"

@@ -9,7 +9,7 @@
 #include <QScreen>
 #include <QStyleOptionMenuItem>
 
-#include "games/guides.h"
+#include "games/games.h"
 #include "games/sumfall/sumfall.h"
 #include "suite/catalogue.h"
 #include "suite/dialogs.h"

@@ -9,6 +9,8 @@ namespace {
 
 constexpr TimeLimitEntry kLimits[] = {{5, "mnu5", "&5 seconds"}, {10, "mnu10", "&10 seconds"}};
 constexpr const char* kSections[] = {"[Time]", "[State]", "[Width]", "[Height]", "[Deck]"};
+constexpr RulesParagraph kParagraphs[] = {{"There are none."}, {"Good luck and have fun!"}};
+constexpr RulesText kRules{30, kParagraphs};
 constexpr GamePlan kPlan{.names = {.window = "frmEighth", .settingsFile = "\\Eighth.Ini"},
                          .tables = OneTable("EighthHiScores", "1000"),
                          .width = 9540,
@@ -16,8 +18,9 @@ constexpr GamePlan kPlan{.names = {.window = "frmEighth", .settingsFile = "\\Eig
                          .limits = kLimits,
                          .timeLimit = 5,
                          .sections = kSections,
+                         .rules = kRules,
+                         .dialog = {.window = "frmEighthCustom"},
                          .rounds = 1};
-constexpr RulesParagraph kRules[] = {{"There are none."}, {"Good luck and have fun!"}};
 
 // Where the standing controls are. A real game adds its board.
 constexpr Design kDesign[] = {
@@ -50,8 +53,6 @@ class frmEighth : public GameWindow {
   }
   void ShowCards(bool) override {}
   void RefreshPlayCard() override {}
-  void ShowCustomScoring() override {}
-  RulesText Rules() const override { return {30, kRules, {}}; }
 
   void PlaceBoard() override { PlaceInMiddle(kDesign); }
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <random>
 
-#include "games/guides.h"
+#include "games/games.h"
 #include "tests/documents.h"
 #include "tests/driver.h"
 #include "window/player.h"

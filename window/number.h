@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <type_traits>
@@ -24,6 +25,18 @@ void GoOnAfterError(Statement statement) {
   try {
     statement();
   } catch (const std::exception&) {
+  }
+}
+
+// Does it, and says what failed, if something did: what is done about it then, a box or a wait, comes outside
+// of the `catch`.
+template <class Failure = RuntimeError, class Deed>
+std::optional<std::string> FailureOf(Deed deed) {
+  try {
+    deed();
+    return std::nullopt;
+  } catch (const Failure& failure) {
+    return failure.what();
   }
 }
 

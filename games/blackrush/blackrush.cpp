@@ -137,7 +137,7 @@ void frmBlackrush::DeckCompleted() {
   common.CurrentScore += DeckCompletionBonus;
   ClearColumns();
   PlaySound("\\Applause.wav");
-  ShowMessage("Awesome score!", false);
+  TellBriefly("Awesome score!");
   platform.Sleep(1000);
   ShowScore();
   EnableHitButtons(false);

@@ -23,6 +23,7 @@ constexpr bool IsCounterSpeed(int interval) {
 class frmBlackrush : public GameWindow {
  public:
   explicit frmBlackrush(modCommon& common);
+  static const RulesText kRules;
 
   // --- Board and cards ---------------------------------------------------------------------------
   Label& ScoringLabelInfo = lblMessage;
@@ -76,9 +77,10 @@ class frmBlackrush : public GameWindow {
   void Timer5_Timer();
 
   // --- What is shown -----------------------------------------------------------------------------
-  // Shows a message in its outline: until further notice, or for `WaitPeriod` while a game is in progress.
-  void ShowMessage(const std::string& text, bool hold);
-  void HideMessage();
+  // A message in its outline: until further notice, or for `WaitPeriod` while a game is in progress.
+  void KeepTelling(const std::string& text);
+  void TellBriefly(const std::string& text);
+  void StopTelling();
   void ShowGameBoard(bool show);
   void ShowHitButtons(bool show);
   void EnableHitButtons(bool enable);
@@ -114,12 +116,12 @@ class frmBlackrush : public GameWindow {
   std::string Welcome() const override { return "Welcome to " + common.AppTitle + "!"; }
   bool ApplyGameSetting(std::string_view section, std::string_view value) override;
   void ShowCustomScoring() override;
-  RulesText Rules() const override;
   void PlaceMessage() override;
   void PlacePanels() override;
   void PlaceBoard() override;
 
  private:
+  void NameSettings();
   void SetUpBoard();
   void SetUpLabels();
   void BindBoardEvents();
@@ -147,3 +149,5 @@ class frmBlackrush : public GameWindow {
 
   bool counterRan_ = false;  // when the game was paused
 };
+
+std::unique_ptr<Guide> GuideTo(frmBlackrush& window);

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "games/blackrush/blackrush.h"
-#include "games/blackrush/custom.h"
 #include "suite/column_places.h"
 
 using namespace modBlackrush;
@@ -57,6 +56,14 @@ constexpr GamePlan kPlan{
     .limits = kLimits,
     .timeLimit = 90,
     .sections = kSections,
+    .rules = frmBlackrush::kRules,
+    .dialog = {.window = "frmBlackrushCustomScoring",
+               .frame = "frmCustomScoring",
+               .frameCaption = "Apptitle Scoring options",
+               .countDown = "chkCountScore",
+               .countDownCaption = "Count down &when taking score",
+               .moreRows = 3,
+               .overTheGame = true},
     .rounds = 3,
     .designs = {kHotCards, kMagicHands, kNightCastle, kPalmTree},
     .deckDesign = 3,
@@ -109,15 +116,7 @@ constexpr ColumnPlaces kPlaces = {270, 1428, 1650, 2025, {2355, 2730, 3150, 3555
 }  // namespace
 
 frmBlackrush::frmBlackrush(modCommon& common) : GameWindow(common, kPlan) {
-  settings = {{"[Timer Speed]", &CounterSpeed, kNormalSpeed},
-              {"[Cards To Pass]", &CardsToPass, kCardsToPass},
-              {"[Cards Used Bonus Value]", &CardsUsedBonusValue, kCardsUsedBonusValue},
-              {"[5 Cards Bonus Value]", &FiveCardGimmeBonus, kFiveCardGimmeBonus},
-              {"[Deck Completion Bonus]", &DeckCompletionBonus, kDeckCompletionBonus},
-              {"[Bonus Round Score]", &BonusScore, kBonusScore},
-              {"[TwentyOne Bonus Value]", &TwentyOneBonusValue, kTwentyOneBonusValue, Customises::No},
-              {"[Wait Period]", &WaitPeriod, kWaitPeriod, Customises::No},
-              {"[Count Down Score]", &common.CountDownScore, true, Customises::No}};
+  NameSettings();
   SetUpBoard();
   SetUpLabels();
   BindBoardEvents();
@@ -184,13 +183,10 @@ void frmBlackrush::BindBoardEvents() {
 
 bool frmBlackrush::ApplyGameSetting(std::string_view section, std::string_view value) {
   if (section != "[Timer Speed]") return false;
-  Integer speed;
-  ApplyNumber(value, speed);
-  if (IsCounterSpeed(static_cast<int>(speed))) SetCounterSpeed(static_cast<int>(speed));
+  int speed = 0;
+  if (ParseLong(value, speed) && IsCounterSpeed(speed)) SetCounterSpeed(speed);
   return true;
 }
-
-void frmBlackrush::ShowCustomScoring() { frmBlackrushCustomScoring(*this).Show(true); }
 
 // --- Placing -------------------------------------------------------------------------------------
 
@@ -224,10 +220,13 @@ void frmBlackrush::PlaceMessage() {
 
 // --- Showing -------------------------------------------------------------------------------------
 
-void frmBlackrush::ShowMessage(const std::string& text, bool hold) {
-  ScoringLabelInfo.Caption = text;
-  SetVisible({&ScoringLabelInfo, &ScoringLabelOutline}, true);
-  if (hold) return;
+void frmBlackrush::KeepTelling(const std::string& text) {
+  ShowMessage(text);
+  ScoringLabelOutline.Visible = true;
+}
+
+void frmBlackrush::TellBriefly(const std::string& text) {
+  KeepTelling(text);
   if (standing.InGame()) {
     MousePointer = kHourglass;
     platform.Sleep(std::max(0, static_cast<int>(WaitPeriod)));
@@ -236,8 +235,8 @@ void frmBlackrush::ShowMessage(const std::string& text, bool hold) {
   SetVisible({&ScoringLabelInfo, &ScoringLabelOutline}, false);
 }
 
-void frmBlackrush::HideMessage() {
-  GameWindow::HideMessage();
+void frmBlackrush::StopTelling() {
+  HideMessage();
   ScoringLabelOutline.Visible = false;
 }
 

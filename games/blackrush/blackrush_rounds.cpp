@@ -17,7 +17,7 @@ void frmBlackrush::TimeIsUp() {
   Timer1.Enabled = false;
   Timer3.Enabled = false;
   ClearColumns();
-  ShowMessage("Times Up!", true);
+  KeepTelling("Times Up!");
   StatusBar1.Panels(2).Text = "Time has expired!";
   lblTime.Caption = "Time:";
   Blink(ScoringLabelInfo, 10);
@@ -128,7 +128,7 @@ void frmBlackrush::PrepareRound(bool bonus) {
   common.ShuffleDeck();
   PlayCardPicture.Picture = common.ImageList2("FULL");
   if (bonus) PlaySound("\\HighScore.wav");
-  ShowMessage(bonus ? "Prepare for Bonus Round" : "Prepare for Round " + std::to_string(CurrentRound), false);
+  TellBriefly(bonus ? "Prepare for Bonus Round" : "Prepare for Round " + std::to_string(CurrentRound));
   Timer1.Enabled = true;
   for (int i = 0; i < kColumns; ++i) ShowEmptyPlace(i);
   board.Deal(common.Deck);
@@ -145,7 +145,7 @@ void frmBlackrush::GameOver() {
   lblRound.Caption = "Game Over";
   SetPlayCaption("&Play");
   cmdPlay.ToolTipText = "Starts a new game";
-  ShowMessage("Game Over", false);
+  TellBriefly("Game Over");
   frameScoreInfo.Visible = false;
   ShowSplash(true);
   ResetDial();
@@ -196,7 +196,7 @@ void frmBlackrush::GameFailed() {
 }
 
 void frmBlackrush::BackToIdle() {
-  HideMessage();
+  StopTelling();
   SetVisible({&lblBust, &lblFiveCards}, false);
   EndCount();
   EmptyBoard();
@@ -219,7 +219,7 @@ void frmBlackrush::ResumeGame() {
   Timer3.Enabled = counterRan_;
 }
 
-void frmBlackrush::TellPause(bool paused) { paused ? ShowMessage("Game Paused", true) : HideMessage(); }
+void frmBlackrush::TellPause(bool paused) { paused ? KeepTelling("Game Paused") : StopTelling(); }
 
 void frmBlackrush::CoverCards(bool covered) {
   ShowCards(!covered);

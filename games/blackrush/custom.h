@@ -14,14 +14,12 @@ class frmBlackrushCustomScoring : public ScoringDialog {
       optSlowest{frmScoringOptions, "optSlowest"};
 
  protected:
-  Number Setting(size_t field) override;
   std::optional<Refusal> Judge(size_t field, double value) override;
   void TakeRefused(size_t field, long long setting) override;
   void BeforeFields() override;
   // The rest is taken whatever the fields were.
   void FieldsChecked(bool) override { TakeRest(); }
   void DefaultsShown() override { Choose(modBlackrush::kNormalSpeed); }
-  void PlaceDialog() override;
 
  private:
   void Choose(long long speed);

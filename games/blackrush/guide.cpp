@@ -1,5 +1,5 @@
-#include "games/blackrush/guide.h"
-
+// Keys and words for the board.
+#include "games/blackrush/blackrush.h"
 #include "suite/column_guide.h"
 #include "window/text.h"
 

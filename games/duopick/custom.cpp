@@ -1,63 +1,33 @@
-#include "games/duopick/custom.h"
+// The values of Duopick's own: defaults, settings file, scoring dialog.
+#include "games/duopick/duopick.h"
 
-namespace {
+using namespace modDuopick;
 
-constexpr int kLargest = 32767;
-
-constexpr ScoringField kFields[] = {
-    {"txtPairsBonus",
-     "lblPairsBonus",
-     "Pairs Bonus Value:",
-     modDuopick::kPairsBonus,
-     0,
-     kLargest,
-     {"Sorry, you cannot set the pairs bonus value to less than 0 points.", 0, 0},
-     {"Sorry, you cannot set the pairs bonus value to more than 32767 points", kLargest, kLargest}},
-    {"txtRunsBonus",
-     "lblRunsBonus",
-     "Runs Bonus Value",
-     modDuopick::kRunsBonus,
-     0,
-     kLargest,
-     {"Sorry, you cannot set the runs bonus value to less than 0 points.", 0, 0},
-     {"Sorry, you cannot set the runs bonus value to more than 32767 points", kLargest, kLargest}},
-    {"txtBonusRound",
-     "lblBonusRound",
-     "Score required for Bonus Round:",
-     modDuopick::kBonusScore,
-     0,
-     200000,
-     {"Sorry, you cannot set the value required for a bonus round to less than 0 points.", 0, 0},
-     {"Sorry, you cannot set the value required for a bonus round to more than 200000 points.", 200000,
-      200000}},
-    {"txtCompletionBonus",
-     "lblCompletionBonus",
-     "Bonus for completing upper cards: ",
-     modDuopick::kCompletionBonus,
-     0,
-     kLargest,
-     {"Sorry, you cannot set the value of the completion bonus to less than 0 points.", 0, 0},
-     {"Sorry, you cannot set the value of the completion bonus to more than 32767 points.", kLargest,
-      kLargest}},
-    {"txtTimeBonus",
-     "lblTimeBonus",
-     "Time Bonus (points per second)",
-     modDuopick::kTimeBonus,
-     0,
-     kLargest,
-     {"Sorry, you cannot set the Time Bonus value to less than 0 points.", 0, 0},
-     {"Sorry, you cannot set the Time Bonus value to greater than 32767 points", kLargest, kLargest}},
-};
-
-constexpr ScoringNames kNames{.window = "frmDuopickCustomScoring", .frameCaption = "Scoring Options"};
-
-}  // namespace
-
-frmDuopickCustomScoring::frmDuopickCustomScoring(frmDuopick& game)
-    : ScoringDialog(game, kNames, kFields), game_(game) {}
-
-ScoringDialog::Number frmDuopickCustomScoring::Setting(size_t field) {
-  const Number settings[] = {&game_.PairsBonus, &game_.RunsBonus, &game_.BonusScore, &game_.CompletionBonus,
-                             &game_.common.TimeBonus};
-  return settings[field];
+void frmDuopick::NameSettings() {
+  constexpr int kLargest = 32767;
+  settings = {
+      {"pairsBonus", &PairsBonus, kPairsBonus, "[Pairs Bonus]", Customises::Yes,
+       BoundedField("txtPairsBonus", "lblPairsBonus", "Pairs Bonus Value:", 0, kLargest,
+                    "Sorry, you cannot set the pairs bonus value to less than 0 points.",
+                    "Sorry, you cannot set the pairs bonus value to more than 32767 points")},
+      {"runsBonus", &RunsBonus, kRunsBonus, "[Runs Bonus]", Customises::Yes,
+       BoundedField("txtRunsBonus", "lblRunsBonus", "Runs Bonus Value", 0, kLargest,
+                    "Sorry, you cannot set the runs bonus value to less than 0 points.",
+                    "Sorry, you cannot set the runs bonus value to more than 32767 points")},
+      {"bonusScore", &BonusScore, kBonusScore, "[Bonus Score]", Customises::Yes,
+       BoundedField(
+           "txtBonusRound", "lblBonusRound", "Score required for Bonus Round:", 0, 200000,
+           "Sorry, you cannot set the value required for a bonus round to less than 0 points.",
+           "Sorry, you cannot set the value required for a bonus round to more than 200000 points.")},
+      {"completionBonus", &CompletionBonus, kCompletionBonus, "[Completion Bonus]", Customises::Yes,
+       BoundedField("txtCompletionBonus", "lblCompletionBonus", "Bonus for completing upper cards: ", 0,
+                    kLargest,
+                    "Sorry, you cannot set the value of the completion bonus to less than 0 points.",
+                    "Sorry, you cannot set the value of the completion bonus to more than 32767 points.")},
+      {"timeBonus", &common.TimeBonus, kTimeBonus, "[Time Bonus]", Customises::Yes,
+       BoundedField("txtTimeBonus", "lblTimeBonus", "Time Bonus (points per second)", 0, kLargest,
+                    "Sorry, you cannot set the Time Bonus value to less than 0 points.",
+                    "Sorry, you cannot set the Time Bonus value to greater than 32767 points")},
+      {"countDown", &common.CountDownScore, true, "[Count Down Score]", Customises::No},
+  };
 }

@@ -15,6 +15,7 @@ inline constexpr int kPairsBonus = 3000, kRunsBonus = 500, kTimeBonus = 100, kBo
 class frmDuopick : public GameWindow {
  public:
   explicit frmDuopick(modCommon& common);
+  static const RulesText kRules;
 
   // --- Board and cards ---------------------------------------------------------------------------
   ControlArray<Image, modDuopick::kCards> PlayCard{*this, "PlayCard"};
@@ -49,14 +50,13 @@ class frmDuopick : public GameWindow {
   void CoverCards(bool covered) override;
   void HideCardsAtTimeUp() override;
   void RefreshPlayCard() override;
-  void ShowCustomScoring() override;
-  RulesText Rules() const override;
   void SettingsRead() override;
   void mnuClear_Click() override;
   void ShowGameControls(bool visible) override;
   void PlaceBoard() override;
 
  private:
+  void NameSettings();
   void SetUpBoard();
   void BindBoardEvents();
   void ShowUpCard();
@@ -65,3 +65,5 @@ class frmDuopick : public GameWindow {
   void ShowNextUpCard(int first, int second);
   void ShowCounts();
 };
+
+std::unique_ptr<Guide> GuideTo(frmDuopick& window);

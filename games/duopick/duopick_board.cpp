@@ -1,6 +1,5 @@
 // The board of frmDuopick: its design, where things stand at any window size, what is shown when; and its
 // settings.
-#include "games/duopick/custom.h"
 #include "games/duopick/duopick.h"
 
 using namespace modDuopick;
@@ -29,6 +28,8 @@ constexpr GamePlan kPlan{
     .limits = kLimits,
     .timeLimit = 45,
     .sections = kSections,
+    .rules = frmDuopick::kRules,
+    .dialog = {.window = "frmDuopickCustomScoring", .frameCaption = "Scoring Options"},
 };
 
 // Where the cards lie.
@@ -80,12 +81,7 @@ constexpr Design kButtonDesign[] = {
 }  // namespace
 
 frmDuopick::frmDuopick(modCommon& common) : GameWindow(common, kPlan) {
-  settings = {{"[Pairs Bonus]", &PairsBonus, kPairsBonus},
-              {"[Runs Bonus]", &RunsBonus, kRunsBonus},
-              {"[Time Bonus]", &common.TimeBonus, kTimeBonus},
-              {"[Bonus Score]", &BonusScore, kBonusScore},
-              {"[Completion Bonus]", &CompletionBonus, kCompletionBonus},
-              {"[Count Down Score]", &common.CountDownScore, true, Customises::No}};
+  NameSettings();
   SetUpBoard();
   BindBoardEvents();
 }
@@ -181,5 +177,3 @@ void frmDuopick::SettingsRead() {
 void frmDuopick::mnuClear_Click() {
   PauseAround([this] { GameWindow::mnuClear_Click(); });
 }
-
-void frmDuopick::ShowCustomScoring() { frmDuopickCustomScoring(*this).Show(true); }

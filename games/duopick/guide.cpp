@@ -1,4 +1,7 @@
-#include "games/duopick/guide.h"
+// Keys and words for the board.
+#include "suite/guide.h"
+
+#include "games/duopick/duopick.h"
 
 using namespace modDuopick;
 

@@ -6,16 +6,14 @@
 
 class frmFivestackCustomScoring : public ScoringDialog {
  public:
-  explicit frmFivestackCustomScoring(frmFivestack& game);
+  explicit frmFivestackCustomScoring(frmFivestack& game) : ScoringDialog(game), game_(game) {}
 
  protected:
-  Number Setting(size_t field) override;
   std::optional<Refusal> Judge(size_t field, double value) override;
   void Take(size_t field, double value) override;
   void TakeRefused(size_t field, long long setting) override;
   // Whatever the fields were.
   void FieldsChecked(bool) override { TakeRest(); }
-  void PlaceDialog() override;
 
  private:
   frmFivestack& game_;

@@ -243,7 +243,7 @@ void frmFivestack::TimeIsUp() {
 
 void frmFivestack::cmdGiveUp_Click() {
   if (standing.InputIsDead()) return;
-  try {
+  const auto failure = FailureOf<std::exception>([&] {
     standing.Score();
     Timer1.Enabled = false;
     MousePointer = kHourglass;
@@ -253,9 +253,8 @@ void frmFivestack::cmdGiveUp_Click() {
     platform.DoEvents();
     if (standing.InGame()) EndRound(CurrentRound);
     MousePointer = kDefaultPointer;
-  } catch (const std::exception& error) {
-    PlayFailed(error.what());
-  }
+  });
+  if (failure) PlayFailed(*failure);
 }
 
 void frmFivestack::LoseRound() {
@@ -276,7 +275,7 @@ void frmFivestack::LoseRound() {
 
 // Whatever fails in here is told, and play goes on.
 void frmFivestack::TakeScore() {
-  try {
+  const auto failure = FailureOf([&] {
     StopMusic();
     ShowCards(false);
     const int worth = board.Worth();
@@ -302,9 +301,8 @@ void frmFivestack::TakeScore() {
       CountScore(roundScore);
     else
       AddToScore(roundScore);
-  } catch (const RuntimeError& error) {
-    common.MsgBox(error.what());
-  }
+  });
+  if (failure) common.MsgBox(*failure);
   ShowScoringLabel(false);
 }
 

@@ -15,6 +15,7 @@ inline constexpr int kTimeBonusMax = 300, kTimeBonusMin = 100, kBonusScore = 200
 class frmFivestack : public GameWindow {
  public:
   explicit frmFivestack(modCommon& common);
+  static const RulesText kRules;
 
   // --- Board and cards ---------------------------------------------------------------------------
   using Slots = ControlArray<Image, kCardsOfColumn>;
@@ -99,11 +100,12 @@ class frmFivestack : public GameWindow {
   void ShowCards(bool visible) override;
   void RefreshPlayCard() override { ShowBack(PlayCardPicture); }
   void ShowCustomScoring() override;
-  RulesText Rules() const override;
+  RulesValues MoreRulesValues() const override;
   void PlaceMessage() override;
   void PlaceBoard() override;
 
  private:
+  void NameSettings();
   void SetUpBoard();
   void SetUpTable();
   void BindBoardEvents();
@@ -135,3 +137,5 @@ class frmFivestack : public GameWindow {
   // Pause was clicked behind the closing question; and whether the game was paused before.
   std::optional<bool> pausedBeforeClosing_;
 };
+
+std::unique_ptr<Guide> GuideTo(frmFivestack& window);

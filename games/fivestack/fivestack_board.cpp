@@ -1,6 +1,5 @@
 // The board of frmFivestack: its design, where things stand at any window size, what is shown when; and its
 // settings.
-#include "games/fivestack/custom.h"
 #include "games/fivestack/fivestack.h"
 #include "suite/column_places.h"
 
@@ -36,6 +35,17 @@ constexpr GamePlan kPlan{
     .limits = kLimits,
     .timeLimit = 60,
     .sections = kSections,
+    .rules = frmFivestack::kRules,
+    .dialog =
+        {.window = "frmFivestackCustomScoring",
+         .frame = "frmCustomScoring",
+         .frameCaption = "Apptitle Scoring options",
+         .countDown = "chkCountScore",
+         .countDownCaption = "Count down &when taking score",
+         .info =
+             "Note: Changing any of the Scoring Options or the number of cards a user may pass will cause your "
+             "high scores to be marked with an * indicating custom scoring was in use.",
+         .overTheGame = true},
     .rounds = 3,
     .designs = {kHotCards, kMagicHands, kNightCastle, kPalmTree},
 };
@@ -85,13 +95,7 @@ constexpr Design kButtonDesign[] = {
 }  // namespace
 
 frmFivestack::frmFivestack(modCommon& common) : GameWindow(common, kPlan) {
-  settings = {{"[TimeBonusMax]", &TimeBonusMax, kTimeBonusMax},
-              {"[TimeBonusMin]", &TimeBonusMin, kTimeBonusMin},
-              {"[BonusScore]", &BonusScore, kBonusScore},
-              {"[WaitPeriod]", &WaitPeriod, kWaitPeriod, Customises::No},
-              {"[CountDownScore]", &common.CountDownScore, true, Customises::No},
-              {kPasses, &CardsToPass, kCardsToPass, Customises::No},
-              {"", &board.passesLeft, kCardsToPass}};
+  NameSettings();
   SetUpBoard();
   SetUpTable();
   BindBoardEvents();
@@ -105,7 +109,7 @@ bool frmFivestack::ApplyGameSetting(std::string_view section, std::string_view v
     return true;
   }
   if (section != kPasses) return false;
-  ApplyNumber(value, CardsToPass);
+  OwnSetting(kPasses)->Apply(value);
   board.passesLeft = CardsToPass;
   return true;
 }
@@ -280,5 +284,3 @@ void frmFivestack::ShowRoundControls(bool visible) {
 void frmFivestack::ShowScoringLabel(bool visible) {
   SetVisible({&ScoringLabel, &ScoringLabelRoundTotal, &ScoringLabelInfo}, visible);
 }
-
-void frmFivestack::ShowCustomScoring() { frmFivestackCustomScoring(*this).Show(true); }

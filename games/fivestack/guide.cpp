@@ -1,5 +1,5 @@
-#include "games/fivestack/guide.h"
-
+// Keys and words for the board.
+#include "games/fivestack/fivestack.h"
 #include "suite/column_guide.h"
 
 namespace {

@@ -9,7 +9,7 @@ constexpr RulesParagraph kParagraphs[] = {
     {"Requirements: To run {title} you need Windows 95 or above and a mouse.  Recommended: Soundcard."},
     {"As with most games, the object of {title} is to attain the highest number of points possible. "
      "The game consists of three rounds, each lasting {limit} seconds. "
-     "If you earn more than {bonusScore} points in these rounds you are awarded an additional bonus round."},
+     "If you earn more than {#bonusScore} points in these rounds you are awarded an additional bonus round."},
     {"You earn points by creating 5 columns of cards to a maximum of 5 cards per column. "
      "Each card is worth it's face value (face cards are 10 points each, Aces are worth 1 or 11 points). "
      "If any column exceeds 21 points (ie: busted), the round is automatically ended and no points are "
@@ -32,11 +32,8 @@ constexpr RulesParagraph kParagraphs[] = {
 
 }  // namespace
 
-RulesText frmFivestack::Rules() const {
-  return {33,
-          kParagraphs,
-          {{"bonusMax", std::to_string(TimeBonusMax)},
-           {"decay", std::to_string(static_cast<long long>(std::trunc(TimeBonusDecay())))},
-           {"bonusMin", std::to_string(TimeBonusMin)},
-           {"passes", std::to_string(CardsToPass)}}};
+const RulesText frmFivestack::kRules{33, kParagraphs};
+
+RulesValues frmFivestack::MoreRulesValues() const {
+  return {{"decay", std::to_string(static_cast<long long>(std::trunc(TimeBonusDecay())))}};
 }

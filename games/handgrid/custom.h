@@ -6,10 +6,9 @@
 
 class frmHandgridCustom : public ScoringDialog {
  public:
-  explicit frmHandgridCustom(frmHandgrid& game);
+  explicit frmHandgridCustom(frmHandgrid& game) : ScoringDialog(game), game_(game) {}
 
  protected:
-  Number Setting(size_t field) override;
   void FieldPassed(size_t field) override;
   void FieldsChecked(bool lastPassed) override;
 

@@ -1,4 +1,7 @@
-#include "games/handgrid/guide.h"
+// Keys and words for the board.
+#include "suite/guide.h"
+
+#include "games/handgrid/handgrid.h"
 
 using namespace modHandgrid;
 

@@ -253,11 +253,6 @@ void frmHandgrid::GameFailed() {
   GameWindow::GameFailed();
 }
 
-void frmHandgrid::PlayFailed(const std::string& description) {
-  common.MsgBox(description, Icon::Critical);
-  platform.End(description);
-}
-
 void frmHandgrid::BeforeEndQuestion() {
   StopMusic();
   PauseGame();

@@ -17,6 +17,7 @@ const char* HandName(Hand hand);
 class frmHandgrid : public GameWindow {
  public:
   explicit frmHandgrid(modCommon& common);
+  static const RulesText kRules;
 
   // --- Board and cards ---------------------------------------------------------------------------
   ControlArray<Image, modHandgrid::kCells> PlayCards{*this, "PlayCards"};
@@ -55,14 +56,12 @@ class frmHandgrid : public GameWindow {
 
   // --- The frame's plan --------------------------------------------------------------------------
   void Play() override;
-  void PlayFailed(const std::string& description) override;
   void EndGame() override;
   void GameOver() override;
   void GameFailed() override;
   void ShowCards(bool visible) override;
   void RefreshPlayCard() override;
   void ShowCustomScoring() override;
-  RulesText Rules() const override;
   void SetDefaults() override;
   // The longest limit is kept, and not taken back.
   bool AcceptsLimit(int seconds) const override { return seconds != 120; }
@@ -81,6 +80,7 @@ class frmHandgrid : public GameWindow {
   void PlaceBoard() override;
 
  private:
+  void NameSettings();
   void SetUpBoard();
   void SetUpLabels();
   void BindBoardEvents();
@@ -102,3 +102,5 @@ class frmHandgrid : public GameWindow {
   void ShowCardsRemaining();
   void ShowPointsEarned();
 };
+
+std::unique_ptr<Guide> GuideTo(frmHandgrid& window);

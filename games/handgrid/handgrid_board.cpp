@@ -1,6 +1,5 @@
 // The board of frmHandgrid: its design, where things stand at any window size, what is shown when; and its
 // settings.
-#include "games/handgrid/custom.h"
 #include "games/handgrid/handgrid.h"
 
 using namespace modHandgrid;
@@ -48,7 +47,10 @@ constexpr GamePlan kPlan{
     .limits = kLimits,
     .timeLimit = 75,
     .sections = kSections,
+    .rules = frmHandgrid::kRules,
+    .dialog = {.window = "frmHandgridCustom"},
     .rounds = 3,
+    .playFailure = Icon::Critical,
 };
 
 // The grid takes the left, clock and score the right, the deck the lower right corner.
@@ -92,23 +94,7 @@ const char* modHandgrid::HandName(Hand hand) {
 }
 
 frmHandgrid::frmHandgrid(modCommon& common) : GameWindow(common, kPlan) {
-  constexpr HandScores standard{};
-  const auto hand = [](const char* section, Long& score, long long points) {
-    return GameSetting{section, &score, static_cast<int>(points)};
-  };
-  settings = {{"[Time Bonus]", &common.TimeBonus, kTimeBonus},
-              {"[Bonus Score]", &BonusScore, kBonusScore},
-              hand("[Pair Score]", Scores.PairScore, standard.PairScore),
-              hand("[Two Pair Score]", Scores.TwoPairScore, standard.TwoPairScore),
-              hand("[Trips Score]", Scores.TripsScore, standard.TripsScore),
-              hand("[Flush Score]", Scores.FlushScore, standard.FlushScore),
-              hand("[Full House Score]", Scores.FullHouseScore, standard.FullHouseScore),
-              hand("[Straight Score]", Scores.StraightScore, standard.StraightScore),
-              hand("[Four Score]", Scores.FourScore, standard.FourScore),
-              hand("[Straight Flush Score]", Scores.StraightFlushScore, standard.StraightFlushScore),
-              hand("[Royal Flush Score]", Scores.RoyalFlushScore, standard.RoyalFlushScore),
-              {"[Over Writes]", &OverWritesAllowed, kOverWrites},
-              {"[Count Down Score]", &common.CountDownScore, true, Customises::No}};
+  NameSettings();
   SetUpBoard();
   SetUpLabels();
   BindBoardEvents();
@@ -172,8 +158,6 @@ void frmHandgrid::SetDefaults() {
   HandSoundPlayed = false;
   ResetDial();
 }
-
-void frmHandgrid::ShowCustomScoring() { frmHandgridCustom(*this).Show(true); }
 
 // --- Placing -------------------------------------------------------------------------------------
 

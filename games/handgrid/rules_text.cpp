@@ -8,7 +8,7 @@ constexpr RulesParagraph kParagraphs[] = {
     {"Requirements: To run {title} you need Windows 95 or above and a mouse.  Recommended: Soundcard."},
     {"As with most games, the object of {title} is to attain the highest number of points possible. "
      "The game consists of three rounds, each lasting {limit} seconds. "
-     "If you earn more than {bonusScore} points in these rounds you are awarded an additional bonus round."},
+     "If you earn more than {#bonusScore} points in these rounds you are awarded an additional bonus round."},
     {"To earn points in this game you must create 10 poker hands by placing cards "
      "from the deck into the provided columns and rows. Once completed, each row "
      "and each column form a complete 5 card poker hand."},
@@ -37,18 +37,4 @@ constexpr RulesParagraph kParagraphs[] = {
 
 }  // namespace
 
-RulesText frmHandgrid::Rules() const {
-  const auto plain = [](long long value) { return std::to_string(value); };
-  return {31,
-          kParagraphs,
-          {{"overWrites", plain(OverWritesAllowed)},
-           {"pair", plain(Scores.PairScore)},
-           {"twoPair", plain(Scores.TwoPairScore)},
-           {"trips", plain(Scores.TripsScore)},
-           {"straight", plain(Scores.StraightScore)},
-           {"flush", plain(Scores.FlushScore)},
-           {"fullHouse", plain(Scores.FullHouseScore)},
-           {"four", plain(Scores.FourScore)},
-           {"straightFlush", plain(Scores.StraightFlushScore)},
-           {"royalFlush", plain(Scores.RoyalFlushScore)}}};
-}
+const RulesText frmHandgrid::kRules{31, kParagraphs};

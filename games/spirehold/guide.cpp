@@ -1,4 +1,7 @@
-#include "games/spirehold/guide.h"
+// Keys and words for the board.
+#include "suite/guide.h"
+
+#include "games/spirehold/spirehold.h"
 
 using namespace modSpirehold;
 

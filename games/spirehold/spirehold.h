@@ -15,6 +15,7 @@ inline constexpr int kCardValue = 100, kBonusScore = 40000, kHighRunBonus = 1000
 class frmSpirehold : public GameWindow {
  public:
   explicit frmSpirehold(modCommon& common);
+  static const RulesText kRules;
 
   // --- Board and cards ---------------------------------------------------------------------------
   ControlArray<Image, modSpirehold::kCards> UpCardImage{*this, "UpCardImage"};
@@ -52,8 +53,6 @@ class frmSpirehold : public GameWindow {
   void RefreshFieldCards() override;
   // Covered cards lie face down in play, too.
   bool BacksAreShown() const override { return true; }
-  void ShowCustomScoring() override;
-  RulesText Rules() const override;
   std::string HighScorePrefix() const override { return "Current High Score: "; }
   void ShowGameControls(bool visible) override;
   void HideCardsAtTimeUp() override { ShowCards(false, false); }
@@ -63,6 +62,7 @@ class frmSpirehold : public GameWindow {
   void PlaceBoard() override;
 
  private:
+  void NameSettings();
   void SetUpBoard();
   void BindBoardEvents();
   void ShowCard(Image& image, std::string_view code);
@@ -76,3 +76,5 @@ class frmSpirehold : public GameWindow {
   void HighRunScore();
   void RefuseTimeBonus();
 };
+
+std::unique_ptr<Guide> GuideTo(frmSpirehold& window);

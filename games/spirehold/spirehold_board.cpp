@@ -1,6 +1,5 @@
 // The board of frmSpirehold: its design, where things stand at any window size, what is shown when; and its
 // settings.
-#include "games/spirehold/custom.h"
 #include "games/spirehold/spirehold.h"
 
 using namespace modSpirehold;
@@ -31,6 +30,8 @@ constexpr GamePlan kPlan{
     .limits = kLimits,
     .timeLimit = 45,
     .sections = kSections,
+    .rules = frmSpirehold::kRules,
+    .dialog = {.window = "frmSpireholdCustom"},
 };
 
 // How far from the middle of the window a card's middle is, in halves of a card: between the two that cover
@@ -79,13 +80,7 @@ constexpr Design kButtonDesign[] = {
 }  // namespace
 
 frmSpirehold::frmSpirehold(modCommon& common) : GameWindow(common, kPlan) {
-  settings = {{"[Card Bonus]", &CardValue, kCardValue},
-              {"[Bonus Score]", &BonusScore, kBonusScore},
-              {"[High Run Bonus]", &HighRunBonus, kHighRunBonus},
-              {"[Tower Bonus]", &TowerBonus, kTowerBonus},
-              {"[Time Bonus]", &common.TimeBonus, kTimeBonus},
-              {"[Hi Run]", &board.HighestRun, 0, Customises::No},
-              {"[Count Down Score]", &common.CountDownScore, true, Customises::No}};
+  NameSettings();
   SetUpBoard();
   BindBoardEvents();
 }
@@ -195,5 +190,3 @@ void frmSpirehold::HideTowerLabels() { SetVisible({&lblTower1, &lblTower2, &lblT
 void frmSpirehold::ShowGameControls(bool visible) {
   SetVisible({&lblCurrentRun, &lblHighRun, &lblHighScore, &lblCardCount, &lblCards, &lblNextCard}, visible);
 }
-
-void frmSpirehold::ShowCustomScoring() { frmSpireholdCustom(*this).Show(true); }

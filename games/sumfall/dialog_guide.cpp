@@ -1,4 +1,5 @@
-#include "games/sumfall/guide.h"
+#include "games/sumfall/dialogs.h"
+#include "window/guide.h"
 
 namespace {
 

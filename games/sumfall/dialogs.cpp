@@ -8,14 +8,6 @@ constexpr int kDialogWidth = 7200;
 
 constexpr Design kScoringDesign[] = {
     {"Frame1", 240, 180, 6720, 2520, "Apptitle Scoring Options"},
-    {"lblBonus", 240, 480, 4500, 285, "Score required for Bonus Round:"},
-    {"txtBonus", 4920, 420, 1560, 360},
-    {"lblCompletion", 240, 960, 4500, 285, "Score awarded for upper completion:"},
-    {"txtCompletion", 4920, 900, 1560, 360},
-    {"lblElevenBonus", 240, 1440, 4500, 285, "Score awarded for eleven combination:"},
-    {"txtElevensBonus", 4920, 1380, 1560, 360},
-    {"lblTimeBonus", 240, 1920, 4500, 285, "Score awarded for Time Bonus (per second):"},
-    {"txtTimeBonus", 4920, 1860, 1560, 360},
     {"lblCustom", 240, 2880, 6720, 540,
      "Note: Any high score attained using customized scoring will be denoted by an asterisk in the High "
      "Score table."},
@@ -30,31 +22,45 @@ constexpr Design kFileDesign[] = {
     {"cmdOK", 2160, 4980, 1320, 420, "&OK"}, {"cmdCancel", 3720, 4980, 1320, 420, "&Cancel"},
 };
 
-constexpr int kLowestValue = 1, kHighestValue = 5'000'000;
-
 // The number at the start of a box's text; a text that doesn't begin with a digit is 0.
 double NumberIn(const TextBox& box) {
   const std::string& text = box.Text;
   return text.empty() || text[0] < '0' || text[0] > '9' ? 0 : Val(text);
 }
 
+template <class Kind>
+std::vector<std::unique_ptr<Kind>> Make(Frame& frame, const std::vector<const GameSetting*>& settings,
+                                        const char* ScoringField::*name) {
+  std::vector<std::unique_ptr<Kind>> controls;
+  for (const GameSetting* each : settings)
+    controls.push_back(std::make_unique<Kind>(frame, *each->field.*name));
+  return controls;
+}
+
 }  // namespace
 
 frmSumfallCustomScoring::frmSumfallCustomScoring(frmSumfall& game)
-    : Form(game.platform, "frmSumfallCustomScoring"), game_(game) {
+    : Form(game.platform, "frmSumfallCustomScoring"),
+      settings(WithField(game.settings)),
+      labels(Make<Label>(Frame1, settings, &ScoringField::label)),
+      boxes(Make<TextBox>(Frame1, settings, &ScoringField::box)),
+      game_(game) {
   Form::Move(0, 0, kDialogWidth, 4200);
   ApplyDesign(*this, kScoringDesign);
-  for (TextBox* box : {&txtBonus, &txtCompletion, &txtElevensBonus, &txtTimeBonus})
-    box->OnGotFocus = [box] { box->SelectAll(); };
+  for (size_t i = 0; i < settings.size(); ++i) {
+    TextBox& box = *boxes[i];
+    const int top = 420 + 480 * static_cast<int>(i);
+    labels[i]->Caption = settings[i]->field->caption;
+    labels[i]->Move(240, top + 60, 4500, 285);
+    box.Move(4920, top, 1560, 360);
+    box.OnGotFocus = [&box] { box.SelectAll(); };
+  }
   cmdOK.Default = true;
   cmdCancel.Cancel = true;
   cmdOK.OnClick = [this] { cmdOK_Click(); };
   cmdCancel.OnClick = [this] { Unload(); };
   cmdDefault.OnClick = [this] {
-    txtBonus.Text = std::to_string(modSumfall::kBonusRoundScore);
-    txtCompletion.Text = std::to_string(modSumfall::kCompletionBonus);
-    txtElevensBonus.Text = std::to_string(modSumfall::kCombinationBonus);
-    txtTimeBonus.Text = std::to_string(modSumfall::kTimeBonus);
+    for (size_t i = 0; i < settings.size(); ++i) boxes[i]->Text = std::to_string(settings[i]->standard);
   };
 }
 
@@ -63,44 +69,28 @@ void frmSumfallCustomScoring::Form_Load() {
   Caption = game_.common.AppTitle + " User Options";
   const int goal = static_cast<int>(game_.CardGoal);
   if (goal >= modSumfall::kLowestGoal && goal <= modSumfall::kHighestGoal)
-    lblElevenBonus.Caption =
+    labels[2]->Caption =
         std::string("Score awarded for ") + modSumfall::GoalNumberWord(goal) + " combination:";
-  txtBonus.Text = std::to_string(game_.BonusRoundScore);
-  txtCompletion.Text = std::to_string(game_.CompletionBonus);
-  txtElevensBonus.Text = std::to_string(game_.CombinationBonus);
-  txtTimeBonus.Text = std::to_string(game_.common.TimeBonus);
-  txtBonus.SetFocus();
+  for (size_t i = 0; i < settings.size(); ++i) boxes[i]->Text = settings[i]->Text();
+  boxes[0]->SetFocus();
 }
 
 void frmSumfallCustomScoring::cmdOK_Click() {
-  const struct {
-    TextBox& box;
-    Long& value;
-    const char* message;
-  } fields[] = {
-      {txtBonus, game_.BonusRoundScore,
-       "Sorry, the score required for a Bonus Round must fall between 1 and 5,000,000."},
-      {txtCompletion, game_.CompletionBonus,
-       "Sorry, the score awarded for completing the upper playing area must fall between 1 and 5,000,000."},
-      {txtElevensBonus, game_.CombinationBonus,
-       "Sorry, the score awarded for each eleven combination must fall between 1 and 5,000,000."},
-      {txtTimeBonus, game_.common.TimeBonus,
-       "Sorry, the score awarded for each second remaining in the game after selecting 'Take Score' must "
-       "fall between 1 "
-       "and 5,000,000."},
-  };
-  for (const auto& field : fields) {
-    const double value = NumberIn(field.box);
-    if (value >= kLowestValue && value <= kHighestValue) continue;
-    game_.common.MsgBox(field.message, Icon::Exclamation);
-    field.box.SetFocus();
+  for (size_t i = 0; i < settings.size(); ++i) {
+    const ScoringField& field = *settings[i]->field;
+    const double value = NumberIn(*boxes[i]);
+    if (value >= field.lowest && value <= field.highest) continue;
+    game_.common.MsgBox(field.below.message, Icon::Exclamation);
+    boxes[i]->SetFocus();
     return;
   }
-  for (const auto& field : fields) field.value = NumberIn(field.box);
+  for (size_t i = 0; i < settings.size(); ++i) settings[i]->SetNumber(RoundHalfEven(NumberIn(*boxes[i])));
   game_.ShowBonusGoal();
   game_.CheckForCustom();
   Unload();
 }
+
+void frmSumfall::ShowCustomScoring() { frmSumfallCustomScoring(*this).Show(true); }
 
 SavedGameDialog::SavedGameDialog(frmSumfall& game, std::string_view name)
     : Form(game.platform, name), game_(game) {

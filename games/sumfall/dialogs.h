@@ -9,11 +9,11 @@ class frmSumfallCustomScoring : public Form {
   explicit frmSumfallCustomScoring(frmSumfall& game);
   void Form_Load() override;
 
+  // What a player may set of the game, each with its label and box.
+  const std::vector<const GameSetting*> settings;
   Frame Frame1{*this, "Frame1"};
-  Label lblBonus{Frame1, "lblBonus"}, lblCompletion{Frame1, "lblCompletion"},
-      lblElevenBonus{Frame1, "lblElevenBonus"}, lblTimeBonus{Frame1, "lblTimeBonus"};
-  TextBox txtBonus{Frame1, "txtBonus"}, txtCompletion{Frame1, "txtCompletion"},
-      txtElevensBonus{Frame1, "txtElevensBonus"}, txtTimeBonus{Frame1, "txtTimeBonus"};
+  const std::vector<std::unique_ptr<Label>> labels;
+  const std::vector<std::unique_ptr<TextBox>> boxes;
   Label lblCustom{*this, "lblCustom"};
   CommandButton cmdOK{*this, "cmdOK"}, cmdCancel{*this, "cmdCancel"}, cmdDefault{*this, "cmdDefault"};
 
@@ -42,6 +42,9 @@ class SavedGameDialog : public Form {
 
   frmSumfall& game_;
 };
+
+// Says in which folder it is.
+std::unique_ptr<Guide> GuideTo(SavedGameDialog& window);
 
 class frmSave : public SavedGameDialog {
  public:

@@ -1,4 +1,7 @@
-#include "games/sumfall/guide.h"
+// Keys and words for the board.
+#include "suite/guide.h"
+
+#include "games/sumfall/sumfall.h"
 
 using namespace modSumfall;
 

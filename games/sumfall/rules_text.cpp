@@ -38,13 +38,9 @@ constexpr RulesParagraph kParagraphs[] = {
 
 }  // namespace
 
-RulesText frmSumfall::Rules() const {
-  return {30,
-          kParagraphs,
-          {{"quarter", std::to_string(common.TimeLimit / 4)},
-           {"bonusRoundScore", std::to_string(BonusRoundScore)},
-           {"combinationBonus", std::to_string(CombinationBonus)},
-           {"completionBonus", std::to_string(CompletionBonus)},
-           {"timeBonus", std::to_string(common.TimeBonus)},
-           {"takeScore", cmdTakeScore.Caption.get().substr(1)}}};
+const RulesText frmSumfall::kRules{30, kParagraphs};
+
+RulesValues frmSumfall::MoreRulesValues() const {
+  return {{"quarter", std::to_string(common.TimeLimit / 4)},
+          {"takeScore", cmdTakeScore.Caption.get().substr(1)}};
 }

@@ -8,16 +8,13 @@ using namespace modSumfall;
 // --- Dealing -------------------------------------------------------------------------------------
 
 bool frmSumfall::CreateSumfallDeck() {
-  try {
+  const auto create = [this] {
     const int goal = static_cast<int>(CardGoal);
     common.Deck = DeckForGoal(goal);
     DeckGoal = goal;
     for (CardCodes* deck : {&Round1Deck, &Round2Deck, &Round3Deck}) deck->assign(common.Deck.size(), "");
-    return true;
-  } catch (const RuntimeError&) {
-    common.MsgBox("Unable to create the deck.");
-    return false;
-  }
+  };
+  return common.Try(create, "Unable to create the deck.");
 }
 
 CardCodes& frmSumfall::RoundDeck(long long round) {
@@ -25,7 +22,7 @@ CardCodes& frmSumfall::RoundDeck(long long round) {
 }
 
 bool frmSumfall::Deal(bool newGame) {
-  try {
+  const auto deal = [&] {
     board.Deal(common.Deck, CardGoal);
     UpCardSelectionRectangle.Visible = false;
     UpCardPicture.BorderStyle = 1;
@@ -69,11 +66,8 @@ bool frmSumfall::Deal(bool newGame) {
     RoundDeck(CurrentRound) = common.Deck;
     ResetDial();
     ShowTimerRect();
-    return true;
-  } catch (const RuntimeError&) {
-    common.MsgBox("Unable to deal the cards.");
-    return false;
-  }
+  };
+  return common.Try(deal, "Unable to deal the cards.");
 }
 
 // --- Selection and combinations ------------------------------------------------------------------
@@ -185,9 +179,6 @@ void frmSumfall::Play() {
   MousePointer = kDefaultPointer;
 }
 
-// Told like any other failure: there is no game yet that could be lost.
-void frmSumfall::PlayFailed(const std::string&) { throw; }
-
 void frmSumfall::BackToIdle() {
   GameWindow::BackToIdle();
   EndGame();
@@ -226,7 +217,7 @@ void frmSumfall::PayCompletionBonus() {
   ShowMessage("Completion Bonus! " + std::to_string(CompletionBonus));
   lblCurrentScore.ForeColor = kCyan;
   platform.Sleep(1000);
-  if (!CountDownScore) {
+  if (!common.CountDownScore) {
     AddToScore(CompletionBonus);
     platform.Sleep(1000);
     return;
@@ -247,7 +238,7 @@ void frmSumfall::PayCombinationBonus() {
   ShowMessage(std::to_string(board.combinations) + " " + word + "! Bonus = " + std::to_string(bonus));
   lblCurrentScore.ForeColor = kCyan;
   lblCurrentElevens.ForeColor = kCyan;
-  if (!CountDownScore) {
+  if (!common.CountDownScore) {
     AddToScore(bonus);
     board.combinations = 0;
     lblCurrentElevens.Caption = "0";
@@ -269,7 +260,7 @@ void frmSumfall::PayTimeBonus() {
   ShowMessage("Speed Bonus! " + std::to_string(bonus));
   lblCurrentScore.ForeColor = kCyan;
   platform.Sleep(1000);
-  if (!CountDownScore) {
+  if (!common.CountDownScore) {
     common.ElapsedSeconds = common.TimeLimit;
     common.CurrentScore += bonus;
     ResetDial();
@@ -480,16 +471,16 @@ SavedGame frmSumfall::LastGame(const std::string& userName) const {
 
 bool frmSumfall::LoadSavedGame(const std::filesystem::path& path) {
   SavedGame game;
-  try {
+  const auto read = [&] {
     std::string text;
     if (common.files.Read(path, text) != ReadOutcome::Read) throw RuntimeError("File not found");
     game = ParseSavedGame(text);
-  } catch (const RuntimeError&) {
-    common.MsgBox(
-        "Unable to open the requested file. It may be damaged or you may have entered an invalid file name.",
-        Icon::Critical);
+  };
+  if (!common.Try(
+          read,
+          "Unable to open the requested file. It may be damaged or you may have entered an invalid file name.",
+          Icon::Critical))
     return false;
-  }
   ChooseGoal(game.cardGoal);
   common.Deck.assign(DeckSize(game.cardGoal) + 1, "");
   DeckGoal = game.cardGoal;

@@ -22,6 +22,7 @@ const char* GoalNumberWord(int cardGoal);
 class frmSumfall : public GameWindow {
  public:
   explicit frmSumfall(modCommon& common);
+  static const RulesText kRules;
 
   // --- Board and cards ---------------------------------------------------------------------------
   ControlArray<Image, modSumfall::kPlaces> FieldCardPicture{*this, "FieldCardPicture"};
@@ -48,7 +49,6 @@ class frmSumfall : public GameWindow {
   int DeckGoal = modSumfall::kDefaultGoal;  // the card goal that the decks were made for
   Long& BonusRoundScore = BonusScore;
   Long CompletionBonus, CombinationBonus;
-  bool CountDownScore = true;  // of this game alone
   bool ReplayPending = false;
 
   // --- Play --------------------------------------------------------------------------------------
@@ -68,7 +68,6 @@ class frmSumfall : public GameWindow {
   // --- The frame's plan --------------------------------------------------------------------------
   void Form_Activate() override;
   void Play() override;
-  void PlayFailed(const std::string& description) override;
   void BackToIdle() override;
   void BeginScoring() override;
   void HideBoard() override;
@@ -83,10 +82,10 @@ class frmSumfall : public GameWindow {
   void RefreshPlayCard() override;
   void RefreshFieldCards() override;
   void ShowCustomScoring() override;
-  RulesText Rules() const override;
+  RulesValues MoreRulesValues() const override;
   void SetDefaults() override;
   bool ApplyGameSetting(std::string_view section, std::string_view value) override;
-  void SettingsRead() override { mnuDrawTimer.Checked = CountDownScore; }
+  void SettingsRead() override { mnuDrawTimer.Checked = common.CountDownScore; }
   std::string TableFile(const std::string& tableName) const override;
   std::string HighScoreInfo() const override;
   void ShowSplashFace(Image& image) override;
@@ -106,6 +105,7 @@ class frmSumfall : public GameWindow {
   void PlaceBoard() override;
 
  private:
+  void NameSettings();
   void SetUpBoard();
   void SetUpGameMenus();
   void BindBoardEvents();
@@ -129,3 +129,5 @@ class frmSumfall : public GameWindow {
   bool commandLineTaken_ = false, pausedForClosing_ = false;
   bool completed_ = false;  // the field, in the round that is being paid
 };
+
+std::unique_ptr<Guide> GuideTo(frmSumfall& window);

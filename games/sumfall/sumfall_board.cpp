@@ -31,7 +31,9 @@ constexpr GamePlan kPlan{
     .limits = kLimits,
     .timeLimit = 90,
     .sections = kSections,
+    .rules = frmSumfall::kRules,
     .splashInterval = 250,
+    .playFailure = std::nullopt,  // there is no game yet that could be lost
 };
 
 constexpr Design kDesign[] = {
@@ -91,16 +93,36 @@ const char* modSumfall::GoalWord(int cardGoal) { return kGoals[cardGoal - kLowes
 const char* modSumfall::GoalNumberWord(int cardGoal) { return kGoals[cardGoal - kLowestGoal].number; }
 
 frmSumfall::frmSumfall(modCommon& common) : GameWindow(common, kPlan) {
-  settings = {{"", &BonusRoundScore, kBonusRoundScore},
-              {"", &CompletionBonus, kCompletionBonus},
-              {"", &CombinationBonus, kCombinationBonus},
-              {"", &common.TimeBonus, kTimeBonus},
-              {"[Color]", &SelectionColorIndex, kDefaultColour, Customises::No},
-              {"[CardGoal]", &CardGoal, kDefaultGoal, Customises::No},
-              {"[DrawTimer]", &CountDownScore, true, Customises::No}};
+  NameSettings();
   SetUpBoard();
   SetUpGameMenus();
   BindBoardEvents();
+}
+
+void frmSumfall::NameSettings() {
+  const auto field = [](const char* box, const char* label, const char* caption, const char* message) {
+    return BoundedField(box, label, caption, 1, 5'000'000, message, message);
+  };
+  settings = {
+      {"bonusRoundScore", &BonusRoundScore, kBonusRoundScore, "", Customises::Yes,
+       field("txtBonus", "lblBonus", "Score required for Bonus Round:",
+             "Sorry, the score required for a Bonus Round must fall between 1 and 5,000,000.")},
+      {"completionBonus", &CompletionBonus, kCompletionBonus, "", Customises::Yes,
+       field("txtCompletion", "lblCompletion", "Score awarded for upper completion:",
+             "Sorry, the score awarded for completing the upper playing area must fall between 1 and "
+             "5,000,000.")},
+      {"combinationBonus", &CombinationBonus, kCombinationBonus, "", Customises::Yes,
+       field("txtElevensBonus", "lblElevenBonus", "Score awarded for eleven combination:",
+             "Sorry, the score awarded for each eleven combination must fall between 1 and 5,000,000.")},
+      {"timeBonus", &common.TimeBonus, kTimeBonus, "", Customises::Yes,
+       field(
+           "txtTimeBonus", "lblTimeBonus", "Score awarded for Time Bonus (per second):",
+           "Sorry, the score awarded for each second remaining in the game after selecting 'Take Score' must "
+           "fall between 1 and 5,000,000.")},
+      {"colour", &SelectionColorIndex, kDefaultColour, "[Color]", Customises::No},
+      {"cardGoal", &CardGoal, kDefaultGoal, "[CardGoal]", Customises::No},
+      {"countDown", &common.CountDownScore, true, "[DrawTimer]", Customises::No},
+  };
 }
 
 void frmSumfall::SetUpBoard() {
@@ -144,8 +166,8 @@ void frmSumfall::SetUpGameMenus() {
   mnuDrawTimer.Caption = "Count &Down when taking score";
   mnuDrawTimer.Checked = true;
   mnuDrawTimer.OnClick = [this] {
-    CountDownScore = !CountDownScore;
-    mnuDrawTimer.Checked = CountDownScore;
+    common.CountDownScore = !common.CountDownScore;
+    mnuDrawTimer.Checked = common.CountDownScore;
   };
   mnuGoal.Caption = "Card &Goal";
   mnuGoal.rank = 75;
@@ -347,5 +369,3 @@ std::string frmSumfall::TableFile(const std::string& tableName) const {
 std::string frmSumfall::HighScoreInfo() const {
   return "High Scores for Card Goal of " + std::to_string(CardGoal) + "\r\n" + GameWindow::HighScoreInfo();
 }
-
-void frmSumfall::ShowCustomScoring() { frmSumfallCustomScoring(*this).Show(true); }

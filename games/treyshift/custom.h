@@ -9,11 +9,7 @@ class frmTreyshiftCustom : public ScoringDialog {
   explicit frmTreyshiftCustom(frmTreyshift& game);
 
  protected:
-  Number Setting(size_t field) override;
-  std::string Shown(size_t field) override;
+  std::string Shown(size_t field, long long kept) const override;
   void TellRefusal(const Refusal& refusal) override;
   void Take(size_t field, double value) override;
-
- private:
-  frmTreyshift& game_;
 };

@@ -1,4 +1,7 @@
-#include "games/treyshift/guide.h"
+// Keys and words for the board.
+#include "suite/guide.h"
+
+#include "games/treyshift/treyshift.h"
 
 using namespace modTreyshift;
 

@@ -7,7 +7,7 @@ constexpr RulesParagraph kParagraphs[] = {
     {"Requirements: To run {title} you need Windows 95 or above and a mouse. Recommended: Soundcard."},
     {"As with most games, the object of {title} is to attain the highest number of points possible. "
      "The game consists of two rounds, each lasting {limit} seconds. "
-     "If you earn more than {bonusScore} points in these rounds you are awarded an additional bonus round."},
+     "If you earn more than {#bonusScore} points in these rounds you are awarded an additional bonus round."},
     {"The {title} game board is separated into three sections: the storage area, the playing field, and the "
      "deck. The playing field consists of four columns, each of which may hold up to three cards. You earn "
      "points by creating '3 card runs' (a Run) and '3 of a kinds' (a Trip) in each column. To accomplish this "
@@ -31,13 +31,4 @@ constexpr RulesParagraph kParagraphs[] = {
 
 }  // namespace
 
-RulesText frmTreyshift::Rules() const {
-  return {31,
-          kParagraphs,
-          {{"tripValue", std::to_string(TripValue)},
-           {"runValue", std::to_string(RunValue)},
-           {"flushValue", std::to_string(FlushValue)},
-           {"deckValue", std::to_string(DeckValue)},
-           {"penaltyValue", std::to_string(PenaltyValue)},
-           {"timeBonus", std::to_string(common.TimeBonus)}}};
-}
+const RulesText frmTreyshift::kRules{31, kParagraphs};

@@ -15,6 +15,7 @@ inline constexpr int kTripValue = 6000, kRunValue = 300, kFlushValue = 5000, kDe
 class frmTreyshift : public GameWindow {
  public:
   explicit frmTreyshift(modCommon& common);
+  static const RulesText kRules;
 
   // --- Board and cards ---------------------------------------------------------------------------
   Shape FieldRect{*this, "FieldRect"};
@@ -61,9 +62,7 @@ class frmTreyshift : public GameWindow {
 
   // --- The frame's plan --------------------------------------------------------------------------
   void SetDefaults() override;
-  bool ApplyGameSetting(std::string_view section, std::string_view value) override;
   void Play() override;
-  void PlayFailed(const std::string& description) override;
   void InitRound() override;
   // Input is dead while a round is scored, and a quarter of a second after the last one.
   bool TakesCommand() const override { return !standing.InputIsDead(); }
@@ -79,7 +78,6 @@ class frmTreyshift : public GameWindow {
   void ShowCards(bool visible) override;
   void RefreshPlayCard() override;
   void ShowCustomScoring() override;
-  RulesText Rules() const override;
   void ShowGameControls(bool visible) override;
   void PlaceMessage() override;
   void PlaceScoring() override;
@@ -87,6 +85,7 @@ class frmTreyshift : public GameWindow {
   using GameWindow::ShowControls;
 
  private:
+  void NameSettings();
   void SetUpBoard();
   void BindBoardEvents();
 
@@ -114,3 +113,5 @@ class frmTreyshift : public GameWindow {
 
   bool endsStuck_ = false;  // the stuck round is about to be paid
 };
+
+std::unique_ptr<Guide> GuideTo(frmTreyshift& window);

@@ -1,6 +1,5 @@
 // The board of frmTreyshift: its design, where things stand at any window size, what is shown when; and its
 // settings.
-#include "games/treyshift/custom.h"
 #include "games/treyshift/treyshift.h"
 #include "suite/dial.h"
 
@@ -37,6 +36,9 @@ constexpr GamePlan kPlan{
     .limits = kLimits,
     .timeLimit = 120,
     .sections = kSections,
+    .rules = frmTreyshift::kRules,
+    .dialog = {.window = "frmTreyshiftCustom"},
+    .playFailure = Icon::Critical,
 };
 
 // The storage above, the field in the middle, the deck below; the clock and what was made to the left. The
@@ -83,14 +85,7 @@ void CenterWithin(Label& label, const Shape& box) {
 }  // namespace
 
 frmTreyshift::frmTreyshift(modCommon& common) : GameWindow(common, kPlan) {
-  settings = {{"[Time Bonus]", &common.TimeBonus, kTimeBonus},
-              {"[Bonus Score]", &BonusScore, kBonusScore},
-              {"[Trips Score]", &TripValue, kTripValue},
-              {"[Runs Score]", &RunValue, kRunValue},
-              {"[Flush Score]", &FlushValue, kFlushValue},
-              {"", &DeckValue, kDeckValue},
-              {"", &PenaltyValue, kPenaltyValue},
-              {"[Count Down Score]", &common.CountDownScore, true, Customises::No}};
+  NameSettings();
   SetUpBoard();
   BindBoardEvents();
 }
@@ -99,11 +94,6 @@ frmTreyshift::frmTreyshift(modCommon& common) : GameWindow(common, kPlan) {
 void frmTreyshift::SetDefaults() { Timer2.Enabled = true; }
 
 void frmTreyshift::ResetDial() { InitTimeDial(*this); }
-
-// What a trip is worth is written to the file and never comes back.
-bool frmTreyshift::ApplyGameSetting(std::string_view section, std::string_view /*value*/) {
-  return section == "[Trips Score]";
-}
 
 void frmTreyshift::SetUpBoard() {
   ApplyDesign(*this, kDesign);
@@ -235,5 +225,3 @@ void frmTreyshift::ShowGameControls(bool visible) {
               &lblTemp, &lblFieldCards, &FieldRect},
              visible);
 }
-
-void frmTreyshift::ShowCustomScoring() { frmTreyshiftCustom(*this).Show(true); }

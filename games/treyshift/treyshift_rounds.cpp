@@ -26,12 +26,6 @@ void frmTreyshift::Play() {
   ShowCardCount();
 }
 
-// There is no program without a game that can be dealt.
-void frmTreyshift::PlayFailed(const std::string& description) {
-  common.MsgBox(description, Icon::Critical);
-  platform.End(description);
-}
-
 // Nobody touches a round that isn't dealt yet: what was clicked meanwhile comes to nothing.
 void frmTreyshift::InitRound() {
   standing.Hold();
