@@ -1,9 +1,4 @@
 // The program without a screen.
-#include <poll.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <csignal>
 #include <cstdlib>
 #include <iostream>
 #include <memory>
@@ -14,7 +9,8 @@
 #include "games/games.h"
 #include "suite/suite.h"
 #include "window/console/console.h"
-#include "window/leaving.h"
+#include "window/system/leaving.h"
+#include "window/system/program.h"
 
 namespace {
 
@@ -29,16 +25,10 @@ class Console : public ConsoleFrontEnd {
 // Standard input, until a signal comes.
 class Input : public std::streambuf {
   int_type underflow() override {
-    while (true) {
-      pollfd waits[] = {{leaving::Wire(), POLLIN, 0}, {STDIN_FILENO, POLLIN, 0}};
-      if (poll(waits, 2, -1) < 0 && errno == EINTR) continue;
-      if (leaving::IsWanted()) leaving::Now(EXIT_SUCCESS);
-      const ssize_t got = read(STDIN_FILENO, chunk_, sizeof chunk_);
-      if (got < 0 && (errno == EINTR || errno == EAGAIN)) continue;
-      if (got <= 0) return traits_type::eof();
-      setg(chunk_, chunk_, chunk_ + got);
-      return traits_type::to_int_type(*chunk_);
-    }
+    const size_t got = program::Read(chunk_, sizeof chunk_);
+    if (got == 0) return traits_type::eof();
+    setg(chunk_, chunk_, chunk_ + got);
+    return traits_type::to_int_type(*chunk_);
   }
   char chunk_[4096];
 };
@@ -55,13 +45,7 @@ class Output : public std::streambuf {
                                                                 : sputc(traits_type::to_char_type(letter));
   }
   int sync() override {
-    for (const char* at = pbase(); at < pptr();) {
-      const leaving::Held writing;
-      const ssize_t written = write(STDOUT_FILENO, at, static_cast<size_t>(pptr() - at));
-      if (written < 0 && errno == EINTR) continue;
-      if (written < 0) return -1;
-      at += written;
-    }
+    if (!program::Write(pbase(), static_cast<size_t>(pptr() - pbase()))) return -1;
     setp(chunk_, chunk_ + sizeof chunk_);
     return 0;
   }
@@ -71,7 +55,7 @@ class Output : public std::streambuf {
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::signal(SIGPIPE, SIG_IGN);  // output that nobody gets is a failure, and no sudden end
+  program::OutliveReaders();
   Options options;
   if (const auto status = ReadCommandLine(Program::Console, argc, argv, options)) return *status;
   try {
@@ -83,7 +67,7 @@ int main(int argc, char** argv) {
     Console console({options.start, options.screen}, in, out);
     Platform& platform = console.platform;
     leaving::Heed();
-    leaving::SetPlatform(&platform);
+    leaving::SetKeeper(&platform.OnLeave);
     if (options.seed) platform.random.Seed(*options.seed);
     platform.CommandLine = options.savedGame;
     std::unique_ptr<Suite> suite;
@@ -94,7 +78,7 @@ int main(int argc, char** argv) {
     } catch (const std::exception& error) {
       platform.End(error.what());
     }
-    leaving::SetPlatform(nullptr);
+    leaving::SetKeeper(nullptr);
     if (!out.flush()) throw std::runtime_error("the output can't be written");
     return console.failed ? EXIT_FAILURE : EXIT_SUCCESS;
   } catch (const std::exception& error) {

@@ -9,15 +9,14 @@
 #include "suite/catalogue.h"
 #include "suite/suite.h"
 #include "window/desktop/program.h"
+#include "window/system/folders.h"
 
 namespace {
 
 // A suite without its pictures can be played, but nobody should have to guess why it looks so bare.
 void TellOfMissingData(Platform& platform, const DesktopOptions& options) {
-  std::error_code error;
   const std::filesystem::path& data = options.folders.installed;
-  if (std::filesystem::is_directory(data / "pictures", error) ||
-      std::filesystem::exists(options.folders.own / Catalogue().front().file, error))
+  if (folders::IsFolder(data / "pictures") || folders::Exists(options.folders.own / Catalogue().front().file))
     return;
   const std::string text = "The pictures and sounds are missing: they should be in " + data.string() + ".";
   std::cerr << "cardhaven: " << text << std::endl;

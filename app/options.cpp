@@ -1,16 +1,14 @@
 #include "app/options.h"
 
-#include <fcntl.h>
-#include <pwd.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <charconv>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+
+#include "window/system/disk.h"
+#include "window/system/folders.h"
 
 namespace fs = std::filesystem;
 
@@ -55,69 +53,19 @@ bool ParseScreen(const std::string& text, Extent& screen) {
 
 std::string Name(Program program) { return program == Program::Desktop ? "cardhaven" : "cardhaven-console"; }
 
-fs::path ProgramFolder() {
-  std::error_code error;
-  const fs::path program = fs::read_symlink("/proc/self/exe", error);
-  return error ? fs::current_path(error) : program.parent_path();
-}
-
-// A folder that can't be made is as one that can't be written: the suite plays on, and says what it can't
-// keep. A new one is the player's alone.
-fs::path Made(const fs::path& folder) {
-  std::error_code error;
-  fs::create_directories(folder.parent_path(), error);
-  mkdir(folder.c_str(), 0700);
-  return folder;
-}
-
-fs::path HomeFolder() {
-  if (const char* home = std::getenv("HOME"); home && home[0] == '/') return home;
-  const passwd* user = getpwuid(getuid());
-  return user && user->pw_dir && user->pw_dir[0] == '/' ? user->pw_dir : "";
-}
-
 bool IsKeptFile(const std::string& name) {
   const std::string known = name.substr(0, name.find(".bad"));
   return known.ends_with(".Ini") || known.ends_with(".sfl") ||
          (known.ends_with(".Txt") && known.find("Scores") != std::string::npos);
 }
 
-// Gives a file another name that nobody bears. Never a link: where it leads may hang on where it lies.
-bool MoveUnder(const fs::path& file, const fs::path& name) {
-  std::error_code error;
-  if (fs::is_symlink(file, error)) return false;
-  return renameat2(AT_FDCWD, file.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE) == 0;
-}
-
-bool ReachesDisk(const fs::path& path) {
-  const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (descriptor < 0) return false;
-  const bool reached = fsync(descriptor) == 0;
-  close(descriptor);
-  return reached;
-}
-
 // Earlier versions kept files beside the program. They move to where they are kept now; what is there already
 // goes before them.
 void CarryOver(const fs::path& from, const fs::path& to) {
-  std::error_code error;
   // They did so only where they could write; a folder of the system's isn't looked through at each start.
-  if (access(from.c_str(), W_OK) != 0 || fs::equivalent(from, to, error)) return;
-  std::vector<fs::path> files;
-  for (fs::directory_iterator entry(from, error), end; !error && entry != end; entry.increment(error))
-    if (std::error_code ignored; entry->is_regular_file(ignored) && IsKeptFile(entry->path().filename()))
-      files.push_back(entry->path());
-  for (const fs::path& file : files) {
-    const fs::path place = to / file.filename();
-    if (fs::exists(fs::symlink_status(place, error)) || MoveUnder(file, place)) continue;
-    // To another disk goes a copy first, which becomes the file only when it is whole and lies there;
-    // nobody's file is written over.
-    const fs::path beside = place.string() + ".carried-" + std::to_string(getpid());
-    const bool moved = fs::copy_file(file, beside, error) && ReachesDisk(beside) &&
-                       MoveUnder(beside, place) && ReachesDisk(to);
-    fs::remove(beside, error);
-    if (moved) fs::remove(file, error);
-  }
+  if (!folders::CanTakeFrom(from, to)) return;
+  for (const std::string& name : Disk().Names(from, Disk::Entries::Files))
+    if (IsKeptFile(name)) folders::Move(from / name, to / name);
 }
 
 void ApplyValue(const std::string& option, const std::string& value, Options& options) {
@@ -232,27 +180,26 @@ std::optional<int> ReadCommandLine(Program program, int argc, char** argv, Optio
 }
 
 fs::path FindAppPath(const Options& options) {
-  if (!options.folder.empty()) {
-    std::error_code error;
-    return Made(fs::absolute(options.folder, error).lexically_normal());
+  fs::path kept = options.folder.empty() ? fs::path() : folders::Absolute(options.folder);
+  if (!kept.empty()) {
+    folders::Make(kept);
+    return kept;
   }
-  const fs::path own = ProgramFolder();
-  std::error_code error;
-  if (fs::exists(own / "portable", error)) return own;
-  const char* const data = std::getenv("XDG_DATA_HOME");
-  const fs::path home = HomeFolder();
-  if (!(data && data[0] == '/') && home.empty())
+  const fs::path own = folders::OfProgram();
+  if (folders::Exists(own / "portable")) return own;
+  const fs::path data = folders::OfPlayersData();
+  if (data.empty())
     throw std::runtime_error("there is no home folder to keep files in; name a folder with --folder");
-  const fs::path kept = (data && data[0] == '/' ? fs::path(data) : home / ".local/share") / "card-haven";
-  CarryOver(own, Made(kept));
+  kept = data / "card-haven";
+  folders::Make(kept);
+  CarryOver(own, kept);
   return kept;
 }
 
 fs::path FindDataFolder() {
   // A build folder has the installed layout too, by a link; so what is moved as a whole finds its data.
-  const fs::path beside = ProgramFolder().parent_path() / "share/card-haven";
-  std::error_code error;
+  const fs::path beside = folders::OfProgram().parent_path() / "share/card-haven";
   for (const fs::path& folder : {beside, fs::path(CARDHAVEN_DATA_DIR)})
-    if (fs::is_directory(folder / "pictures", error)) return folder;
+    if (folders::IsFolder(folder / "pictures")) return folder;
   return beside;
 }

@@ -4,7 +4,7 @@
 #include <cstdio>
 
 modCommon::modCommon(Platform& platform, std::filesystem::path folder)
-    : platform(platform), files(std::move(folder)), AppTitle(kSuiteTitle) {
+    : platform(platform), files(std::move(folder), *platform.border), AppTitle(kSuiteTitle) {
   files.mustHurry = [&platform] { return platform.border->MustLeave(); };
 }
 
@@ -35,7 +35,7 @@ void modCommon::TellWhatCantBeKept() {
 int modCommon::RandomInteger(int lower, int upper) {
   int foreseen = 0;
   if (platform.random.TakeForeseen(lower, upper, foreseen)) return foreseen;
-  platform.random.Reseed();
+  if (!platform.random.Seeded()) platform.random.Stir(platform.border->Chance());
   return static_cast<int>(std::floor((upper - lower + 1) * platform.random.Next() + lower));
 }
 

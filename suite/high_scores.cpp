@@ -97,7 +97,7 @@ HighScores ReadHighScores(GameWindow& window, const std::string& tableName, cons
   Files& files = window.common.files;
   const auto path = files.PathOf(window.TableFile(tableName));
   const auto asItIs = [](HighScores scores) { return scores; };
-  if (Files::HasNotes(path)) KeepTable(window, tableName, asItIs, defaultScore);
+  if (files.HasNotes(path)) KeepTable(window, tableName, asItIs, defaultScore);
   std::string text;
   const ReadOutcome outcome = files.Read(path, text);
   bool damaged = false;

@@ -241,12 +241,12 @@ TEST(Files, AreOldOrNewAtAnyMoment) {
   TestFolder folder;
   const auto path = folder.Path() / "table.Txt";
   const std::string texts[2] = {std::string(200000, 'a'), std::string(100000, 'b')};
-  ASSERT_TRUE(Files::Write(path, texts[0]));
+  ASSERT_EQ(Disk().Replace(path, texts[0]), WriteOutcome::Written);
   int seen[2] = {};
   for (int round = 0; round < 60; ++round) {
     const pid_t child = fork();
     if (child == 0)
-      for (int i = round;; ++i) Files::Write(path, texts[i % 2]);
+      for (int i = round;; ++i) Disk().Replace(path, texts[i % 2]);
     usleep(500 + round * 171);
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
@@ -255,9 +255,9 @@ TEST(Files, AreOldOrNewAtAnyMoment) {
     ++seen[found == texts[1]];
   }
   EXPECT_GT(seen[1], 0) << "the child must have had the time to write";
-  EXPECT_FALSE(Files::Write(folder.Path() / "none" / "x", "text"));
+  EXPECT_EQ(Disk().Replace(folder.Path() / "none" / "x", "text"), WriteOutcome::NotBeside);
   std::filesystem::create_directories(folder.Path() / "taken" / "inner");
-  EXPECT_FALSE(Files::Write(folder.Path() / "taken", "text"));
+  EXPECT_EQ(Disk().Replace(folder.Path() / "taken", "text"), WriteOutcome::NotOver);
 }
 
 }  // namespace

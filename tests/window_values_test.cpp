@@ -109,17 +109,17 @@ TEST(Chance, IsUniformAndFollowsTheSeed) {
   c.Seed(6);
   bool differs = false;
   for (int i = 0; i < 100; ++i) {
-    a.Reseed();  // does nothing to a seeded one
+    a.Stir(i);  // does nothing to a seeded one
     const double drawn = a.Next();
     EXPECT_EQ(drawn, b.Next());
     differs |= drawn != c.Next();
   }
   EXPECT_TRUE(differs);
   int counts[10] = {};
-  RandomSource clock;
+  RandomSource stirred;
   for (int i = 0; i < 100000; ++i) {
-    clock.Reseed();
-    const double drawn = clock.Next();
+    stirred.Stir(i / 3);  // a coarse clock
+    const double drawn = stirred.Next();
     ASSERT_TRUE(drawn >= 0 && drawn < 1);
     ++counts[static_cast<int>(drawn * 10)];
   }
@@ -128,9 +128,8 @@ TEST(Chance, IsUniformAndFollowsTheSeed) {
 
 TEST(Chance, ForeseenResultsComeInOrderForTheirBoundsAlone) {
   RandomSource random;
-  EXPECT_TRUE(random.Foresee(1, 52, 7));
-  EXPECT_TRUE(random.Foresee(1, 52, 52));
-  EXPECT_FALSE(random.Foresee(1, 52, 53));
+  random.Foresee(1, 52, 7);
+  random.Foresee(1, 52, 52);
   EXPECT_EQ(random.CountForeseen(1, 52), 2u);
   int result = 0;
   EXPECT_FALSE(random.TakeForeseen(1, 56, result));

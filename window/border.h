@@ -1,11 +1,13 @@
-// All that comes to the windows from outside comes through here, and by no other way: what happens (`Next`),
-// and what they ask (the clock, the screen). Who stands at this border sees a whole run go by, and can bring
-// one back: the same events and the same answers lead to the same windows.
+// All that comes to the windows from outside comes through here, and by no other way: what happens, and what
+// they ask, what files hold among it. Whoever stands at this border sees a whole run go by, and can bring one
+// back: the same events and the same answers lead to the same windows.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "window/box.h"
+#include "window/system/disk.h"
 
 class Control;
 class Form;
@@ -30,20 +32,21 @@ struct Event {
     DblClick,
     MouseMove,
     Focus,
-    Type,    // the text box holds `text`
-    Select,  // entry `x` of the list, from 0
-    Press,   // `key`, in the window
-    Close,   // the window's close box
-    Place,   // the window was moved to x, y
-    Resize,  // the window was made x wide, y high
-    State,   // the window became x of `window_state`
-    Answer,  // to the message box that stands
-    Tick,    // of the timer that was due first: the time has come
-    Over     // nothing will ever come any more
+    Type,     // the text box holds `text`
+    Select,   // entry `x` of the list, from 0
+    Press,    // `key`, in the window
+    Close,    // the window's close box
+    Place,    // the window was moved to x, y
+    Resize,   // the window was made x wide, y high
+    State,    // the window became x of `window_state`
+    Foresee,  // chance gives z when it is asked for x to y next; where x is larger it forgets all it foresaw
+    Answer,   // to the message box that stands
+    Tick,     // of the timer that was due first: the time has come
+    Over      // nothing will ever come any more
   };
   Kind kind = Kind::None;
   Control* control = nullptr;  // whom it happens to: a control, a window, a timer
-  int x = 0, y = 0;
+  int x = 0, y = 0, z = 0;
   Key key = Key::Return;
   Answer answer = Answer::OK;
   std::string_view text = {};  // lasts until the event has been carried out
@@ -64,10 +67,11 @@ struct Wait {
   static constexpr long long kForever = 1ll << 62;
 };
 
-class Border {
+// Stands between the windows and the world. A front end is one; another may be put before it, as
+// `Platform::border`, as long as no windows are made yet: it hands on what it is asked, and sees the answers.
+// A disk as well: the one there is, where nothing is overridden.
+class Border : public Disk {
  public:
-  virtual ~Border() = default;
-
   // The only place where the program blocks. Shows what has changed, and gives the next event that the wait
   // serves, a tick when its time has come; or hands events to `Platform::Enter` as they come, and returns
   // when the wait is over or earlier.
@@ -78,6 +82,8 @@ class Border {
   // Milliseconds since the start. Never goes back.
   virtual long long Milliseconds() = 0;
   virtual DateTime Now() = 0;
+  // A number that nobody can foresee, to stir chance with.
+  virtual uint64_t Chance();
   virtual Extent ScreenExtent() = 0;
   // The room that a label's caption needs in its lettering.
   virtual Extent TextExtent(const Label& label) = 0;
@@ -85,5 +91,5 @@ class Border {
   virtual std::string FindBrowser() = 0;
   virtual bool OpenPage(const std::string& browser, const std::string& url) = 0;
   // Whether the program has been told to go, and has no time for long waits.
-  virtual bool MustLeave() { return false; }
+  virtual bool MustLeave();
 };

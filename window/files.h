@@ -11,12 +11,7 @@
 #include <utility>
 #include <vector>
 
-enum class ReadOutcome {
-  Read,
-  Missing,
-  Unusable,  // there is something, but no text file of a sane size
-  Refused    // it can't be read now, and nobody knows what is in it
-};
+#include "window/system/disk.h"
 
 // A change to a file that is kept: made to what the file holds at that moment, which another copy of the
 // program may have written.
@@ -44,7 +39,7 @@ struct FileRefusal {
 
 class Files {
  public:
-  explicit Files(std::filesystem::path folder) : folder_(std::move(folder)) {}
+  Files(std::filesystem::path folder, Disk& disk) : folder_(std::move(folder)), disk_(disk) {}
 
   // `AppPath`.
   const std::filesystem::path& Folder() const { return folder_; }
@@ -54,11 +49,10 @@ class Files {
   // What the file holds, and what waits to be written to it. Where it can't be read now, what it held when it
   // was read last.
   ReadOutcome Read(const std::filesystem::path& path, std::string& text);
-  // Replaces the file, which is the old one or the new one whole at any moment; where it is a symbolic link,
-  // what that names. False if that can't be done.
-  static bool Write(const std::filesystem::path& path, const std::string& text);
+  // Replaces the file. False if that can't be done.
+  bool Write(const std::filesystem::path& path, const std::string& text);
   // Whether copies of the program that had no time have left notes, which the next change of the file adds.
-  static bool HasNotes(const std::filesystem::path& path);
+  bool HasNotes(const std::filesystem::path& path);
   // Changes a file that the suite keeps by itself, while no other copy of the program does. Where the disk
   // refuses, the change waits for the next try, until the program ends.
   void Keep(const std::filesystem::path& path, FileChange change);
@@ -72,22 +66,20 @@ class Files {
   // How long another copy of the program is waited for, in milliseconds. A longer wait has no better chances:
   // what holds a lock that long is stuck.
   int patience = 30'000;
-  // Whether there is no time any more, for that wait or for the disk: what is handed to the system reaches
-  // the disk without us.
+  // Whether there is no time any more, for that wait or for the disk.
   std::function<bool()> mustHurry;
 
  private:
-  ReadOutcome ReadDisk(const std::filesystem::path& path, std::string& text);
   void Settle(const std::filesystem::path& path);
   std::optional<FileRefusal::What> Change(const std::filesystem::path& path,
                                           std::vector<FileChange>& changes);
   std::vector<std::filesystem::path> AddNotes(const std::filesystem::path& path, const FileChange& change,
                                               const std::string& old, std::string& text);
-  void Sweep(const std::filesystem::path& folder);
   bool Hurries() const { return mustHurry && mustHurry(); }
   void Refuse(FileRefusal::What what, const std::filesystem::path& path);
 
   std::filesystem::path folder_;
+  Disk& disk_;
   std::map<std::filesystem::path, std::string> known_;  // as read or written last
   std::map<std::filesystem::path, std::vector<FileChange>> waiting_;
   std::set<std::filesystem::path> unread_;  // never read, since the disk refused
@@ -95,22 +87,4 @@ class Files {
   std::set<std::pair<FileRefusal::What, std::filesystem::path>> told_;
   std::vector<FileRefusal> refusals_;
   bool stuck_ = false;  // the last wait for a lock was in vain
-};
-
-// While one stands, no other copy of the program holds one for the same folder. Not to be nested, and not to
-// be held while the player is asked.
-class FolderLock {
- public:
-  // Waits up to `patience` milliseconds; those who have waited longer ask more often, and so come first.
-  FolderLock(const std::filesystem::path& folder, int patience, const std::function<bool()>& mustHurry);
-  ~FolderLock();
-  FolderLock(const FolderLock&) = delete;
-
-  // Whether nobody else holds it; true as well where the file system knows no locks.
-  bool Held() const { return held_; }
-  bool FolderIsThere() const { return descriptor_ >= 0; }
-
- private:
-  int descriptor_;
-  bool held_ = false;
 };

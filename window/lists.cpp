@@ -2,20 +2,20 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
 #include <filesystem>
+
+#include "window/platform.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-// The names in a folder for which `wanted` holds, sorted; a folder that can't be read has none.
+// The names in a folder for which `wanted` holds, sorted.
 template <class Wanted>
-std::vector<std::string> NamesIn(const fs::path& folder, Wanted wanted) {
-  std::vector<std::string> names;
-  std::error_code error;
-  for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error))
-    if (wanted(*it)) names.push_back(it->path().filename().string());
+std::vector<std::string> NamesIn(const Control& list, const std::string& folder, Disk::Entries which,
+                                 Wanted wanted) {
+  std::vector<std::string> names = list.form.platform.border->Names(folder, which);
+  std::erase_if(names, [&](const std::string& name) { return !wanted(name); });
   std::ranges::sort(names);
   return names;
 }
@@ -67,15 +67,7 @@ void ListControl::Visit(const PropertyVisitor& visit) const {
 
 DriveListBox::DriveListBox(Control& parent, std::string_view name)
     : ListControl(Kind::DriveListBox, parent, name) {
-  std::vector<std::string> places = {"/"};
-  if (const char* home = std::getenv("HOME"); home && *home) places.push_back(home);
-  for (const char* mounts : {"/media", "/mnt"})
-    for (const std::string& mount : NamesIn(mounts, [](const auto& entry) {
-           std::error_code error;
-           return entry.is_directory(error);
-         }))
-      places.push_back((fs::path(mounts) / mount).string());
-  List = places;
+  List = form.platform.border->Places();
 }
 
 bool DriveListBox::Pick(int entry) {
@@ -103,10 +95,8 @@ void DirListBox::Enter() {
 
 void DirListBox::AfterChange(Prop prop) {
   if (prop != Prop::Path) return;
-  std::vector<std::string> folders = NamesIn(Path.get(), [](const fs::directory_entry& entry) {
-    std::error_code error;
-    return entry.is_directory(error) && entry.path().filename().string()[0] != '.';
-  });
+  std::vector<std::string> folders =
+      NamesIn(*this, Path, Disk::Entries::Folders, [](const std::string& name) { return name[0] != '.'; });
   const fs::path here(Path.get());
   if (here.has_relative_path()) folders.insert(folders.begin(), "..");
   List = folders;
@@ -129,10 +119,8 @@ std::string FileListBox::FileName() const {
 
 void FileListBox::AfterChange(Prop prop) {
   if (prop != Prop::Path && prop != Prop::Pattern) return;
-  List = NamesIn(Path.get(), [this](const fs::directory_entry& entry) {
-    std::error_code error;
-    return entry.is_regular_file(error) && FitsPattern(entry.path().filename().string(), Pattern.get());
-  });
+  List = NamesIn(*this, Path, Disk::Entries::Files,
+                 [this](const std::string& name) { return FitsPattern(name, Pattern.get()); });
   ListIndex = -1;
 }
 

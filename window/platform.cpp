@@ -31,9 +31,13 @@ void Platform::Enter(const Event& event) {
     case Event::Kind::Over:
       return;
     case Event::Kind::Tick:
+      if (Timer* timer = timers.Next()) border->Entered({Event::Kind::Tick, timer});
       timers.now = Milliseconds();
       if (Timer* timer = timers.TakeDue(timers.now)) Tick(*timer);
       return;
+    case Event::Kind::Foresee:
+      border->Entered(event);
+      return event.x > event.y ? random.ForgetForeseen() : random.Foresee(event.x, event.y, event.z);
     case Event::Kind::Answer:
       if (!StandingBox()) return;
       border->Entered(event);
@@ -82,8 +86,11 @@ void Platform::DoEvents() {
     Enter(event);
   }
   timers.now = Milliseconds();
-  for (Timer* timer : timers.Waiting(timers.now))
-    if (timers.Take(*timer, timers.now)) Tick(*timer);
+  for (Timer* timer : timers.Waiting(timers.now)) {
+    if (!timers.Take(*timer, timers.now)) continue;
+    border->Entered({Event::Kind::Tick, timer});
+    Tick(*timer);
+  }
 }
 
 Answer Platform::MsgBox(const std::string& text, const std::string& title, Icon icon, Buttons buttons) {
@@ -159,7 +166,6 @@ void Platform::Tick(Timer& timer) {
     Timer& timer;
     ~Guard() { timers.EndTick(&timer); }
   } guard{timers, timer};
-  border->Entered({Event::Kind::Tick, &timer});
   timers.BeginTick(timer);
   Dispatch([&] {
     if (timer.OnTimer) timer.OnTimer();

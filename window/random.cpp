@@ -1,7 +1,5 @@
 #include "window/random.h"
 
-#include <chrono>
-
 namespace {
 
 // SplitMix64: one step of a counter, and a mix of its bits that passes the usual tests of uniformity.
@@ -18,10 +16,9 @@ void RandomSource::Seed(uint64_t seed) {
   seeded_ = true;
 }
 
-void RandomSource::Reseed() {
-  if (seeded_) return;
-  // The reading goes on top of the state, so that two draws within one tick of a coarse clock still differ.
-  state_ = Mix(state_ ^ static_cast<uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count()));
+void RandomSource::Stir(uint64_t number) {
+  // On top of the state, so that two draws within one tick of a coarse clock still differ.
+  if (!seeded_) state_ = Mix(state_ ^ number);
 }
 
 double RandomSource::Next() {
@@ -29,11 +26,7 @@ double RandomSource::Next() {
   return static_cast<double>(Mix(state_) >> 11) * 0x1.0p-53;
 }
 
-bool RandomSource::Foresee(int lower, int upper, int result) {
-  if (result < lower || result > upper) return false;
-  foreseen_[{lower, upper}].push_back(result);
-  return true;
-}
+void RandomSource::Foresee(int lower, int upper, int result) { foreseen_[{lower, upper}].push_back(result); }
 
 bool RandomSource::TakeForeseen(int lower, int upper, int& result) {
   if (foreseen_.empty()) return false;

@@ -1,4 +1,4 @@
-// Where chance comes from: a generator that is stirred with the clock, and results that a script has laid
+// Where chance comes from: a generator that is stirred from outside, and results that a script has laid
 // ready.
 #pragma once
 
@@ -10,15 +10,16 @@
 
 class RandomSource {
  public:
-  // From now on the results follow from `seed` alone; the clock isn't looked at any more.
+  // From now on the results follow from `seed` alone; nothing is stirred in any more.
   void Seed(uint64_t seed);
-  // Stirs the clock's present reading into the generator, unless it was seeded.
-  void Reseed();
+  bool Seeded() const { return seeded_; }
+  // Stirs a number into the generator that nobody can foresee, unless it was seeded.
+  void Stir(uint64_t number);
   // Uniform in [0, 1).
   double Next();
 
-  // Lays a result ready for draws with exactly these bounds. False if it lies outside them.
-  bool Foresee(int lower, int upper, int result);
+  // Lays a result ready for draws with exactly these bounds, within which it lies.
+  void Foresee(int lower, int upper, int result);
   // Takes the next result laid ready for these bounds; false if there is none.
   bool TakeForeseen(int lower, int upper, int& result);
   // How many results wait for these bounds.

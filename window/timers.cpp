@@ -25,6 +25,11 @@ const Timers::Entry* Timers::First() const {
   return first;
 }
 
+Timer* Timers::Next() const {
+  const Entry* first = First();
+  return first ? first->timer : nullptr;
+}
+
 std::optional<Timers::Milliseconds> Timers::NextDue() const {
   const Entry* first = First();
   if (!first) return std::nullopt;

@@ -15,7 +15,8 @@ class Timers {
   // Begins the timer's interval anew at `now()`, or forgets it if it is off.
   void Restart(Timer& timer);
 
-  // When the next tick is due; nothing if no timer can tick.
+  // The timer whose tick is due next, and when that is; nothing if no timer can tick.
+  Timer* Next() const;
   std::optional<Milliseconds> NextDue() const;
   // The timer whose tick was due first, at `now` or before; ties go to the timer made first. Null if there is
   // none. Its next tick is at the next multiple of its interval after `now`.

@@ -113,9 +113,7 @@ SavedGameDialog::SavedGameDialog(frmSumfall& game, std::string_view name)
 
 void SavedGameDialog::Form_Load() {
   CenterOnScreen();
-  std::error_code error;
-  const auto folder = std::filesystem::absolute(game_.common.files.Folder(), error).lexically_normal();
-  Dir1.Path = folder.string();
+  Dir1.Path = game_.common.files.Folder().lexically_normal().string();
 }
 
 std::filesystem::path SavedGameDialog::ChosenFile() {
@@ -145,7 +143,7 @@ frmSave::frmSave(frmSumfall& game) : SavedGameDialog(game, "frmSave") {
 void frmSave::cmdOK_Click() {
   const std::string text = FormatSavedGame(game_.LastGame(txtUserName.Text));
   const auto file = ChosenFile();
-  if (file.empty() || !Files::Write(file, text)) {
+  if (file.empty() || !game_.common.files.Write(file, text)) {
     game_.common.MsgBox(
         "Unable to save the file. Please verify that you have entered a valid path and file name.",
         Icon::Critical);

@@ -6,7 +6,7 @@
 #include <istream>
 #include <ostream>
 
-#include "window/leaving.h"
+#include "window/system/leaving.h"
 
 ConsoleFrontEnd::ConsoleFrontEnd(const ConsoleOptions& options, std::istream& in, std::ostream& out)
     : options_(options), in_(in), out_(out), script_(platform, *this, out) {
@@ -32,8 +32,6 @@ void ConsoleFrontEnd::Advance(int milliseconds) {
         platform.Enter({Event::Kind::Tick});
       });
 }
-
-bool ConsoleFrontEnd::MustLeave() { return leaving::IsWanted(); }
 
 DateTime ConsoleFrontEnd::Now() {
   using namespace std::chrono;

@@ -25,7 +25,6 @@ class ConsoleFrontEnd : public FrontEnd, private Hands {
   DateTime Now() override;
   Extent ScreenExtent() override { return options_.screen; }
   Extent TextExtent(const Label& label) override;
-  bool MustLeave() override;
   void PlayWave(const std::string&) override {}
   void MediaCommand(const std::string&) override {}
   std::string FindBrowser() override { return "browser"; }

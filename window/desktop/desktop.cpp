@@ -18,7 +18,7 @@
 #include "window/desktop/painting/style.h"
 #include "window/desktop/view/boxes.h"
 #include "window/desktop/view/form_window.h"
-#include "window/leaving.h"
+#include "window/system/leaving.h"
 
 namespace fs = std::filesystem;
 
@@ -239,8 +239,6 @@ std::string DesktopFrontEnd::FindBrowser() {
 bool DesktopFrontEnd::OpenPage(const std::string& browser, const std::string& url) {
   return QProcess::startDetached(QString::fromStdString(browser), {QString::fromStdString(url)});
 }
-
-bool DesktopFrontEnd::MustLeave() { return leaving::IsWanted(); }
 
 void DesktopFrontEnd::Painted() {
   if (painted_) return;

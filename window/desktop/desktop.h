@@ -59,8 +59,6 @@ class DesktopFrontEnd : public FrontEnd, public Deeds {
   std::string FindBrowser() override;
   bool OpenPage(const std::string& browser, const std::string& url) override;
 
-  bool MustLeave() override;
-
   void BoxShown(const MessageBox& box) override;
   void BoxGone(const MessageBox& box) override;
   void FormLoaded(Form& form) override;

@@ -7,7 +7,7 @@
 
 #include "window/desktop/painting/style.h"
 #include "window/desktop/session.h"
-#include "window/leaving.h"
+#include "window/system/leaving.h"
 
 namespace {
 
@@ -60,9 +60,9 @@ int RunDesktop(int argc, char** argv, const DesktopOptions& options, const Pictu
     front = std::make_unique<DesktopFrontEnd>(options.folders, pictures);
   if (!options.script) front->guides = options.guides;
   std::shared_ptr<void> kept;  // goes before the front end does
-  leaving::SetPlatform(&front->platform);
+  leaving::SetKeeper(&front->platform.OnLeave);
   if (heeds) HeedSession(application, front->platform);
   const int status = front->Run([&] { kept = start(front->platform); });
-  leaving::SetPlatform(nullptr);
+  leaving::SetKeeper(nullptr);
   return status;
 }

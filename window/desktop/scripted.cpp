@@ -1,16 +1,14 @@
 #include "window/desktop/scripted.h"
 
-#include <unistd.h>
-
 #include <QAbstractButton>
 #include <QDateTime>
 #include <QMessageBox>
 #include <QSocketNotifier>
 #include <algorithm>
-#include <cerrno>
 #include <cstdlib>
 
 #include "window/desktop/view/boxes.h"
+#include "window/system/program.h"
 
 namespace {
 
@@ -42,9 +40,10 @@ void ScriptedDesktop::Serve() {
 
 void ScriptedDesktop::ReadInput() {
   char chunk[4096];
-  const ssize_t got = read(STDIN_FILENO, chunk, sizeof chunk);
-  if (got > 0) input_.append(chunk, static_cast<size_t>(got));
-  if (got == 0 || (got < 0 && errno != EAGAIN && errno != EINTR)) {
+  size_t got = 0;
+  if (!program::ReadNow(chunk, sizeof chunk, got)) return Wake();
+  input_.append(chunk, got);
+  if (got == 0) {
     inputEnded_ = true;
     if (!input_.empty() && input_.back() != '\n') input_ += '\n';
   }
@@ -57,7 +56,7 @@ void ScriptedDesktop::ServeAll(const std::function<bool()>& waiting) {
   script_.AnswerNow();
   Pause(0);  // what the last command has changed is shown
   if (input_.find('\n') == std::string::npos && !inputEnded_) {
-    QSocketNotifier notifier(STDIN_FILENO, QSocketNotifier::Read);
+    QSocketNotifier notifier(program::Input(), QSocketNotifier::Read);
     QObject::connect(&notifier, &QSocketNotifier::activated, &notifier, [this] { ReadInput(); });
     Await([&] { return input_.find('\n') == std::string::npos && !inputEnded_ && waiting(); });
   }

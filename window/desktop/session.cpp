@@ -5,8 +5,8 @@
 #include <QSocketNotifier>
 #include <cstdlib>
 
-#include "window/leaving.h"
 #include "window/platform.h"
+#include "window/system/leaving.h"
 
 namespace {
 

@@ -157,11 +157,11 @@ std::string GetProperty(const Platform& platform, const std::string& path) {
 }
 
 // "LO..HI N N ..."
-std::string Foresee(RandomSource& random, const std::string& arguments) {
+std::string Foresee(Platform& platform, const std::string& arguments) {
   std::istringstream words(arguments);
   std::string bounds, word;
   if (!(words >> bounds)) {
-    random.ForgetForeseen();
+    platform.Enter({.kind = Event::Kind::Foresee, .x = 1});
     return "";
   }
   const size_t dots = bounds.find("..");
@@ -170,8 +170,8 @@ std::string Foresee(RandomSource& random, const std::string& arguments) {
   const int upper = Number(bounds.substr(dots + 2), lower, INT_MAX);
   std::vector<int> results;
   while (words >> word) results.push_back(Number(word, lower, upper));
-  for (int result : results) random.Foresee(lower, upper, result);
-  return std::to_string(random.CountForeseen(lower, upper));
+  for (int result : results) platform.Enter({Event::Kind::Foresee, nullptr, lower, upper, result});
+  return std::to_string(platform.random.CountForeseen(lower, upper));
 }
 
 Answer FindAnswer(const Platform& platform, const std::string& name) {
@@ -308,11 +308,11 @@ std::span<const Script::Verb> Script::Verbs() {
       {"windows", "", "Tells which windows are loaded, front first, hidden ones last",
        [](Script& script, std::string) { script.value_ = Windows(script.platform_); }},
       {"time", "", "Tells how many milliseconds have passed since the start",
-       [](Script& script, std::string) { script.value_ = std::to_string(script.platform_.Milliseconds()); }},
+       [](Script& script, std::string) { script.value_ = std::to_string(script.platform_.front.Milliseconds()); }},
       {"random", "[LO..HI [N...]]",
        "Decides what chance gives next when it is asked for LO to HI, and tells how many such numbers wait; alone "
        "forgets them all",
-       [](Script& script, std::string rest) { script.value_ = Foresee(script.platform_.random, rest); }},
+       [](Script& script, std::string rest) { script.value_ = Foresee(script.platform_, rest); }},
       {"trace", "on|off", "Switches the event lines on or off that tell what goes on inside",
        [](Script& script, std::string rest) {
          if (rest != "on" && rest != "off") throw NoCommand("trace", rest);

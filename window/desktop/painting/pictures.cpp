@@ -8,8 +8,8 @@
 
 #include "window/desktop/painting/screening.h"
 #include "window/desktop/painting/style.h"
-#include "window/foreign_files.h"
-#include "window/leaving.h"
+#include "window/system/foreign_files.h"
+#include "window/system/leaving.h"
 
 namespace fs = std::filesystem;
 

@@ -5,7 +5,7 @@
 
 #include "window/desktop/sound/sound.h"
 #include "window/desktop/sound/wave.h"
-#include "window/foreign_files.h"
+#include "window/system/foreign_files.h"
 
 namespace fs = std::filesystem;
 

@@ -10,6 +10,7 @@
 #include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/notes.h"
 #include "window/desktop/view/looks.h"
+#include "window/player.h"
 
 Comfort::Comfort(Canvas& canvas, Deeds& deeds, Looks& looks, Guide& guide)
     : canvas_(canvas),
@@ -27,10 +28,8 @@ void Comfort::BeforeShow() {
   if (!shown_ && guide_.KeepsPlace() && place) {
     const QScreen* screen = QGuiApplication::screenAt(*place);
     // A screen that is gone would take the window with it.
-    if (screen && screen->availableGeometry().contains(QRect(*place, QSize(64, 32)))) {
-      form_.Left = place->x() * 15;
-      form_.Top = place->y() * 15;
-    }
+    if (screen && screen->availableGeometry().contains(QRect(*place, QSize(64, 32))))
+      player::Place(form_, place->x() * 15, place->y() * 15);
   }
   if (!shown_) OfferAgain();
   shown_ = true;
@@ -43,7 +42,7 @@ void Comfort::Shown(const Keyboard& keyboard) const {
   const std::string last = looks_.Now().lastGame.toStdString();
   const auto found = std::ranges::find(choices, last, [](const Visual* each) { return each->NameInForm(); });
   Visual* const start = found != choices.end() ? *found : choices.empty() ? nullptr : choices.front();
-  if (start) start->SetFocus();
+  if (start) deeds_.Deliver(form_, [start] { player::Focus(*start); });
 }
 
 void Comfort::Hidden(const Keyboard& keyboard) {

@@ -74,7 +74,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 void FormWindow::PutBackFocus() {
   Visual* active = form.ActiveControl();
   if (lastField_ && active && active->kind == Control::Kind::CommandButton) {
-    lastField_->SetFocus();
+    player::Focus(*lastField_);
     active = lastField_;
   }
   if (active && active->kind == Control::Kind::TextBox) SelectText(static_cast<TextBox&>(*active));

@@ -216,8 +216,10 @@ void FormWindow::TellState() {
     zooming_ = false;
     player::SetState(form, state);
     ApplySize();
-    if (placeless && state == window_state::kNormal)
-      form.platform.Dispatch([this] { form.CenterOnScreen(); });
+    if (placeless && state == window_state::kNormal) {
+      const Extent screen = front_.ScreenExtent();
+      player::Place(form, (screen.width - form.Width) / 2, (screen.height - form.Height) / 2);
+    }
     if (state == window_state::kNormal) framed_.start();
   });
 }

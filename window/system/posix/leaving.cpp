@@ -1,4 +1,4 @@
-#include "window/leaving.h"
+#include "window/system/leaving.h"
 
 #include <sys/socket.h>
 #include <unistd.h>
@@ -11,8 +11,6 @@
 #include <system_error>
 #include <thread>
 
-#include "window/platform.h"
-
 namespace leaving {
 namespace {
 
@@ -21,7 +19,7 @@ using namespace std::chrono_literals;
 // A signal finds nothing but these.
 int signalEnds[2] = {-1, -1}, watchEnds[2] = {-1, -1};
 std::atomic<bool> wanted = false;
-std::atomic<Platform*> whose = nullptr;
+std::atomic<const std::function<void()>*> keeper = nullptr;
 std::atomic_flag begun;
 // Who has it may touch what the suite keeps: the thread that heeds, but for the times when it is held.
 std::mutex suite;
@@ -51,7 +49,7 @@ void Watch() {
 
 }  // namespace
 
-void SetPlatform(Platform* platform) { whose = platform; }
+void SetKeeper(const std::function<void()>* keep) { keeper = keep; }
 bool IsWanted() { return wanted; }
 int Wire() { return signalEnds[0]; }
 
@@ -60,7 +58,7 @@ void Now(int status) {
   if (begun.test_and_set())
     while (true) pause();
   wanted = true;
-  if (Platform* platform = whose; platform && platform->OnLeave) platform->OnLeave();
+  if (const auto* keep = keeper.load(); keep && *keep) (*keep)();
   std::_Exit(status);
 }
 
@@ -72,7 +70,7 @@ bool Heed() {
   heeds = true;
   // Where the display is lost, the libraries below end the program.
   std::atexit([] {
-    if (whose) Now(EXIT_FAILURE);
+    if (keeper) Now(EXIT_FAILURE);
   });
   try {
     std::thread(Watch).detach();

@@ -1,7 +1,7 @@
 // The end of the program from outside: a signal, the end of the session, a display that is lost.
 #pragma once
 
-class Platform;
+#include <functional>
 
 namespace leaving {
 
@@ -9,8 +9,8 @@ namespace leaving {
 bool Heed();
 // Can be read once a signal has come; then, between handlers, `Now` is to be called. -1 without `Heed`.
 int Wire();
-// Whose `OnLeave` is called.
-void SetPlatform(Platform* platform);
+// What writes that; null for nothing any more.
+void SetKeeper(const std::function<void()>* keep);
 // The program has been told to go.
 bool IsWanted();
 // What the suite keeps is written, then the program is gone.

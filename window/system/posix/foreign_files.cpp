@@ -1,12 +1,12 @@
-#include "window/foreign_files.h"
+#include "window/system/foreign_files.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <mutex>
 #include <set>
+
+#include "window/system/posix/descriptor.h"
 
 namespace fs = std::filesystem;
 
@@ -22,7 +22,7 @@ bool ReadForeignFile(const fs::path& path, std::uintmax_t largest, std::string& 
   if (stat(path.c_str(), &status) != 0) return false;
   why = WhyNotUse(path, largest);
   if (!why.empty()) return true;
-  const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+  const Descriptor descriptor(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
   if (descriptor < 0 || fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
     why = "it can't be read";
   } else {
@@ -33,7 +33,6 @@ bool ReadForeignFile(const fs::path& path, std::uintmax_t largest, std::string& 
     if (count < 0) why = "it can't be read";
     if (text.size() > largest) why = "it is too large";
   }
-  if (descriptor >= 0) close(descriptor);
   return true;
 }
 
