@@ -84,7 +84,7 @@ TEST_F(ViewFileTest, EachEntryWritesWhatItSaysAndTheRestStays) {
     entry->trigger();
     input::Settle();
     EXPECT_EQ(front.looks.Now(), wanted) << name;
-    EXPECT_TRUE(input::Await([&] { return Kept() == wanted; })) << name;
+    ASSERT_TRUE(input::Await([&] { return Kept() == wanted; })) << name;
     // The zoom that is ticked is the one that is seen, which the screen may limit.
     const bool says = wanted != first && entry->isCheckable() && !name.starts_with("viewZoom");
     EXPECT_TRUE(!says || entry->isChecked()) << name;
