@@ -53,6 +53,11 @@ bool ParseScreen(const std::string& text, Extent& screen) {
 
 std::string Name(Program program) { return program == Program::Desktop ? "cardhaven" : "cardhaven-console"; }
 
+fs::path ProgramFolder() {
+  const fs::path own = folders::OfProgram();
+  return own.empty() ? folders::Absolute("program").parent_path() : own;
+}
+
 bool IsKeptFile(const std::string& name) {
   const std::string known = name.substr(0, name.find(".bad"));
   return known.ends_with(".Ini") || known.ends_with(".sfl") ||
@@ -185,7 +190,7 @@ fs::path FindAppPath(const Options& options) {
     folders::Make(kept);
     return kept;
   }
-  const fs::path own = folders::OfProgram();
+  const fs::path own = ProgramFolder();
   if (folders::Exists(own / "portable")) return own;
   const fs::path data = folders::OfPlayersData();
   if (data.empty())
@@ -198,7 +203,7 @@ fs::path FindAppPath(const Options& options) {
 
 fs::path FindDataFolder() {
   // A build folder has the installed layout too, by a link; so what is moved as a whole finds its data.
-  const fs::path beside = folders::OfProgram().parent_path() / "share/card-haven";
+  const fs::path beside = ProgramFolder().parent_path() / "share/card-haven";
   for (const fs::path& folder : {beside, fs::path(CARDHAVEN_DATA_DIR)})
     if (folders::IsFolder(folder / "pictures")) return folder;
   return beside;

@@ -3,18 +3,21 @@
 
   layers.py SOURCE-FOLDER
 
-Each folder includes only what the table below allows it, a game no other game, and only the desktop knows a toolkit. Within the desktop no two
+Each folder includes only what the table below allows it, a game no other game. Only the desktop knows a toolkit, and only
+window/system/posix an operating system. Within the desktop no two
 files include each other, however far around.
 """
 import pathlib
 import re
 import sys
 
-MODEL = "window window/system"
+SYSTEM = "window/system"
+MODEL = "window " + SYSTEM
 DESKTOP = "window/desktop"
 MAY = {
     "window": MODEL,
-    "window/system": MODEL,
+    SYSTEM: "",
+    SYSTEM + "/posix": SYSTEM,
     "window/script": MODEL,
     "window/console": MODEL + " window/script",
     "suite": MODEL,
@@ -29,6 +32,7 @@ MAY = {
                               " window/desktop/speech window/desktop/view",
 }
 TOOLKIT = re.compile(r"#include <(Q[A-Z]|Qt|SDL)")
+ONLY_POSIX = re.compile(r"#include <(sys/|linux/|(unistd|fcntl|poll|dirent|signal|pwd)\.h|csignal)|/proc/self/exe")
 INCLUDE = re.compile(r'^#include "(.+)"', re.M)
 
 
@@ -58,6 +62,8 @@ def main(root):
     files = [path for folder in ("app", "games", "suite", "window") for path in root.glob(folder + "/**/*.*")]
     for path in (path.relative_to(root) for path in files if path.suffix in (".cpp", ".h")):
         text, own = (root / path).read_text(), layer(path)
+        if ONLY_POSIX.search(text) and own != SYSTEM + "/posix":
+            wrong.append(f"{path} knows an operating system")
         if own == "app":
             continue
         if own not in MAY:

@@ -18,7 +18,6 @@
 #include "window/desktop/painting/style.h"
 #include "window/desktop/view/boxes.h"
 #include "window/desktop/view/form_window.h"
-#include "window/system/leaving.h"
 
 namespace fs = std::filesystem;
 

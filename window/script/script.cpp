@@ -308,7 +308,9 @@ std::span<const Script::Verb> Script::Verbs() {
       {"windows", "", "Tells which windows are loaded, front first, hidden ones last",
        [](Script& script, std::string) { script.value_ = Windows(script.platform_); }},
       {"time", "", "Tells how many milliseconds have passed since the start",
-       [](Script& script, std::string) { script.value_ = std::to_string(script.platform_.front.Milliseconds()); }},
+       [](Script& script, std::string) {
+         script.value_ = std::to_string(script.platform_.front.Milliseconds());
+       }},
       {"random", "[LO..HI [N...]]",
        "Decides what chance gives next when it is asked for LO to HI, and tells how many such numbers wait; alone "
        "forgets them all",

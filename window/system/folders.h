@@ -8,7 +8,7 @@ namespace folders {
 
 using Path = std::filesystem::path;
 
-// The folder of the program that runs.
+// The folder of the program that runs; "" where the system doesn't tell.
 Path OfProgram();
 // Where programs keep what is their player's; "" where nobody knows.
 Path OfPlayersData();

@@ -9,7 +9,7 @@ add_library(cardhaven_soundplayer STATIC
 target_include_directories(cardhaven_soundplayer PUBLIC ${CMAKE_CURRENT_LIST_DIR}/../../..)
 target_compile_definitions(cardhaven_soundplayer PRIVATE
   CARDHAVEN_SOUND_MODULE_DIR="${CMAKE_INSTALL_FULL_LIBDIR}/card-haven")
-target_link_libraries(cardhaven_soundplayer PUBLIC Threads::Threads ${CMAKE_DL_LIBS})
+target_link_libraries(cardhaven_soundplayer PUBLIC cardhaven_window Threads::Threads ${CMAKE_DL_LIBS})
 
 add_library(cardhaven-sound MODULE ${CMAKE_CURRENT_LIST_DIR}/sound_sdl.cpp)
 # Built beside the program, which looks there first.

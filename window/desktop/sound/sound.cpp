@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "window/desktop/sound/sound_module.h"
+#include "window/system/folders.h"
 
 namespace fs = std::filesystem;
 
@@ -57,12 +58,10 @@ const CardHavenSoundModule* LoadModule(const fs::path& given) {
   if (!given.empty()) {
     places.push_back(given);
   } else {
-    std::error_code error;
-    const fs::path program = fs::read_symlink("/proc/self/exe", error);
-    if (!error) {
-      places.push_back(program.parent_path() / kModuleName);
+    if (const fs::path own = folders::OfProgram(); !own.empty()) {
+      places.push_back(own / kModuleName);
       // Installed, and moved as a whole to another prefix.
-      places.push_back(program.parent_path().parent_path() / "lib" / "card-haven" / kModuleName);
+      places.push_back(own.parent_path() / "lib" / "card-haven" / kModuleName);
     }
     places.push_back(fs::path(CARDHAVEN_SOUND_MODULE_DIR) / kModuleName);
   }

@@ -87,7 +87,7 @@ void FormWindow::FollowFrame() {
 // Where nobody manages windows the size must be asked for as well.
 void FormWindow::FillScreen(Qt::WindowStates how) {
   if (!IsFilled()) {
-    const Extent screen = form.platform.ScreenExtent();
+    const Extent screen = form.platform.front.ScreenExtent();
     zooming_ = true;
     setGeometry(0, 0, Pixels(screen.width), Pixels(screen.height));
     zooming_ = false;
@@ -217,7 +217,7 @@ void FormWindow::TellState() {
     player::SetState(form, state);
     ApplySize();
     if (placeless && state == window_state::kNormal) {
-      const Extent screen = front_.ScreenExtent();
+      const Extent screen = form.platform.front.ScreenExtent();
       player::Place(form, (screen.width - form.Width) / 2, (screen.height - form.Height) / 2);
     }
     if (state == window_state::kNormal) framed_.start();

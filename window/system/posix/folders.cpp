@@ -39,7 +39,7 @@ bool ReachesDisk(const Path& path) {
 Path OfProgram() {
   std::error_code error;
   const Path program = fs::read_symlink("/proc/self/exe", error);
-  return error ? fs::current_path(error) : program.parent_path();
+  return error ? Path() : program.parent_path();
 }
 
 Path OfPlayersData() {
