@@ -13,10 +13,10 @@
 #include <tuple>
 
 #include "games/blackrush/custom.h"
-#include "games/duopick/custom.h"
+#include "games/duopick/duopick.h"
 #include "games/fivestack/custom.h"
 #include "games/handgrid/custom.h"
-#include "games/spirehold/custom.h"
+#include "games/spirehold/spirehold.h"
 #include "games/sumfall/dialogs.h"
 #include "games/treyshift/custom.h"
 #include "suite/catalogue.h"
@@ -515,8 +515,8 @@ TEST_F(Look, DialogsHoldTheirTexts) {
       look(frmSave(*sumfall));
       look(frmOpen(*sumfall));
     }
-    if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) look(frmSpireholdCustom(*spirehold));
-    if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) look(frmDuopickCustomScoring(*duopick));
+    if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) look(ScoringDialog(*spirehold));
+    if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) look(ScoringDialog(*duopick));
     if (auto* handgrid = dynamic_cast<frmHandgrid*>(&game)) look(frmHandgridCustom(*handgrid));
     if (auto* fivestack = dynamic_cast<frmFivestack*>(&game)) look(frmFivestackCustomScoring(*fivestack));
     if (auto* treyshift = dynamic_cast<frmTreyshift*>(&game)) look(frmTreyshiftCustom(*treyshift));

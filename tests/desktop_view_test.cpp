@@ -278,7 +278,7 @@ TEST_F(ViewTest, SuitsHaveColoursOfTheirOwnAndThePlayersCardsGoFirst) {
 namespace {
 
 // The contrast of the strongest ink to the ground within a widget's caption, in the picture itself.
-double Reads(const QImage& picture) {
+double ContrastOf(const QImage& picture) {
   const QRgb ground = Commonest(picture, [](QRgb) { return true; });
   double best = 1;
   for (int y = 0; y < picture.height(); ++y)
@@ -303,17 +303,17 @@ TEST_F(ViewTest, CaptionsReadWellWhetherDisabledOrUnderTheMouse) {
             std::string(high ? "high " : "") + (enabled ? "" : "disabled ") + (hovered ? "hovered" : "");
         button.setEnabled(enabled);
         button.setAttribute(Qt::WA_UnderMouse, hovered);
-        EXPECT_GE(Reads(button.grab(button.rect().adjusted(30, 12, -30, -12)).toImage()), least)
+        EXPECT_GE(ContrastOf(button.grab(button.rect().adjusted(30, 12, -30, -12)).toImage()), least)
             << which << " button";
         entry->setEnabled(enabled);
         menu.setActiveAction(hovered ? entry : nullptr);
-        EXPECT_GE(Reads(menu.grab(menu.actionGeometry(entry).adjusted(4, 3, -4, -3)).toImage()), least)
+        EXPECT_GE(ContrastOf(menu.grab(menu.actionGeometry(entry).adjusted(4, 3, -4, -3)).toImage()), least)
             << which << " entry";
       }
     QLineEdit line("HHHH");
     line.setFont(style::Letters(2.0));
     line.setEnabled(false);
-    EXPECT_GE(Reads(line.grab(line.rect().adjusted(4, 4, -4, -4)).toImage()), 4.5) << high;
+    EXPECT_GE(ContrastOf(line.grab(line.rect().adjusted(4, 4, -4, -4)).toImage()), 4.5) << high;
   }
   // On the board every label is light on black or dark on white.
   GameWindow& game = OpenGame();
