@@ -5,6 +5,7 @@ play_packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev|libqt6svg6-dev lib
   nlohmann-json3-dev pkg-config|pkgconf qt6-qpa-plugins fonts-dejavu-core timgm6mb-soundfont"
 check_packages="$play_packages clang libclang-rt-dev llvm clang-format libgtest-dev libbenchmark-dev python3 xvfb xauth
   dbus-daemon at-spi2-core"
+package_packages="$play_packages debhelper dpkg-dev"
 
 # Prints those of the named packages that aren't installed. Asks the local list only: every start comes through here.
 missing_packages() {

@@ -4,10 +4,6 @@ _cardhaven() {
   cur=${COMP_WORDS[COMP_CWORD]}
   prev=${COMP_WORDS[COMP_CWORD - 1]}
   case $prev in
-    --game)
-      COMPREPLY=($(compgen -W 'sumfall fivestack blackrush spirehold duopick handgrid treyshift' -- "$cur"))
-      return
-      ;;
     --folder)
       compopt -o filenames
       COMPREPLY=($(compgen -d -- "$cur"))
@@ -20,7 +16,7 @@ _cardhaven() {
       options='--folder --seed --start --help --version'
       case $1 in
         *cardhaven-console) options="$options --screen" ;;
-        *) options="$options --game --console --speed" ;;
+        *) options="$options --console --speed" ;;
       esac
       COMPREPLY=($(compgen -W "$options" -- "$cur"))
       ;;

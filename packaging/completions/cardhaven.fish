@@ -1,5 +1,4 @@
 complete -c cardhaven -l folder -x -a '(__fish_complete_directories)' -d 'Where settings, high scores and saved games are kept'
-complete -c cardhaven -l game -x -a 'sumfall fivestack blackrush spirehold duopick handgrid treyshift' -d 'Open that game at once'
 complete -c cardhaven -l console -d 'Take commands from standard input'
 complete -c cardhaven -l speed -x -d 'Let the clock of --console run N times as fast'
 complete -c cardhaven -l seed -x -d 'Make the cards fall the same way each time'

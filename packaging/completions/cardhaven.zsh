@@ -1,7 +1,6 @@
 #compdef cardhaven
 _arguments \
   '--folder[where settings, high scores and saved games are kept]:folder:_directories' \
-  '--game[open that game at once]:game:(sumfall fivestack blackrush spirehold duopick handgrid treyshift)' \
   '--console[take commands from standard input]' \
   '--speed[let the clock of --console run N times as fast]:factor:' \
   '--seed[make the cards fall the same way each time]:number:' \
