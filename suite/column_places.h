@@ -21,12 +21,12 @@ void SetUpColumns(Window& window, const ColumnPlaces& places) {
     for (int slot = 0; slot < kCardsOfColumn; ++slot)
       window.ColumnImages(i)(slot).Visual::Move(0, places.slotTops[slot], kCardWidth, kCardHeight);
     window.ColumnTotal(i).Visual::Move(0, places.totalTop, 495, 360);
-    window.ColumnTotal(i).Caption = "0";
-    window.ColumnTotal(i).Alignment = 2;
-    window.ColumnSoft(i).Visible = false;
     window.cmdHit(i).Visual::Move(0, places.hitTop, kCardWidth, 570);
-    window.cmdHit(i).Caption = "Hit";
   }
+  window.ColumnTotal.Set(&Label::Caption, "0");
+  window.ColumnTotal.Set(&Label::Alignment, 2);
+  window.ColumnSoft.Set(&Label::Visible, false);
+  window.cmdHit.Set(&CommandButton::Caption, "Hit");
 }
 
 // Places cards and buttons in the middle of the present window, column by column. `heads(column, left)`

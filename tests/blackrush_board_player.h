@@ -39,7 +39,7 @@ struct BlackrushBoardPlayer {
     return true;
   }
   static bool IsOver(const Board& board) {
-    if (board.IsDeckCompleted()) return true;
+    if (!board.HasNext()) return true;
     if (board.mayPass) return false;
     for (const Column21& column : board.columns)
       if (column.TotalWith(board.Next()) <= kTwentyOne || column.softAces > 0) return false;

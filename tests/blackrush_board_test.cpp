@@ -164,9 +164,9 @@ TEST(BlackrushBoard, CardsArePassed) {
   }
   Board board = BoardWith({}, 60);
   Play(board, std::string(51, 'p'));
-  EXPECT_FALSE(board.IsDeckCompleted());
+  EXPECT_TRUE(board.HasNext());
   EXPECT_EQ(Play(board, "0p"), "-.");
-  EXPECT_TRUE(board.IsDeckCompleted());
+  EXPECT_FALSE(board.HasNext());
   EXPECT_EQ(board.CardsUsed(), 52);
 }
 
@@ -181,6 +181,18 @@ TEST(BlackrushBoard, TwentyOnesPayTheirNumberTimesTheBonus) {
   board.twentyOnes = 2;
   board.bonus = 2147483647;
   EXPECT_THROW(board.TwentyOnesPay(), RuntimeError);
+}
+
+TEST(BlackrushBoard, TheCounterTakesTheBonusBack) {
+  Board board = BoardWith({"10S", "1S", "10H", "1H"});
+  Play(board, "0011");
+  for (int time = 0; time < 2; ++time) {  // the second time to the same value
+    for (int step = 1; step <= kCounterEnd; ++step) EXPECT_TRUE(board.StepCounter(1000)) << step;
+    EXPECT_EQ(board.bonus, time == 0 ? 2000 : 1000);
+    EXPECT_FALSE(board.StepCounter(1000));
+    EXPECT_EQ(board.bonus, 1000);
+    EXPECT_EQ(board.counter, 0);
+  }
 }
 
 // A bonus that doesn't fit leaves the 21 counted, its cards and its ace where they are, and no card used.

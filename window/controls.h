@@ -231,6 +231,10 @@ class ControlArray {
   const T& operator()(long long index) const { return const_cast<ControlArray&>(*this)(index); }
   static constexpr int size() { return N; }
 
+  // Gives that property of all of them the value.
+  void Set(auto property, const auto& value) {
+    for (const auto& item : items_) (*item).*property = value;
+  }
   void OnClick(const std::function<void(int)>& handler) {
     for (int i = 0; i < N; ++i) items_[i]->OnClick = [handler, i] { handler(First + i); };
   }

@@ -128,7 +128,7 @@ void frmBlackrush::TurnNextCard() {
   ShowCardsUsed(board.CardsUsed());
   ShowPile();
   if (!board.mayPass) cmdPass.Enabled = false;
-  if (board.IsDeckCompleted()) return DeckCompleted();
+  if (!board.HasNext()) return DeckCompleted();
   ShowFace(NextCardPicture, board.Next());
 }
 
@@ -159,13 +159,12 @@ void frmBlackrush::cmdPass_Click() {
 // --- The 21 Counter ------------------------------------------------------------------------------
 
 void frmBlackrush::Timer3_Timer() {
-  if (ProgressBar1.Value < ProgressBar1.Max) {
-    ProgressBar1.Value += 1;
-    if (ProgressBar1.Value == kCounterFlashes) Timer5.Enabled = true;
+  if (board.StepCounter(TwentyOneBonusValue)) {
+    ProgressBar1.Value = static_cast<int>(board.counter);
+    if (board.counter == kCounterFlashes) Timer5.Enabled = true;
     return;
   }
   ResetCounter();
-  board.bonus = TwentyOneBonusValue;
   ShowBonus();
   lblBonus.ForeColor = kRed;
   platform.Sleep(250);
@@ -177,6 +176,7 @@ void frmBlackrush::Timer5_Timer() {
 }
 
 void frmBlackrush::ResetCounter() {
+  board.counter = 0;
   ProgressBar1.Value = ProgressBar1.Min;
   Timer5.Enabled = false;
   lblTwentyoneTime.ForeColor = kBlue;

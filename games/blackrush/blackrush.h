@@ -11,9 +11,8 @@ inline constexpr int kTwentyOneBonusValue = 1000, kCardsUsedBonusValue = 100, kF
                      kDeckCompletionBonus = 100000, kBonusScore = 250000, kCardsToPass = 3,
                      kWaitPeriod = 2000;
 
-// The 21 Counter: milliseconds a step, and its steps.
+// The 21 Counter: milliseconds a step.
 inline constexpr int kNormalSpeed = 90, kSlowSpeed = 180, kSlowestSpeed = 360;
-inline constexpr int kCounterEnd = 100, kCounterFlashes = 50;
 constexpr bool IsCounterSpeed(int interval) {
   return interval == kNormalSpeed || interval == kSlowSpeed || interval == kSlowestSpeed;
 }
@@ -82,11 +81,15 @@ class frmBlackrush : public GameWindow {
   void TellBriefly(const std::string& text);
   void StopTelling();
   void ShowGameBoard(bool show);
-  void ShowHitButtons(bool show);
-  void EnableHitButtons(bool enable);
+  void ShowHitButtons(bool show) { cmdHit.Set(&Visual::Visible, show); }
+  void EnableHitButtons(bool enable) { cmdHit.Set(&Visual::Enabled, enable); }
   void EnablePlayControls(bool enable);
-  void ShowPile();
-  void ClearColumns();
+  void ShowPile() {
+    PlayCardPicture.Picture = common.ImageList2(StockKey(modBlackrush::kLastCard - board.position, 36, 18));
+  }
+  void ClearColumns() {
+    for (int i = 0; i < modBlackrush::kColumns; ++i) ClearColumn(i);
+  }
   void SetCounterSpeed(int interval);
 
   // --- The frame's plan --------------------------------------------------------------------------
@@ -102,7 +105,7 @@ class frmBlackrush : public GameWindow {
   bool EarnsBonusRound() const override { return common.CurrentScore > BonusScore; }
   void PauseGame() override;
   void ResumeGame() override;
-  void TellPause(bool paused) override;
+  void TellPause(bool paused) override { paused ? KeepTelling("Game Paused") : StopTelling(); }
   // Cards that there are, and what is known of them.
   void ShowCards(bool visible) override;
   void CoverCards(bool covered) override;
@@ -112,7 +115,9 @@ class frmBlackrush : public GameWindow {
   }
   // The clock runs on under the question.
   void BeforeEndQuestion() override { StopMusic(); }
-  void AfterEndQuestion(bool ends) override;
+  void AfterEndQuestion(bool ends) override {
+    if (!ends && standing.InGame()) StartMusic();
+  }
   std::string Welcome() const override { return "Welcome to " + common.AppTitle + "!"; }
   bool ApplyGameSetting(std::string_view section, std::string_view value) override;
   void ShowCustomScoring() override;
@@ -138,16 +143,14 @@ class frmBlackrush : public GameWindow {
   void EndCount();
   void EmptyBoard();
 
-  void ShowColumn(int index);
-  void ShowBonus();
-  void ShowRound();
-  void ShowCardsUsed(long long cards);
+  void ShowColumn(int index) { ColumnTotal(index).Caption = std::to_string(board.columns[index].total); }
+  void ShowBonus() { lblBonus.Caption = std::to_string(board.bonus); }
+  void ShowRound() { lblRound.Caption = "Round: " + std::to_string(CurrentRound); }
+  void ShowCardsUsed(long long cards) { lblCardsUsedCount.Caption = std::to_string(cards); }
   void ForgetTwentyOnes();
   void ClearColumn(int index);
   void ShowEmptyPlace(int index);
   void EnablePause(bool enable);
-
-  bool counterRan_ = false;  // when the game was paused
 };
 
 std::unique_ptr<Guide> GuideTo(frmBlackrush& window);

@@ -159,14 +159,12 @@ void frmBlackrush::SetUpLabels() {
   for (Label* label : {&lblBust, &lblFiveCards, &lblRoundScore, &lblRoundScoreCount}) label->ForeColor = kRed;
   lblBust.FontSize = 18;
   lblFiveCards.FontSize = 12;
-  for (int i = 0; i < kColumns; ++i) {
-    ColumnTotal(i).FontSize = 12;
-    ColumnTotal(i).FontBold = true;
-    ColumnTotal(i).ForeColor = kBlue;
-    ColumnSoft(i).Visual::Move(0, kPlaces.softTop, kCardWidth, 255);
-    ColumnSoft(i).Alignment = 2;
-    ColumnSoft(i).ForeColor = kRed;
-  }
+  ColumnTotal.Set(&Label::FontSize, 12);
+  ColumnTotal.Set(&Label::FontBold, true);
+  ColumnTotal.Set(&Label::ForeColor, kBlue);
+  ColumnSoft.Set(&Label::Alignment, 2);
+  ColumnSoft.Set(&Label::ForeColor, kRed);
+  for (int i = 0; i < kColumns; ++i) ColumnSoft(i).Visual::Move(0, kPlaces.softTop, kCardWidth, 255);
   for (Label* label : {&lblTime, &lblTotalScore, &lblBust}) label->Fit();
 }
 
@@ -241,7 +239,7 @@ void frmBlackrush::StopTelling() {
 }
 
 void frmBlackrush::ShowGameBoard(bool show) {
-  for (int i = 0; i < kColumns; ++i) ColumnTotal(i).Visible = show;
+  ColumnTotal.Set(&Label::Visible, show);
   SetVisible({&Column1Line,      &Column2Line,    &Column3Line,     &lblScore,        &ScoreRectangle,
               &ScoreBevelBottom, &ScoreBevelSide, &lblTotalScore,   &lblTwentyOnes,   &lblCardsUsed,
               &cmdTakeScore,     &frameScoreInfo, &lbl21s,          &lblBonus,        &lblCardsUsedCount,
@@ -249,14 +247,6 @@ void frmBlackrush::ShowGameBoard(bool show) {
               &Surface,          &TimerRectangle, &TimerBevelSide,  &TimerBevelBottom},
              show);
   ShowHitButtons(show);
-}
-
-void frmBlackrush::ShowHitButtons(bool show) {
-  for (int i = 0; i < kColumns; ++i) cmdHit(i).Visible = show;
-}
-
-void frmBlackrush::EnableHitButtons(bool enable) {
-  for (int i = 0; i < kColumns; ++i) cmdHit(i).Enabled = enable;
 }
 
 void frmBlackrush::EnablePlayControls(bool enable) {
@@ -275,30 +265,11 @@ void frmBlackrush::EnablePause(bool enable) {
 void frmBlackrush::ShowCards(bool visible) {
   if (visible) board.WordsAreShownAgain();
   for (int i = 0; i < kColumns; ++i) {
-    const int places =
-        std::max(1, static_cast<int>(board.columns[i].cards.size()));  // the first is always there
-    for (int slot = 0; slot < places; ++slot) ColumnImages(i)(slot).Visible = visible;
+    const size_t places = std::max<size_t>(1, board.columns[i].cards.size());  // the first is always there
+    for (size_t slot = 0; slot < places; ++slot) ColumnImages(i)(slot).Visible = visible;
     if (board.words[i] != Word::None) ColumnSoft(i).Visible = visible;
   }
 }
-
-void frmBlackrush::ShowPile() {
-  const long long position = board.position;
-  PlayCardPicture.Picture = common.ImageList2(position >= kLastCard ? "EMPTY"
-                                              : position >= 35      ? "BACK"
-                                              : position >= 17      ? "HALF"
-                                                                    : "FULL");
-}
-
-void frmBlackrush::ShowColumn(int index) {
-  ColumnTotal(index).Caption = std::to_string(board.columns[index].total);
-}
-
-void frmBlackrush::ShowBonus() { lblBonus.Caption = std::to_string(board.bonus); }
-
-void frmBlackrush::ShowRound() { lblRound.Caption = "Round: " + std::to_string(CurrentRound); }
-
-void frmBlackrush::ShowCardsUsed(long long cards) { lblCardsUsedCount.Caption = std::to_string(cards); }
 
 void frmBlackrush::ForgetTwentyOnes() {
   board.ForgetTwentyOnes();
@@ -313,10 +284,6 @@ void frmBlackrush::ClearColumn(int index) {
     image.Picture = 0;
     image.BorderStyle = 0;
   }
-}
-
-void frmBlackrush::ClearColumns() {
-  for (int i = 0; i < kColumns; ++i) ClearColumn(i);
 }
 
 void frmBlackrush::ShowEmptyPlace(int index) {

@@ -173,10 +173,6 @@ void frmBlackrush::OpenBoard(bool over) {
 
 // --- The end of a game before its time -----------------------------------------------------------
 
-void frmBlackrush::AfterEndQuestion(bool ends) {
-  if (!ends && standing.InGame()) StartMusic();
-}
-
 void frmBlackrush::EndGame() {
   EnablePause(false);
   lblTime.Caption = "Time:";
@@ -207,7 +203,6 @@ void frmBlackrush::BackToIdle() {
 // --- The pause -----------------------------------------------------------------------------------
 
 void frmBlackrush::PauseGame() {
-  counterRan_ = Timer3.Enabled;
   Timer3.Enabled = false;
   EnablePlayControls(false);
   GameWindow::PauseGame();
@@ -216,10 +211,8 @@ void frmBlackrush::PauseGame() {
 void frmBlackrush::ResumeGame() {
   GameWindow::ResumeGame();
   EnablePlayControls(true);
-  Timer3.Enabled = counterRan_;
+  Timer3.Enabled = board.twentyOnes > 0;  // the first of the round starts the counter
 }
-
-void frmBlackrush::TellPause(bool paused) { paused ? KeepTelling("Game Paused") : StopTelling(); }
 
 void frmBlackrush::CoverCards(bool covered) {
   ShowCards(!covered);

@@ -16,19 +16,9 @@ void Board::Clear() {
   position = 0;
 }
 
-void Board::ForgetTwentyOnes() {
-  twentyOnes = 0;
-  bonus = 0;
-}
-
 void Board::GrantPasses(long long passes) {
   passesLeft = passes;
   mayPass = passes != 0;
-}
-
-void Board::WordsAreShownAgain() {
-  for (Word& word : words)
-    if (word == Word::Hidden) word = Word::Shown;
 }
 
 int Board::GetHitTotal(int column) {
@@ -73,6 +63,16 @@ void Board::TakeColumnAway(int column) {
   Column21& taken = columns[column];
   gone.insert(gone.end(), taken.cards.begin(), taken.cards.end());
   taken.Clear();
+}
+
+bool Board::StepCounter(long long bonusLeft) {
+  if (counter < kCounterEnd) {
+    counter += 1;
+    return true;
+  }
+  counter = 0;
+  bonus = bonusLeft;
+  return false;
 }
 
 void Board::TurnNextCard() {

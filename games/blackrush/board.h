@@ -13,12 +13,11 @@ namespace modBlackrush {
 inline constexpr int kColumns = 4;
 inline constexpr int kLastCard = 52;  // its index in the deck; behind it the deck is complete
 inline constexpr int kBustCost = 100;
+inline constexpr int kCounterEnd = 100, kCounterFlashes = 50;  // steps of the 21 Counter
 
-// What becomes of a column when a card is laid on it.
 enum class Laid { Stays, TwentyOne, FiveCardGimme };
 
-// The word "Soft" under a column: a 21 takes only the sight of it away, and the end of a pause brings it
-// back.
+// "Soft" under a column: a 21 takes only the sight of it away, and the end of a pause brings it back.
 enum class Word { None, Hidden, Shown };
 
 // Before a game the position is 0. Soft aces outlive their column, the round and the game.
@@ -28,16 +27,17 @@ struct Board : ColumnBoard<kColumns> {
   bool mayPass = false;
   Integer twentyOnes;
   Long bonus;  // by which they are multiplied, as it now stands
+  Integer counter;
 
   void Deal(const CardCodes& shuffled);
   // Cards, words and bonus are gone, and the deck is put away. Soft aces stay.
   void Clear();
-  void ForgetTwentyOnes();
+  void ForgetTwentyOnes() { twentyOnes = 0, bonus = 0; }
   // So many passes for the round. Whether there are any below 0 is asked when the controls come back after a
   // pause or a count.
   void GrantPasses(long long passes);
   void ControlsAreBack() { mayPass = passesLeft > 0 && position < kLastCard; }
-  void WordsAreShownAgain();
+  void WordsAreShownAgain() { std::ranges::replace(words, Word::Hidden, Word::Shown); }
 
   // What the column would total with the card on show. An ace that counts 11 is soft from now on.
   int GetHitTotal(int column);
@@ -47,12 +47,13 @@ struct Board : ColumnBoard<kColumns> {
   Laid LayCard(int column, int total);
   // The column goes; the bonus rises first, and if it can't, all the rest stays.
   void ClearTwentyOne(int column, long long step);
+  // The 21 Counter takes a step; false if it has run out, which takes the bonus back.
+  bool StepCounter(long long bonusLeft);
   // The next card comes on show.
   void TurnNextCard();
   // The card on show goes unplayed; false if it may not.
   bool Pass();
 
-  bool IsDeckCompleted() const { return position > kLastCard; }
   long long CardsUsed() const { return position - 1; }
   Long TwentyOnesPay() const { return twentyOnes * bonus; }
 
@@ -65,6 +66,7 @@ struct Board : ColumnBoard<kColumns> {
     visit("mayPass", board.mayPass);
     visit("twentyOnes", board.twentyOnes);
     visit("bonus", board.bonus);
+    visit("counter", board.counter);
   }
 
  private:

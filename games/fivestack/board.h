@@ -27,11 +27,7 @@ float BonusDecay(long long max, long long min, long long timeLimit);
 // The time bonus after that many seconds: from the maximum down to the minimum.
 long long BonusAfter(long long seconds, long long max, long long min, float decay);
 
-enum class Laid {
-  Refused,  // the column is closed
-  Stays,
-  Over  // and has to be looked at by `CheckForBust`
-};
+enum class Laid { Refused, Stays, Over };
 
 // The first card of a deck is never seen.
 struct Board : ColumnBoard<kColumns> {
@@ -44,6 +40,7 @@ struct Board : ColumnBoard<kColumns> {
 
   // Whether the next card can be laid on that column.
   bool Takes(int column) const;
+  // What has gone over 21 has to be looked at by `CheckForBust`.
   Laid Lay(int column);
   // A column has gone over 21. True if the round is lost; else an ace of the column counts 1 from now on.
   // What is raised for want of a next card leaves the ace as it was.

@@ -81,12 +81,6 @@ void frmFivestack::CloseColumn(int index, bool close) {
   cmdHit(index).Caption = close ? "Closed" : "Hit";
 }
 
-void frmFivestack::CloseCurrentRound() {
-  for (int i = 0; i < kColumns; ++i) cmdHit(i).Enabled = false;
-}
-
-void frmFivestack::ShowNextCard() { ShowFace(NextCardPicture, board.Next()); }
-
 // --- The card total ------------------------------------------------------------------------------
 
 // The total runs up column by column, and the table with it.
@@ -321,8 +315,6 @@ void frmFivestack::CountScore(long long roundScore) {
   platform.Sleep(50);
   ScoringLabel.ForeColor = kBlue;
 }
-
-void frmFivestack::Wait() { platform.Sleep(std::max(0, static_cast<int>(WaitPeriod))); }
 
 // --- The next round, or the end of the game ------------------------------------------------------
 

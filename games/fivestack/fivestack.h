@@ -60,7 +60,7 @@ class frmFivestack : public GameWindow {
   // True if the round is lost; else an ace of the column counts 1 from now on.
   bool CheckForBust(int index);
   void CloseColumn(int index, bool close = true);
-  void CloseCurrentRound();
+  void CloseCurrentRound() { cmdHit.Set(&Visual::Enabled, false); }
   void EnableControls();
   void lblCurrentTotal_Change();
   void UpdateCardTotalValue();
@@ -79,7 +79,7 @@ class frmFivestack : public GameWindow {
   // The entry of the default limit runs before the file is read.
   void SetDefaults() override { ChooseTimeLimit(plan.timeLimit); }
   bool ApplyGameSetting(std::string_view section, std::string_view value) override;
-  void SettingsRead() override;
+  void SettingsRead() override { cmdPass.Enabled = board.passesLeft > 0; }
   void LeaveIdle() override;
   void BackToIdle() override;
   void ShowTimeLeft() override;
@@ -112,25 +112,30 @@ class frmFivestack : public GameWindow {
 
   void SumUp();
   void ShowCardTotal(long long total);
-  void ShowNextCard();
+  void ShowNextCard() { ShowFace(NextCardPicture, board.Next()); }
   void ShowTable(bool visible);
   void DealCards();
   void StartClock();
   void LoseRound();
   void PrepareRound();
   void CountScore(long long roundScore);
-  void Wait();
+  void Wait() { platform.Sleep(std::max(0, static_cast<int>(WaitPeriod))); }
 
   void ShowGraphics(bool visible);
-  void ShowHitButtons(bool visible);
-  void ShowScoringLabel(bool visible);
+  void ShowHitButtons(bool visible) {
+    cmdHit.Set(&Visual::Visible, visible);
+    cmdGiveUp.Visible = visible;
+  }
+  void ShowScoringLabel(bool visible) {
+    SetVisible({&ScoringLabel, &ScoringLabelRoundTotal, &ScoringLabelInfo}, visible);
+  }
   void ShowTimeBonus(long long bonus);
   void ShowRoundControls(bool visible);
   void CenterScoringLabel();
   void PlaceRoundTotal();
   void PlaceInfo();
   void CenterTimeBonus();
-  void CenterCardTotal();
+  void CenterCardTotal() { CenterIn(lblCurrentTotal, frmScore); }
   void ResizeColumnHeaders();
 
   Integer shownTotal_;  // in `lblCurrentTotal`

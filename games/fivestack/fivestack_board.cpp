@@ -114,19 +114,15 @@ bool frmFivestack::ApplyGameSetting(std::string_view section, std::string_view v
   return true;
 }
 
-void frmFivestack::SettingsRead() { cmdPass.Enabled = board.passesLeft > 0; }
-
 void frmFivestack::SetUpBoard() {
   ApplyDesign(*this, kDesign);
   ApplyDesign(*this, kButtonDesign);
   SetUpColumns(*this, {});
-  for (int i = 0; i < kColumns; ++i) {
-    ColumnLine(i).BorderColor = kWhite;
-    ColumnTotal(i).BackStyle = 1;
-    ColumnTotal(i).FontSize = 14;
-    ColumnSoft(i).AutoSize = true;
-    ColumnSoft(i).FontBold = true;
-  }
+  for (int i = 0; i < kColumns; ++i) ColumnLine(i).BorderColor = kWhite;
+  ColumnTotal.Set(&Label::BackStyle, 1);
+  ColumnTotal.Set(&Label::FontSize, 14);
+  ColumnSoft.Set(&Label::AutoSize, true);
+  ColumnSoft.Set(&Label::FontBold, true);
   ScoringLabelOutline.Sunken = true;
   for (Label* label : {&lblTime, &lblScore, &lblCurrentRoundScore, &lblHighScore}) label->FontBold = true;
   for (Label* label : {&lblRound, &lblCurrentRoundScore, &lblCurrentTotal}) label->Alignment = 2;
@@ -211,8 +207,6 @@ void frmFivestack::ResizeColumnHeaders() {
   }
 }
 
-void frmFivestack::CenterCardTotal() { CenterIn(lblCurrentTotal, frmScore); }
-
 // Somewhat left of the middle and above it: the dial stands at the right.
 void frmFivestack::CenterTimeBonus() {
   const auto before = [](int middle, int size) { return static_cast<int>(middle - size / 1.3); };
@@ -252,8 +246,8 @@ void frmFivestack::PlaceInfo() {
 void frmFivestack::ShowCards(bool visible) {
   for (int i = 0; i < kColumns; ++i) {
     const Column21& column = board.columns[i];
-    for (int slot = 0; slot < kCardsOfColumn; ++slot)
-      ColumnImages(i)(slot).Visible = visible && (slot == 0 || slot < static_cast<int>(column.cards.size()));
+    const size_t places = visible ? std::max<size_t>(1, column.cards.size()) : 0;
+    for (size_t slot = 0; slot < kCardsOfColumn; ++slot) ColumnImages(i)(slot).Visible = slot < places;
     if (column.softAces > 0) ColumnSoft(i).Visible = visible;
   }
   ShowTable(visible);
@@ -270,17 +264,9 @@ void frmFivestack::ShowGraphics(bool visible) {
   SetVisible({&cmdPass, &lblRound}, visible);
 }
 
-void frmFivestack::ShowHitButtons(bool visible) {
-  for (int i = 0; i < kColumns; ++i) cmdHit(i).Visible = visible;
-  cmdGiveUp.Visible = visible;
-}
-
 void frmFivestack::ShowRoundControls(bool visible) {
   SetVisible({&Surface, &TimerRectangle, &TimerBevelSide, &TimerBevelBottom, &lblTime, &lblTimeBonus,
               &frmScore, &lblCurrentRoundScore, &lblCurrentTotal},
              visible);
 }
 
-void frmFivestack::ShowScoringLabel(bool visible) {
-  SetVisible({&ScoringLabel, &ScoringLabelRoundTotal, &ScoringLabelInfo}, visible);
-}
