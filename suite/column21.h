@@ -48,9 +48,7 @@ struct Column21 {
   bool operator==(const Column21&) const = default;
   template <class Self, class Visit>
   static void VisitFields(Self& column, Visit&& visit) {
-    visit("total", column.total);
-    visit("softAces", column.softAces);
-    visit("cards", column.cards);
+    visit("total", column.total, "softAces", column.softAces, "cards", column.cards);
   }
 };
 
@@ -73,10 +71,7 @@ struct ColumnBoard {
   bool operator==(const ColumnBoard&) const = default;
   template <class Self, class Visit>
   static void VisitFields(Self& board, Visit&& visit) {
-    visit("deck", board.deck);
-    visit("position", board.position);
+    visit("deck", board.deck, "position", board.position, "passed", board.passed, "left", board.passesLeft);
     for (auto& column : board.columns) Column21::VisitFields(column, visit);
-    visit("passed", board.passed);
-    visit("passesLeft", board.passesLeft);
   }
 };

@@ -61,12 +61,8 @@ struct Board : ColumnBoard<kColumns> {
   template <class Self, class Visit>
   static void VisitFields(Self& board, Visit&& visit) {
     ColumnBoard::VisitFields(board, visit);
-    visit("words", board.words);
-    visit("gone", board.gone);
-    visit("mayPass", board.mayPass);
-    visit("twentyOnes", board.twentyOnes);
-    visit("bonus", board.bonus);
-    visit("counter", board.counter);
+    visit("words", board.words, "gone", board.gone, "mayPass", board.mayPass, "twentyOnes", board.twentyOnes,
+          "bonus", board.bonus, "counter", board.counter);
   }
 
  private:

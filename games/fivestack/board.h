@@ -55,8 +55,7 @@ struct Board : ColumnBoard<kColumns> {
   template <class Self, class Visit>
   static void VisitFields(Self& board, Visit&& visit) {
     ColumnBoard::VisitFields(board, visit);
-    visit("skipped", board.skipped);
-    visit("cardTotal", board.cardTotal);
+    visit("skipped", board.skipped, "cardTotal", board.cardTotal);
   }
 
  private:

@@ -269,4 +269,3 @@ void frmFivestack::ShowRoundControls(bool visible) {
               &frmScore, &lblCurrentRoundScore, &lblCurrentTotal},
              visible);
 }
-
