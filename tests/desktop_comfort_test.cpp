@@ -107,6 +107,30 @@ TEST_F(Comforts, TheFileOfTheViewIsAPlainOneOrNone) {
   WriteView(file, other, View());
   EXPECT_TRUE(std::filesystem::is_fifo(pipe)) << "it was replaced";
   EXPECT_EQ(ReadView(file), View());
+  // What makes no sense is put aside at once, and nobody's lock is in the way.
+  std::filesystem::remove(file);
+  std::filesystem::create_directory(folder.Path() / "desktop.ini.lock");
+  const std::vector<std::function<void()>> harms{
+      [&] { std::filesystem::create_directory(file); }, [&] { folder.Write("desktop.ini", "\x1\x2\n\n"); },
+      [&] { folder.Write("desktop.ini", "[view]\nzoom=150\n" + std::string(100'000'000, 'x')); }};
+  for (const auto& harm : harms) {
+    harm();
+    EXPECT_EQ(ReadView(file), View());
+    EXPECT_TRUE(WriteView(file, other, View()));
+    EXPECT_EQ(ReadView(file), other);
+    std::filesystem::remove(file);
+  }
+  EXPECT_TRUE(folder.Has("desktop.ini.bad-3"));
+  // As earlier versions wrote it.
+  folder.Write("desktop.ini",
+               "[last]\ngame=cmdSumfall\nname=\"Zo\u00eb, \\\"Z\\\"\"\nother=7\nseen=frmA, frmB\n"
+               "selector=@Point(3 -4)\n\n[view]\nzoom=125\n");
+  const View old = ReadView(file);
+  EXPECT_EQ(std::tuple(old.lastName, old.seen.size(), old.selector, old.zoom),
+            std::tuple("Zo\u00eb, \"Z\"", 2, QPoint(3, -4), 125));
+  WriteView(file, other, View());
+  EXPECT_NE(folder.Read("desktop.ini").find("other=7\n"), std::string::npos)
+      << "what nobody knows here stays";
 }
 
 TEST_F(Comforts, FirstStepsAreShownUntilTheFirstGame) {

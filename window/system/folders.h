@@ -1,6 +1,7 @@
 // Where the program lies, and where its player's files do.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -15,6 +16,8 @@ Path OfPlayersData();
 Path Absolute(const Path& path);
 bool IsFolder(const Path& path);
 bool Exists(const Path& path);
+// In bytes; 0 of what is no plain file.
+std::uintmax_t SizeOf(const Path& path);
 // Whether these are two folders, and files can be taken out of the first.
 bool CanTakeFrom(const Path& from, const Path& to);
 // A folder that can't be made is as one that can't be written. A new one is the player's alone.

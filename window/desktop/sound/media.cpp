@@ -5,6 +5,7 @@
 
 #include "window/desktop/sound/sound.h"
 #include "window/desktop/sound/wave.h"
+#include "window/system/folders.h"
 #include "window/system/foreign_files.h"
 
 namespace fs = std::filesystem;
@@ -18,9 +19,7 @@ void Media::Start() { player_->Start(); }
 
 fs::path Media::Find(const std::string& name, const char* folder) const {
   const fs::path file = fs::path(name.substr(name.find_last_of("\\/") + 1));
-  std::error_code error;
-  const fs::path mine = own_ / file;
-  if (fs::exists(mine, error)) {
+  if (const fs::path mine = own_ / file; folders::Exists(mine)) {
     const bool wave = std::string_view(folder) != "music";
     std::string why = WhyNotUse(mine, wave ? kLargestWave : kLargestTune);
     if (wave && why.empty()) why = WhyNotPlay(mine);

@@ -1,9 +1,9 @@
 #include <cstdint>
 #include <cstdlib>
 #include <string>
-#include <system_error>
 
 #include "window/desktop/sound/sound.h"
+#include "window/system/folders.h"
 
 namespace fs = std::filesystem;
 
@@ -19,15 +19,13 @@ fs::path FindSoundfont() {
   if (const char* wish = std::getenv("SDL_SOUNDFONTS"); wish != nullptr && *wish != '\0') {
     const std::string list = wish;
     const fs::path first = list.substr(0, list.find_first_of(":;"));
-    std::error_code error;
-    return fs::is_regular_file(first, error) ? first : fs::path();
+    return folders::SizeOf(first) ? first : fs::path();
   }
   fs::path best;
   std::uintmax_t bestWeight = 0;
   for (const fs::path place : kPlaces) {
-    std::error_code error;
-    std::uintmax_t weight = fs::file_size(place, error);
-    if (error || weight == 0) continue;
+    std::uintmax_t weight = folders::SizeOf(place);
+    if (weight == 0) continue;
     // A compressed one is several times its size once it is unpacked in memory.
     if (place.extension() == ".sf3") weight *= 6;
     if (!best.empty() && weight >= bestWeight) continue;

@@ -3,6 +3,8 @@
 #include <fstream>
 #include <string_view>
 
+#include "window/system/folders.h"
+
 namespace {
 
 unsigned Number(std::string_view bytes) {
@@ -15,12 +17,11 @@ unsigned Number(std::string_view bytes) {
 
 std::string WhyNotPlay(const std::filesystem::path& path) {
   constexpr const char* kNoWave = "it is no wave";
-  std::error_code error;
-  const std::uintmax_t size = std::filesystem::file_size(path, error);
+  const std::uintmax_t size = folders::SizeOf(path);
   std::ifstream file(path, std::ios::binary);
   char head[12] = {};
   file.read(head, sizeof head);
-  if (error || std::string_view(head, 4) != "RIFF" || std::string_view(head + 8, 4) != "WAVE") return kNoWave;
+  if (std::string_view(head, 4) != "RIFF" || std::string_view(head + 8, 4) != "WAVE") return kNoWave;
   unsigned rate = 0, frame = 0;
   for (char chunk[8]; file.read(chunk, sizeof chunk);) {
     const std::string_view name(chunk, 4);

@@ -16,12 +16,12 @@ Looks::Looks(std::filesystem::path file, Paintbox& paintbox)
 }
 
 Looks::~Looks() {
-  if (timer_.isActive()) Keep();
+  if (kept_ != view_) WriteView(file_, view_, kept_, true);
 }
 
+// What can't be written now goes with the next change.
 void Looks::Keep() {
-  WriteView(file_, view_, kept_);
-  kept_ = view_;
+  if (WriteView(file_, view_, kept_)) kept_ = view_;
 }
 
 void Looks::Set(const View& view) {

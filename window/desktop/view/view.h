@@ -31,5 +31,5 @@ std::filesystem::path ViewFile();
 // What is missing in the file, or makes no sense there, is as at first.
 View ReadView(const std::filesystem::path& file);
 // Writes what has changed since `before`; the rest may have been changed by another copy of the program.
-// Where it can't be written, the view lasts until the program ends.
-void WriteView(const std::filesystem::path& file, const View& view, const View& before);
+// False if that can't be done now; the last time, when there is no later, nobody is waited for.
+bool WriteView(const std::filesystem::path& file, const View& view, const View& before, bool last = false);

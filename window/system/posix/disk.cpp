@@ -37,7 +37,7 @@ bool IsLeftover(const fs::path& folder, const std::string& name) {
   const size_t at = name.rfind(kTemporary);
   if (at == std::string::npos || at < 4) return false;
   const std::string kind = name.substr(at - 4, 4), suffix = name.substr(at + sizeof kTemporary - 1);
-  if (kind != ".Ini" && kind != ".Txt" && kind != ".sfl") return false;
+  if (kind != ".Ini" && kind != ".Txt" && kind != ".sfl" && kind != ".ini") return false;
   if (suffix.empty() || suffix.find_first_not_of("0123456789abcdef") != std::string::npos) return false;
   if (suffix.size() == Disk::kSuffixLetters) {
     const Descriptor descriptor(

@@ -63,6 +63,12 @@ bool Exists(const Path& path) {
   return fs::exists(path, error);
 }
 
+std::uintmax_t SizeOf(const Path& path) {
+  std::error_code error;
+  const std::uintmax_t size = fs::is_regular_file(path, error) ? fs::file_size(path, error) : 0;
+  return error ? 0 : size;
+}
+
 bool CanTakeFrom(const Path& from, const Path& to) {
   std::error_code error;
   return access(from.c_str(), W_OK) == 0 && !fs::equivalent(from, to, error);
