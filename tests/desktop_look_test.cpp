@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFontInfo>
 #include <QImage>
 #include <QLabel>
 #include <QPainter>
@@ -476,6 +477,28 @@ TEST_F(Look, TreyshiftTellsWhatColumnsAndDecksBring) {
     }
     Close(game);
   }
+}
+
+// Four sizes in all windows, in one family, and a count keeps its breadth while its figures change.
+TEST_F(Look, LettersAreOfFourSizesAndFiguresDontDance) {
+  std::set<int> sizes;
+  std::set<QString> families;
+  for (const GameEntry& entry : AllGames()) {
+    GameWindow& game = Open(entry);
+    for (const Control* control : game.Controls()) {
+      if (control->kind != Control::Kind::Label) continue;
+      const QFont font = FontOf(static_cast<const Label&>(*control));
+      sizes.insert(font.pixelSize());
+      families.insert(QFontInfo(font).family());
+      const QFontMetricsF metrics(font);
+      for (const char* count : {"1,111,111", "9,190,017", "4,741,470"})
+        EXPECT_EQ(metrics.horizontalAdvance(count), metrics.horizontalAdvance("8,888,888"))
+            << control->FullName() << " " << count;
+    }
+    Close(game);
+  }
+  EXPECT_EQ(sizes.size(), 4u);
+  EXPECT_EQ(families.size(), 1u);
 }
 
 TEST_F(Look, DialogsHoldTheirTexts) {

@@ -8,6 +8,14 @@
 
 namespace {
 
+// Of a line, seen from its baseline: as much as letters need. Families differ in what they ask for beyond
+// that.
+struct Line {
+  explicit Line(const QFont& font)
+      : ascent(0.93 * font.pixelSize()), descent(0.24 * font.pixelSize()), height(ascent + descent) {}
+  double ascent, descent, height;
+};
+
 QStringList LinesOf(const Label& label) {
   QString text = QString::fromStdString(label.Caption);
   text.replace("\r\n", "\n");
@@ -35,10 +43,10 @@ QStringList Wrap(const QString& line, double width, const QFontMetricsF& metrics
 
 // Only as many parts of a line as the label has room for, the first of them at `y`; but always one. What a
 // player has entered may be longer than any label: its end shows all the same.
-void Shorten(QStringList& parts, const QString& line, double y, const QRectF& rect,
+void Shorten(QStringList& parts, const QString& line, double y, const QRectF& rect, const Line& high,
              const QFontMetricsF& metrics) {
-  const double room = rect.bottom() + 1 - metrics.descent() - y;
-  const qsizetype most = std::max<qsizetype>(1, static_cast<qsizetype>(room / metrics.lineSpacing()) + 1);
+  const double room = rect.bottom() + 1 - high.descent - y;
+  const qsizetype most = std::max<qsizetype>(1, static_cast<qsizetype>(room / high.height) + 1);
   if (parts.size() > most) {
     qsizetype shown = 0;
     for (qsizetype i = 0; i + 1 < most; ++i) shown += parts[i].size() + 1;
@@ -52,17 +60,16 @@ void Shorten(QStringList& parts, const QString& line, double y, const QRectF& re
 
 }  // namespace
 
-QFont FontOf(const Label& label) {
-  return style::Letters(label.FontSize, label.FontBold, QString::fromStdString(label.FontName));
-}
+QFont FontOf(const Label& label) { return style::Letters(label.FontSize, label.FontBold); }
 
 TextBlock LayOut(const Label& label, const QRectF& rect) {
   TextBlock block{FontOf(label), {}, {}};
   const QFontMetricsF metrics(block.font);
-  double y = rect.top() + metrics.ascent();
+  const Line high(block.font);
+  double y = rect.top() + high.ascent;
   for (const QString& line : LinesOf(label)) {
     QStringList parts = label.AutoSize ? QStringList{line} : Wrap(line, rect.width() + 0.5, metrics);
-    if (!label.AutoSize) Shorten(parts, line, y, rect, metrics);
+    if (!label.AutoSize) Shorten(parts, line, y, rect, high, metrics);
     for (const QString& part : parts) {
       const double width = metrics.horizontalAdvance(part);
       double x = rect.left();
@@ -70,18 +77,19 @@ TextBlock LayOut(const Label& label, const QRectF& rect) {
       if (label.Alignment == 2) x = rect.center().x() - width / 2;
       if (!part.trimmed().isEmpty()) {
         block.lines.push_back({part, QPointF(x, y), width});
-        block.bounds |= QRectF(x, y - metrics.ascent(), width, metrics.height());
+        block.bounds |= QRectF(x, y - high.ascent, width, high.height);
       }
-      y += metrics.lineSpacing();
+      y += high.height;
     }
   }
   return block;
 }
 
 QSizeF Needs(const Label& label) {
-  const QFontMetricsF metrics(FontOf(label));
+  const QFont font = FontOf(label);
+  const QFontMetricsF metrics(font);
   const QStringList lines = LinesOf(label);
   double width = 0;
   for (const QString& line : lines) width = std::max(width, metrics.horizontalAdvance(line));
-  return {width, metrics.height() + metrics.lineSpacing() * (lines.size() - 1)};
+  return {width, Line(font).height * static_cast<double>(lines.size())};
 }

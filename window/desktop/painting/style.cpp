@@ -1,6 +1,7 @@
 #include "window/desktop/painting/style.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
@@ -14,6 +15,15 @@ namespace {
 
 constexpr char kZoom[] = "cardhavenZoom";
 constexpr int kLetters = 12;  // pixels of a widget's letters at 100 %
+
+// Narrow enough for the places that were told for narrow letters, and all figures are equally wide.
+constexpr char kFamily[] = "Open Sans";
+
+// Where it isn't there the system's own family, mostly a wider one, has to make do with the same places.
+int Less() {
+  static const int less = QFontInfo(QApplication::font()).family() == kFamily ? 0 : 1;
+  return less;
+}
 
 // Fusion, with the parts of widgets that don't follow the size of letters as large as the window's zoom asks.
 class Zoomed : public QProxyStyle {
@@ -121,11 +131,12 @@ double ZoomOf(const QWidget* widget) {
   return 1;
 }
 
-QFont Letters(int points, bool bold, const QString& family) {
+QFont Letters(int points, bool bold) {
+  constexpr int kLabel = 10, kCount = 14, kAnnouncement = 20;  // the largest of each, in points
+  const int pixels = points <= kLabel ? kLetters : points <= kCount ? 16 : points <= kAnnouncement ? 24 : 34;
   QFont font = QApplication::font();
-  if (!family.isEmpty()) font.setFamilies({family, font.family()});
-  font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * 96 / 72.0))));
-  font.setBold(bold);
+  font.setPixelSize(pixels - Less());
+  font.setWeight(bold ? QFont::DemiBold : QFont::Normal);
   return font;
 }
 
@@ -180,6 +191,7 @@ void Apply(QApplication& application) {
   QApplication::setStyle(new Zoomed);
   SetHighContrast(false);
   QFont font = application.font();
+  font.setFamilies(QStringList(kFamily) + font.families());
   font.setPixelSize(kLetters);
   QApplication::setFont(font);
 }

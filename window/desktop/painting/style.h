@@ -19,9 +19,9 @@ inline constexpr QColor kBaize(0x1d, 0x6b, 0x4a);
 inline constexpr QColor kStrongGround(0, 0, 0);  // of everything, where high contrast is asked for
 inline constexpr QColor kStrongMark(0xff, 0xe0, 0x00);
 
-// The font for labels and widgets, its size given in points at 96 dots to the inch, whatever the screen has:
-// places and sizes are told in the same measure.
-QFont Letters(int points, bool bold = false, const QString& family = {});
+// The font for what stands on a board or dialog. Sizes are told in points, and drawn in one of four: that of
+// labels, of boxes and counts, of announcements, of a game's name.
+QFont Letters(int points, bool bold = false);
 
 // The font of widgets, so much larger than at 100 %.
 QFont Letters(double zoom);
