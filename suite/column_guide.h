@@ -9,7 +9,7 @@ class ColumnGuide : public GameGuide {
  public:
   explicit ColumnGuide(Window& window) : GameGuide(window), window_(window) {}
 
-  std::vector<Spot> Spots() const override {
+  std::vector<Spot> Places() const override {
     std::vector<Spot> spots;
     Add(spots, window_.PlayCardPicture, false, false, "stock");
     Add(spots, window_.NextCardPicture, false, false, "next card");
@@ -17,13 +17,19 @@ class ColumnGuide : public GameGuide {
       const std::string name = "olumn " + std::to_string(i + 1);
       for (int slot = 0; slot < kCardsOfColumn; ++slot)
         Add(spots, window_.ColumnImages(i)(slot), false, false, "c" + name);
-      if (!window_.cmdHit(i).Visible) continue;
       spots.push_back({&window_.cmdHit(i),
                        "C" + name + ": " + std::to_string(window_.board.columns[i].total) +
                            (SaysSoft(i) ? ", soft" : "") + (IsOpen(i) ? "" : ", closed"),
                        IsOpen(i) && Plays()});
     }
     return spots;
+  }
+
+  std::string Says(const Label& label) const override {
+    for (int i = 0; i < window_.cmdHit.size(); ++i)
+      if (&label == &window_.ColumnTotal(i) || &label == &window_.ColumnSoft(i))
+        return "Column " + std::to_string(i + 1) + ": " + label.Caption.get();
+    return GameGuide::Says(label);
   }
 
  protected:

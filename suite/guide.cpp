@@ -50,7 +50,9 @@ KeyRow GameGuide::BackKey() {
   return {"Backspace", "Take back the card selected last", {{"Backspace", kLastSelected}}};
 }
 
-bool GameGuide::IsOrnament(const Control& control) const { return control.name == "imgSplashImage"; }
+bool GameGuide::IsOrnament(const Control& control) const {
+  return control.parent == &window_.frmSplash && control.kind == Control::Kind::Image;
+}
 
 std::string GameGuide::State() const {
   std::string state;
@@ -73,9 +75,9 @@ std::string GameGuide::State() const {
 void GameGuide::Add(std::vector<Spot>& spots, Image& image, bool playable, bool selected,
                     const std::string& place) const {
   const std::string text = SpokenPicture(image.Picture);
-  if (!image.Visible || text.empty()) return;
-  spots.push_back({&image, text + (place.empty() ? "" : ", " + place), playable && image.Enabled && Plays(),
-                   selected, RankOfPicture(image.Picture)});
+  if (text.empty()) return;
+  spots.push_back({&image, text + (place.empty() ? "" : ", " + place), playable && Plays(), selected,
+                   RankOfPicture(image.Picture)});
 }
 
 // By the splash panel.
@@ -94,7 +96,7 @@ class SelectGuide : public Guide {
  public:
   explicit SelectGuide(frmSelect& window) : window_(window) {}
 
-  bool IsOrnament(const Control& control) const override { return control.name == "imgSplashImage"; }
+  bool IsOrnament(const Control& control) const override { return control.kind == Control::Kind::Image; }
 
   std::vector<KeyRow> Keys() const override {
     KeyRow games{"1 to " + std::to_string(window_.gameButtons.size()), "Open that game", {}};
@@ -105,8 +107,8 @@ class SelectGuide : public Guide {
   bool IsChoice() const override { return true; }
 
   std::string ToolTip(const Control& control) const override {
-    for (const GameEntry& game : window_.Games())
-      if (control.name == game.button) return game.what;
+    for (size_t i = 0; i < window_.gameButtons.size(); ++i)
+      if (&control == window_.gameButtons[i].get()) return window_.Games()[i].what;
     return "";
   }
 

@@ -25,16 +25,21 @@ class GameGuide : public Guide {
   Control* Pause() const override { return &window_.cmdPause; }
   const Menu* KeysMenu() const override { return &window_.mnuHelp; }
   bool IsMessage(const Label& label) const override { return &label == &window_.lblMessage; }
+  const CommandButton* WayOut() const override {
+    return Plays() && IsStuck() ? &window_.cmdTakeScore : nullptr;
+  }
 
  protected:
   // The rows of the game's own board, which go before the common ones.
   virtual std::vector<KeyRow> BoardKeys() const { return {}; }
   // What the game adds to the state.
   virtual std::string BoardState() const { return ""; }
+  // Whether the board has nothing left to play, the stock included.
+  virtual bool IsStuck() const { return false; }
   // Whether cards can be played now.
   bool Plays() const { return window_.standing.IsPlaying() && !window_.standing.InputIsDead(); }
   // A place that shows a card, a back or an empty place, and what place it is; nothing is added for one that
-  // doesn't show. None can be played while it is disabled or no round runs.
+  // shows none of these. None can be played while no round runs.
   void Add(std::vector<Spot>& spots, Image& image, bool playable, bool selected = false,
            const std::string& place = "") const;
   // Rows that several games have.

@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "games/games.h"
+#include "games/spirehold/spirehold.h"
 #include "suite/catalogue.h"
 #include "suite/suite.h"
 #include "tests/desktop_screen.h"
@@ -198,4 +199,36 @@ TEST_F(Comforts, TheClockIsTheOneOfTheSystem) {
   window.StatusBar1.Panels(3).Text = "3:07 AM";  // an hour and a minute that have gone by
   EXPECT_EQ(start.Find<QLabel>("frmSumfall", "StatusBar1.Panels(3)").text().toStdString(),
             start.suite->common.TimeOfDay());
+}
+
+TEST_F(Comforts, AStuckBoardSaysSoUntilItIsPausedOrDealtAnew) {
+  Start start(folder);
+  start.Click("frmSelect", "cmdSpirehold");
+  auto& game = static_cast<frmSpirehold&>(start.Window("frmSpirehold"));
+  const auto calls = [&] {
+    input::Settle();
+    std::string said;
+    for (const Note& note : start.Shown("frmSpirehold").Board().Notes())
+      if (note.look == Note::Look::Call) said += "[" + note.text + "]";
+    return said;
+  };
+  const std::string stuck = "[][No more moves.\nTake Score?]";
+  start.Click("frmSpirehold", "cmdPlay");
+  EXPECT_EQ(calls(), "");
+  // Nothing goes with the up card; then with none of the stock either, which is still there.
+  start.front.Deliver(game, [&] {
+    game.board.table.fill("");
+    game.board.table[27] = "9S";
+    game.board.pile.back() = "2H";
+  });
+  EXPECT_EQ(calls(), "");
+  start.front.Deliver(game, [&] { std::ranges::fill(game.board.stack, "2C"); });
+  EXPECT_EQ(calls(), stuck);
+  start.Click("frmSpirehold", "cmdPause");
+  EXPECT_EQ(calls(), "");
+  start.Click("frmSpirehold", "cmdPause");
+  EXPECT_EQ(calls(), stuck);
+  start.Click("frmSpirehold", "cmdTakeScore");
+  EXPECT_TRUE(input::Await([&] { return game.standing.IsPlaying(); }));
+  EXPECT_EQ(calls(), "");
 }

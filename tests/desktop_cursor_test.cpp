@@ -31,8 +31,10 @@ class PlacesGuide : public Guide {
     for (const char key : std::string("A234567890TJQK")) row.clicks.push_back({{key}, kNextOfRank});
     return {row};
   }
-  std::vector<Spot> Spots() const override { return spots_; }
   bool InGame() const override { return true; }
+
+ protected:
+  std::vector<Spot> Places() const override { return spots_; }
 
  private:
   std::vector<Spot>& spots_;

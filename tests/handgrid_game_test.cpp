@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/handgrid_table.h"
+#include "window/guide.h"
 
 namespace {
 
@@ -73,6 +74,10 @@ TEST_F(Handgrid, IsPlayedThroughToTheTable) {
             "Click x4, TwentyOne, Click x4, TwentyOne, Click, TwentyOne");
   EXPECT_EQ(Lines("lblRow"), "Royal Flush|St. Flush|1 Pair|Nothing|Nothing");
   EXPECT_EQ(Caption("lblPointsEarned"), "Points Earned: 950");
+  const auto guide = GuideTo(Game());
+  EXPECT_EQ(guide->ToolTip(Game().lblRow(2)) + guide->ToolTip(Game().lblRow(4)), "St. Flush 400");
+  EXPECT_EQ(guide->Says(Game().lblRow(2)) + ". " + guide->Says(Game().lblCol(5)),
+            "Row 2: St. Flush 400. Column 5: Nothing");
   driver.Do("advance 7000");
   EXPECT_EQ(Story(driver.Trace(ClickCells(12, 23))),
             "TwentyOne x2, Click x2, TwentyOne x2, Click, TwentyOne x2, Click x3");

@@ -41,7 +41,8 @@ struct Note {
   enum class Look {
     Plain,  // small letters
     Mark,   // a band beneath what stands there, its text strong
-    Sheet   // a small sheet, its lines centred
+    Sheet,  // a small sheet, its lines centred
+    Call    // a dark plate, for what is to be noticed; without a text a frame around it
   };
   const Control* within;         // the form or frame in whose coordinates it stands
   int left, top, width, height;  // twips
@@ -58,8 +59,8 @@ class Guide {
 
   // The table of keys, the most useful first; the same at all times.
   virtual std::vector<KeyRow> Keys() const { return {}; }
-  // What lies on the board now, in reading order: visible places only.
-  virtual std::vector<Spot> Spots() const { return {}; }
+  // What lies on the board now, in reading order: visible places only, and no disabled one is playable.
+  std::vector<Spot> Spots() const;
   // What a click on lets go what was selected last, where that isn't the selected place itself; else null.
   virtual Visual* LetsGo() const { return nullptr; }
   // Whether the window is a choice: it starts with what was chosen last, of the buttons that digits stand
@@ -79,8 +80,14 @@ class Guide {
   virtual const Menu* KeysMenu() const { return nullptr; }
   // Whether the label tells what has just happened, however small it is written.
   virtual bool IsMessage(const Label& /*label*/) const { return false; }
+  // What is left to click on once nothing on the board or in the stock can be played any more; null as long
+  // as something can.
+  virtual const CommandButton* WayOut() const { return nullptr; }
   // Texts to be added as the window stands now.
   virtual std::vector<Note> Notes() const { return {}; }
+  // What a label says to who doesn't see where it stands; "" where its text, and what stands beside it, say
+  // it all.
+  virtual std::string Says(const Label& /*label*/) const { return ""; }
   // A sentence on a control that has no tool tip of its own; "" for none.
   virtual std::string ToolTip(const Control& /*control*/) const { return ""; }
   // Three lines on what to do, for a player who opens the window for the first time.
@@ -95,6 +102,10 @@ class Guide {
   virtual bool IsOrnament(const Control& /*control*/) const { return false; }
   // Whether the window comes back where the player has left it.
   virtual bool KeepsPlace() const { return false; }
+
+ protected:
+  // All places of the board, whether they show or not.
+  virtual std::vector<Spot> Places() const { return {}; }
 };
 
 // Makes the guide of a window; null for one that needs none.

@@ -11,7 +11,7 @@ class DuopickGuide : public GameGuide {
  public:
   explicit DuopickGuide(frmDuopick& window) : GameGuide(window), window_(window) {}
 
-  std::vector<Spot> Spots() const override {
+  std::vector<Spot> Places() const override {
     std::vector<Spot> spots;
     for (int card = 0; card < kCards; ++card) {
       if (card == kUpCard) Add(spots, window_.CardStackPicture, !window_.board.stack.empty(), false, "stock");
@@ -37,6 +37,8 @@ class DuopickGuide : public GameGuide {
   }
 
  protected:
+  bool IsStuck() const override { return window_.board.IsStuck(); }
+
   std::vector<KeyRow> BoardKeys() const override {
     return {RankKeys(),
             {"D", "Turn the next card of the stock; a selected card is let go", {{"D", "CardStackPicture"}}},

@@ -11,7 +11,7 @@ class HandgridGuide : public GameGuide {
  public:
   explicit HandgridGuide(frmHandgrid& window) : GameGuide(window), window_(window) {}
 
-  std::vector<Spot> Spots() const override {
+  std::vector<Spot> Places() const override {
     std::vector<Spot> spots;
     for (int cell = 0; cell < kCells; ++cell)
       Add(spots, window_.PlayCards(cell), window_.board.Takes(cell), false,
@@ -19,6 +19,16 @@ class HandgridGuide : public GameGuide {
     Add(spots, window_.CardStackPicture, false, false, "stock");
     Add(spots, window_.HoleCard, false, false, "next card");
     return spots;
+  }
+
+  std::string Says(const Label& label) const override {
+    const int line = LineOf(label);
+    return line < 0 ? GameGuide::Says(label) : LineName(line) + ": " + Worth(line);
+  }
+
+  std::string ToolTip(const Control& control) const override {
+    const int line = LineOf(control);
+    return line < 0 || window_.board.hands[line] == Hand::Nothing ? "" : Worth(line);
   }
 
   std::vector<std::string> FirstSteps() const override {
@@ -39,15 +49,28 @@ class HandgridGuide : public GameGuide {
   std::string BoardState() const override {
     const Board& board = window_.board;
     std::string hands;
-    for (int line = 0; line < kLines; ++line)
-      hands += (line < kSide ? " Row " : " Column ") + std::to_string(line % kSide + 1) + " " +
-               HandName(board.hands[line]) + ".";
+    for (int line = 0; line < kLines; ++line) hands += " " + LineName(line) + " " + Worth(line) + ".";
     const int next = window_.common.ImageList2(board.hole.empty() ? "EMPTY" : CardKey(board.hole));
     return "Next card " + SpokenPicture(next) + ". " + std::to_string(board.OverWritesLeft()) +
            " overwrites left." + hands;
   }
 
  private:
+  // The line whose hand stands on that label, or -1.
+  int LineOf(const Control& label) const {
+    for (int line = 0; line < kLines; ++line)
+      if (&label == &window_.HandLabel(line)) return line;
+    return -1;
+  }
+  static std::string LineName(int line) {
+    return (line < kSide ? "Row " : "Column ") + std::to_string(line % kSide + 1);
+  }
+  // "Flush 100".
+  std::string Worth(int line) const {
+    const Hand hand = window_.board.hands[line];
+    return HandName(hand) + (hand == Hand::Nothing ? "" : " " + std::to_string(window_.Scores.Of(hand)));
+  }
+
   frmHandgrid& window_;
 };
 

@@ -82,7 +82,7 @@ void frmHandgrid::ShowHands(const std::array<Hand, kLines>& before) {
     const Hand hand = board.hands[line];
     RoundPoints += Scores.Of(hand);
     ShowPointsEarned();
-    Label& label = line < kSide ? lblRow(line + 1) : lblCol(line - kSide + 1);
+    Label& label = HandLabel(line);
     label.Caption = HandName(hand);
     if (hand != Hand::Nothing && hand != before[line]) {
       PlaySound("\\TwentyOne.wav");

@@ -24,6 +24,9 @@ class frmHandgrid : public GameWindow {
   Image CardStackPicture{*this, "CardStackPicture"}, HoleCard{*this, "HoleCard"};
   // The names of the hands, beside the rows and under the columns, numbered from 1.
   ControlArray<Label, modHandgrid::kSide, 1> lblRow{*this, "lblRow"}, lblCol{*this, "lblCol"};
+  Label& HandLabel(int line) {
+    return line < modHandgrid::kSide ? lblRow(line + 1) : lblCol(line - modHandgrid::kSide + 1);
+  }
   Label lblCards{*this, "lblCards"}, lblOverwrites{*this, "lblOverwrites"},
       lblPointsEarned{*this, "lblPointsEarned"};
   Label lblTimeBonus{Surface, "lblTimeBonus"};  // the seconds that are left, on the dial

@@ -11,7 +11,7 @@ class SpireholdGuide : public GameGuide {
  public:
   explicit SpireholdGuide(frmSpirehold& window) : GameGuide(window), window_(window) {}
 
-  std::vector<Spot> Spots() const override {
+  std::vector<Spot> Places() const override {
     std::vector<Spot> spots;
     for (int card = 0; card < kCards; ++card)
       Add(spots, window_.UpCardImage(card), window_.board.CheckForLegalMove(card));
@@ -27,6 +27,8 @@ class SpireholdGuide : public GameGuide {
   }
 
  protected:
+  bool IsStuck() const override { return window_.board.IsStuck(); }
+
   std::vector<KeyRow> BoardKeys() const override {
     return {RankKeys(), {"D", "Turn the next card of the stock", {{"D", "CardStackPicture"}}}};
   }

@@ -11,7 +11,7 @@ class SumfallGuide : public GameGuide {
  public:
   explicit SumfallGuide(frmSumfall& window) : GameGuide(window), window_(window) {}
 
-  std::vector<Spot> Spots() const override {
+  std::vector<Spot> Places() const override {
     std::vector<Spot> spots;
     const Board& board = window_.board;
     for (int place = 0; place < kPlaces; ++place)
@@ -28,6 +28,8 @@ class SumfallGuide : public GameGuide {
   }
 
  protected:
+  bool IsStuck() const override { return window_.board.IsStuck(); }
+
   std::vector<KeyRow> BoardKeys() const override {
     return {RankKeys(),
             {"D", "Turn the next card of the stock", {{"D", "PlayCardPicture"}}},

@@ -11,7 +11,7 @@ class TreyshiftGuide : public GameGuide {
  public:
   explicit TreyshiftGuide(frmTreyshift& window) : GameGuide(window), window_(window) {}
 
-  std::vector<Spot> Spots() const override {
+  std::vector<Spot> Places() const override {
     std::vector<Spot> spots;
     const Board& board = window_.board;
     const auto add = [&](Zone zone, Image& image, const std::string& place) {

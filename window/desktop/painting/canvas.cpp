@@ -83,6 +83,10 @@ QRect Canvas::PlaceOf(const Visual& control) const {
   return IsDrawn(control.kind) ? DrawnRect(control, paintbox_.pictures) : ModelRect(control);
 }
 
+QRect Canvas::ReachOf(const Visual& control) const {
+  return IsDrawn(control.kind) ? Reach(control, paintbox_.pictures) : ModelRect(control);
+}
+
 void Canvas::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const double scale = devicePixelRatioF();
@@ -198,7 +202,8 @@ void Canvas::ShowToolTip(QHelpEvent& event) {
   const QPoint point = ToBoard(event.pos());
   for (auto it = scene.rbegin(); it != scene.rend(); ++it) {
     if (!it->rect.contains(point) || !it->clip.contains(point)) continue;
-    const QString text = QString::fromStdString(it->control->ToolTipText);
+    QString text = QString::fromStdString(it->control->ToolTipText);
+    if (text.isEmpty() && guide_) text = QString::fromStdString(guide_->ToolTip(*it->control));
     if (!text.isEmpty()) QToolTip::setFont(style::Letters(zoom_));
     if (!text.isEmpty()) return QToolTip::showText(event.globalPos(), text, this, ToWindow(it->rect));
     if (it->control->kind == Control::Kind::Image) break;

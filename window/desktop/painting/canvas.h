@@ -64,6 +64,8 @@ class Canvas : public QWidget {
   QWidget* WidgetOf(const Control& control) const;
   // Where a control is drawn, pixels at 100 %.
   QRect PlaceOf(const Visual& control) const;
+  // All that is painted for it.
+  QRect ReachOf(const Visual& control) const;
   // The control that a click at this point of the window means.
   Visual* At(QPoint point) const;
   // A spot that means this control: its middle if that shows. Nothing if the control is wholly covered.

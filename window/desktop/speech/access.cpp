@@ -67,6 +67,10 @@ void Access::Flush() {
 
 // A count changes nothing but figures: it is said when it begins.
 void Access::TellMessages(Canvas& board) {
+  QString call;
+  for (const Note& note : board.Notes())
+    if (note.look == Note::Look::Call) call = Spoken(note.text);
+  if (std::exchange(said_[&board.form], call) != call && !call.isEmpty()) Announce(board, call);
   for (const Control* control : board.form.Controls()) {
     if (control->kind != Control::Kind::Label) continue;
     const auto& label = static_cast<const Label&>(*control);

@@ -2,7 +2,6 @@
 
 #include <QWidget>
 #include <algorithm>
-#include <cctype>
 #include <limits>
 
 #include "window/desktop/painting/canvas.h"
@@ -76,22 +75,6 @@ QString WithoutColon(QString text) {
   return text;
 }
 
-// What a label is called in the game, spoken: "lblTimeBonus" is "Time bonus", the third `ColumnTotal` "Column
-// total 3".
-QString SpokenName(const Label& label) {
-  QString name;
-  for (const char letter : label.name.starts_with("lbl") ? label.name.substr(3) : label.name)
-    if (std::isupper(static_cast<unsigned char>(letter)) && !name.isEmpty())
-      name += QStringLiteral(" ") + QChar(letter).toLower();
-    else
-      name += QChar(letter);
-  if (name == "Col") name = "Column";
-  if (label.index < 0) return name;
-  int first = label.index;
-  while (first > 0 && label.form.find(label.name, first - 1)) --first;
-  return name + " " + QString::number(label.index - first + 1);
-}
-
 QString NameOfBox(const Visual& control) {
   if (const QString label = LabelTextOf(control); !label.isEmpty()) return label;
   switch (control.kind) {
@@ -127,8 +110,8 @@ std::map<const Label*, QString> NamesOfLabels(const Form& form, const Guide* gui
   if (!board) return names;
   std::vector<const Label*> told;
   for (const Lettered& each : labels) {
-    if (each.label->index >= 0) {
-      names[each.label] = SpokenName(*each.label) + ": " + each.text;
+    if (const std::string said = guide ? guide->Says(*each.label) : ""; !said.empty()) {
+      names[each.label] = Spoken(said);
     } else if (each.IsFigure()) {
       // In a frame figures may stand beside figures, as in a table.
       const bool framed = each.label->parent->kind == Control::Kind::Frame;
@@ -137,8 +120,9 @@ std::map<const Label*, QString> NamesOfLabels(const Form& form, const Guide* gui
                (other.IsTitle() || (framed && other.rect.right() < each.rect.left()));
       };
       const Lettered* title = Nearest(labels, *each.label, 100, 30, fits);
-      names[each.label] = (title ? WithoutColon(title->text) : SpokenName(*each.label)) + ": " + each.text;
-      if (title) told.push_back(title->label);
+      if (!title) continue;
+      names[each.label] = WithoutColon(title->text) + ": " + each.text;
+      told.push_back(title->label);
     }
   }
   for (const Label* label : told) names.erase(label);

@@ -82,20 +82,58 @@ void Comfort::Leave() {
   looks_.Alter([&](View& view) { view.lastName = QString::fromStdString(written_); });
 }
 
+std::vector<QRect> Comfort::Taken(bool byCards) const {
+  std::vector<QRect> taken;
+  for (const Control* control : form_.Controls()) {
+    if (control->parent != &form_ || !(IsDrawn(control->kind) || canvas_.WidgetOf(*control))) continue;
+    const auto& visual = static_cast<const Visual&>(*control);
+    if (visual.Visible && (byCards || visual.kind != Control::Kind::Image))
+      taken.push_back(canvas_.ReachOf(visual));
+  }
+  return taken;
+}
+
+// The text stands where there is room nearest to the button; where there is none, over cards that can't be
+// played any more.
+void Comfort::CallFor(const CommandButton& button, std::vector<Note>& notes) const {
+  constexpr int kEdge = 90, kStep = 4;
+  const QRect marked = ModelRect(button);
+  notes.push_back({&form_, button.Left - kEdge, button.Top - kEdge, button.Width + 2 * kEdge,
+                   button.Height + 2 * kEdge, "", 0, Note::Look::Call});
+  Note call{&form_,          0, 0, 0, 0, "No more moves.\n" + WithoutAccessKey(button.Caption.get()) + "?", 2,
+            Note::Look::Call};
+  const QSize size = NoteRect(call).size();
+  const QRect board(QPoint(0, 0), canvas_.ToBoard(canvas_.rect().bottomRight()));
+  QRect best;
+  for (const bool byCards : {true, false}) {
+    if (!best.isNull()) break;
+    const std::vector<QRect> taken = Taken(byCards);
+    for (int top = kStep; top + size.height() < board.bottom(); top += kStep)
+      for (int left = kStep; left + size.width() < board.right(); left += kStep) {
+        const QRect here({left, top}, size), around = here.adjusted(-kStep, -kStep, kStep, kStep);
+        const auto far = [&](const QRect& place) {
+          return (place.center() - marked.center()).manhattanLength();
+        };
+        if (!best.isNull() && far(here) >= far(best)) continue;
+        if (std::ranges::none_of(taken, [&](const QRect& each) { return each.intersects(around); }))
+          best = here;
+      }
+  }
+  call.left = best.center().x() * 15;
+  call.top = best.top() * 15;
+  notes.push_back(std::move(call));
+}
+
 // Below the place that was told, or above it, or else before its lower part.
 void Comfort::PlaceSheet(Note& sheet) const {
   constexpr int kGap = 180;
   const int height = NoteRect(sheet).height() * 15;
   const int below = sheet.top + sheet.height + kGap, above = sheet.top - kGap - height;
+  const std::vector<QRect> taken = Taken(true);
   const auto isFree = [&](int top) {
     sheet.top = top;
     const QRect area = NoteRect(sheet);
-    return top >= 0 && std::ranges::none_of(form_.Controls(), [&](const Control* control) {
-             if (control->parent != &form_) return false;
-             if (!IsDrawn(control->kind) && !canvas_.WidgetOf(*control)) return false;
-             const auto& visual = static_cast<const Visual&>(*control);
-             return visual.Visible && ModelRect(visual).intersects(area);
-           });
+    return top >= 0 && std::ranges::none_of(taken, [&](const QRect& each) { return each.intersects(area); });
   };
   if (!isFree(below) && !isFree(above)) sheet.top = below - 2 * kGap - height;
 }
@@ -117,6 +155,7 @@ void Comfort::ShowNotes() {
     }
     showsSteps_ = sheet.has_value();
   }
+  if (const CommandButton* button = guide_.WayOut()) CallFor(*button, notes);
   canvas_.SetNotes(std::move(notes));
 }
 

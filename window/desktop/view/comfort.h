@@ -2,6 +2,8 @@
 // that is offered again, the place where it stood, tool tips, the clock.
 #pragma once
 
+#include <QRect>
+
 #include "window/guide.h"
 
 class Canvas;
@@ -29,6 +31,10 @@ class Comfort {
   void ApplyToolTip(QWidget& widget, const Visual& control) const;
   void ShowNotes();
   void PlaceSheet(Note& sheet) const;
+  // Where something stands on the board, or something but cards; pixels at 100 %.
+  std::vector<QRect> Taken(bool byCards) const;
+  // The player is told that nothing is left but this button.
+  void CallFor(const CommandButton& button, std::vector<Note>& notes) const;
   void OfferAgain();
   void KeepPlace();
 
