@@ -14,6 +14,7 @@ struct TimeLimitEntry {
   int seconds;
   const char* menu;
   const char* caption;
+  bool comesBack = true;  // it is taken from the settings file
 };
 
 // A box let into the board and the two lines that light its edges.
@@ -50,6 +51,10 @@ struct GameNames {
   const char* pause = "Pau&se";
   const char* pauseTip = "Pauses the current game";
   const char* timeSection = "[Time]";
+
+  const char* welcomeEnding = "  ";        // behind "Welcome to ..." in panel 1
+  const char* highScore = "High Score: ";  // before the leader of the table
+  const char* splashFace = nullptr;        // the picture on the cards of the splash panel; else any face
 };
 
 // The name of a game's high score tables, and the score in a fresh one.
@@ -58,13 +63,21 @@ struct HighScoreTable {
   const char* defaultScore;
 };
 
+// Where there is a table for each value of a setting, as there is for each time limit.
+struct TableGoal {
+  const char* section = "";  // of the setting
+  const char* info = "";     // before its value, in the Hall of Fame
+};
+
 struct HighScoreTables {
   HighScoreTable shown;    // in the window and in the Hall of Fame
   HighScoreTable final;    // entered at the end of a game
   HighScoreTable cleared;  // by the menu
+  TableGoal goal{};
+  bool clearingPauses = false;  // the menu's question pauses a running game
 };
-constexpr HighScoreTables OneTable(const char* name, const char* defaultScore) {
-  return {{name, defaultScore}, {name, defaultScore}, {name, defaultScore}};
+constexpr HighScoreTables OneTable(const char* name, const char* defaultScore, TableGoal goal = {}) {
+  return {{name, defaultScore}, {name, defaultScore}, {name, defaultScore}, goal};
 }
 
 // The scoring dialog: its names, and what stands on it beside the fields.
@@ -79,6 +92,36 @@ struct ScoringNames {
       "indicating custom scoring was in use.";
   int moreRows = 0;          // kept free behind the count-down switch, for controls of the game's own
   bool overTheGame = false;  // it stands in the middle of the game's window, not of the screen
+  // The bonus round's score is told when its field has passed, and not when all have been looked at.
+  bool tellsGoalAtOnce = false;
+};
+
+// What doesn't answer while input is dead.
+enum class Held { Nothing, Buttons /* and the entry Pause */, Commands };
+
+// When the dial is drawn anew five times a second. A full dial stops that.
+enum class DialRuns { InLastQuarter, FromLoading, FromEachRound };
+
+// What goes on while the player is asked whether to end the game, which then goes on or ends...
+enum class WhileAsked {
+  Paused,    // from where it was
+  Silenced,  // the same, with the music stopped twice; it ends out of the pause
+  RunsOn     // in silence
+};
+struct EndGameQuestion {
+  const char* text = "You have a game in progress, are you sure you want to quit?";
+  WhileAsked meanwhile = WhileAsked::Paused;
+  bool tipIsAhead = false;  // the tool tip of Play tells of the answer Yes while the question stands
+};
+// ... and whether to close the window. Where Pause is clicked, a paused game runs meanwhile.
+enum class WhileClosing { RunsOn, Paused, PauseIsClicked };
+
+// Who reaches the bonus round.
+enum class BonusRound { ForItsScore, ForMore, None };
+struct BonusCall {
+  const char* text = "Prepare for Bonus Round!";
+  const char* wave = "\\Applause.wav";
+  bool waveFirst = false;
 };
 
 struct GamePlan {
@@ -91,6 +134,8 @@ struct GamePlan {
   const RulesText& rules;
   ScoringNames dialog{};
   int rounds = 2;  // before the bonus round
+  BonusRound bonusRound = BonusRound::ForItsScore;
+  BonusCall bonusCall{};
   // The back designs that "[Deck]" 1 to 4 stand for, and the default number.
   BackDesign designs[4] = {kPalmTree, kMagicHands, kNightCastle, kHotCards};
   int deckDesign = 1;
@@ -98,4 +143,16 @@ struct GamePlan {
   // With which icon an error on the way into a game is told before the program ends; without one it is told
   // as any other failure, and the suite goes on.
   std::optional<Icon> playFailure = Icon::None;
+
+  EndGameQuestion endGame{};
+  WhileClosing whileClosing = WhileClosing::RunsOn;
+  Held held = Held::Nothing;
+  DialRuns dialRuns = DialRuns::InLastQuarter;
+  bool dialIsLate = false;             // it shows the second before
+  bool sleepsMinimised = false;        // clock and music of a minimised window stand still
+  bool playEntryFollows = true;        // the menu entry Play reads as the button does
+  bool commandsLiveWhileTold = false;  // the buttons are back before the next round, or the end, is told
+  bool limitChosenFirst = false;       // the default limit's table is looked at before the settings are read
+  bool otherTextIsOff = false;         // sounds and music are off unless the file says "True"
+  int panels[3] = {40, 45, 15};        // widths in the status bar, percent
 };

@@ -19,10 +19,13 @@ void GameWindow::Form_Load() {
   common.CustomScoringInUse = false;
   standing.Rest();
   for (const GameSetting& setting : settings) setting.SetNumber(setting.standard);
+  if (plan.dialRuns == DialRuns::FromLoading) Timer2.Enabled = true;
+  if (plan.dialRuns == DialRuns::FromEachRound) ResetDial();
+  if (plan.limitChosenFirst) ChooseTimeLimit(plan.timeLimit);
   SetDefaults();
   for (Visual* above : std::initializer_list<Visual*>{&frmSplash, &lblMessage, &lblScoring}) above->ZOrder(0);
   Caption = common.AppTitle;
-  StatusBar1.Panels(1).Text = Welcome();
+  StatusBar1.Panels(1).Text = "Welcome to " + common.AppTitle + plan.names.welcomeEnding;
   StatusBar1.Panels(3).Text = common.TimeOfDay();
   Move(Left, Top, plan.width, plan.height);
   ReadSettingsINI();
@@ -44,7 +47,10 @@ void GameWindow::Timer4_Timer() {
   Image& image = imgSplashImage(SplashPosition_);
   image.ZOrder(1);
   if (SplashForward_) {
-    SplashShowBack_ ? ShowSplashBack(image) : ShowSplashFace(image);
+    const char* face = plan.names.splashFace;
+    if (SplashShowBack_ || face) image.Picture = common.ImageList2(SplashShowBack_ ? "BACK" : face);
+    if (!SplashShowBack_ && !face) image.Picture = common.RandomInteger(kFirstFace, kLastFace);
+    if (!face) image.BorderStyle = SplashShowBack_ ? 0 : 1;
     if (++SplashPosition_ == 4) {
       SplashForward_ = false;
       SplashPosition_ = 3;
@@ -56,13 +62,6 @@ void GameWindow::Timer4_Timer() {
   }
 }
 
-void GameWindow::ShowSplashFace(Image& image) {
-  image.Picture = common.RandomInteger(kFirstFace, kLastFace);
-  image.BorderStyle = 1;
-}
-
-void GameWindow::ShowSplashBack(Image& image) { ShowBack(image); }
-
 void GameWindow::ShowSplash(bool visible) {
   frmSplash.Visible = visible;
   Timer4.Enabled = visible;
@@ -70,8 +69,8 @@ void GameWindow::ShowSplash(bool visible) {
 
 // --- Play and End Game ---------------------------------------------------------------------------
 
-void GameWindow::cmdPlay_Click() {
-  if (!standing.CanStart()) return AskToEndGame(EndGameQuestion());
+void GameWindow::cmdPlay_Click(By) {
+  if (!standing.CanStart()) return AskToEndGame(plan.endGame.text);
   LeaveIdle();
   StartGame();
 }
@@ -121,10 +120,18 @@ void GameWindow::BackToIdle() {
 // Under the question a clock that wasn't stopped may end the game; then there is nothing left to end.
 void GameWindow::AskToEndGame(const std::string& question) {
   if (!standing.IsPlaying()) return;
-  BeforeEndQuestion();
+  const auto [text, meanwhile, tipIsAhead] = plan.endGame;
+  if (tipIsAhead) cmdPlay.ToolTipText = "Starts a new game";
+  if (meanwhile != WhileAsked::Paused) StopMusic();
+  if (meanwhile != WhileAsked::RunsOn) PauseGame();
   const bool ends = common.Ask(question);
   const bool wasRunning = !standing.CanStart();
-  AfterEndQuestion(ends);
+  if (ends && meanwhile == WhileAsked::Silenced) standing.GiveUp();
+  if (meanwhile != WhileAsked::RunsOn)
+    ResumeGame();
+  else if (!ends && standing.InGame())
+    StartMusic();
+  if (!ends && tipIsAhead) cmdPlay.ToolTipText = "Ends the game in progress";
   if (!wasRunning || !ends) return;
   cmdPlay.ToolTipText = "Starts a new game";
   SetPlayCaption("&Play");
@@ -134,17 +141,20 @@ void GameWindow::AskToEndGame(const std::string& question) {
 
 void GameWindow::SetPlayCaption(const char* caption) {
   cmdPlay.Caption = caption;
-  mnuPlay.Caption = caption;
+  if (plan.playEntryFollows) mnuPlay.Caption = caption;
 }
 
 // --- The round clock -----------------------------------------------------------------------------
 
+// More than a tick may come where events are let through while a round is being paid: one that isn't open yet
+// keeps its last second.
 void GameWindow::Tick() {
+  if (standing.IsBusy() && common.ElapsedSeconds + 1 >= common.TimeLimit) return;
   common.ElapsedSeconds += 1;
-  DrawTimeDial(DialAngle(*this, common.ElapsedSeconds), *this);
+  DrawTimeDial(DialAngle(*this, plan.dialIsLate ? common.DialSeconds : common.ElapsedSeconds), *this);
   common.DialSeconds = common.ElapsedSeconds;
   ShowTimeLeft();
-  if (common.ElapsedSeconds == common.TimeLimit) TimeIsUp();
+  if (common.ElapsedSeconds >= common.TimeLimit) TimeIsUp();
 }
 
 void GameWindow::ShowTimeLeft() {
@@ -156,22 +166,10 @@ void GameWindow::ShowTimeLeft() {
   if (left < quarter) StatusBar1.Panels(2).Text = "Better Hurry!";
 }
 
-void GameWindow::TimeIsUp() {
-  MousePointer = kHourglass;
-  Timer1.Enabled = false;
-  HideCardsAtTimeUp();
-  EnableButtons(false);
-  ShowMessage("Times Up!");
-  StatusBar1.Panels(2).Text = "Time has expired!";
-  Blink(lblMessage, 10);
-  cmdTakeScore_Click();
-  if (!standing.IsOver()) lblMessage.Visible = false;
-  MousePointer = kDefaultPointer;
-}
-
 void GameWindow::ResetDial() {
-  Timer2.Enabled = false;
+  if (plan.dialRuns == DialRuns::InLastQuarter) Timer2.Enabled = false;
   InitTimeDial(*this);
+  if (plan.dialRuns == DialRuns::FromEachRound) Timer2.Enabled = true;
 }
 
 // --- Pausing -------------------------------------------------------------------------------------
@@ -206,9 +204,18 @@ void GameWindow::ResumeGame() {
   SetPauseCaptions(false);
   for (CommandButton* button : {&cmdExit, &cmdTakeScore, &cmdPlay}) button->Enabled = true;
   for (Menu* entry : {&mnuExit, &mnuPlay, &mnuTakeScore}) entry->Enabled = true;
-  if (!standing.InGame()) return;
-  CoverCards(false);
-  StartMusic();
+  if (standing.InGame()) {
+    CoverCards(false);
+    StartMusic();
+  }
+  if (WindowState == window_state::kMinimised) Sleep();
+}
+
+// Also when a question over a minimised window has been answered.
+void GameWindow::Sleep() {
+  if (!plan.sleepsMinimised) return;
+  Timer1.Enabled = false;
+  StopMusic();
 }
 
 void GameWindow::TellPause(bool paused) {
@@ -231,10 +238,10 @@ void GameWindow::PauseAround(const std::function<void()>& action) {
 // --- Minimised and restored ----------------------------------------------------------------------
 
 void GameWindow::Form_StateChange(int before) {
-  if (WindowState == window_state::kMinimised)
-    Minimised();
-  else if (before == window_state::kMinimised)
-    Restored();
+  if (WindowState == window_state::kMinimised) return Sleep();
+  if (!plan.sleepsMinimised || before != window_state::kMinimised || !standing.IsPlaying()) return;
+  Timer1.Enabled = true;
+  StartMusic();
 }
 
 // --- Closing -------------------------------------------------------------------------------------
@@ -246,13 +253,18 @@ void GameWindow::Form_QueryUnload(bool& cancel) {
     cancel = true;
     return;
   }
-  BeforeClosingQuestion();
+  const bool wasPaused = standing.IsPaused();
+  const bool clicksPause = plan.whileClosing == WhileClosing::PauseIsClicked ? cmdPause.Enabled.get()
+                           : plan.whileClosing == WhileClosing::Paused       ? standing.IsPlaying()
+                                                                             : false;
+  if (clicksPause) Pause();
   std::string question = "You have a game in progress. Are you sure you want to quit now?";
   if (!standing.InGame())
     question = common.MinutesPlayed() < 5 ? "Giving up so soon?"
                                           : "Are you sure you want to quit now? Were just getting started!";
   cancel = !common.Ask(question);
-  AfterClosingQuestion(!cancel);
+  // The game may have come further meanwhile, or to its end.
+  if (clicksPause && cancel && standing.InGame() && standing.IsPaused() != wasPaused) Pause();
 }
 
 void GameWindow::CloseIfWanted() {

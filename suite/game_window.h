@@ -52,71 +52,46 @@ class GameWindow : public Form {
   virtual void EndGame() = 0;
   // All card images.
   virtual void ShowCards(bool visible) = 0;
-  // Shows the stock in the back design in force.
+  // Shows the stock, and what else lies face down, in the back design in force.
   virtual void RefreshPlayCard() = 0;
+  // Places the board; the splash panel, the buttons and the status bar are placed already.
+  virtual void PlaceBoard() = 0;
+  // The round's time is used up.
+  virtual void TimeIsUp() = 0;
+  // The game is played out: its score goes to the table, "Game Over" stands, the splash panel is back.
+  virtual void GameOver() = 0;
 
   // === Steps, by when they come ====================================================================
 
   // --- Loading -------------------------------------------------------------------------------------
-  // Defaults beyond those of `settings`, set before the file is read.
+  // Before the file is read. Sumfall's colour is seen on the board at once, from its default on.
   virtual void SetDefaults() {}
-  // Panel 1 of the status bar.
-  virtual std::string Welcome() const { return "Welcome to " + common.AppTitle + "  "; }
   // A section that the game reads in its own way; asked before all others. False for the common way.
+  // Sumfall's colour and card goal are ticked as they are read, a goal beyond the menu, too.
   virtual bool ApplyGameSetting(std::string_view /*section*/, std::string_view /*value*/) { return false; }
-  // Whether a time limit is taken from the settings file.
-  virtual bool AcceptsLimit(int /*seconds*/) const { return true; }
   // All settings are read; and the same after the scoring dialog.
   virtual void SettingsRead() {}
-  // Sets `CustomScoringInUse`; by the table of settings.
-  virtual void CheckForCustom();
-  // What stands under a section when the file is written.
-  virtual std::string SettingText(std::string_view section) const;
   // The customised scoring dialog.
   virtual void ShowCustomScoring();
-  // What the text of the rules names beside `settings`, the title and the limit.
+  // What the text of the rules names beside `settings`, the title and the limit: what Fivestack works out.
   virtual RulesValues MoreRulesValues() const { return {}; }
-  // The name of a table's file for the present settings.
-  virtual std::string TableFile(const std::string& tableName) const;
-  virtual std::string HighScorePrefix() const { return "High Score: "; }
-  // The line under the Hall of Fame.
-  virtual std::string HighScoreInfo() const { return "* denotes customized scoring was used"; }
-  // The menu entry Clear.
-  virtual void mnuClear_Click();
 
-  // --- The splash panel ----------------------------------------------------------------------------
-  virtual void ShowSplashFace(Image& image);
-  virtual void ShowSplashBack(Image& image);
-
-  // --- Play ----------------------------------------------------------------------------------------
-  // Whether a click on Play, Pause or Exit is taken now.
-  virtual bool TakesCommand() const { return true; }
-  virtual void cmdPlay_Click();
-  virtual void mnuPlay_Click() { cmdPlay_Click(); }
+  // --- Play and Take Score -------------------------------------------------------------------------
+  // What was clicked. Only in Sumfall the entries do less than the buttons.
+  enum class By { Button, Entry };
+  virtual void cmdPlay_Click(By by);
+  virtual void cmdTakeScore_Click(By by);
   // Play was pressed: tool tip and captions, the splash panel goes.
   virtual void LeaveIdle();
   // No game came of it: the window is as before a game.
   virtual void BackToIdle();
-  // Deals round `CurrentRound` and starts its clock. For a game that ends its rounds by the common
-  // `TakeScore`.
-  virtual void InitRound() {}
-  // The captions of the button and the menu entry Play at once.
-  virtual void SetPlayCaption(const char* caption);
-  // The menu entries for what can't be changed during a game.
-  virtual void EnableOptions(bool enable);
+  // Pays the round, then begins the next one or ends the game. For a game with a Take Score.
+  virtual void TakeScore() {}
 
-  // --- The round clock -----------------------------------------------------------------------------
-  // A second has passed.
-  virtual void Tick();
+  // --- The round clock and the pause ---------------------------------------------------------------
   // Writes the time that is left, and what follows from it.
   virtual void ShowTimeLeft();
-  // The round's time is used up.
-  virtual void TimeIsUp();
-  virtual void HideCardsAtTimeUp() { ShowCards(false); }
-  // The dial of a round that begins, or of no round; nothing blinks.
-  virtual void ResetDial();
-
-  // --- Pausing -------------------------------------------------------------------------------------
+  // Blackrush has a second clock and buttons that stand still, too, before and after all others.
   virtual void PauseGame();
   // Only a game in progress goes on.
   virtual void ResumeGame();
@@ -124,63 +99,16 @@ class GameWindow : public Form {
   virtual void TellPause(bool paused);
   // Hides the cards of a paused game, or turns them down; or shows them again.
   virtual void CoverCards(bool covered) { ShowCards(!covered); }
-  // Whether cards lie face down, so that a change of the back design is to be seen on them; and the change.
-  virtual bool BacksAreShown() const { return standing.IsPaused(); }
-  virtual void RefreshFieldCards() {}
-
-  // --- Minimised and restored ----------------------------------------------------------------------
-  virtual void Minimised() {}
-  virtual void Restored() {}
-
-  // --- The end of a round --------------------------------------------------------------------------
-  virtual void cmdTakeScore_Click();
-  virtual void mnuTakeScore_Click() { cmdTakeScore_Click(); }
-  // Pays the round, then begins the next one or ends the game. The common way is the steps that follow.
-  virtual void TakeScore();
-  // Dead input, no clock, no commands, the hourglass, no board, no music.
-  virtual void BeginScoring();
-  // Takes the board away while the round is paid.
-  virtual void HideBoard() { ShowCards(false); }
-  // The awards in the game's order.
-  virtual void PayAwards() {}
-  virtual bool EarnsBonusRound() const { return common.CurrentScore >= BonusScore; }
-  virtual void AnnounceRound(bool bonus);
-  virtual void EndScoring();
-
-  // --- The end of a game ---------------------------------------------------------------------------
-  // The game is played out: its score goes to the table, "Game Over" stands, the splash panel is back.
-  virtual void GameOver();
-  // What else a finished game shows, hides, enables.
-  virtual void GameFinished() {}
   // A failure has ended the game in progress; the player has been told.
   virtual void GameFailed();
 
-  // --- End Game ------------------------------------------------------------------------------------
-  virtual std::string EndGameQuestion() const {
-    return "You have a game in progress, are you sure you want to quit?";
-  }
-  // Around the question: the game stands still meanwhile.
-  virtual void BeforeEndQuestion() { PauseGame(); }
-  virtual void AfterEndQuestion(bool /*ends*/) { ResumeGame(); }
-
-  // --- Closing the window --------------------------------------------------------------------------
-  virtual void BeforeClosingQuestion() {}
-  virtual void AfterClosingQuestion(bool /*closes*/) {}
-
   // --- What is shown, and where --------------------------------------------------------------------
-  // The round's labels and boxes; and those of the score.
+  // The round's labels and boxes; and those of the score, with which Handgrid's clock stays in view.
   virtual void ShowControls(bool visible, bool scoreVisible);
   void ShowControls(bool visible) { ShowControls(visible, visible); }
-  // The game's own part of the first group.
-  virtual void ShowGameControls(bool /*visible*/) {}
   // Places `lblMessage` and `lblScoring` for their present texts.
   virtual void PlaceMessage();
   virtual void PlaceScoring();
-  virtual void PlaceButtons();
-  // The widths of the panels of the status bar.
-  virtual void PlacePanels();
-  // Places the board; the splash panel, the buttons and the status bar are placed already.
-  virtual void PlaceBoard() {}
 
   // === What the frame offers =======================================================================
 
@@ -198,8 +126,13 @@ class GameWindow : public Form {
   void ClearRound();
   // A round is ready: the commands of a running game, its controls, its music.
   void OpenRound();
-  // Announces the next round: the message blinks, and is gone. A wave is named by `wave`.
-  void Announce(const std::string& text, const char* wave = nullptr);
+  // A second has passed.
+  void Tick();
+  // The dial of a round that begins, or of no round; nothing blinks.
+  void ResetDial();
+  bool EarnsBonusRound() const;
+  // What was counted is gone.
+  void EndScoring();
   // Stops the clock, puts the commands back, enters the score in the table, leaves only the score in view.
   void FinishGame();
   // Enters the score in the final table, and shows its leader.
@@ -209,9 +142,12 @@ class GameWindow : public Form {
   // "Game Over" on that label, for so long.
   void TellGameOver(Label& label, int milliseconds = 2000);
 
-  // The four command buttons; their four menu entries.
+  // The four command buttons; their four menu entries; the entries for what can't be changed during a game.
   void EnableButtons(bool enable);
   void EnableEntries(bool enable);
+  void EnableOptions(bool enable);
+  // The captions of the button and the menu entry Play.
+  void SetPlayCaption(const char* caption);
   void ShowSplash(bool visible);
   void ShowMessage(const std::string& text);
   void HideMessage();  // and empties it
@@ -249,6 +185,11 @@ class GameWindow : public Form {
   void TickOnly(Menu& entry);
   // The game's own value under a section; null if it has none.
   const GameSetting* OwnSetting(std::string_view section) const;
+  // Sets `CustomScoringInUse`; by the table of settings.
+  void CheckForCustom();
+  // The name of a table's file for the present settings; the line under the Hall of Fame.
+  std::string TableFile(const std::string& tableName) const;
+  std::string HighScoreInfo() const;
   // The text of the rules window.
   std::string RulesPage() const;
   // Writes the settings file; the text that it holds now.
@@ -279,6 +220,11 @@ class GameWindow : public Form {
   Menu mnuHelp, mnuRules, mnuAbout;
 
   std::vector<ScoreBox> scoreBoxes;
+  // What else of the game's own is shown during a round; and which entries can't be used during a game.
+  std::vector<Visual*> roundControls;
+  std::vector<Menu*> gameOptions{&mnuCustom, &mnuTime};
+  // Where messages stand in the middle; else across the window.
+  const Shape* messageBox = nullptr;
 
   // === Events ======================================================================================
 
@@ -295,12 +241,15 @@ class GameWindow : public Form {
   void ReadSettingsINI();
   bool ApplySetting(std::string_view section, std::string_view value);
   void ApplySize(std::string_view section, int value);
+  std::string SettingText(std::string_view section) const;
   // The same, and tells what can't be kept.
   std::string SaveSettings();
   void SetPauseCaptions(bool paused);
+  void Sleep();
   void Timer4_Timer();
   void ToggleSounds();
   void ToggleMusic();
+  void mnuClear_Click();
 
   int SplashPosition_ = 0;
   bool SplashForward_ = false, SplashShowBack_ = false;

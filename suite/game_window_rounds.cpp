@@ -1,4 +1,4 @@
-// How rounds and games end, and how the next round begins, as most games do it.
+// How rounds begin, and what rounds and games have in common when they end.
 #include "suite/game_window.h"
 #include "suite/high_scores.h"
 #include "suite/score_counter.h"
@@ -19,61 +19,19 @@ void GameWindow::OpenRound() {
   StartMusic();
 }
 
-void GameWindow::cmdTakeScore_Click() {
+void GameWindow::cmdTakeScore_Click(By) {
   if (!standing.InputIsDead()) TakeScore();
 }
 
-void GameWindow::BeginScoring() {
-  standing.Score();
-  Timer1.Enabled = false;
-  EnableButtons(false);
-  MousePointer = kHourglass;
-  HideBoard();
-  StopMusic();
-}
-
-void GameWindow::TakeScore() {
-  BeginScoring();
-  PayAwards();
-  CurrentRound += 1;
-  const bool bonus = CurrentRound == plan.rounds + 1;
-  if (CurrentRound <= plan.rounds || (bonus && EarnsBonusRound())) {
-    AnnounceRound(bonus);
-    InitRound();
-  } else {
-    GameOver();
-  }
-  EndScoring();
-}
-
-void GameWindow::AnnounceRound(bool bonus) {
-  if (bonus)
-    Announce("Prepare for Bonus Round!", "\\Applause.wav");
-  else
-    Announce("Prepare for Round Two!");
-}
-
-void GameWindow::Announce(const std::string& text, const char* wave) {
-  ShowMessage(text);
-  if (wave) PlaySound(wave);
-  Blink(lblMessage, 11);
-  lblMessage.Visible = false;
+bool GameWindow::EarnsBonusRound() const {
+  if (plan.bonusRound == BonusRound::None) return false;
+  return plan.bonusRound == BonusRound::ForMore ? common.CurrentScore > BonusScore
+                                                : common.CurrentScore >= BonusScore;
 }
 
 void GameWindow::EndScoring() {
   lblScoring.Visible = false;
   MousePointer = kDefaultPointer;
-}
-
-void GameWindow::GameOver() {
-  MousePointer = kHourglass;
-  FinishGame();
-  GameFinished();
-  cmdPlay.ToolTipText = "Starts a new game";
-  TellGameOver(lblMessage);
-  ShowSplash(true);
-  cmdPlay.Enabled = true;
-  cmdExit.Enabled = true;
 }
 
 void GameWindow::GameFailed() {

@@ -19,21 +19,25 @@ void GameWindow::ReadSettingsINI() {
 
 bool GameWindow::ApplySetting(std::string_view section, std::string_view value) {
   if (ApplyGameSetting(section, value)) return true;
-  if (const GameSetting* own = OwnSetting(section)) {
-    own->Apply(value);
+  if (OwnSetting(section)) {
+    for (const GameSetting& setting : settings)
+      if (setting.section == section) setting.Apply(value);
     return true;
   }
   int number = 0;
   const bool isNumber = ParseLong(value, number);
+  const auto applyFlag = [&](bool& flag, Menu& entry) {
+    if (plan.otherTextIsOff) flag = false;
+    ApplyFlag(value, flag);
+    entry.Checked = flag;
+  };
   if (section == plan.names.timeSection) {
-    const bool isLimit = std::ranges::count(plan.limits, number, &TimeLimitEntry::seconds) > 0;
-    if (isNumber && isLimit && AcceptsLimit(number)) ChooseTimeLimit(number);
+    const auto limit = std::ranges::find(plan.limits, number, &TimeLimitEntry::seconds);
+    if (isNumber && limit != plan.limits.end() && limit->comesBack) ChooseTimeLimit(number);
   } else if (section == "[Play Sounds]") {
-    ApplyFlag(value, common.PlaySounds);
-    mnuSounds.Checked = common.PlaySounds;
+    applyFlag(common.PlaySounds, mnuSounds);
   } else if (section == "[Play Music]") {
-    ApplyFlag(value, common.PlayMusic);
-    mnuMusic.Checked = common.PlayMusic;
+    applyFlag(common.PlayMusic, mnuMusic);
   } else if (section == "[Deck]") {
     if (isNumber && number >= 1 && number <= 4) ChooseDeck(number);
   } else if (section == "[State]") {
@@ -105,13 +109,22 @@ std::string GameWindow::SaveSettings() {
 }
 
 std::string GameWindow::TableFile(const std::string& tableName) const {
-  return "\\" + tableName + std::to_string(common.TimeLimit) + ".Txt";
+  const GameSetting* goal = OwnSetting(plan.tables.goal.section);
+  return "\\" + tableName + std::to_string(common.TimeLimit) + (goal ? "_" + goal->Text() : "") + ".Txt";
+}
+
+std::string GameWindow::HighScoreInfo() const {
+  const GameSetting* goal = OwnSetting(plan.tables.goal.section);
+  return (goal ? plan.tables.goal.info + goal->Text() + "\r\n" : "") +
+         "* denotes customized scoring was used";
 }
 
 std::string GameWindow::RulesPage() const {
   RulesValues values = MoreRulesValues();
   values.emplace_back("title", common.AppTitle);
   values.emplace_back("limit", std::to_string(common.TimeLimit));
+  values.emplace_back("quarter", std::to_string(common.TimeLimit / 4));
+  values.emplace_back("takeScore", cmdTakeScore.Caption.get().substr(1));
   for (const GameSetting& setting : settings) values.emplace_back(setting.name, setting.Text());
   return ComposeRules(common.AppTitle, plan.rules, values);
 }

@@ -175,17 +175,18 @@ void GameWindow::BindEvents() {
   ClockTimer.OnTimer = [this] { StatusBar1.Panels(3).Text = common.TimeOfDay(); };
   Timer4.OnTimer = [this] { Timer4_Timer(); };
 
-  const auto command = [this](auto deed) {
-    return [this, deed] {
-      if (TakesCommand()) deed();
+  const auto heldFrom = [this](Held from, auto deed) {
+    return [this, isHeld = plan.held >= from, deed] {
+      if (!isHeld || !standing.InputIsDead()) deed();
     };
   };
-  cmdPlay.OnClick = command([this] { cmdPlay_Click(); });
-  mnuPlay.OnClick = command([this] { mnuPlay_Click(); });
-  cmdTakeScore.OnClick = [this] { cmdTakeScore_Click(); };
-  mnuTakeScore.OnClick = [this] { mnuTakeScore_Click(); };
-  cmdPause.OnClick = mnuPause.OnClick = command([this] { Pause(); });
-  cmdExit.OnClick = mnuExit.OnClick = command([this] { Unload(); });
+  cmdPlay.OnClick = heldFrom(Held::Buttons, [this] { cmdPlay_Click(By::Button); });
+  mnuPlay.OnClick = heldFrom(Held::Commands, [this] { cmdPlay_Click(By::Entry); });
+  cmdTakeScore.OnClick = [this] { cmdTakeScore_Click(By::Button); };
+  mnuTakeScore.OnClick = [this] { cmdTakeScore_Click(By::Entry); };
+  cmdPause.OnClick = mnuPause.OnClick = heldFrom(Held::Buttons, [this] { Pause(); });
+  cmdExit.OnClick = heldFrom(Held::Buttons, [this] { Unload(); });
+  mnuExit.OnClick = heldFrom(Held::Commands, [this] { Unload(); });
 
   mnuView.OnClick = [this] { PauseAround([this] { frmHighScores(common, *this).Show(true); }); };
   mnuRules.OnClick = [this] { PauseAround([this] { frmRules(common, *this).Show(true); }); };

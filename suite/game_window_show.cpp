@@ -16,7 +16,7 @@ void GameWindow::EnableEntries(bool enable) {
 }
 
 void GameWindow::EnableOptions(bool enable) {
-  for (Menu* entry : {&mnuCustom, &mnuTime}) entry->Enabled = enable;
+  for (Menu* entry : gameOptions) entry->Enabled = enable;
 }
 
 void GameWindow::ShowMessage(const std::string& text) {
@@ -59,7 +59,7 @@ void GameWindow::ShowControls(bool visible, bool scoreVisible) {
              visible);
   SetVisible({&lblScore, &ScoreRectangle, &ScoreBevelSide, &ScoreBevelBottom, &lblCurrentScore},
              scoreVisible);
-  ShowGameControls(visible);
+  for (Visual* control : roundControls) control->Visible = visible;
 }
 
 // --- Cards and sounds ----------------------------------------------------------------------------
@@ -98,19 +98,12 @@ void GameWindow::StopMusic() {
 
 // --- Places --------------------------------------------------------------------------------------
 
-void GameWindow::PlaceMessage() { lblMessage.Left = (Width - lblMessage.Width) / 2; }
+void GameWindow::PlaceMessage() {
+  if (messageBox) return CenterWithin(lblMessage, *messageBox);
+  lblMessage.Left = (Width - lblMessage.Width) / 2;
+}
 
 void GameWindow::PlaceScoring() { lblScoring.Left = (Width - lblScoring.Width) / 2; }
-
-void GameWindow::PlaceButtons() {
-  for (CommandButton* button : {&cmdPlay, &cmdTakeScore, &cmdPause, &cmdExit}) button->Left = Width - 1320;
-}
-
-void GameWindow::PlacePanels() {
-  StatusBar1.Panels(1).Width = Width * 2 / 5;
-  StatusBar1.Panels(2).Width = Width * 9 / 20;
-  StatusBar1.Panels(3).Width = Width * 3 / 20;
-}
 
 // A row may name a control array: then all of it stands there.
 void GameWindow::PlaceInMiddle(std::span<const Design> rows) {
@@ -138,10 +131,10 @@ void GameWindow::Form_Resize() {
   }
   frmSplash.Left = (Width - frmSplash.Width) / 2;
   frmSplash.Top = (Height - kBars - frmSplash.Height) / 2;
-  PlaceButtons();
+  for (CommandButton* button : {&cmdPlay, &cmdTakeScore, &cmdPause, &cmdExit}) button->Left = Width - 1320;
   StatusBar1.Width = Width;
   StatusBar1.Top = Height - StatusBar1.Height;
-  PlacePanels();
+  for (int i = 0; i < 3; ++i) StatusBar1.Panels(i + 1).Width = Width * plan.panels[i] / 100;
   PlaceBoard();
   for (const ScoreBox& each : scoreBoxes) {
     each.side.Visual::Move(each.box.Left + each.box.Width, each.box.Top, 0, each.box.Height);
@@ -171,7 +164,6 @@ void GameWindow::ChooseDeck(int number) {
   TickOnly(static_cast<Menu&>(*find(design.menu)));
   UseBackDesign(common.ImageList2, design);
   RefreshPlayCard();
-  if (BacksAreShown()) RefreshFieldCards();
   common.DeckDesign = number;
 }
 
@@ -190,8 +182,10 @@ void GameWindow::ToggleMusic() {
 void GameWindow::ShowCustomScoring() { ScoringDialog(*this).Show(true); }
 
 void GameWindow::mnuClear_Click() {
-  const HighScoreTable& table = plan.tables.cleared;
-  if (!common.Ask("This will clear all High Scores. Are You Sure?")) return;
-  CreateHighScoreFile(table.name, *this, table.defaultScore);
-  ShowHighScore(table.name, *this, table.defaultScore);
+  const auto clear = [this, table = plan.tables.cleared] {
+    if (!common.Ask("This will clear all High Scores. Are You Sure?")) return;
+    CreateHighScoreFile(table.name, *this, table.defaultScore);
+    ShowHighScore(table.name, *this, table.defaultScore);
+  };
+  plan.tables.clearingPauses ? PauseAround(clear) : clear();
 }

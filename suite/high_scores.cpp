@@ -109,7 +109,7 @@ HighScores ReadHighScores(GameWindow& window, const std::string& tableName, cons
 
 void ShowHighScore(const std::string& tableName, GameWindow& window, const std::string& defaultScore) {
   const HighScores scores = ReadHighScores(window, tableName, defaultScore);
-  window.lblHighScore.Caption = window.HighScorePrefix() + FormatNumber(scores.front().score);
+  window.lblHighScore.Caption = window.plan.names.highScore + FormatNumber(scores.front().score);
   window.common.TellWhatCantBeKept();
 }
 

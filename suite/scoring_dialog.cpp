@@ -117,7 +117,9 @@ bool ScoringDialog::TakeField(size_t field) {
   const auto refusal = Judge(field, value);
   if (!refusal) {
     Take(field, value);
-    FieldPassed(field);
+    if (window.plan.dialog.tellsGoalAtOnce &&
+        settings_[field]->value == decltype(GameSetting::value)(&window.BonusScore))
+      TellGoal();
     return true;
   }
   if (refusal->setting) TakeRefused(field, *refusal->setting);
@@ -135,7 +137,7 @@ void ScoringDialog::TakeRest() {
   window.common.CountDownScore = chkCountDown.Value == 1;
   window.CheckForCustom();
   window.SettingsRead();
-  window.ShowBonusGoal(" for bonus round.  ");
+  if (!window.plan.dialog.tellsGoalAtOnce) TellGoal();
 }
 
 void ScoringDialog::FieldsChecked(bool lastPassed) {

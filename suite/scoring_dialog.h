@@ -57,7 +57,6 @@ class ScoringDialog : public Form {
 
   // Steps of OK, in this order.
   virtual void BeforeFields() {}
-  virtual void FieldPassed(size_t /*field*/) {}
   // All fields were looked at. If the last one passed, whatever the others did, the rest is taken.
   virtual void FieldsChecked(bool lastPassed);
 
@@ -66,6 +65,7 @@ class ScoringDialog : public Form {
 
   // Takes the count-down switch; sees whether scoring is customised; and tells the bonus round's score.
   void TakeRest();
+  void TellGoal() { window.ShowBonusGoal(" for bonus round.  "); }
   // The top of a free row within the frame; see `ScoringNames::moreRows`.
   int FreeRowTop(int row) const;
   double NumberIn(size_t field) const;

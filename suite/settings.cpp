@@ -1,19 +1,9 @@
 #include "suite/settings.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "window/text.h"
-
-namespace {
-
-template <class Rep>
-void ApplyNumber(std::string_view text, Checked<Rep>& number) {
-  int read = 0;
-  if (ParseLong(text, read) && std::in_range<Rep>(read)) number = read;
-}
-void ApplyNumber(std::string_view text, bool& flag) { ApplyFlag(text, flag); }
-
-}  // namespace
 
 bool GameSetting::IsStandard() const { return Number() == standard; }
 
@@ -30,7 +20,11 @@ std::string GameSetting::Text() const {
 }
 
 void GameSetting::Apply(std::string_view text) const {
-  if (reads == Reads::Yes) std::visit([&](auto* kept) { ApplyNumber(text, *kept); }, value);
+  if (reads == Reads::No) return;
+  if (bool* const* flag = std::get_if<bool*>(&value)) return ApplyFlag(text, **flag);
+  int number = 0;
+  if (!ParseLong(text, number) || (!only.empty() && !std::ranges::count(only, number))) return;
+  if (!std::holds_alternative<Integer*>(value) || std::in_range<std::int16_t>(number)) SetNumber(number);
 }
 
 std::vector<const GameSetting*> WithField(const std::vector<GameSetting>& settings) {

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
+#include "window/control.h"
 #include "window/number.h"
 
 // What becomes of a number beyond a bound.
@@ -51,12 +53,13 @@ enum class Reads { Yes, No };
 
 struct GameSetting {
   const char* name;  // in the text of the rules
-  std::variant<Integer*, Long*, bool*> value;
+  std::variant<Integer*, Long*, bool*, Property<int>*> value;
   int standard;              // 1 for true
   const char* section = "";  // of the settings file; "" if it isn't kept
   Customises customises = Customises::Yes;
   std::optional<ScoringField> field = std::nullopt;
   Reads reads = Reads::Yes;
+  std::span<const int> only = {};  // of the file no other numbers are taken
 
   bool IsStandard() const;
   long long Number() const;

@@ -16,7 +16,6 @@
 #include "games/blackrush/custom.h"
 #include "games/duopick/duopick.h"
 #include "games/fivestack/custom.h"
-#include "games/handgrid/custom.h"
 #include "games/spirehold/spirehold.h"
 #include "games/sumfall/dialogs.h"
 #include "games/treyshift/custom.h"
@@ -370,7 +369,7 @@ TEST_F(Look, GamesStandAtEverySize) {
       player::Click(game.cmdPlay);
       where = " in play";
       Check(game);
-      game.lblHighScore.Caption = game.HighScorePrefix() + "2,147,483,647";
+      game.lblHighScore.Caption = std::string(game.plan.names.highScore) + "2,147,483,647";
       for (const Longest& longest : kTexts)
         if (Write(game, longest)) Check(game);
       for (const char* name : {"lblTower1", "lblTower2", "lblTower3"})
@@ -540,7 +539,7 @@ TEST_F(Look, DialogsHoldTheirTexts) {
     }
     if (auto* spirehold = dynamic_cast<frmSpirehold*>(&game)) look(ScoringDialog(*spirehold));
     if (auto* duopick = dynamic_cast<frmDuopick*>(&game)) look(ScoringDialog(*duopick));
-    if (auto* handgrid = dynamic_cast<frmHandgrid*>(&game)) look(frmHandgridCustom(*handgrid));
+    if (auto* handgrid = dynamic_cast<frmHandgrid*>(&game)) look(ScoringDialog(*handgrid));
     if (auto* fivestack = dynamic_cast<frmFivestack*>(&game)) look(frmFivestackCustomScoring(*fivestack));
     if (auto* treyshift = dynamic_cast<frmTreyshift*>(&game)) look(frmTreyshiftCustom(*treyshift));
     if (auto* blackrush = dynamic_cast<frmBlackrush*>(&game)) look(frmBlackrushCustomScoring(*blackrush));

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "suite/high_scores.h"
+#include "suite/round_game.h"
 #include "tests/harness.h"
 
 namespace {
@@ -20,7 +21,8 @@ constexpr GamePlan kPlan{.names = {.window = "frmEighth", .settingsFile = "\\Eig
                          .sections = kSections,
                          .rules = kRules,
                          .dialog = {.window = "frmEighthCustom"},
-                         .rounds = 1};
+                         .rounds = 1,
+                         .bonusRound = BonusRound::None};
 
 // Where the standing controls are. A real game adds its board.
 constexpr Design kDesign[] = {
@@ -29,9 +31,9 @@ constexpr Design kDesign[] = {
     {"lblHighScore", 150, 6100, 2700, 255},   {"Card", 3000, 3000, 1065, 1455},
 };
 
-class frmEighth : public GameWindow {
+class frmEighth : public RoundGame {
  public:
-  explicit frmEighth(modCommon& common) : GameWindow(common, kPlan) { ApplyDesign(*this, kDesign); }
+  explicit frmEighth(modCommon& common) : RoundGame(common, kPlan) { ApplyDesign(*this, kDesign); }
 
   void Play() override {
     if (!dealt) return;
@@ -39,6 +41,9 @@ class frmEighth : public GameWindow {
     CurrentRound = 1;
     common.CurrentScore = 0;
     ShowScore();
+    InitRound();
+  }
+  void InitRound() override {
     ResetDial();
     Timer1.Enabled = true;
     ClearRound();
@@ -46,7 +51,6 @@ class frmEighth : public GameWindow {
     OpenRound();
   }
   void PayAwards() override { AddToScore(1500); }
-  bool EarnsBonusRound() const override { return false; }
   void EndGame() override {
     FinishGame();
     ShowSplash(true);

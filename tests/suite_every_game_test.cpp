@@ -61,7 +61,7 @@ TEST_P(EveryGame, OpensInItsSplashState) {
   EXPECT_FALSE(driver.common().CustomScoringInUse);
   EXPECT_TRUE(folder.Has(Table(Plan().tables.shown)));
   EXPECT_EQ(game.lblHighScore.Caption,
-            game.HighScorePrefix() + FormatNumber(std::stoll(Plan().tables.shown.defaultScore)));
+            Plan().names.highScore + FormatNumber(std::stoll(Plan().tables.shown.defaultScore)));
 }
 
 TEST_P(EveryGame, SettingsComeBackAsTheyWereWritten) {

@@ -195,3 +195,7 @@ inline void SetVisible(std::initializer_list<Visual*> controls, bool visible) {
 inline void CenterIn(Visual& inner, const Visual& outer) {
   inner.Left = outer.Left + (outer.Width - inner.Width) / 2;
 }
+inline void CenterWithin(Visual& inner, const Visual& outer) {
+  CenterIn(inner, outer);
+  inner.Top = outer.Top + (outer.Height - inner.Height) / 2;
+}

@@ -141,7 +141,7 @@ void frmBlackrush::DeckCompleted() {
   platform.Sleep(1000);
   ShowScore();
   EnableHitButtons(false);
-  cmdTakeScore_Click();
+  cmdTakeScore_Click(By::Button);
 }
 
 // --- Pass ----------------------------------------------------------------------------------------
@@ -180,9 +180,4 @@ void frmBlackrush::ResetCounter() {
   ProgressBar1.Value = ProgressBar1.Min;
   Timer5.Enabled = false;
   lblTwentyoneTime.ForeColor = kBlue;
-}
-
-void frmBlackrush::SetCounterSpeed(int interval) {
-  CounterSpeed = interval;
-  Timer3.Interval = interval;
 }

@@ -13,9 +13,7 @@ inline constexpr int kTwentyOneBonusValue = 1000, kCardsUsedBonusValue = 100, kF
 
 // The 21 Counter: milliseconds a step.
 inline constexpr int kNormalSpeed = 90, kSlowSpeed = 180, kSlowestSpeed = 360;
-constexpr bool IsCounterSpeed(int interval) {
-  return interval == kNormalSpeed || interval == kSlowSpeed || interval == kSlowestSpeed;
-}
+inline constexpr int kCounterSpeeds[] = {kNormalSpeed, kSlowSpeed, kSlowestSpeed};
 
 }  // namespace modBlackrush
 
@@ -58,7 +56,8 @@ class frmBlackrush : public GameWindow {
   modBlackrush::Board board;
   bool QuitRequested = false;  // End Game was confirmed: the score isn't for the table
   // Settings.
-  Integer CardsToPass, CounterSpeed, WaitPeriod;
+  Integer CardsToPass, WaitPeriod;
+  Property<int>& CounterSpeed = Timer3.Interval;
   Long TwentyOneBonusValue, CardsUsedBonusValue, FiveCardGimmeBonus, DeckCompletionBonus;
 
   // --- Play --------------------------------------------------------------------------------------
@@ -90,7 +89,6 @@ class frmBlackrush : public GameWindow {
   void ClearColumns() {
     for (int i = 0; i < modBlackrush::kColumns; ++i) ClearColumn(i);
   }
-  void SetCounterSpeed(int interval);
 
   // --- The frame's plan --------------------------------------------------------------------------
   void Play() override;
@@ -99,10 +97,7 @@ class frmBlackrush : public GameWindow {
   void GameOver() override;
   void GameFailed() override;
   void BackToIdle() override;
-  void Tick() override;
   void TimeIsUp() override;
-  bool TakesCommand() const override { return !standing.InputIsDead(); }
-  bool EarnsBonusRound() const override { return common.CurrentScore > BonusScore; }
   void PauseGame() override;
   void ResumeGame() override;
   void TellPause(bool paused) override { paused ? KeepTelling("Game Paused") : StopTelling(); }
@@ -110,19 +105,7 @@ class frmBlackrush : public GameWindow {
   void ShowCards(bool visible) override;
   void CoverCards(bool covered) override;
   void RefreshPlayCard() override { ShowPile(); }
-  std::string EndGameQuestion() const override {
-    return "You have a game in progress. Are you sure you want to quit?";
-  }
-  // The clock runs on under the question.
-  void BeforeEndQuestion() override { StopMusic(); }
-  void AfterEndQuestion(bool ends) override {
-    if (!ends && standing.InGame()) StartMusic();
-  }
-  std::string Welcome() const override { return "Welcome to " + common.AppTitle + "!"; }
-  bool ApplyGameSetting(std::string_view section, std::string_view value) override;
   void ShowCustomScoring() override;
-  void PlaceMessage() override;
-  void PlacePanels() override;
   void PlaceBoard() override;
 
  private:

@@ -49,7 +49,8 @@ constexpr GamePlan kPlan{
               .endGame = "&End game",
               .pause = "P&ause",
               .pauseTip = "Pauses the game in progress",
-              .timeSection = "[Time Limit]"},
+              .timeSection = "[Time Limit]",
+              .welcomeEnding = "!"},
     .tables = OneTable("BlackrushHiScores", "50000"),
     .width = 9060,
     .height = 7155,
@@ -65,8 +66,13 @@ constexpr GamePlan kPlan{
                .moreRows = 3,
                .overTheGame = true},
     .rounds = 3,
+    .bonusRound = BonusRound::ForMore,
     .designs = {kHotCards, kMagicHands, kNightCastle, kPalmTree},
     .deckDesign = 3,
+    .endGame = {.text = "You have a game in progress. Are you sure you want to quit?",
+                .meanwhile = WhileAsked::RunsOn},
+    .held = Held::Commands,
+    .panels = {36, 52, 12},  // the hint is long and the window narrow
 };
 
 // What stands once. Cards and columns on the left, the score on the right; the command buttons' place across
@@ -131,6 +137,7 @@ void frmBlackrush::SetUpBoard() {
   ScoringLabelOutline.Filled = true;
   ScoringLabelOutline.FillColor = 0x101212;
   ScoringLabelOutline.BorderColor = 0x4EA9D4;
+  messageBox = &ScoringLabelOutline;
   ProgressBar1.Max = kCounterEnd;
   Timer3.Interval = kNormalSpeed;
   Timer5.Interval = 250;
@@ -177,15 +184,6 @@ void frmBlackrush::BindBoardEvents() {
   lblRoundScore.OnChange = [this] { lblRoundScore.Left = (frameScoreInfo.Width - lblRoundScore.Width) / 2; };
 }
 
-// --- Settings ------------------------------------------------------------------------------------
-
-bool frmBlackrush::ApplyGameSetting(std::string_view section, std::string_view value) {
-  if (section != "[Timer Speed]") return false;
-  int speed = 0;
-  if (ParseLong(value, speed) && IsCounterSpeed(speed)) SetCounterSpeed(speed);
-  return true;
-}
-
 // --- Placing -------------------------------------------------------------------------------------
 
 void frmBlackrush::PlaceBoard() {
@@ -202,18 +200,6 @@ void frmBlackrush::PlaceBoard() {
   lblTotalScore.Top = ScoreRectangle.Top + (ScoreRectangle.Height - lblTotalScore.Height) / 2;
   CenterIn(lblTotalScore, ScoreRectangle);
   CenterIn(lblTime, Column4(0));
-}
-
-// The hint is long and the window narrow.
-void frmBlackrush::PlacePanels() {
-  StatusBar1.Panels(1).Width = Width * 9 / 25;
-  StatusBar1.Panels(2).Width = Width * 13 / 25;
-  StatusBar1.Panels(3).Width = Width * 3 / 25;
-}
-
-void frmBlackrush::PlaceMessage() {
-  CenterIn(ScoringLabelInfo, ScoringLabelOutline);
-  ScoringLabelInfo.Top = ScoringLabelOutline.Top + (ScoringLabelOutline.Height - ScoringLabelInfo.Height) / 2;
 }
 
 // --- Showing -------------------------------------------------------------------------------------

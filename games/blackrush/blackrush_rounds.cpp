@@ -6,13 +6,6 @@ using namespace modBlackrush;
 
 // --- The end of a round --------------------------------------------------------------------------
 
-// The clock runs while a round is being paid, and more than a tick may come where events are let through: a
-// round that isn't open yet keeps its last second.
-void frmBlackrush::Tick() {
-  if (standing.IsBusy() && common.ElapsedSeconds + 1 >= common.TimeLimit) return;
-  GameWindow::Tick();
-}
-
 void frmBlackrush::TimeIsUp() {
   Timer1.Enabled = false;
   Timer3.Enabled = false;
@@ -21,7 +14,7 @@ void frmBlackrush::TimeIsUp() {
   StatusBar1.Panels(2).Text = "Time has expired!";
   lblTime.Caption = "Time:";
   Blink(ScoringLabelInfo, 10);
-  cmdTakeScore_Click();
+  cmdTakeScore_Click(By::Button);
   if (!standing.IsOver()) ScoringLabelInfo.Visible = false;
 }
 

@@ -48,7 +48,8 @@ void frmBlackrush::NameSettings() {
        At(1, BoundedField("txtBonus", "lblBonus", "Score required for Bonus:", 0, kLargest,
                           "Sorry, a minimum of 0 is required for the bonus round score.",
                           "Sorry, the maximum value for achieving a bonus round is 2147483647."))},
-      {"counterSpeed", &CounterSpeed, kNormalSpeed, "[Timer Speed]"},
+      {"counterSpeed", &CounterSpeed, kNormalSpeed, "[Timer Speed]", Customises::Yes, std::nullopt,
+       Reads::Yes, kCounterSpeeds},
       {"countDown", &common.CountDownScore, true, "[Count Down Score]", Customises::No},
   };
 }
@@ -79,9 +80,9 @@ void frmBlackrushCustomScoring::Choose(long long speed) {
 }
 
 void frmBlackrushCustomScoring::BeforeFields() {
-  if (optDefault.Value) game_.SetCounterSpeed(kNormalSpeed);
-  if (optSlow.Value) game_.SetCounterSpeed(kSlowSpeed);
-  if (optSlowest.Value) game_.SetCounterSpeed(kSlowestSpeed);
+  if (optDefault.Value) game_.CounterSpeed = kNormalSpeed;
+  if (optSlow.Value) game_.CounterSpeed = kSlowSpeed;
+  if (optSlowest.Value) game_.CounterSpeed = kSlowestSpeed;
 }
 
 // A bonus below 0 is put right in the field of the bonus round's score, which is looked at after it.

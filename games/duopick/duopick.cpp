@@ -70,7 +70,7 @@ void frmDuopick::TakeBoth(int first, int second) {
   RemoveCard(second);
   RemoveCard(first);
   if (second == kUpCard || first == kUpCard) ShowNextUpCard(first, second);
-  if (board.RoundCompleted()) cmdTakeScore_Click();
+  if (board.RoundCompleted()) cmdTakeScore_Click(By::Button);
 }
 
 void frmDuopick::RemoveCard(int index) {
@@ -127,14 +127,11 @@ void frmDuopick::Play() {
   InitRound();
 }
 
-void frmDuopick::HideCardsAtTimeUp() {
+// When the time is up the selection goes after the cards.
+void frmDuopick::HideBoard(bool timeIsUp) {
+  if (!timeIsUp) ClearSelectionRectangles();
   ShowCards(false);
   ClearSelectionRectangles();
-}
-
-void frmDuopick::HideBoard() {
-  ClearSelectionRectangles();
-  ShowCards(false);
 }
 
 void frmDuopick::PayAwards() {
@@ -143,17 +140,6 @@ void frmDuopick::PayAwards() {
   CountTimeBonus(*this, common.TimeBonus);
   if (board.RunsCount != 0) AwardBonus(*this, "Runs Bonus", board.RunsCount, RunsBonus);
   if (board.PairsCount != 0) AwardBonus(*this, "Pairs Bonus", board.PairsCount, PairsBonus);
-}
-
-void frmDuopick::AnnounceRound(bool bonus) {
-  EnableButtons(true);
-  GameWindow::AnnounceRound(bonus);
-}
-
-void frmDuopick::GameFinished() {
-  ClearSelectionRectangles();
-  cmdPlay.Enabled = true;
-  cmdExit.Enabled = true;
 }
 
 // Given up: no score is entered.

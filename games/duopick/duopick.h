@@ -2,7 +2,7 @@
 #pragma once
 
 #include "games/duopick/board.h"
-#include "suite/game_window.h"
+#include "suite/round_game.h"
 
 namespace modDuopick {
 
@@ -12,7 +12,7 @@ inline constexpr int kPairsBonus = 3000, kRunsBonus = 500, kTimeBonus = 100, kBo
 
 }  // namespace modDuopick
 
-class frmDuopick : public GameWindow {
+class frmDuopick : public RoundGame {
  public:
   explicit frmDuopick(modCommon& common);
   static const RulesText kRules;
@@ -41,18 +41,13 @@ class frmDuopick : public GameWindow {
   // Captions and tool tips follow with the round; the cards of the splash panel go on moving behind it.
   void LeaveIdle() override {}
   void InitRound() override;
-  void HideBoard() override;
+  void HideBoard(bool timeIsUp) override;
   void PayAwards() override;
-  void AnnounceRound(bool bonus) override;
-  void GameFinished() override;
   void EndGame() override;
   void ShowCards(bool visible) override;
   void CoverCards(bool covered) override;
-  void HideCardsAtTimeUp() override;
   void RefreshPlayCard() override;
   void SettingsRead() override;
-  void mnuClear_Click() override;
-  void ShowGameControls(bool visible) override;
   void PlaceBoard() override;
 
  private:

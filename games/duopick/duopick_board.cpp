@@ -22,7 +22,8 @@ constexpr GamePlan kPlan{
     .names = {.window = "frmDuopick", .settingsFile = "\\Duopick.Ini"},
     .tables = {.shown = {"DuopickHighScores", "30000"},
                .final = {"DuopickHighScores", "50000"},
-               .cleared = {"DuopickHiScores", "30000"}},
+               .cleared = {"DuopickHiScores", "30000"},
+               .clearingPauses = true},
     .width = 9570,
     .height = 7200,
     .limits = kLimits,
@@ -30,6 +31,7 @@ constexpr GamePlan kPlan{
     .sections = kSections,
     .rules = frmDuopick::kRules,
     .dialog = {.window = "frmDuopickCustomScoring", .frameCaption = "Scoring Options"},
+    .commandsLiveWhileTold = true,
 };
 
 // Where the cards lie.
@@ -80,7 +82,7 @@ constexpr Design kButtonDesign[] = {
 
 }  // namespace
 
-frmDuopick::frmDuopick(modCommon& common) : GameWindow(common, kPlan) {
+frmDuopick::frmDuopick(modCommon& common) : RoundGame(common, kPlan) {
   NameSettings();
   SetUpBoard();
   BindBoardEvents();
@@ -106,6 +108,8 @@ void frmDuopick::SetUpBoard() {
   lblCards.Alignment = 1;
   lblMessage.Alignment = 2;
   for (Label* label : {&lblCurrentScore, &lblCurrentRound}) label->Fit();
+  roundControls = {&lblHighScore,  &lblCardCount, &lblCards,    &lblPairs,
+                   &lblScorePairs, &lblRuns,      &lblScoreRuns};
   ShowCards(false);  // nothing is dealt yet
 }
 
@@ -162,18 +166,7 @@ void frmDuopick::ShowCounts() {
   lblScoreRuns.Caption = std::to_string(board.RunsCount);
 }
 
-void frmDuopick::ShowGameControls(bool visible) {
-  SetVisible({&lblHighScore, &lblCardCount, &lblCards, &lblPairs, &lblScorePairs, &lblRuns, &lblScoreRuns},
-             visible);
-}
-
 void frmDuopick::SettingsRead() {
   lblPairs.Caption = "Pairs x " + std::to_string(PairsBonus);
   lblRuns.Caption = "Runs x " + std::to_string(RunsBonus);
-}
-
-// --- Menus ---------------------------------------------------------------------------------------
-
-void frmDuopick::mnuClear_Click() {
-  PauseAround([this] { GameWindow::mnuClear_Click(); });
 }

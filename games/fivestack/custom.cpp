@@ -38,7 +38,7 @@ void frmFivestack::NameSettings() {
        At(3, BoundedField("txtTimeBonusMin", "lblTimeBonusMin", "Minimum Time Bonus value:", 0,
                           kLargestTimeBonus, "Sorry, the minimum time bonus value must be greater than 0.",
                           "Sorry, the minimum time bonus value must not exceed 10000."))},
-      {"passesLeft", &board.passesLeft, kCardsToPass},
+      {"passesLeft", &board.passesLeft, kCardsToPass, "[Cards To Pass]"},  // read with the other
       {"countDown", &common.CountDownScore, true, "[CountDownScore]", Customises::No},
   };
 }

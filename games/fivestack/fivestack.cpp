@@ -378,18 +378,8 @@ void frmFivestack::GameOver() {
 
 // --- End Game, failures --------------------------------------------------------------------------
 
-void frmFivestack::BeforeEndQuestion() {
-  StopMusic();
-  PauseGame();
-}
-
-void frmFivestack::AfterEndQuestion(bool ends) {
-  QuitRequested = ends;
-  if (ends) standing.GiveUp();
-  ResumeGame();
-}
-
 void frmFivestack::EndGame() {
+  QuitRequested = true;
   Reset();
   EndRound(kBonusRound + 1);
 }
@@ -409,7 +399,7 @@ void frmFivestack::BackToIdle() {
   ShowRoundControls(false);
 }
 
-// --- Pausing, minimising, closing ----------------------------------------------------------------
+// --- The pause ----------------------------------------------------------------
 
 void frmFivestack::TellPause(bool paused) {
   ScoringLabel.ForeColor = kBlue;
@@ -419,35 +409,4 @@ void frmFivestack::TellPause(bool paused) {
 void frmFivestack::CoverCards(bool covered) {
   ShowCards(!covered);
   ShowHitButtons(!covered);
-}
-
-// The clock of a minimised window stands still, also when a question over it has been answered.
-void frmFivestack::ResumeGame() {
-  GameWindow::ResumeGame();
-  if (WindowState == window_state::kMinimised) Minimised();
-}
-
-void frmFivestack::Minimised() {
-  Timer1.Enabled = false;
-  StopMusic();
-}
-
-void frmFivestack::Restored() {
-  if (!standing.IsPlaying()) return;
-  Timer1.Enabled = true;
-  StartMusic();
-}
-
-// Pause is clicked, whatever it does then: a game that was paused already runs behind the question.
-void frmFivestack::BeforeClosingQuestion() {
-  pausedBeforeClosing_.reset();
-  if (!cmdPause.Enabled) return;
-  pausedBeforeClosing_ = standing.IsPaused();
-  Pause();
-}
-
-// The game may have come further meanwhile, or to its end.
-void frmFivestack::AfterClosingQuestion(bool closes) {
-  const auto before = std::exchange(pausedBeforeClosing_, std::nullopt);
-  if (!closes && before && standing.InGame() && standing.IsPaused() != before) Pause();
 }

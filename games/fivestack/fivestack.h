@@ -75,28 +75,16 @@ class frmFivestack : public GameWindow {
   void Reset();
 
   // --- The frame's plan --------------------------------------------------------------------------
-  std::string Welcome() const override { return "Welcome to " + common.AppTitle + "   "; }
-  // The entry of the default limit runs before the file is read.
-  void SetDefaults() override { ChooseTimeLimit(plan.timeLimit); }
-  bool ApplyGameSetting(std::string_view section, std::string_view value) override;
   void SettingsRead() override { cmdPass.Enabled = board.passesLeft > 0; }
   void LeaveIdle() override;
   void BackToIdle() override;
   void ShowTimeLeft() override;
   void TimeIsUp() override;
-  void ResumeGame() override;
   void TellPause(bool paused) override;
   void CoverCards(bool covered) override;
-  void Minimised() override;
-  void Restored() override;
-  void cmdTakeScore_Click() override { cmdGiveUp_Click(); }
   void GameOver() override;
   void GameFailed() override;
   void EndGame() override;
-  void BeforeEndQuestion() override;
-  void AfterEndQuestion(bool ends) override;
-  void BeforeClosingQuestion() override;
-  void AfterClosingQuestion(bool closes) override;
   void ShowCards(bool visible) override;
   void RefreshPlayCard() override { ShowBack(PlayCardPicture); }
   void ShowCustomScoring() override;
@@ -139,8 +127,6 @@ class frmFivestack : public GameWindow {
   void ResizeColumnHeaders();
 
   Integer shownTotal_;  // in `lblCurrentTotal`
-  // Pause was clicked behind the closing question; and whether the game was paused before.
-  std::optional<bool> pausedBeforeClosing_;
 };
 
 std::unique_ptr<Guide> GuideTo(frmFivestack& window);

@@ -12,10 +12,9 @@ constexpr TimeLimitEntry kLimits[] = {
     {60, "mnu60", "&60 seconds (default)"}, {75, "mnu75", "&75 seconds"},
 };
 
-constexpr char kPasses[] = "[Cards To Pass]";
-constexpr const char* kSections[] = {"[Time]",           "[Play Sounds]",  "[Play Music]", "[Deck]",
-                                     "[TimeBonusMax]",   "[TimeBonusMin]", "[BonusScore]", "[WaitPeriod]",
-                                     "[CountDownScore]", kPasses,          "[State]",      "[Width]",
+constexpr const char* kSections[] = {"[Time]",           "[Play Sounds]",   "[Play Music]", "[Deck]",
+                                     "[TimeBonusMax]",   "[TimeBonusMin]",  "[BonusScore]", "[WaitPeriod]",
+                                     "[CountDownScore]", "[Cards To Pass]", "[State]",      "[Width]",
                                      "[Height]"};
 
 constexpr GamePlan kPlan{
@@ -28,7 +27,8 @@ constexpr GamePlan kPlan{
               .roundBox = {},
               .takeScoreButton = "",
               .exitButton = "cmdQuit",
-              .takeScoreEntry = ""},
+              .takeScoreEntry = "",
+              .welcomeEnding = "   "},
     .tables = OneTable("HiScores", "50000"),
     .width = 9540,
     .height = 7305,
@@ -48,6 +48,11 @@ constexpr GamePlan kPlan{
          .overTheGame = true},
     .rounds = 3,
     .designs = {kHotCards, kMagicHands, kNightCastle, kPalmTree},
+    .endGame = {.meanwhile = WhileAsked::Silenced},
+    .whileClosing = WhileClosing::PauseIsClicked,
+    .sleepsMinimised = true,
+    .limitChosenFirst = true,
+    .otherTextIsOff = true,
 };
 
 constexpr ColumnPlaces kPlaces = {420, 1455, 1815, 2280, {2550, 2940, 3345, 3750, 4140}, 420, 5670};
@@ -99,19 +104,6 @@ frmFivestack::frmFivestack(modCommon& common) : GameWindow(common, kPlan) {
   SetUpBoard();
   SetUpTable();
   BindBoardEvents();
-}
-
-bool frmFivestack::ApplyGameSetting(std::string_view section, std::string_view value) {
-  if (section == "[Play Sounds]" || section == "[Play Music]") {  // what isn't "True" is off
-    const bool isSounds = section == "[Play Sounds]";
-    (isSounds ? common.PlaySounds : common.PlayMusic) = value == "True";
-    (isSounds ? mnuSounds : mnuMusic).Checked = value == "True";
-    return true;
-  }
-  if (section != kPasses) return false;
-  OwnSetting(kPasses)->Apply(value);
-  board.passesLeft = CardsToPass;
-  return true;
 }
 
 void frmFivestack::SetUpBoard() {
@@ -219,10 +211,7 @@ void frmFivestack::PlaceMessage() {
   if (!ScoringLabelRoundTotal.Visible) CenterScoringLabel();
 }
 
-void frmFivestack::CenterScoringLabel() {
-  CenterIn(ScoringLabel, ScoringLabelOutline);
-  ScoringLabel.Top = ScoringLabelOutline.Top + (ScoringLabelOutline.Height - ScoringLabel.Height) / 2;
-}
+void frmFivestack::CenterScoringLabel() { CenterWithin(ScoringLabel, ScoringLabelOutline); }
 
 // "Round 1 Total: " and the amount as one line.
 void frmFivestack::PlaceRoundTotal() {

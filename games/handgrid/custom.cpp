@@ -1,11 +1,9 @@
 // The values of Handgrid's own: defaults, settings file, scoring dialog.
-#include "games/handgrid/custom.h"
+#include "games/handgrid/handgrid.h"
 
 using namespace modHandgrid;
 
 namespace {
-
-constexpr size_t kBonusScoreField = 9;
 
 // What is out of bounds on either side is put right in the same way, and is no default: a hand that was out
 // of bounds becomes a costly one.
@@ -64,15 +62,3 @@ void frmHandgrid::NameSettings() {
       {"countDown", &common.CountDownScore, true, "[Count Down Score]", Customises::No},
   };
 }
-
-void frmHandgridCustom::FieldPassed(size_t field) {
-  if (field == kBonusScoreField) game_.ShowGoal();
-}
-
-void frmHandgridCustom::FieldsChecked(bool lastPassed) {
-  if (!lastPassed) return;
-  game_.common.CountDownScore = chkCountDown.Value == 1;
-  game_.CheckForCustom();
-}
-
-void frmHandgrid::ShowCustomScoring() { frmHandgridCustom(*this).Show(true); }

@@ -1,6 +1,5 @@
 #include "games/handgrid/handgrid.h"
 
-#include "suite/dial.h"
 #include "suite/score_counter.h"
 
 using namespace modHandgrid;
@@ -96,15 +95,6 @@ void frmHandgrid::CardStackPicture_Click() { Refuse(); }
 
 // --- The round clock -----------------------------------------------------------------------------
 
-// The dial shows the second before this one; `Timer2` soon brings it up to date.
-void frmHandgrid::Tick() {
-  common.ElapsedSeconds += 1;
-  DrawTimeDial(DialAngle(*this, common.DialSeconds), *this);
-  common.DialSeconds = common.ElapsedSeconds;
-  ShowTimeLeft();
-  if (common.ElapsedSeconds >= common.TimeLimit) TimeIsUp();
-}
-
 void frmHandgrid::ShowTimeLeft() {
   lblTimeBonus.Caption = std::to_string(common.TimeLimit - common.ElapsedSeconds);
   lblTime.Caption = "Time:";
@@ -113,12 +103,6 @@ void frmHandgrid::ShowTimeLeft() {
 void frmHandgrid::TimeIsUp() {
   ScoringLabel.Caption = "Times Up!";
   NextRound(RoundEnd::TimesUp);
-}
-
-// A full dial would switch `Timer2` off.
-void frmHandgrid::ResetDial() {
-  InitTimeDial(*this);
-  Timer2.Enabled = true;
 }
 
 // --- Rounds --------------------------------------------------------------------------------------
@@ -132,7 +116,7 @@ void frmHandgrid::Play() {
   RoundPoints = 0;
   ShowPointsEarned();
   StatusBar1.Panels(2).Text = "Click on cards to get the best Poker hand!   ";
-  ShowGoal();
+  ShowBonusGoal(" for bonus round.  ");
   mnuTime.Enabled = false;
   mnuCustom.Enabled = false;
   mnuPause.Enabled = true;
@@ -251,16 +235,6 @@ void frmHandgrid::GameFailed() {
   lblMessage.Visible = false;
   SetAnnouncementFont("MS Sans Serif", 18);
   GameWindow::GameFailed();
-}
-
-void frmHandgrid::BeforeEndQuestion() {
-  StopMusic();
-  PauseGame();
-}
-
-void frmHandgrid::AfterEndQuestion(bool ends) {
-  if (ends) standing.GiveUp();
-  ResumeGame();
 }
 
 void frmHandgrid::EndGame() {

@@ -52,8 +52,6 @@ class frmHandgrid : public GameWindow {
   void NextRound(RoundEnd end);
   // Clears the board; at the end of a game the window is idle again.
   void Reset(bool endOfGame);
-  // "Make n for bonus round." in panel 1.
-  void ShowGoal() { ShowBonusGoal(" for bonus round.  "); }
   void CenterScoringLabel();
   void CenterTimeBonus();
 
@@ -64,18 +62,8 @@ class frmHandgrid : public GameWindow {
   void GameFailed() override;
   void ShowCards(bool visible) override;
   void RefreshPlayCard() override;
-  void ShowCustomScoring() override;
-  void SetDefaults() override;
-  // The longest limit is kept, and not taken back.
-  bool AcceptsLimit(int seconds) const override { return seconds != 120; }
-  bool TakesCommand() const override { return !standing.InputIsDead(); }
-  void Tick() override;
   void ShowTimeLeft() override;
   void TimeIsUp() override;
-  // The dial is drawn at all times.
-  void ResetDial() override;
-  void BeforeEndQuestion() override;
-  void AfterEndQuestion(bool ends) override;
   using GameWindow::ShowControls;
   void ShowControls(bool roundControls, bool frameControls) override;
   void PlaceMessage() override { CenterScoringLabel(); }

@@ -9,7 +9,7 @@ namespace {
 constexpr TimeLimitEntry kLimits[] = {
     {30, "mnu30", "&30 seconds"},           {45, "mnu45", "&45 seconds"}, {60, "mnu60", "&60 seconds  "},
     {75, "mnu75", "&75 seconds (default)"}, {90, "mnu90", "&90 seconds"}, {105, "mnu105", "&105 seconds"},
-    {120, "mnu120", "&120 seconds"},
+    {120, "mnu120", "&120 seconds", false},
 };
 
 constexpr const char* kSections[] = {"[Time]",
@@ -48,9 +48,13 @@ constexpr GamePlan kPlan{
     .timeLimit = 75,
     .sections = kSections,
     .rules = frmHandgrid::kRules,
-    .dialog = {.window = "frmHandgridCustom"},
+    .dialog = {.window = "frmHandgridCustom", .tellsGoalAtOnce = true},
     .rounds = 3,
     .playFailure = Icon::Critical,
+    .endGame = {.meanwhile = WhileAsked::Silenced},
+    .held = Held::Commands,
+    .dialRuns = DialRuns::FromEachRound,
+    .dialIsLate = true,
 };
 
 // The grid takes the left, clock and score the right, the deck the lower right corner.
@@ -151,14 +155,6 @@ void frmHandgrid::BindBoardEvents() {
   ScoringLabel.OnChange = [this] { CenterScoringLabel(); };
 }
 
-// --- Settings ------------------------------------------------------------------------------------
-
-// `Timer2` draws from the beginning, so the dial must not stand where the last game left it.
-void frmHandgrid::SetDefaults() {
-  HandSoundPlayed = false;
-  ResetDial();
-}
-
 // --- Placing -------------------------------------------------------------------------------------
 
 void frmHandgrid::PlaceBoard() {
@@ -198,8 +194,7 @@ void frmHandgrid::CenterTimeBonus() {
 }
 
 void frmHandgrid::CenterScoringLabel() {
-  CenterIn(ScoringLabel, ScoringLabelOutline);
-  ScoringLabel.Top = ScoringLabelOutline.Top + (ScoringLabelOutline.Height - ScoringLabel.Height) / 2;
+  CenterWithin(ScoringLabel, ScoringLabelOutline);
   CenterIn(lblMessage, ScoringLabelOutline);
   lblMessage.Top = ScoringLabel.Top - lblMessage.Height - 100;
 }

@@ -54,7 +54,7 @@ void frmSpirehold::UpCardImage_Click(int index) {
   board.LengthenRun();
   ShowRun();
   index < kTowers ? CompleteTower(index) : Uncover(index);
-  if (board.TowersCompleted() == kTowers) cmdTakeScore_Click();
+  if (board.TowersCompleted() == kTowers) cmdTakeScore_Click(By::Button);
 }
 
 void frmSpirehold::CompleteTower(int index) {
@@ -141,11 +141,6 @@ void frmSpirehold::HighRunScore() {
   else
     AddToScore(total);
   HideAmount(*this);
-}
-
-void frmSpirehold::EnableOptions(bool enable) {
-  GameWindow::EnableOptions(enable);
-  mnuClearHighRun.Enabled = enable;
 }
 
 void frmSpirehold::EndGame() {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "games/spirehold/board.h"
-#include "suite/game_window.h"
+#include "suite/round_game.h"
 
 namespace modSpirehold {
 
@@ -12,7 +12,7 @@ inline constexpr int kCardValue = 100, kBonusScore = 40000, kHighRunBonus = 1000
 
 }  // namespace modSpirehold
 
-class frmSpirehold : public GameWindow {
+class frmSpirehold : public RoundGame {
  public:
   explicit frmSpirehold(modCommon& common);
   static const RulesText kRules;
@@ -43,22 +43,13 @@ class frmSpirehold : public GameWindow {
   // --- The frame's plan --------------------------------------------------------------------------
   void Play() override;
   void InitRound() override;
-  void HideBoard() override { ShowCards(false, false); }
+  void HideBoard(bool) override { ShowCards(false, false); }
   void PayAwards() override;
   void EndGame() override;
   void GameFinished() override { HideTowerLabels(); }
   void ShowCards(bool visible) override { ShowCards(visible, true); }
   void CoverCards(bool covered) override;
   void RefreshPlayCard() override;
-  void RefreshFieldCards() override;
-  // Covered cards lie face down in play, too.
-  bool BacksAreShown() const override { return true; }
-  std::string HighScorePrefix() const override { return "Current High Score: "; }
-  void ShowGameControls(bool visible) override;
-  void HideCardsAtTimeUp() override { ShowCards(false, false); }
-  // The menu entry reads "&Play" at all times.
-  void SetPlayCaption(const char* caption) override { cmdPlay.Caption = caption; }
-  void EnableOptions(bool enable) override;
   void PlaceBoard() override;
 
  private:
@@ -69,6 +60,7 @@ class frmSpirehold : public GameWindow {
   void CoverCard(Image& image);
   void ShowRun();
   void ShowHighRun();
+  void RefreshFieldCards();
   void HideTowerLabels();
   void CompleteTower(int index);
   void Uncover(int index);

@@ -23,7 +23,8 @@ constexpr GamePlan kPlan{
     .names = {.window = "frmSpirehold",
               .settingsFile = "\\Spirehold.Ini",
               .fileMenu = "mnuGame",
-              .fileCaption = "&Game"},
+              .fileCaption = "&Game",
+              .highScore = "Current High Score: "},
     .tables = OneTable("SpireholdHiScores", "30000"),
     .width = 9570,
     .height = 7200,
@@ -32,6 +33,7 @@ constexpr GamePlan kPlan{
     .sections = kSections,
     .rules = frmSpirehold::kRules,
     .dialog = {.window = "frmSpireholdCustom"},
+    .playEntryFollows = false,
 };
 
 // How far from the middle of the window a card's middle is, in halves of a card: between the two that cover
@@ -79,7 +81,7 @@ constexpr Design kButtonDesign[] = {
 
 }  // namespace
 
-frmSpirehold::frmSpirehold(modCommon& common) : GameWindow(common, kPlan) {
+frmSpirehold::frmSpirehold(modCommon& common) : RoundGame(common, kPlan) {
   NameSettings();
   SetUpBoard();
   BindBoardEvents();
@@ -106,11 +108,13 @@ void frmSpirehold::SetUpBoard() {
   }
   lblMessage.Alignment = 2;
   for (Label* label : {&lblCurrentScore, &lblCurrentRound}) label->Fit();
+  roundControls = {&lblCurrentRun, &lblHighRun, &lblHighScore, &lblCardCount, &lblCards, &lblNextCard};
   // Nothing is dealt yet.
   ShowCards(false);
   HideTowerLabels();
   mnuClearHighRun.Caption = "Clear &High Run";
   mnuClearHighRun.rank = 25;
+  gameOptions.push_back(&mnuClearHighRun);
 }
 
 void frmSpirehold::BindBoardEvents() {
@@ -174,8 +178,10 @@ void frmSpirehold::CoverCards(bool covered) {
 
 void frmSpirehold::RefreshPlayCard() {
   if (board.IsDealt()) CardStackPicture.Picture = common.ImageList2(StockKey(board.stack.size(), 18, 11));
+  RefreshFieldCards();
 }
 
+// Covered cards lie face down in play, too.
 void frmSpirehold::RefreshFieldCards() {
   for (int i = 0; i < kCards; ++i)
     if (UpCardImage(i).Visible && board.IsCovered(i)) CoverCard(UpCardImage(i));
@@ -186,7 +192,3 @@ void frmSpirehold::ShowRun() { lblCurrentRun.Caption = "Current Run: " + std::to
 void frmSpirehold::ShowHighRun() { lblHighRun.Caption = "Highest Run: " + std::to_string(board.HighestRun); }
 
 void frmSpirehold::HideTowerLabels() { SetVisible({&lblTower1, &lblTower2, &lblTower3}, false); }
-
-void frmSpirehold::ShowGameControls(bool visible) {
-  SetVisible({&lblCurrentRun, &lblHighRun, &lblHighScore, &lblCardCount, &lblCards, &lblNextCard}, visible);
-}

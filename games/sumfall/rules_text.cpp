@@ -39,8 +39,3 @@ constexpr RulesParagraph kParagraphs[] = {
 }  // namespace
 
 const RulesText frmSumfall::kRules{30, kParagraphs};
-
-RulesValues frmSumfall::MoreRulesValues() const {
-  return {{"quarter", std::to_string(common.TimeLimit / 4)},
-          {"takeScore", cmdTakeScore.Caption.get().substr(1)}};
-}

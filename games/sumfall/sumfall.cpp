@@ -113,7 +113,7 @@ void frmSumfall::CheckTotal() {
   lblCurrentElevens.Caption = std::to_string(board.combinations);
   ShowTotal();
   ShowScore();
-  if (board.CheckForCompletion()) cmdTakeScore_Click();
+  if (board.CheckForCompletion()) cmdTakeScore_Click(By::Button);
   if (board.TurnsByItself()) PlayCardPicture_Click();
   board.upCardUsed = false;
 }
@@ -190,10 +190,11 @@ void frmSumfall::BeginScoring() {
   MousePointer = kHourglass;
   StopMusic();
   EnableCommands(false);
-  HideBoard();
+  HideBoard(false);
 }
 
-void frmSumfall::HideBoard() {
+void frmSumfall::HideBoard(bool timeIsUp) {
+  if (timeIsUp) return ShowLowerCards(false);
   SelRectangle(false);
   completed_ = board.CheckForCompletion();
   board.ClearField();
@@ -280,12 +281,6 @@ void frmSumfall::PayTimeBonus() {
   }
 }
 
-void frmSumfall::AnnounceRound(bool bonus) {
-  if (!bonus) return Announce("Prepare for Round Two!");
-  PlaySound("\\HighScore.wav");
-  Announce("Bonus Round!");
-}
-
 void frmSumfall::InitRound() {
   lblCurrentRound.Caption = std::to_string(CurrentRound);
   const CardCodes& stored = RoundDeck(CurrentRound);
@@ -294,14 +289,19 @@ void frmSumfall::InitRound() {
   } else {
     common.ShuffleDeck();
   }
-  if (!Deal()) return BackToIdle();  // only the cards of a damaged saved game can't be dealt
-  standing.Open();
-  lblMessage.Visible = false;
-  EnableCommands(true);
-  if (CurrentRound != kBonusRound) return;
-  lblCurrentRound.Caption = "Bonus";
-  StartMusic();
-  ReplayPending = false;
+  if (!Deal()) {  // only the cards of a damaged saved game can't be dealt
+    BackToIdle();
+  } else {
+    standing.Open();
+    lblMessage.Visible = false;
+    EnableCommands(true);
+    if (CurrentRound == kBonusRound) {
+      lblCurrentRound.Caption = "Bonus";
+      StartMusic();
+      ReplayPending = false;
+    }
+  }
+  EndCount();
 }
 
 void frmSumfall::GameOver() {
@@ -334,6 +334,7 @@ void frmSumfall::GameOver() {
   common.ElapsedSeconds = common.TimeLimit;
   ResetDial();
   ReplayPending = false;
+  EndCount();
 }
 
 void frmSumfall::OfferReplay() {
@@ -344,13 +345,12 @@ void frmSumfall::OfferReplay() {
   mnuTakeScore.Enabled = true;
 }
 
-void frmSumfall::EndScoring() {
+void frmSumfall::EndCount() {
   common.ElapsedSeconds = 0;
   lblCurrentScore.ForeColor = kBlue;
   lblMessage.ForeColor = kRed;
   SelRectangle(false);
   CardTotalVisible(true);
-  MousePointer = kDefaultPointer;
 }
 
 void frmSumfall::EndGame() {
@@ -383,15 +383,12 @@ void frmSumfall::EndGame() {
 
 // --- Commands ------------------------------------------------------------------------------------
 
-void frmSumfall::cmdPlay_Click() {
-  if (!standing.CanStart()) return GameWindow::cmdPlay_Click();
+void frmSumfall::cmdPlay_Click(By by) {
+  if (by == By::Entry) return mnuPlay_Click();
+  if (!standing.CanStart()) return GameWindow::cmdPlay_Click(by);
   mnuSave.Enabled = false;
-  GameWindow::cmdPlay_Click();
+  GameWindow::cmdPlay_Click(by);
   if (standing.InGame()) StartMusic();
-}
-
-std::string frmSumfall::EndGameQuestion() const {
-  return "You have a game in progress, are you sure you want to quit now?";
 }
 
 // Unlike the button, the entry leaves the splash timer and `mnuSave` alone and starts no music.
@@ -409,38 +406,14 @@ void frmSumfall::mnuPlay_Click() {
   }
 }
 
-// The tool tip tells of the answer Yes while the question stands.
-void frmSumfall::BeforeEndQuestion() {
-  cmdPlay.ToolTipText = "Starts a new game";
-  GameWindow::BeforeEndQuestion();
-}
-
-void frmSumfall::AfterEndQuestion(bool ends) {
-  GameWindow::AfterEndQuestion(ends);
-  if (!ends) cmdPlay.ToolTipText = "Ends the game in progress";
-}
-
-void frmSumfall::BeforeClosingQuestion() {
-  pausedForClosing_ = standing.IsPlaying();
-  if (pausedForClosing_) PauseGame();
-}
-
-void frmSumfall::AfterClosingQuestion(bool closes) {
-  if (pausedForClosing_ && !closes) ResumeGame();
-}
-
-void frmSumfall::cmdTakeScore_Click() { ReplayOrTakeScore(true); }
-
-void frmSumfall::mnuTakeScore_Click() { ReplayOrTakeScore(false); }
-
-void frmSumfall::ReplayOrTakeScore(bool fromButton) {
+void frmSumfall::cmdTakeScore_Click(By by) {
   if (standing.CanStart()) {
     ReplayPending = true;
-    cmdPlay_Click();
+    cmdPlay_Click(By::Button);
   } else if (!standing.InputIsDead()) {
     TakeScore();
     // The bonus round has started its music by itself.
-    if (fromButton && standing.InGame() && CurrentRound != kBonusRound) StartMusic();
+    if (by == By::Button && standing.InGame() && CurrentRound != kBonusRound) StartMusic();
   }
 }
 
@@ -504,7 +477,7 @@ bool frmSumfall::LoadSavedGame(const std::filesystem::path& path) {
   ReplayPending = true;
   ShowSplash(false);
   cmdTakeScore.Caption = "&Replay";
-  cmdTakeScore_Click();
+  cmdTakeScore_Click(By::Button);
   return true;
 }
 

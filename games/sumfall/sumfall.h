@@ -3,7 +3,7 @@
 
 #include "games/sumfall/board.h"
 #include "games/sumfall/saved_game.h"
-#include "suite/game_window.h"
+#include "suite/round_game.h"
 
 namespace modSumfall {
 
@@ -19,7 +19,7 @@ const char* GoalNumberWord(int cardGoal);
 
 }  // namespace modSumfall
 
-class frmSumfall : public GameWindow {
+class frmSumfall : public RoundGame {
  public:
   explicit frmSumfall(modCommon& common);
   static const RulesText kRules;
@@ -70,37 +70,20 @@ class frmSumfall : public GameWindow {
   void Play() override;
   void BackToIdle() override;
   void BeginScoring() override;
-  void HideBoard() override;
+  void HideBoard(bool timeIsUp) override;
   void PayAwards() override;
-  void AnnounceRound(bool bonus) override;
   void InitRound() override;
-  void EndScoring() override;
   void GameOver() override;
   void EndGame() override;
   void ShowCards(bool visible) override;
   void CoverCards(bool covered) override;
   void RefreshPlayCard() override;
-  void RefreshFieldCards() override;
   void ShowCustomScoring() override;
-  RulesValues MoreRulesValues() const override;
   void SetDefaults() override;
   bool ApplyGameSetting(std::string_view section, std::string_view value) override;
   void SettingsRead() override { mnuDrawTimer.Checked = common.CountDownScore; }
-  std::string TableFile(const std::string& tableName) const override;
-  std::string HighScoreInfo() const override;
-  void ShowSplashFace(Image& image) override;
-  void ShowSplashBack(Image& image) override;
-  void ShowGameControls(bool visible) override;
-  void HideCardsAtTimeUp() override { ShowLowerCards(false); }
-  void cmdPlay_Click() override;
-  void mnuPlay_Click() override;
-  void cmdTakeScore_Click() override;
-  void mnuTakeScore_Click() override;
-  std::string EndGameQuestion() const override;
-  void BeforeEndQuestion() override;
-  void AfterEndQuestion(bool ends) override;
-  void BeforeClosingQuestion() override;
-  void AfterClosingQuestion(bool closes) override;
+  void cmdPlay_Click(By by) override;
+  void cmdTakeScore_Click(By by) override;
   void PlaceMessage() override;
   void PlaceBoard() override;
 
@@ -124,9 +107,11 @@ class frmSumfall : public GameWindow {
   void PayCompletionBonus();
   void PayCombinationBonus();
   void PayTimeBonus();
-  void ReplayOrTakeScore(bool fromButton);
+  void EndCount();
+  void mnuPlay_Click();
+  void RefreshFieldCards();
 
-  bool commandLineTaken_ = false, pausedForClosing_ = false;
+  bool commandLineTaken_ = false;
   bool completed_ = false;  // the field, in the round that is being paid
 };
 

@@ -24,16 +24,21 @@ constexpr GamePlan kPlan{
               .customEntry = "mnuScoring",
               .fileCaption = "&Game",
               .clearCaption = "&Cear High Scores...",
-              .customCaption = "C&ustomize Scoring..."},
-    .tables = OneTable("HiScores", "50000"),
+              .customCaption = "C&ustomize Scoring...",
+              .splashFace = "SFUP"},
+    .tables = OneTable("HiScores", "50000", {"[CardGoal]", "High Scores for Card Goal of "}),
     .width = 9540,
     .height = 7200,
     .limits = kLimits,
     .timeLimit = 90,
     .sections = kSections,
     .rules = frmSumfall::kRules,
+    .bonusCall = {"Bonus Round!", "\\HighScore.wav", true},
     .splashInterval = 250,
     .playFailure = std::nullopt,  // there is no game yet that could be lost
+    .endGame = {.text = "You have a game in progress, are you sure you want to quit now?",
+                .tipIsAhead = true},
+    .whileClosing = WhileClosing::Paused,
 };
 
 constexpr Design kDesign[] = {
@@ -92,7 +97,7 @@ const char* modSumfall::GoalWord(int cardGoal) { return kGoals[cardGoal - kLowes
 
 const char* modSumfall::GoalNumberWord(int cardGoal) { return kGoals[cardGoal - kLowestGoal].number; }
 
-frmSumfall::frmSumfall(modCommon& common) : GameWindow(common, kPlan) {
+frmSumfall::frmSumfall(modCommon& common) : RoundGame(common, kPlan) {
   NameSettings();
   SetUpBoard();
   SetUpGameMenus();
@@ -147,9 +152,11 @@ void frmSumfall::SetUpBoard() {
   for (Label* label : {&lblTime, &lblScore, &lblRound, &lblElevens, &lblTotal, &lblHighScore, &lblCardCount})
     label->FontBold = true;
   for (Label* label : {&lblTime, &lblScore, &lblRound, &lblElevens, &lblTotal}) label->Alignment = 2;
-  for (int i = 0; i < imgSplashImage.size(); ++i) ShowSplashFace(imgSplashImage(i));
+  for (int i = 0; i < imgSplashImage.size(); ++i) imgSplashImage(i).Picture = common.ImageList2("SFUP");
   for (Label* label : {&lblCurrentScore, &lblCurrentRound, &lblCurrentTotal, &lblCurrentElevens})
     label->Fit();
+  roundControls = {&lblElevens, &lblCurrentElevens, &ElevensRectangle, &ElevensBevelSide,
+                   &ElevensBevelBottom};
   // Nothing is dealt yet.
   FieldCardDisplay(false);
   SelRectangle(false);
@@ -288,11 +295,6 @@ void frmSumfall::SelectionColor(int index) {
 
 void frmSumfall::ShowTimerRect() { SetVisible({&TimerRectangle, &TimerBevelSide, &TimerBevelBottom}, true); }
 
-void frmSumfall::ShowGameControls(bool visible) {
-  SetVisible({&lblElevens, &lblCurrentElevens, &ElevensRectangle, &ElevensBevelSide, &ElevensBevelBottom},
-             visible);
-}
-
 void frmSumfall::ShowCards(bool visible) {
   FieldCardDisplay(visible);
   ShowLowerCards(visible);
@@ -323,18 +325,15 @@ void frmSumfall::RefreshPlayCard() {
                                               : cards > 10 ? "HALF"
                                               : cards > 0  ? "BACK"
                                                            : "EMPTY");
+  RefreshFieldCards();
 }
 
 void frmSumfall::RefreshFieldCards() {
+  if (!standing.IsPaused()) return;
   for (int i = 0; i < kPlaces; ++i)
     if (!board.field[i].empty()) ShowBack(FieldCardPicture(i));
   if (!board.upCards.empty()) ShowBack(UpCardPicture);
 }
-
-// The splash panel shows the game's own card, and leaves the frame of the pictures alone.
-void frmSumfall::ShowSplashFace(Image& image) { image.Picture = common.ImageList2("SFUP"); }
-
-void frmSumfall::ShowSplashBack(Image& image) { image.Picture = common.ImageList2("BACK"); }
 
 // --- Settings and texts --------------------------------------------------------------------------
 
@@ -360,12 +359,4 @@ bool frmSumfall::ApplyGameSetting(std::string_view section, std::string_view val
     return false;
   }
   return true;
-}
-
-std::string frmSumfall::TableFile(const std::string& tableName) const {
-  return "\\" + tableName + std::to_string(common.TimeLimit) + "_" + std::to_string(CardGoal) + ".Txt";
-}
-
-std::string frmSumfall::HighScoreInfo() const {
-  return "High Scores for Card Goal of " + std::to_string(CardGoal) + "\r\n" + GameWindow::HighScoreInfo();
 }

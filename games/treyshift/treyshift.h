@@ -58,31 +58,21 @@ class frmTreyshift : public GameWindow {
 
   // --- Rounds ------------------------------------------------------------------------------------
   void EndRound();
-  void CenterScoringLabel();
+  void CenterScoringLabel() { CenterWithin(lblScoring, ScoringLabelOutline); }
 
   // --- The frame's plan --------------------------------------------------------------------------
-  void SetDefaults() override;
   void Play() override;
-  void InitRound() override;
-  // Input is dead while a round is scored, and a quarter of a second after the last one.
-  bool TakesCommand() const override { return !standing.InputIsDead(); }
   void TimeIsUp() override;
-  void ResetDial() override;
   // Ends the round, whoever asks for it.
   void TakeScore() override;
   void GameOver() override;
   void GameFailed() override;
-  void BeforeEndQuestion() override;
-  void AfterEndQuestion(bool ends) override;
   void EndGame() override;
   void ShowCards(bool visible) override;
   void RefreshPlayCard() override;
   void ShowCustomScoring() override;
-  void ShowGameControls(bool visible) override;
-  void PlaceMessage() override;
   void PlaceScoring() override;
   void PlaceBoard() override;
-  using GameWindow::ShowControls;
 
  private:
   void NameSettings();
@@ -99,6 +89,7 @@ class frmTreyshift : public GameWindow {
   void ShowNoCard(int slot);
   void EndStuckRound();
 
+  void InitRound();
   void BeginRound();
   void CompleteDeck();
   void ShowInDeckPlace(int milliseconds);

@@ -1,7 +1,6 @@
 // The board of frmTreyshift: its design, where things stand at any window size, what is shown when; and its
 // settings.
 #include "games/treyshift/treyshift.h"
-#include "suite/dial.h"
 
 using namespace modTreyshift;
 
@@ -39,6 +38,10 @@ constexpr GamePlan kPlan{
     .rules = frmTreyshift::kRules,
     .dialog = {.window = "frmTreyshiftCustom"},
     .playFailure = Icon::Critical,
+    .endGame = {.meanwhile = WhileAsked::Silenced},
+    // Only the buttons, and the entry Pause, wait until a round is scored: the others have their own reasons.
+    .held = Held::Buttons,
+    .dialRuns = DialRuns::FromLoading,
 };
 
 // The storage above, the field in the middle, the deck below; the clock and what was made to the left. The
@@ -77,11 +80,6 @@ constexpr Design kButtonDesign[] = {
 constexpr int kCardWidth = 1035, kCardHeight = 1455;
 constexpr int kDeckTop = 4680, kStorageTop = 240;
 
-void CenterWithin(Label& label, const Shape& box) {
-  CenterIn(label, box);
-  label.Top = box.Top + (box.Height - label.Height) / 2;
-}
-
 }  // namespace
 
 frmTreyshift::frmTreyshift(modCommon& common) : GameWindow(common, kPlan) {
@@ -89,11 +87,6 @@ frmTreyshift::frmTreyshift(modCommon& common) : GameWindow(common, kPlan) {
   SetUpBoard();
   BindBoardEvents();
 }
-
-// The dial is drawn all the time.
-void frmTreyshift::SetDefaults() { Timer2.Enabled = true; }
-
-void frmTreyshift::ResetDial() { InitTimeDial(*this); }
 
 void frmTreyshift::SetUpBoard() {
   ApplyDesign(*this, kDesign);
@@ -131,6 +124,10 @@ void frmTreyshift::SetUpBoard() {
   ScoringLabelOutline.BorderColor = kWhite;
   lblCurrentScore.Fit();
   RestoreFlush();
+  messageBox = &ScoringLabelOutline;
+  roundControls = {&lblHighScore,   &lblCardCount,     &lblTrips, &lblScoreTrips, &TripsRectangle,
+                   &TripsBevelSide, &TripsBevelBottom, &lblRuns,  &lblScoreRuns,  &RunRectangle,
+                   &RunBevelSide,   &RunBevelBottom,   &lblTemp,  &lblFieldCards, &FieldRect};
   // Nothing is dealt yet.
   ShowCards(false);
   for (int i = kSecondRow; i < kFieldSlots; ++i) PlayCard(i).Visible = false;
@@ -146,9 +143,6 @@ void frmTreyshift::BindBoardEvents() {
   CardStackPicture.OnClick = [this] { CardStackPicture_Click(); };
   for (Label* label : {&lblCurrentScore, &lblScoreTrips, &lblScoreRuns, &lblTrips, &lblRuns})
     label->OnChange = [this] { CenterFigures(); };
-  // Only the buttons, and the entry Pause, wait until a round is scored: the others have their own reasons.
-  mnuPlay.OnClick = [this] { mnuPlay_Click(); };
-  mnuExit.OnClick = [this] { Unload(); };
 }
 
 // --- Placing -------------------------------------------------------------------------------------
@@ -178,17 +172,12 @@ void frmTreyshift::PlaceBoard() {
 }
 
 void frmTreyshift::CenterFigures() {
-  const auto center = [](Label& figure, const Shape& box) { CenterWithin(figure, box); };
-  center(lblCurrentScore, ScoreRectangle);
-  center(lblScoreTrips, TripsRectangle);
-  center(lblScoreRuns, RunRectangle);
+  CenterWithin(lblCurrentScore, ScoreRectangle);
+  CenterWithin(lblScoreTrips, TripsRectangle);
+  CenterWithin(lblScoreRuns, RunRectangle);
   CenterIn(lblTrips, TripsRectangle);
   CenterIn(lblRuns, RunRectangle);
 }
-
-void frmTreyshift::CenterScoringLabel() { CenterWithin(lblScoring, ScoringLabelOutline); }
-
-void frmTreyshift::PlaceMessage() { CenterWithin(lblMessage, ScoringLabelOutline); }
 
 // While an amount is counted, what it is for stands to its left.
 void frmTreyshift::PlaceScoring() {
@@ -217,11 +206,4 @@ void frmTreyshift::ShowCardCount() {
 
 void frmTreyshift::ShowScoringLabel(bool visible) {
   SetVisible({&lblScoring, &ScoringLabelOutline}, visible);
-}
-
-void frmTreyshift::ShowGameControls(bool visible) {
-  SetVisible({&lblHighScore, &lblCardCount, &lblTrips, &lblScoreTrips, &TripsRectangle, &TripsBevelSide,
-              &TripsBevelBottom, &lblRuns, &lblScoreRuns, &RunRectangle, &RunBevelSide, &RunBevelBottom,
-              &lblTemp, &lblFieldCards, &FieldRect},
-             visible);
 }

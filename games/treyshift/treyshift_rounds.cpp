@@ -2,7 +2,6 @@
 #include <algorithm>
 
 #include "games/treyshift/treyshift.h"
-#include "suite/dial.h"
 #include "suite/score_counter.h"
 
 using namespace modTreyshift;
@@ -240,16 +239,6 @@ void frmTreyshift::GameFailed() {
   for (int i = 0; i < kTempSlots; ++i) TempCardSelection(i).Visible = false;
   UpCardSelection.Visible = false;
   GameWindow::GameFailed();
-}
-
-void frmTreyshift::BeforeEndQuestion() {
-  StopMusic();
-  PauseGame();
-}
-
-void frmTreyshift::AfterEndQuestion(bool ends) {
-  if (ends) standing.GiveUp();
-  ResumeGame();
 }
 
 void frmTreyshift::EndGame() {

@@ -1,0 +1,61 @@
+#include "suite/round_game.h"
+
+void RoundGame::BeginScoring() {
+  standing.Score();
+  Timer1.Enabled = false;
+  EnableButtons(false);
+  MousePointer = kHourglass;
+  HideBoard(false);
+  StopMusic();
+}
+
+void RoundGame::TakeScore() {
+  BeginScoring();
+  PayAwards();
+  CurrentRound += 1;
+  const bool bonus = CurrentRound == plan.rounds + 1;
+  if (CurrentRound <= plan.rounds || (bonus && EarnsBonusRound())) {
+    AnnounceRound(bonus);
+    InitRound();
+  } else {
+    GameOver();
+  }
+  EndScoring();
+}
+
+void RoundGame::AnnounceRound(bool bonus) {
+  if (plan.commandsLiveWhileTold) EnableButtons(true);
+  const BonusCall& call = plan.bonusCall;
+  if (bonus && call.waveFirst) PlaySound(call.wave);
+  ShowMessage(bonus ? call.text : "Prepare for Round Two!");
+  if (bonus && !call.waveFirst) PlaySound(call.wave);
+  Blink(lblMessage, 11);
+  lblMessage.Visible = false;
+}
+
+void RoundGame::TimeIsUp() {
+  MousePointer = kHourglass;
+  Timer1.Enabled = false;
+  HideBoard(true);
+  EnableButtons(false);
+  ShowMessage("Times Up!");
+  StatusBar1.Panels(2).Text = "Time has expired!";
+  Blink(lblMessage, 10);
+  cmdTakeScore_Click(By::Button);
+  if (!standing.IsOver()) lblMessage.Visible = false;
+  MousePointer = kDefaultPointer;
+}
+
+void RoundGame::GameOver() {
+  MousePointer = kHourglass;
+  FinishGame();
+  GameFinished();
+  const auto offerPlay = [this] {
+    for (CommandButton* button : {&cmdPlay, &cmdExit}) button->Enabled = true;
+  };
+  if (plan.commandsLiveWhileTold) offerPlay();
+  cmdPlay.ToolTipText = "Starts a new game";
+  TellGameOver(lblMessage);
+  ShowSplash(true);
+  offerPlay();
+}
