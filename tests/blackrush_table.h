@@ -2,6 +2,7 @@
 #pragma once
 
 #include "games/blackrush/blackrush.h"
+#include "tests/game_test.h"
 #include "tests/sumfall_cards.h"
 
 inline frmBlackrush& BlackrushOf(Driver& driver) {
@@ -13,8 +14,6 @@ inline const std::string kPlayBlackrush = "click frmBlackrush.cmdPlay\n";
 inline const std::string kPass = "click frmBlackrush.cmdPass\n";
 inline const std::string kTake = "click frmBlackrush.cmdTakeScore\n";
 inline const std::string kPause = "click frmBlackrush.cmdPause\n";
-inline const std::string kEnterName =
-    "type frmHiScoreName.lblPlayerName \"Ann\"\nclick frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone\n";
 
 inline std::string Hit(int column) { return "click frmBlackrush.cmdHit(" + std::to_string(column) + ")\n"; }
 // A click on Hit for each column named, "0012".

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "games/fivestack/fivestack.h"
+#include "tests/game_test.h"
 #include "tests/sumfall_cards.h"
 
 inline frmFivestack& FivestackOf(Driver& driver) {
@@ -25,8 +26,6 @@ inline const std::string kPlayFivestack = "click frmFivestack.cmdPlay\n";
 inline const std::string kPass = "click frmFivestack.cmdPass\n";
 inline const std::string kPauseFivestack = "click frmFivestack.cmdPause\n";
 inline const std::string kGiveUp = "click frmFivestack.cmdGiveUp\n";
-inline const std::string kEnterName =
-    "type frmHiScoreName.lblPlayerName \"Ann\"\nclick frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone\n";
 
 // Hits columns, a digit each: "001" hits the first one twice.
 inline std::string Hit(const std::string& columns) {

@@ -4,8 +4,8 @@
 
 #include <chrono>
 #include <iostream>
-#include <random>
 
+#include "tests/board_player.h"
 #include "tests/driver.h"
 #include "window/player.h"
 
@@ -13,7 +13,7 @@ class RandomPlayer {
  public:
   // `button` opens the game in the selector.
   RandomPlayer(const std::filesystem::path& folder, std::string button, unsigned seed)
-      : button_(std::move(button)), chance_(seed), suite_(console_.platform, {folder}, AllGames()) {
+      : chance(seed), button_(std::move(button)), suite_(console_.platform, {folder}, AllGames()) {
     console_.platform.random.Seed(seed);
     suite_.Start();
   }
@@ -55,16 +55,23 @@ class RandomPlayer {
     const bool minimised = game.WindowState == window_state::kMinimised;  // may stop the clock
     ASSERT_TRUE(minimised || game.Timer1.Enabled != game.standing.IsPaused());
     ASSERT_EQ(game.cmdPlay.Enabled, !game.standing.IsPaused());
+    ASSERT_EQ(game.lblCurrentScore.Caption, FormatNumber(common.CurrentScore));
     ASSERT_GE(common.ElapsedSeconds, 0);
     ASSERT_LE(common.ElapsedSeconds, common.TimeLimit);
   }
 
-  int Draw(int below) { return std::uniform_int_distribution<int>(0, below - 1)(chance_); }
-  bool Chance(int percent) { return Draw(100) < percent; }
+  // The picture that a card's face has; 0 for no card.
+  static int FaceOf(std::string_view code) {
+    if (code.empty()) return 0;
+    return kFirstFace - 1 + CardValue(code) +
+           13 * static_cast<int>(std::string_view("SHCD").find(code.back()));
+  }
   template <class T>
   T Pick(const std::vector<T>& from) {
-    return from[Draw(static_cast<int>(from.size()))];
+    return from[chance.Draw(static_cast<int>(from.size()))];
   }
+
+  Chance chance;
 
  private:
   std::optional<std::string> Next() {
@@ -89,8 +96,9 @@ class RandomPlayer {
 
   std::string InDialog(const Form& dialog) {
     const std::string name(dialog.name);
-    if (Chance(10)) return "close " + name;
-    if (name == "frmHiScoreName" && Chance(50)) return "type frmHiScoreName.lblPlayerName \"Bob, or so\"";
+    if (chance.Percent(10)) return "close " + name;
+    if (name == "frmHiScoreName" && chance.Percent(50))
+      return "type frmHiScoreName.lblPlayerName \"Bob, or so\"";
     ++dialogs;
     std::vector<std::string> ways;
     for (const Control* control : dialog.Controls()) {
@@ -118,23 +126,23 @@ class RandomPlayer {
     if (!game.standing.InGame()) {
       if (game.standing.IsPaused()) return "click " + game.mnuPause.FullName();
       if (game.standing.InputIsDead()) return "advance 250";  // the selector ends it
-      if (Chance(25)) {
+      if (chance.Percent(25)) {
         ++games;
         return play;
       }
-      return Chance(25) ? "click " + game.mnuCustom.FullName() : AnyEntry(game);
+      return chance.Percent(25) ? "click " + game.mnuCustom.FullName() : AnyEntry(game);
     }
-    if (game.standing.IsPaused() && Chance(70)) return pause;
-    const int what = Draw(1000);
+    if (game.standing.IsPaused() && chance.Percent(70)) return pause;
+    const int what = chance.Draw(1000);
     if (what < 10) return pause;
     if (what < 14) return AnyEntry(game);
     if (what < 16) return play;
-    if (what < 18) return "resize " + window + " " + std::to_string(6000 + Draw(9000)) + " 9000";
-    if (what < 20) return "state " + window + " " + std::to_string(Draw(3));
+    if (what < 18) return "resize " + window + " " + std::to_string(6000 + chance.Draw(9000)) + " 9000";
+    if (what < 20) return "state " + window + " " + std::to_string(chance.Draw(3));
     if (what < 22) return "close " + window;
     if (what < 60) {
       ++rounds;
-      return "advance " + std::to_string(Draw(9000));
+      return "advance " + std::to_string(chance.Draw(9000));
     }
     return AtTheTable(game);
   }
@@ -145,7 +153,6 @@ class RandomPlayer {
       "20000", "100", "1",     "26",   "45",    "-20001"};
 
   const std::string button_;
-  std::mt19937 chance_;
   int left_ = 0;
   LiveInput input_{[this] { return Next(); }};
   std::istream in_{&input_};
@@ -154,4 +161,33 @@ class RandomPlayer {
 
  protected:
   Suite suite_;
+};
+
+// One who plays as somebody plays that game's boards (tests/<game>_board_player.h).
+template <class Window, class Player>
+class PlayerAt : public RandomPlayer {
+ public:
+  using RandomPlayer::RandomPlayer;
+
+ protected:
+  // The control that makes a move, and what is done now and then instead; nothing mostly.
+  virtual const Control& ControlFor(Window& game, const typename Player::Move& move) = 0;
+  virtual std::string Instead(Window&) { return ""; }
+  // What must be true of a game in progress, and where there is none.
+  virtual void CheckBoard(Window& game, bool paused) = 0;
+  virtual void CheckNoGame(Window&) {}
+
+ private:
+  std::string AtTheTable(GameWindow& window) final {
+    auto& game = static_cast<Window&>(window);
+    const std::string other = Instead(game);
+    return other.empty() ? "click " + ControlFor(game, Player::Choose(game.board, chance)).FullName() : other;
+  }
+  void Check(GameWindow& window) final {
+    auto& game = static_cast<Window&>(window);
+    if (game.standing.InGame())
+      CheckBoard(game, game.standing.IsPaused());
+    else
+      CheckNoGame(game);
+  }
 };
