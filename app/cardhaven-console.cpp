@@ -6,6 +6,7 @@
 #include <streambuf>
 
 #include "app/options.h"
+#include "app/reports.h"
 #include "games/games.h"
 #include "suite/suite.h"
 #include "window/console/console.h"
@@ -60,6 +61,8 @@ int main(int argc, char** argv) {
   if (const auto status = ReadCommandLine(Program::Console, argc, argv, options)) return *status;
   try {
     const std::filesystem::path folder = FindAppPath(options);
+    if (options.history) return PrintHistory(folder);
+    if (options.statistics) return PrintStatistics(folder, options.game);
     Input input;
     Output output;
     std::istream in(&input);
@@ -72,7 +75,7 @@ int main(int argc, char** argv) {
     platform.CommandLine = options.savedGame;
     std::unique_ptr<Suite> suite;
     try {
-      suite = std::make_unique<Suite>(platform, SuiteOptions{folder}, AllGames());
+      suite = std::make_unique<Suite>(platform, SuiteFor(options, folder, Program::Console), AllGames());
       suite->Start();
       console.Run();
     } catch (const std::exception& error) {

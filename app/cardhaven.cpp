@@ -39,7 +39,8 @@ int main(int argc, char** argv) {
     return RunDesktop(programAlone, argv, desktop, Catalogue(), [&](Platform& platform) {
       if (options.seed) platform.random.Seed(*options.seed);
       platform.CommandLine = options.savedGame;
-      auto suite = std::make_shared<Suite>(platform, SuiteOptions{desktop.folders.own}, AllGames());
+      auto suite = std::make_shared<Suite>(platform, SuiteFor(options, desktop.folders.own, Program::Desktop),
+                                           AllGames());
       suite->Start();
       TellOfMissingData(platform, desktop);
       return suite;

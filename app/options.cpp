@@ -1,5 +1,7 @@
 #include "app/options.h"
 
+#include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <chrono>
 #include <cmath>
@@ -7,6 +9,8 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "games/games.h"
+#include "suite/deal.h"
 #include "window/system/disk.h"
 #include "window/system/folders.h"
 
@@ -73,6 +77,14 @@ void CarryOver(const fs::path& from, const fs::path& to) {
     if (IsKeptFile(name)) folders::Move(from / name, to / name);
 }
 
+// The game that is called so, in whatever letters; "" if there is none.
+std::string GameNamed(const std::string& name) {
+  const auto lower = [](char letter) { return std::tolower(static_cast<unsigned char>(letter)); };
+  for (const GameEntry& game : AllGames())
+    if (std::ranges::equal(game.Name(), name, {}, lower, lower)) return std::string(game.Name());
+  return "";
+}
+
 void ApplyValue(const std::string& option, const std::string& value, Options& options) {
   const auto bad = [&](const char* wanted) {
     throw BadOptions("the value of " + option + " must be " + wanted + ", not \"" + value + "\"");
@@ -84,6 +96,13 @@ void ApplyValue(const std::string& option, const std::string& value, Options& op
     uint64_t seed = 0;
     if (!Parse(value, seed)) bad("a whole number from 0 up");
     options.seed = seed;
+  } else if (option == "--deal") {
+    if (!Parse(value, options.deal) || options.deal < 1 || options.deal > kLastDeal)
+      bad("a whole number from 1 to 999999999");
+  } else if (option == "--game" || option == "--today") {
+    options.game = GameNamed(value);
+    options.today = option == "--today";
+    if (options.game.empty()) bad("a game, such as Sumfall");
   } else if (option == "--speed") {
     if (!Parse(value, options.speed) || !std::isfinite(options.speed) || options.speed < 0.01 ||
         options.speed > 100000)
@@ -96,7 +115,8 @@ void ApplyValue(const std::string& option, const std::string& value, Options& op
 }
 
 bool TakesValue(Program program, const std::string& option) {
-  if (option == "--folder" || option == "--seed" || option == "--start") return true;
+  constexpr std::string_view kCommon[] = {"--folder", "--seed", "--start", "--deal", "--game", "--today"};
+  if (std::ranges::count(kCommon, option) > 0) return true;
   return option == (program == Program::Desktop ? "--speed" : "--screen");
 }
 
@@ -121,11 +141,18 @@ Options ParseOptions(Program program, const std::vector<std::string>& arguments)
       options.version = true;
     } else if (argument == "--console" && program == Program::Desktop) {
       options.console = true;
+    } else if (argument == "--history" && program == Program::Console) {
+      options.history = true;
+    } else if (option == "--statistics" && program == Program::Console) {
+      options.statistics = true;
+      const bool here = equals != std::string::npos;
+      if (here || (i + 1 < arguments.size() && !arguments[i + 1].starts_with('-')))
+        ApplyValue("--game", here ? argument.substr(equals + 1) : arguments[++i], options);
     } else if (TakesValue(program, option)) {
       if (equals == std::string::npos && i + 1 == arguments.size())
         throw BadOptions(option + " needs a value");
       ApplyValue(option, equals == std::string::npos ? arguments[++i] : argument.substr(equals + 1), options);
-      if (option != "--folder") needsConsole = option;
+      if (option == "--seed" || option == "--start" || option == "--speed") needsConsole = option;
     } else {
       throw BadOptions("there is no option " + argument);
     }
@@ -139,16 +166,22 @@ std::string Usage(Program program) {
   std::string usage = "Usage: " + Name(program);
   if (program == Program::Desktop)
     usage +=
-        " [--folder DIR] [--console [--speed N] [--seed N] [--start MOMENT]] [SAVED-GAME]\n\n"
+        " [--folder DIR] [--game GAME | --today GAME] [--deal N]\n"
+        "                 [--console [--speed N] [--seed N] [--start MOMENT]] [SAVED-GAME]\n\n"
         "Seven timed card games in a window.\n\n";
   else
     usage +=
-        " [--folder DIR] [--seed N] [--start MOMENT] [--screen WxH] [SAVED-GAME]\n\n"
+        " [--folder DIR] [--game GAME | --today GAME] [--deal N] [--seed N]\n"
+        "                         [--start MOMENT] [--screen WxH] [SAVED-GAME]\n"
+        "       cardhaven-console [--folder DIR] --history | --statistics [GAME]\n\n"
         "The same card games driven by lines: commands from standard input, answers on standard output.\n"
         "The command \"help\" tells which commands there are.\n\n";
   usage +=
       "  SAVED-GAME      a saved game for Sumfall! to open\n"
-      "  --folder DIR    where settings, high scores and saved games are kept\n";
+      "  --folder DIR    where settings, high scores and saved games are kept\n"
+      "  --game GAME     open that game at once\n"
+      "  --today GAME    open it with the deal of the day\n"
+      "  --deal N        play deal N, from 1 to 999999999; such games enter no table\n";
   if (program == Program::Desktop)
     usage +=
         "  --console       take commands from standard input, under a clock of their own\n"
@@ -157,7 +190,10 @@ std::string Usage(Program program) {
       "  --seed N        make the cards fall the same way each time\n"
       "  --start MOMENT  the time of day at the start, as 2000-01-01T12:00:00\n";
   if (program == Program::Console)
-    usage += "  --screen WxH    the size of the screen in pixels, as 1024x768\n";
+    usage +=
+        "  --screen WxH    the size of the screen in pixels, as 1024x768\n"
+        "  --history       print the games played so far\n"
+        "  --statistics    print what they amount to, of all games or of one\n";
   return usage +
          "  --help          show this text\n"
          "  --version       show the version\n\n"
@@ -199,6 +235,11 @@ fs::path FindAppPath(const Options& options) {
   folders::Make(kept);
   CarryOver(own, kept);
   return kept;
+}
+
+SuiteOptions SuiteFor(const Options& options, const fs::path& folder, Program program) {
+  return {folder, options.deal, options.game, options.today,
+          [program](const std::string& text) { std::cerr << Name(program) + ": " + text + "\n"; }};
 }
 
 fs::path FindDataFolder() {

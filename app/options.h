@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "window/platform.h"
+#include "suite/suite.h"
 
 enum class Program { Desktop, Console };
 
@@ -20,6 +20,11 @@ struct Options {
   std::optional<uint64_t> seed;          // --seed
   DateTime start{2000, 1, 1, 12, 0, 0};  // --start
   Extent screen{1024 * 15, 768 * 15};    // --screen, twips
+  int deal = 0;                          // --deal
+  std::string game;                      // --game or --today, as on its button: "Sumfall"
+  bool today = false;                    // --today
+  bool history = false;                  // --history
+  bool statistics = false;               // --statistics, of `game` if that isn't ""
   std::string savedGame;
 };
 
@@ -41,5 +46,7 @@ std::optional<int> ReadCommandLine(Program program, int argc, char** argv, Optio
 // a file named "portable"; else the player's data folder, to which files of earlier versions move. Throws
 // std::runtime_error if there is none to be had.
 std::filesystem::path FindAppPath(const Options& options);
+// What is asked of the suite, which keeps its files in that folder.
+SuiteOptions SuiteFor(const Options& options, const std::filesystem::path& folder, Program program);
 // The folder with pictures, sounds and music; where it should be if there is none.
 std::filesystem::path FindDataFolder();

@@ -32,11 +32,20 @@ void modCommon::TellWhatCantBeKept() {
   for (const FileRefusal& refusal : files.TakeRefusals()) MsgBox(text(refusal), Icon::Exclamation);
 }
 
+namespace {
+
+// The whole number from `lower` to `upper` for which a number below 1 stands.
+int InRange(int lower, int upper, double drawn) {
+  return static_cast<int>(std::floor((upper - lower + 1) * drawn + lower));
+}
+
+}  // namespace
+
 int modCommon::RandomInteger(int lower, int upper) {
   int foreseen = 0;
   if (platform.random.TakeForeseen(lower, upper, foreseen)) return foreseen;
   if (!platform.random.Seeded()) platform.random.Stir(platform.border->Chance());
-  return static_cast<int>(std::floor((upper - lower + 1) * platform.random.Next() + lower));
+  return InRange(lower, upper, platform.random.Next());
 }
 
 bool modCommon::Try(const std::function<void()>& deed, const std::string& failure, Icon icon) {
@@ -45,12 +54,31 @@ bool modCommon::Try(const std::function<void()>& deed, const std::string& failur
   return false;
 }
 
+void modCommon::BeginDeal(std::string_view game) {
+  DealName name = askedDeal;
+  if (nextDeal)
+    name = *std::exchange(nextDeal, std::nullopt);
+  else if (name.number == 0 && !chanceIsGiven)
+    name.number = 1 + static_cast<int>(platform.border->Chance() % kLastDeal);
+  deal.Begin(name, game);
+}
+
+int modCommon::DrawCard(int lower, int upper) {
+  int foreseen = 0;
+  if (platform.random.TakeForeseen(lower, upper, foreseen)) {
+    deal.Tampered();
+    return foreseen;
+  }
+  return deal.DrawsByItself() ? InRange(lower, upper, deal.Draw()) : RandomInteger(lower, upper);
+}
+
 bool modCommon::CreateStandardDeck() {
   return Try([this] { Deck = StandardDeck(); }, "Unable to create the deck.");
 }
 
 bool modCommon::ShuffleDeck() {
-  const auto draw = [this](int lower, int upper) { return RandomInteger(lower, upper); };
+  const auto draw = [this](int lower, int upper) { return DrawCard(lower, upper); };
+  deal.DeckShuffled();
   return Try([&] { Shuffle(Deck, draw); }, "Unable to shuffle the deck.", Icon::Critical);
 }
 

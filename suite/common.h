@@ -1,10 +1,13 @@
 // What all windows of one running suite share: the variables and the plain routines.
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 
 #include "suite/cards.h"
 #include "suite/catalogue.h"
+#include "suite/deal.h"
 #include "window/files.h"
 #include "window/number.h"
 #include "window/platform.h"
@@ -34,6 +37,7 @@ class modCommon {
   Files files;
   ImageList ImageList2;
   CardCodes Deck;
+  Deal deal;
   TimeDial dial;
 
   std::string AppTitle;                            // of the game that is open
@@ -47,8 +51,18 @@ class modCommon {
   Form* selector = nullptr;      // shown again when a game window goes
   GameWindow* window = nullptr;  // the game window that is loaded
 
+  // Whether chance follows from a number that was given: then games have no number of their own.
+  bool chanceIsGiven = false;
+  // What the program was asked to play in all games; what is asked for the next game alone.
+  DealName askedDeal;
+  std::optional<DealName> nextDeal;
+  // Says in a line, and not in a box, what couldn't be kept; nothing where nobody listens.
+  std::function<void(const std::string&)> complain;
+
   // A whole number from `lower` to `upper`, both included.
   int RandomInteger(int lower, int upper);
+  // A game is being begun: it gets its deal.
+  void BeginDeal(std::string_view game);
   // Each tells a failure to the player and returns false.
   bool CreateStandardDeck();
   bool ShuffleDeck();
@@ -79,6 +93,9 @@ class modCommon {
   int MinutesPlayed();
   // "h:mm AMPM"
   std::string TimeOfDay();
+
+ private:
+  int DrawCard(int lower, int upper);
 };
 
 inline constexpr char kSuiteTitle[] = "Quillmark's Card Haven";

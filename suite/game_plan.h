@@ -126,6 +126,8 @@ struct BonusCall {
 
 struct GamePlan {
   GameNames names;
+  // As on the game's button, without a sign: "Sumfall".
+  std::string_view Name() const { return names.window + 3; }
   HighScoreTables tables;
   int width, height;  // smallest size, twips; written for a maximised window
   std::span<const TimeLimitEntry> limits;

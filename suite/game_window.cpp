@@ -84,12 +84,15 @@ void GameWindow::LeaveIdle() {
 void GameWindow::StartGame() {
   HideMessage();
   standing.Hold();
+  // A saved game opened in between has cards of its own.
+  if (daily != 0 && (!common.nextDeal || common.nextDeal->number != 0))
+    common.nextDeal = DealName{daily, log.WasPlayed(daily)};
+  common.BeginDeal(plan.Name());
   if (const auto failure = FailureOf<std::exception>([this] { Play(); })) PlayFailed(*failure);
   if (!Loaded()) return;
-  if (!standing.InGame())
-    BackToIdle();
-  else if (standing.IsBusy())
-    standing.Open();
+  if (!standing.InGame()) return BackToIdle();
+  if (standing.IsBusy()) standing.Open();
+  log.Begin();
 }
 
 void GameWindow::PlayFailed(const std::string& description) {
@@ -99,6 +102,7 @@ void GameWindow::PlayFailed(const std::string& description) {
 }
 
 void GameWindow::BackToIdle() {
+  log.End();
   standing.Rest();
   Timer1.Enabled = false;
   ResetDial();
@@ -120,6 +124,7 @@ void GameWindow::BackToIdle() {
 // Under the question a clock that wasn't stopped may end the game; then there is nothing left to end.
 void GameWindow::AskToEndGame(const std::string& question) {
   if (!standing.IsPlaying()) return;
+  const int score = static_cast<int>(common.CurrentScore);
   const auto [text, meanwhile, tipIsAhead] = plan.endGame;
   if (tipIsAhead) cmdPlay.ToolTipText = "Starts a new game";
   if (meanwhile != WhileAsked::Paused) StopMusic();
@@ -135,7 +140,9 @@ void GameWindow::AskToEndGame(const std::string& question) {
   if (!wasRunning || !ends) return;
   cmdPlay.ToolTipText = "Starts a new game";
   SetPlayCaption("&Play");
+  log.GiveUp(score);
   EndGame();
+  log.End();
   standing.End();
 }
 
@@ -253,6 +260,7 @@ void GameWindow::Form_QueryUnload(bool& cancel) {
     cancel = true;
     return;
   }
+  const int score = static_cast<int>(common.CurrentScore);
   const bool wasPaused = standing.IsPaused();
   const bool clicksPause = plan.whileClosing == WhileClosing::PauseIsClicked ? cmdPause.Enabled.get()
                            : plan.whileClosing == WhileClosing::Paused       ? standing.IsPlaying()
@@ -263,6 +271,7 @@ void GameWindow::Form_QueryUnload(bool& cancel) {
     question = common.MinutesPlayed() < 5 ? "Giving up so soon?"
                                           : "Are you sure you want to quit now? Were just getting started!";
   cancel = !common.Ask(question);
+  if (!cancel) log.Close(score);
   // The game may have come further meanwhile, or to its end.
   if (clicksPause && cancel && standing.InGame() && standing.IsPaused() != wasPaused) Pause();
 }
@@ -275,6 +284,7 @@ void GameWindow::CloseIfWanted() {
 void GameWindow::Form_Unload() {
   MousePointer = kHourglass;
   Timer1.Enabled = false;
+  log.Close();
   SaveSettings();
   common.files.TryAgain();
   standing.End();

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "suite/common.h"
+#include "suite/game_log.h"
 #include "suite/game_plan.h"
 #include "suite/settings.h"
 #include "suite/standing.h"
@@ -39,7 +40,11 @@ class GameWindow : public Form {
 
   Standing standing;
   Integer CurrentRound;
-  Long BonusScore;  // for the bonus round
+  Long BonusScore;                // for the bonus round
+  const Integer* goal = nullptr;  // what is played for, where the player chooses it
+  // The deal of the day that is played here, 0 for none: by the standard settings, which aren't kept.
+  int daily = 0;
+  GameLog log{*this};
   // The game's own values, named in its constructor; those with a field in the order of the dialog's checks.
   std::vector<GameSetting> settings;
 
@@ -239,6 +244,7 @@ class GameWindow : public Form {
   void SetUpMenus();
   void BindEvents();
   void ReadSettingsINI();
+  std::string SettingsText() const;
   bool ApplySetting(std::string_view section, std::string_view value);
   void ApplySize(std::string_view section, int value);
   std::string SettingText(std::string_view section) const;

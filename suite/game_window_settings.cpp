@@ -11,6 +11,14 @@ void GameWindow::ReadSettingsINI() {
   };
   const auto path = common.files.PathOf(plan.names.settingsFile);
   std::string text;
+  if (daily != 0) {
+    ReadSettings(SettingsText(), apply);
+    if (common.files.Read(path, text) == ReadOutcome::Read)
+      ReadSettings(text, [&](std::string_view section, std::string_view value) {
+        return (section == "[Play Sounds]" || section == "[Play Music]") && apply(section, value);
+      });
+    return;
+  }
   const ReadOutcome outcome = common.files.Read(path, text);
   if (outcome == ReadOutcome::Read && ReadSettings(text, apply) > 0) return;
   // The defaults are written, and read like any other settings, so that ticks and labels follow.
@@ -88,10 +96,15 @@ std::string GameWindow::SettingText(std::string_view section) const {
   throw std::logic_error("nobody knows what stands under " + std::string(section));
 }
 
-std::string GameWindow::KeepSettings() {
+std::string GameWindow::SettingsText() const {
   SettingsWriter writer;
   for (const char* section : plan.sections) writer.Add(section, SettingText(section));
-  const std::string text = writer.Text();
+  return writer.Text();
+}
+
+std::string GameWindow::KeepSettings() {
+  const std::string text = SettingsText();
+  if (daily != 0) return text;
   const auto makesSense = [sections = plan.sections](const std::string& old) {
     return Trim(old).empty() || ReadSettings(old, [&](std::string_view line, std::string_view) {
                                   return std::ranges::count(sections, line) > 0;

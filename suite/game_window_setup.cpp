@@ -170,7 +170,10 @@ void GameWindow::SetUpMenus() {
 }
 
 void GameWindow::BindEvents() {
-  Timer1.OnTimer = [this] { Tick(); };
+  Timer1.OnTimer = [this] {
+    if (standing.IsPlaying()) log.Second(common.ElapsedSeconds + 1 == common.TimeLimit);
+    Tick();
+  };
   Timer2.OnTimer = [this] { DrawTimeDial(DialAngle(*this, common.DialSeconds), *this); };
   ClockTimer.OnTimer = [this] { StatusBar1.Panels(3).Text = common.TimeOfDay(); };
   Timer4.OnTimer = [this] { Timer4_Timer(); };

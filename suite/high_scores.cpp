@@ -126,7 +126,9 @@ void UpdateHighScoreTable(const std::string& tableName, GameWindow& window, cons
   // Another copy of the program may enter a score while the player writes: the table is read again then.
   const auto enter = [&window, &common, tableName, defaultScore, score](bool placed) {
     // A score without a place changes nothing that is worth waiting for.
-    if (!placed && common.files.Waits(common.files.PathOf(window.TableFile(tableName)))) return;
+    if (!placed &&
+        (common.deal.Name().repeated || common.files.Waits(common.files.PathOf(window.TableFile(tableName)))))
+      return;
     const std::string name = placed ? common.PlayerName + (common.CustomScoringInUse ? "*" : "") : "";
     common.lastEntry.name = name;
     KeepTable(
@@ -134,7 +136,9 @@ void UpdateHighScoreTable(const std::string& tableName, GameWindow& window, cons
         [entry = HighScore{name, score}](const HighScores& scores) { return WithEntry(scores, entry); },
         defaultScore, false, placed ? FormatHighScores({{name, score}}) : "");
   };
-  const std::optional<size_t> place = PlaceOf(ReadHighScores(window, tableName, defaultScore), score);
+  std::optional<size_t> place = PlaceOf(ReadHighScores(window, tableName, defaultScore), score);
+  if (common.deal.Name().repeated) place.reset();
+  window.log.End(place);
   const bool placed = place.has_value();
   common.lastEntry = {window.TableFile(tableName), "", score, place.value_or(0)};
   if (placed) {

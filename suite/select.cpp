@@ -1,5 +1,7 @@
 #include "suite/select.h"
 
+#include "suite/moments.h"
+
 namespace {
 
 constexpr char kWebSite[] = "https://www.quillmark.example/card-haven";
@@ -61,12 +63,13 @@ void frmSelect::Form_Terminate() {
   platform.End();
 }
 
-void frmSelect::Open(const GameEntry& game) {
+void frmSelect::Open(const GameEntry& game, bool today) {
   common_.AppTitle = game.title;
   MousePointer = kHourglass;
   if (platform.HandlersUnderWay() <= 1) gone_.clear();
   if (window_) gone_.push_back(std::move(window_));
   window_ = game.create(common_);
+  if (today) window_->daily = DealOfTheDay(UtcDay(platform.Now()), game.Name());
   window_->Show();
   MousePointer = kDefaultPointer;
   if (window_->Visible) Hide();  // a saved game that can't be played has closed it again

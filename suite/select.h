@@ -14,7 +14,10 @@ struct GameEntry {
   const char* caption;  // "&Sumfall!"
   const char* title;    // `AppTitle`
   const char* what;     // what it is about, in a sentence
+  // "Sumfall"
+  std::string_view Name() const { return button + 3; }
   std::function<std::unique_ptr<GameWindow>(modCommon&)> create;
+  int rounds = 2;  // before the bonus round
   // The guide to the game's window or to a dialog of its own; null for any other.
   std::unique_ptr<Guide> (*guide)(Form&) = nullptr;
 };
@@ -25,6 +28,8 @@ class frmSelect : public Form {
   void Form_Load() override;
   void Form_Terminate() override;
   const std::vector<GameEntry>& Games() const { return games_; }
+  // Opens a game's window; one for the deal of the day, if that is asked for.
+  void Open(const GameEntry& game, bool today = false);
 
   Frame frmGameChoice{*this, "frmGameChoice"};
   ControlArray<Image, 8> imgSplashImage{frmGameChoice, "imgSplashImage"};
@@ -34,7 +39,6 @@ class frmSelect : public Form {
   Timer Timer1{*this, "Timer1"};
 
  private:
-  void Open(const GameEntry& game);
   void Timer1_Timer();
 
   modCommon& common_;

@@ -3,7 +3,12 @@
 #include <algorithm>
 
 Suite::Suite(Platform& platform, const SuiteOptions& options, std::vector<GameEntry> games)
-    : common(platform, options.AppPath), games_(std::move(games)), selector_(common, games_) {
+    : common(platform, options.AppPath),
+      options_(options),
+      games_(std::move(games)),
+      selector_(common, games_) {
+  common.askedDeal = {options.deal, options.deal != 0};
+  common.complain = options.complain;
   platform.OnFailure = [this](const std::string& description) { Fail(description); };
   platform.OnKeep = [this] {
     if (common.window) common.window->KeepSettings();
@@ -20,14 +25,21 @@ Suite::~Suite() {
 }
 
 void Suite::Start() {
+  common.chanceIsGiven = common.platform.random.Seeded();
   common.platform.Dispatch([this] { selector_.Show(); });
+  const auto game = std::ranges::find(games_, options_.game, &GameEntry::Name);
+  if (game == games_.end()) return;
+  common.platform.Dispatch([&] { selector_.Open(*game, options_.today); });
 }
 
 // What closing the windows would have kept is kept; the round in progress is given up.
 void Suite::Leave() {
   common.files.mustHurry = [] { return true; };
   if (common.EnterWaitingScore) common.EnterWaitingScore();
-  if (common.window) common.window->KeepSettings();
+  if (common.window) {
+    common.window->log.Close();
+    common.window->KeepSettings();
+  }
   common.files.TryAgain();
 }
 

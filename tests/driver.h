@@ -10,7 +10,8 @@
 class Driver {
  public:
   explicit Driver(const std::filesystem::path& folder, const RunOptions& options = {})
-      : console_(options.console, in_, out_), suite_(console_.platform, {folder}, AllGames()) {
+      : console_(options.console, in_, out_),
+        suite_(console_.platform, In(folder, options.suite), AllGames()) {
     console_.platform.random.Seed(options.seed);
     console_.platform.CommandLine = options.savedGame;
     suite_.Start();

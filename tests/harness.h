@@ -65,9 +65,16 @@ class LiveInput : public std::streambuf {
 
 struct RunOptions {
   uint64_t seed = 1;
-  ConsoleOptions console;
-  std::string savedGame;  // the program's command line
+  ConsoleOptions console = {};
+  std::string savedGame = {};  // the program's command line
+  SuiteOptions suite = {};
 };
+
+// What a suite gets that keeps its files in that folder.
+inline SuiteOptions In(const std::filesystem::path& folder, SuiteOptions options = {}) {
+  options.AppPath = folder;
+  return options;
+}
 
 // Plays `commands`, a line each, and returns all that the console writes.
 inline std::string RunConsole(const TestFolder& folder, const std::string& commands,

@@ -20,8 +20,9 @@ MAY = {
     SYSTEM + "/posix": SYSTEM,
     "window/script": MODEL,
     "window/console": MODEL + " window/script",
-    "suite": MODEL,
-    "games": MODEL + " suite",
+    "history": "",
+    "suite": MODEL + " history",
+    "games": MODEL + " suite history",
     # The desktop, from the ground up.
     "window/desktop/painting": MODEL,
     "window/desktop/sound": MODEL,
@@ -59,7 +60,7 @@ def circle(arrows):
 
 def main(root):
     wrong, desktop = [], {}
-    files = [path for folder in ("app", "games", "suite", "window") for path in root.glob(folder + "/**/*.*")]
+    files = [path for folder in ("app", "games", "history", "suite", "window") for path in root.glob(folder + "/**/*.*")]
     for path in (path.relative_to(root) for path in files if path.suffix in (".cpp", ".h")):
         text, own = (root / path).read_text(), layer(path)
         if ONLY_POSIX.search(text) and own != SYSTEM + "/posix":

@@ -20,6 +20,7 @@ struct Extent {
 // A moment of the local calendar.
 struct DateTime {
   int year = 2000, month = 1, day = 1, hour = 0, minute = 0, second = 0;
+  int offset = 0;  // minutes before UTC
 };
 
 enum class Key { Return, Escape };

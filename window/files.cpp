@@ -88,6 +88,11 @@ bool Files::Write(const fs::path& path, const std::string& text) {
   return disk_.Replace(path, text) == WriteOutcome::Written;
 }
 
+bool Files::Append(const fs::path& path, const std::string& line, const Ledger& ledger) {
+  const FolderLock lock = disk_.Lock(disk_.TargetOf(path).parent_path(), patience, mustHurry);
+  return (lock.Held() || Hurries()) && disk_.Append(path, line, ledger, Hurries());
+}
+
 bool Files::HasNotes(const fs::path& path) { return !NotesFor(disk_, path).empty(); }
 
 void Files::Keep(const fs::path& path, FileChange change) {

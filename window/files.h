@@ -51,6 +51,8 @@ class Files {
   ReadOutcome Read(const std::filesystem::path& path, std::string& text);
   // Replaces the file. False if that can't be done.
   bool Write(const std::filesystem::path& path, const std::string& text);
+  // Adds a line to a file of lines, while no other copy of the program does. False if that can't be done.
+  bool Append(const std::filesystem::path& path, const std::string& line, const Ledger& ledger);
   // Whether copies of the program that had no time have left notes, which the next change of the file adds.
   bool HasNotes(const std::filesystem::path& path);
   // Changes a file that the suite keeps by itself, while no other copy of the program does. Where the disk

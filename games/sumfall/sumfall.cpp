@@ -158,6 +158,7 @@ void frmSumfall::Play() {
   bool ready = true;
   if (ReplayPending) {
     for (int i = 1; i <= UpperBound(common.Deck); ++i) common.Deck[i] = Round1Deck.at(i);
+    common.deal.SkipDeck(UpperBound(common.Deck));
   } else {
     ready = CreateSumfallDeck() && common.ShuffleDeck();
   }
@@ -286,6 +287,7 @@ void frmSumfall::InitRound() {
   const CardCodes& stored = RoundDeck(CurrentRound);
   if (ReplayPending && stored.size() > 1 && !stored[1].empty()) {
     common.Deck = stored;
+    common.deal.SkipDeck(UpperBound(common.Deck));
   } else {
     common.ShuffleDeck();
   }
@@ -409,6 +411,7 @@ void frmSumfall::mnuPlay_Click() {
 void frmSumfall::cmdTakeScore_Click(By by) {
   if (standing.CanStart()) {
     ReplayPending = true;
+    if (!common.nextDeal) common.nextDeal = common.deal.Played();
     cmdPlay_Click(By::Button);
   } else if (!standing.InputIsDead()) {
     TakeScore();
@@ -475,6 +478,7 @@ bool frmSumfall::LoadSavedGame(const std::filesystem::path& path) {
     platform.MsgBox(message, title, Icon::Information);
   }
   ReplayPending = true;
+  common.nextDeal = DealName{};  // the cards are those of the file
   ShowSplash(false);
   cmdTakeScore.Caption = "&Replay";
   cmdTakeScore_Click(By::Button);

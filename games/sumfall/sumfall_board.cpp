@@ -108,6 +108,7 @@ void frmSumfall::NameSettings() {
   const auto field = [](const char* box, const char* label, const char* caption, const char* message) {
     return BoundedField(box, label, caption, 1, 5'000'000, message, message);
   };
+  goal = &CardGoal;
   settings = {
       {"bonusRoundScore", &BonusRoundScore, kBonusRoundScore, "", Customises::Yes,
        field("txtBonus", "lblBonus", "Score required for Bonus Round:",

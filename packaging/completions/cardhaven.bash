@@ -9,13 +9,17 @@ _cardhaven() {
       COMPREPLY=($(compgen -d -- "$cur"))
       return
       ;;
-    --seed | --speed | --start | --screen) return ;;
+    --game | --today | --statistics)
+      COMPREPLY=($(compgen -W 'Sumfall Fivestack Blackrush Duopick Spirehold Handgrid Treyshift' -- "$cur"))
+      return
+      ;;
+    --deal | --seed | --speed | --start | --screen) return ;;
   esac
   case $cur in
     -*)
-      options='--folder --seed --start --help --version'
+      options='--folder --game --today --deal --seed --start --help --version'
       case $1 in
-        *cardhaven-console) options="$options --screen" ;;
+        *cardhaven-console) options="$options --screen --history --statistics" ;;
         *) options="$options --console --speed" ;;
       esac
       COMPREPLY=($(compgen -W "$options" -- "$cur"))

@@ -87,6 +87,8 @@ def run(program, script):
     for where, folders, names in os.walk(folder):
         for name in folders + names:
             path = os.path.join(where, name)
+            if name in settings.ignore:
+                continue
             mode = oct(os.lstat(path).st_mode)
             content = b""
             if os.path.isfile(path):
@@ -191,6 +193,7 @@ def main():
     parser.add_argument("--only", type=int, help="only the script of that number, from 0")
     parser.add_argument("--sample", type=int, help="that many scripts a game, spread over all")
     parser.add_argument("--scripts", type=int, default=200, help="scripts a game (200)")
+    parser.add_argument("--ignore", action="append", default=[], help="a file that one of them leaves and isn't compared")
     parser.add_argument("--jobs", type=int, default=2)
     parser.add_argument("--show", type=int, default=10, help="differences to print (10)")
     parser.add_argument("--print", action="store_true", help="print the script's options and commands, and stop")

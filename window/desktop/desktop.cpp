@@ -212,7 +212,13 @@ DateTime DesktopFrontEnd::Now() {
   const QDateTime now = QDateTime::currentDateTime();
   const QDate date = now.date();
   const QTime time = now.time();
-  return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
+  return {date.year(),
+          date.month(),
+          date.day(),
+          time.hour(),
+          time.minute(),
+          time.second(),
+          now.offsetFromUtc() / 60};
 }
 
 Extent DesktopFrontEnd::ScreenExtent() {

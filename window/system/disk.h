@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "window/system/lock.h"
@@ -13,6 +14,12 @@ enum class ReadOutcome {
   Missing,
   Unusable,  // there is something, but no text file of a sane size
   Refused    // it can't be read now, and nobody knows what is in it
+};
+
+// A file that grows by a line at a time: how it begins, and its largest size in bytes.
+struct Ledger {
+  std::string head;
+  size_t largest;
 };
 
 enum class WriteOutcome { Written, NotBeside, NotOver };
@@ -37,6 +44,12 @@ class Disk {
   // the system reaches the disk without us.
   virtual WriteOutcome Replace(const std::filesystem::path& path, const std::string& text,
                                bool hurries = false);
+  // Adds a line, of which nothing stays if that can't be done. One that was cut off before gets its end
+  // first.
+  virtual bool Append(const std::filesystem::path& path, const std::string& line, const Ledger& ledger,
+                      bool hurries = false);
+  // The lines of a ledger in which that text stands; none where it can't be read.
+  virtual std::vector<std::string> LinesWith(const std::filesystem::path& path, std::string_view text);
   // Puts a file that nobody can make sense of aside: it has ".bad" behind its name, or ".bad-2" and so on
   // where older ones lie. A plain file stays, under two names, until the new one is renamed over it.
   virtual bool PutAside(const std::filesystem::path& path);

@@ -19,6 +19,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr off_t kLargestFile = 1 << 20;
+constexpr size_t kLongestLine = 1 << 16;
 constexpr char kTemporary[] = ".new-";
 
 bool WriteAll(int descriptor, const std::string& text, bool hurries) {
@@ -149,6 +150,48 @@ WriteOutcome Disk::Replace(const fs::path& path, const std::string& text, bool h
     if (why != ENOENT) return WriteOutcome::NotOver;  // else somebody has swept it away
   }
   return WriteOutcome::NotBeside;
+}
+
+bool Disk::Append(const fs::path& path, const std::string& line, const Ledger& ledger, bool hurries) {
+  const Descriptor descriptor(Insist([&] {
+    return open(TargetOf(path).c_str(), O_RDWR | O_CREAT | O_APPEND | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC,
+                0644);
+  }));
+  struct stat status = {};
+  if (descriptor < 0 || fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) return false;
+  std::string text = line;
+  if (status.st_size == 0) {
+    text = ledger.head + line;
+  } else {
+    char last = 0;
+    if (Insist([&] { return pread(descriptor, &last, 1, status.st_size - 1); }) != 1) return false;
+    if (last != '\n') text = "\r\n" + line;
+  }
+  if (static_cast<size_t>(status.st_size) + text.size() > ledger.largest) return false;
+  if (WriteAll(descriptor, text, hurries)) return true;
+  Insist([&] { return ftruncate(descriptor, status.st_size); });
+  return false;
+}
+
+std::vector<std::string> Disk::LinesWith(const fs::path& path, std::string_view text) {
+  std::vector<std::string> lines;
+  const Descriptor descriptor(
+      Insist([&] { return open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); }));
+  struct stat status = {};
+  if (descriptor < 0 || fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) return lines;
+  std::string line;
+  char chunk[1 << 16];
+  ssize_t count = 0;
+  while ((count = Insist([&] { return read(descriptor, chunk, sizeof chunk); })) > 0) {
+    std::string_view rest(chunk, static_cast<size_t>(count));
+    for (size_t end = 0; (end = rest.find('\n')) != rest.npos; rest.remove_prefix(end + 1)) {
+      line.append(rest.substr(0, end));
+      if (line.find(text) != line.npos) lines.push_back(line);
+      line.clear();
+    }
+    if (line.size() < kLongestLine) line.append(rest);
+  }
+  return lines;
 }
 
 bool Disk::PutAside(const fs::path& path) {

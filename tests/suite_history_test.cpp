@@ -1,0 +1,142 @@
+// The history and what it amounts to; and what ends of games write there.
+#include <fstream>
+#include <map>
+#include <random>
+
+#include "history/statistics.h"
+#include "tests/driver.h"
+
+namespace {
+
+constexpr char kLine[] =
+    "2026-11-21T12:00:00+01:00,Sumfall,90,11,1,3,-4200,10,250,999999999,given-up,a-1.rec";
+
+std::string Changed(const std::string& from, const std::string& to) {
+  std::string line = kLine;
+  return line.replace(line.find(from), from.size(), to);
+}
+
+std::vector<PlayedGame> HistoryOf(const TestFolder& folder) {
+  return ParseHistory(folder.Read("History.csv"));
+}
+
+}  // namespace
+
+TEST(History, DamagedLinesArePassedOver) {
+  const auto game = ParseGame(kLine);
+  ASSERT_TRUE(game);
+  EXPECT_EQ(FormatGame(*game), kLine);
+  EXPECT_EQ(*ParseGame(std::string(kLine) + "\r"), *game);
+  for (const auto& [from, to] : std::vector<std::pair<std::string, std::string>>{{"2026-", "2026/"},
+                                                                                 {"T12", " 12"},
+                                                                                 {"Sumfall", ""},
+                                                                                 {"Sumfall", "../x"},
+                                                                                 {",90,", ",90 ,"},
+                                                                                 {",90,", ",,"},
+                                                                                 {",11,", ",x,"},
+                                                                                 {",1,3", ",2,3"},
+                                                                                 {"-4200", "-4200.5"},
+                                                                                 {"-4200", "99999999999"},
+                                                                                 {",10,", ",11,"},
+                                                                                 {"999999999", "1000000000"},
+                                                                                 {"given-up", "given up"},
+                                                                                 {"a-1.rec", "a/1.rec"},
+                                                                                 {",a-1.rec", ""},
+                                                                                 {"a-1.rec", "a,b"}})
+    EXPECT_FALSE(ParseGame(Changed(from, to))) << from << " to " << to;
+  const std::string file = std::string(kHistoryHeader) + "\r\n\r\nrubbish\r\n" + kLine + "\r\n2026-11-2";
+  EXPECT_EQ(ParseHistory(file), std::vector<PlayedGame>{*game});
+}
+
+// Against a second reckoning that sorts and counts, on histories as chance has them.
+TEST(Statistics, AgreeWithASecondReckoning) {
+  std::mt19937 chance(11);
+  const auto upTo = [&](int most) { return static_cast<int>(chance() % (most + 1)); };
+  const std::vector<KnownGame> known = {{"Sumfall", 2}, {"Fivestack", 3}};
+  for (int run = 0; run < 5000; ++run) {
+    std::vector<PlayedGame> history(upTo(12));
+    for (PlayedGame& game : history)
+      game = {.game = known[upTo(1)].name,
+              .limit = 30 * (1 + upTo(1)),
+              .custom = upTo(1) == 1,
+              .rounds = 1 + upTo(3),
+              .score = upTo(9) - 4,
+              .seconds = upTo(100),
+              .end = static_cast<GameEnd>(upTo(3))};
+    int games = 0;
+    for (const Statistics& one : Summarise(history, known)) {
+      std::vector<int> scores;
+      int bonus = 0, begun = 0;
+      long long seconds = 0;
+      double sum = 0;
+      for (const PlayedGame& game : history) {
+        if (game.game != one.game || game.limit != one.limit || game.custom != one.custom) continue;
+        ++begun;
+        seconds += game.seconds;
+        bonus += game.rounds >= (game.game == "Sumfall" ? 3 : 4);
+        if (game.end != GameEnd::Played && game.end != GameEnd::Time) continue;
+        scores.push_back(game.score);
+        sum += game.score;
+      }
+      std::ranges::sort(scores);
+      games += begun;
+      EXPECT_EQ(one.games, begun);
+      EXPECT_EQ(one.playedOut, static_cast<int>(scores.size()));
+      EXPECT_EQ(one.bonus, bonus);
+      EXPECT_EQ(one.seconds, seconds);
+      ASSERT_EQ(one.best.has_value(), !scores.empty());
+      if (scores.empty()) continue;
+      const size_t count = scores.size();
+      EXPECT_EQ(*one.best, scores.back());
+      EXPECT_EQ(*one.average, std::lrint(sum / static_cast<double>(count)));
+      EXPECT_EQ(*one.median, std::lrint((scores[(count - 1) / 2] + scores[count / 2]) / 2.0));
+    }
+    EXPECT_EQ(games, static_cast<int>(history.size()));
+  }
+}
+
+TEST(Statistics, AreATableForATerminal) {
+  const std::string line = kLine;
+  std::vector<PlayedGame> games(2, *ParseGame(kLine));
+  games[1].end = GameEnd::Time;
+  games[1].custom = false;
+  games[1].goal.reset();
+  EXPECT_EQ(FormatStatistics(Summarise(games, {{"Sumfall", 2}})),
+            "game     limit  goal  custom  games  played-out   best  average  median  bonus  seconds\n"
+            "Sumfall     90     -       0      1           1  -4200    -4200   -4200      1      250\n"
+            "Sumfall     90    11       1      1           0      -        -       -      1      250\n");
+}
+
+// Each way in which a game ends, in every game.
+TEST(History, EveryGameThatWasBegunHasItsLine) {
+  for (const GameEntry& entry : AllGames()) {
+    const std::string game(entry.Name()), window = "frm" + game, play = "click " + window + ".cmdPlay\n";
+    SCOPED_TRACE(game);
+    TestFolder folder;
+    Driver driver(folder.Path(), {.seed = 5});
+    driver.Do("click frmSelect.cmd" + game + "\n" + play + "advance 4000\nclick " + window +
+              ".cmdPause\nadvance 60000\nclick " + window + ".cmdPause\nadvance 1000");
+    const long long score = driver.common().CurrentScore;
+    driver.Do(play + "answer \"Yes\"\nadvance 10000");
+    driver.Do(play);
+    for (int i = 0; i < 3000 && driver.InGame(); ++i) driver.Do("advance 1000");
+    driver.Do("close frmHiScoreName\nclose frmHighScores\nadvance 9000\n" + play + "advance 1000\nclose " +
+              window + "\nanswer \"Yes\"");
+    const auto games = HistoryOf(folder);
+    ASSERT_EQ(games.size(), 3u);
+    EXPECT_EQ(games[0].end, GameEnd::GivenUp);
+    EXPECT_EQ(games[0].seconds, 5);
+    EXPECT_EQ(games[0].score, score);
+    EXPECT_EQ(games[0].rounds, 1);
+    EXPECT_EQ(games[1].end, GameEnd::Time);
+    EXPECT_EQ(games[1].seconds, 1ll * games[1].rounds * games[1].limit);
+    EXPECT_EQ(games[1].rounds, entry.rounds);
+    EXPECT_EQ(games[2].end, GameEnd::Closed);
+    EXPECT_EQ(games[2].seconds, 1);
+    for (const PlayedGame& each : games) {
+      EXPECT_EQ(each.game, game);
+      EXPECT_EQ(each.goal.has_value(), game == "Sumfall");
+      EXPECT_EQ(each.deal, 0);
+    }
+  }
+}
