@@ -176,27 +176,4 @@ TEST(DuopickBoard, IsStuckWhenNoTurnHelpsEither) {
   EXPECT_FALSE(Dealt().IsStuck());
 }
 
-// Told from the other end: whoever tries everything on a stuck board takes nothing.
-TEST(DuopickBoard, NothingIsTakenOnAStuckBoard) {
-  Chance chance(5);
-  int stuck = 0;
-  for (int round = 0; round < 300; ++round) {
-    Board board = DuopickPlayer::Deal(chance);
-    while (!DuopickPlayer::IsOver(board) && !board.IsStuck())
-      DuopickPlayer::Make(board, DuopickPlayer::Choose(board, chance));
-    if (board.RoundCompleted()) continue;
-    ++stuck;
-    const size_t taken = board.taken.size();
-    for (int turn = 0; turn < 40; ++turn, board.TurnCard())
-      for (int first = 0; first < kCards; ++first)
-        for (int second = 0; second < kCards; ++second) {
-          board.selected = kNone;
-          board.Take(first);
-          board.Take(second);
-        }
-    EXPECT_EQ(board.taken.size(), taken) << PrintBoard(board);
-  }
-  EXPECT_GT(stuck, 100);
-}
-
 TEST(DuopickBoard, KeepsTheLaws) { KeepsTheLaws<DuopickPlayer>(61); }

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "games/duopick/duopick.h"
+#include "tests/game_test.h"
 #include "tests/sumfall_cards.h"
 
 inline frmDuopick& DuopickOf(Driver& driver) { return static_cast<frmDuopick&>(*driver.common().window); }
@@ -61,5 +62,3 @@ inline const std::string kOpenDuopick = "click frmSelect.cmdDuopick\n";
 inline const std::string kPlayDuopick = "click frmDuopick.cmdPlay\n";
 inline const std::string kTurnCard = "click frmDuopick.CardStackPicture\n";
 inline const std::string kTakeScoreDuopick = "click frmDuopick.cmdTakeScore\n";
-inline const std::string kEnterName =
-    "type frmHiScoreName.lblPlayerName \"Ann\"\nclick frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone\n";

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "games/handgrid/handgrid.h"
+#include "tests/game_test.h"
 #include "tests/sumfall_cards.h"
 
 inline frmHandgrid& HandgridOf(Driver& driver) { return static_cast<frmHandgrid&>(*driver.common().window); }
@@ -51,8 +52,6 @@ inline const std::string kOpenHandgrid = "click frmSelect.cmdHandgrid\n";
 inline const std::string kPlayHandgrid = "click frmHandgrid.cmdPlay\n";
 inline const std::string kFillGrid = ClickCells(0, 24);
 inline const std::string kRelease = "advance 250\n";  // the selector's tick opens the board again
-inline const std::string kEnterName =
-    "type frmHiScoreName.lblPlayerName \"Ann\"\nclick frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone\n";
 
 // Opens Handgrid and starts a game with these cards.
 inline void StartHandgrid(Driver& driver, const CardNames& cards) {

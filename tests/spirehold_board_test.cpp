@@ -135,34 +135,8 @@ TEST(SpireholdBoard, ATowerFallsWithItsTopmostCard) {
   EXPECT_EQ(board.TowersCompleted(), kTowers);
 }
 
-TEST(SpireholdBoard, IsStuckWhenNoCardOfTheStackHelpsEither) {
-  using Codes = std::vector<std::string>;
-  const struct {
-    std::string lies, covered, up;
-    Codes stack;
-    bool stuck;
-  } cases[] = {
-      {"7S", "3S", "8D", {}, false},
-      {"7S", "3S", "9D", {}, true},
-      {"7S", "3S", "2D", {}, true},  // the three is covered
-      {"7S", "3S", "9D", {"10H", "6D"}, false},
-      {"7S", "3S", "9D", {"10H", "2D"}, true},
-      {"1S", "3S", "2D", {}, false},
-      {"1S", "3S", "", {}, true},
-  };
-  for (const auto& each : cases) {
-    Board board;
-    board.table[20] = each.lies;
-    board.table[11] = each.covered;
-    board.pile = {each.up};
-    board.stack = each.stack;
-    EXPECT_EQ(board.IsStuck(), each.stuck) << PrintBoard(board);
-  }
-  EXPECT_FALSE(Dealt().IsStuck());
-}
-
-// Told from the other end: whoever turns all the stack on a stuck board and tries every card takes none; on
-// any other board a card is taken.
+// Whoever turns all the stack on a stuck board and tries every card takes none; on any other board a card is
+// taken.
 TEST(SpireholdBoard, OnAStuckBoardAloneNothingIsTaken) {
   Chance chance(7);
   int stuck = 0;

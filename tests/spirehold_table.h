@@ -5,6 +5,7 @@
 #include <set>
 
 #include "games/spirehold/spirehold.h"
+#include "tests/game_test.h"
 #include "tests/sumfall_cards.h"
 
 inline frmSpirehold& SpireholdOf(Driver& driver) {
@@ -51,8 +52,6 @@ inline const std::string kOpenSpirehold = "click frmSelect.cmdSpirehold\n";
 inline const std::string kPlaySpirehold = "click frmSpirehold.cmdPlay\n";
 inline const std::string kTurn = "click frmSpirehold.CardStackPicture\n";
 inline const std::string kTake = "click frmSpirehold.cmdTakeScore\n";
-inline const std::string kEnterName =
-    "type frmHiScoreName.lblPlayerName \"Ann\"\nclick frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone\n";
 
 // Opens Spirehold and starts a game with these cards.
 inline void StartSpirehold(Driver& driver, const std::map<int, std::string>& cards) {

@@ -281,6 +281,51 @@ TEST_P(EveryGame, AFailureInPlayEndsTheGameAndNotTheProgram) {
   EXPECT_TRUE(Game().standing.IsPlaying());
 }
 
+// "" where the program goes on: there is no game yet that could be lost.
+TEST_P(EveryGame, AnErrorOnTheWayIntoAGameIsToldAndEndsTheProgram) {
+  for (int picture = 13; picture <= kLastFace; ++picture) driver.common().ImageList2.SetKey(picture, "");
+  const std::string said = driver.Do(Play() + "answer \"OK\"\n");
+  const bool ends = Plan().playFailure.has_value();
+  EXPECT_EQ(BoxesOf(said).at(0), ends ? "Element not found" : "Unable to deal the cards.");
+  EXPECT_EQ(said.ends_with("* end \"Element not found\"\n"), ends) << said;
+}
+
+// In all games but one a score that equals it is enough.
+TEST_P(EveryGame, TheBonusRoundIsEarnedByTheScoreAlone) {
+  const auto named = [](const GameSetting& setting) {
+    return setting.name == std::string("bonusScore") || setting.name == std::string("bonusRoundScore");
+  };
+  const long long needed =
+      std::ranges::find_if(Game().settings, named)->Number() + (GetParam() == "cmdBlackrush");
+  const std::string out = "advance " + std::to_string(driver.common().TimeLimit * 1000) + "\nadvance 2000\n";
+  for (const long long score : {needed - 1, needed}) {
+    driver.Do(Play());
+    while (Game().CurrentRound < Plan().rounds) driver.Do(out);
+    driver.common().CurrentScore = score;
+    driver.Do(out + (score < needed ? "close frmHiScoreName\nclose frmHighScores\n" : ""));
+    EXPECT_EQ(driver.InGame(), score == needed) << score;
+  }
+  driver.Do(out + "close frmHiScoreName\nclose frmHighScores\n");
+  EXPECT_FALSE(driver.InGame()) << "there is no other";
+}
+
+// In most games the clock runs on under the question, which is answered behind the table then.
+TEST_P(EveryGame, ClosingStopsTheClockOrTheGameMayEndUnderTheQuestion) {
+  const bool stops = GetParam() == "cmdSumfall" || GetParam() == "cmdFivestack";
+  const std::string ask = "close " + Window() + "\nadvance ", no = "\nanswer \"No\"\n";
+  driver.Do(Play() + ask + "5000" + no);
+  EXPECT_EQ(driver.common().ElapsedSeconds, stops ? 0 : 5);
+  if (stops) return;
+  Game().CurrentRound = Plan().rounds;
+  driver.common().CurrentScore = Plan().rounds == 2 ? 35000 : 60000;
+  const std::string limit = std::to_string(driver.common().TimeLimit * 1000);
+  const std::string said =
+      driver.Do(ask + limit + "\nadvance 2000\nclick frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone" + no);
+  EXPECT_FALSE(driver.InGame()) << said;
+  EXPECT_EQ(Game().cmdPlay.Caption, "&Play");
+  EXPECT_TRUE(Shown(Game()));
+}
+
 TEST_P(EveryGame, NothingTicksWhileAFullDiskIsTold) {
   driver.Do(Play() + "advance 1000");
   std::filesystem::remove_all(folder.Path());

@@ -53,21 +53,6 @@ TEST_F(Sumfall, DealsTheDeckAsItLies) {
   EXPECT_EQ(Joined(LinesOf(said, "* set frmSumfall.MousePointer ")), "11|0");
 }
 
-TEST_F(Sumfall, SelectsDeselectsAndRefuses) {
-  auto cards = ElevenPairs();
-  std::swap(cards[20], cards[13]);  // 9C at the bottom, beside 8C
-  std::swap(cards[7], cards[6]);    // an ace at place 7
-  Deal(cards);
-  EXPECT_EQ(Played(ClickField(0)), "Chord 0 0") << "covered";
-  EXPECT_EQ(Played(ClickField(20)), "Markq 9 0");
-  EXPECT_EQ(Played(ClickField(21)), "Chord 9 0") << "17 is too much";
-  EXPECT_FALSE(game().FieldSelectionRectangle(21).Visible);
-  EXPECT_EQ(Played(ClickField(7)), "Markq 10 0") << "place 7 is free from the start";
-  EXPECT_EQ(Played(ClickField(20)), "Tick 1 0");
-  EXPECT_EQ(Played(ClickField(7) + ClickField(16)), "Tick Chord 0 0");
-  EXPECT_FALSE(game().FieldSelectionRectangle(7).Visible);
-}
-
 TEST_F(Sumfall, CombinationsPayByTierAtOnce) {
   auto cards = ElevenPairs();
   std::swap(cards[7], cards[13]);  // 9C at place 7
@@ -102,19 +87,6 @@ TEST_F(Sumfall, FlipsCostMoreWhenTheFieldTakesTheCard) {
   EXPECT_TRUE(game().FieldCardPicture(20).Visible && !game().FieldCardPicture(21).Visible);
 }
 
-TEST_F(Sumfall, AnUpCardThatIsUsedUpIsReplacedForNothing) {
-  auto cards = ElevenPairs();
-  cards.push_back("3D");
-  Deal(cards);
-  const std::string next = game().board.stock.back();
-  EXPECT_EQ(Played(ClickField(21) + kUp), "Markq Markq TwentyOne 0 300")
-      << "200 and 100; the flip is free and silent";
-  EXPECT_EQ(game().board.upCards.back(), next);
-  EXPECT_EQ(game().UpCardPicture.Picture, common().ImageList2(CardKey(next)));
-  EXPECT_EQ(Text("lblCardCount.Caption"), "Cards: 29");
-  EXPECT_FALSE(game().FieldCardPicture(21).Visible) << "nothing falls back";
-}
-
 TEST_F(Sumfall, EmptyPilesRefuse) {
   Deal(ElevenPairs());
   std::string pictures;
@@ -128,20 +100,6 @@ TEST_F(Sumfall, EmptyPilesRefuse) {
   EXPECT_EQ(Played(kFlip), "Chord 0 -3,000");
   game().board.upCards.clear();
   EXPECT_EQ(Played(kUp), "Chord 0 -3,000");
-}
-
-TEST_F(Sumfall, AFullUpPileTakesNoMore) {
-  for (const char* goal : {"mnu14", "mnu15"}) {
-    driver.Do("click frmSumfall." + std::string(goal));
-    Deal({});
-    for (int n = 0; n < 30; ++n) driver.Do(kFlip);
-    EXPECT_EQ(Text("lblCardCount.Caption"), "Cards: 12");
-    EXPECT_EQ(Played(kFlip), "Chord 0 -3,000");
-    EXPECT_EQ(Text("lblCardCount.Caption"), "Cards: 12");
-    game().board.field[20].clear();
-    EXPECT_EQ(Played(kFlip), "Markq 0 -3,200") << "the field takes the top card";
-    driver.Do("click frmSumfall.cmdPlay\nanswer \"Yes\"");
-  }
 }
 
 TEST_F(Sumfall, ASelectionAtTheTopSurvivesAPause) {
@@ -245,45 +203,6 @@ TEST_F(Sumfall, WithoutCountingDownTheSumsComeAtOnce) {
                 Sleeps(11, 250) + "\"\"\npointer 0\n");
 }
 
-TEST_F(Sumfall, ABonusThatTenDoesntDivideLosesItsRest) {
-  game().CompletionBonus = 9;
-  game().CombinationBonus = 1;
-  common().TimeBonus = 1;
-  Deal(ElevenPairs());
-  driver.Do(ClearElevenPairs());
-  EXPECT_EQ(common().CurrentScore, 9600 + 0 + 11 + 90);
-}
-
-TEST_F(Sumfall, WhenTimeIsUpTheRoundBlinksAndPaysNoSpeedBonus) {
-  Deal(ElevenPairs());
-  driver.Do("click frmSumfall.mnuMusic\nadvance 89999");
-  const std::string said = driver.Trace("advance 1");
-  EXPECT_EQ(Story(said), "pointer 11\n\"Times Up!\"\n" + Sleeps(10, 250) +
-                             "\"close HarbekMidi\"\ndoevents\n\"Prepare for Round Two!\"\n" +
-                             Sleeps(11, 250) +
-                             "\"\"\npointer 0\n\"open \\\"\\\\Quillmark.MID\\\" type sequencer alias "
-                             "HarbekMidi\"\n\"play HarbekMidi\"\n");
-  EXPECT_EQ(Joined(LinesOf(said, "* set frmSumfall.lblMessage.ForeColor "), ""),
-            "02550255025502550255025502550255025502550255")
-      << "ten blinks, eleven blinks, red at the end";
-  EXPECT_TRUE(Contains(said, "* set frmSumfall.StatusBar1.Panels(2).Text \"Time has expired!\""));
-  EXPECT_EQ(Text("cmdPlay.Enabled") + Text("cmdExit.Enabled") + Text("cmdPause.Enabled"), "truetruetrue");
-  driver.Do("advance 1000");
-  EXPECT_EQ(Text("lblTime.Caption"), "Time: 89");
-}
-
-TEST_F(Sumfall, MusicRestartsAfterTheButtonAndAClearedFieldNotAfterTheMenu) {
-  driver.Do("click frmSumfall.mnuMusic");
-  const std::string clear = ClearElevenPairs(), menu = "click frmSumfall.mnuTakeScore\n";
-  const std::pair<std::string, size_t> rows[] = {{kTakeScore, 3}, {clear, 3}, {menu, 1}};
-  for (const auto& [ending, commands] : rows) {
-    Deal(ElevenPairs());
-    EXPECT_EQ(LinesOf(driver.Trace(ending), "* mci ").size(), commands) << ending;
-    EXPECT_EQ(Text("lblCurrentRound.Caption"), "2");
-    driver.Do("click frmSumfall.cmdPlay\nanswer \"Yes\"");
-  }
-}
-
 TEST_F(Sumfall, TheBonusRoundNeedsTheWholeScore) {
   for (int score : {79999, 80000}) {
     driver.Do("click frmSumfall.mnuMusic\n" + kPlay);
@@ -312,26 +231,6 @@ TEST_F(Sumfall, TheBonusRoundNeedsTheWholeScore) {
     EXPECT_TRUE(
         Contains(folder.Read("HiScores90_11.Txt"), "Unknown User, 509000\r\nUnknown User, 79999\r\n"));
   }
-}
-
-TEST_F(Sumfall, AfterTheGameTheSplashReturns) {
-  const std::string story = Story((driver.Do("trace on"), FinishWith(driver, 100, "")));
-  driver.Do("trace off");
-  EXPECT_TRUE(Contains(story, "\"Game Over\"\nsleep 2000\npointer 0\n"));
-  EXPECT_EQ(Text("StatusBar1.Panels(2).Text"), "Game over");
-  for (const char* enabled : {"cmdExit", "cmdPlay", "cmdTakeScore", "mnuTakeScore", "mnuExit", "mnuPlay",
-                              "mnuTime", "mnuGoal", "mnuScoring", "mnuSave", "mnuOpen"})
-    EXPECT_EQ(Text(std::string(enabled) + ".Enabled"), "true") << enabled;
-  EXPECT_EQ(Text("cmdPause.Enabled") + Text("mnuPause.Enabled") + Text("Timer1.Enabled"), "falsefalsefalse");
-  EXPECT_EQ(Text("cmdPlay.Caption") + Text("cmdTakeScore.Caption") + Text("mnuTakeScore.Caption"),
-            "&Play&Replay&Replay");
-  EXPECT_EQ(Text("cmdPlay.ToolTipText") + Text("cmdTakeScore.ToolTipText"),
-            "Starts a new gameReplays the last game");
-  EXPECT_EQ(Text("lblMessage.Caption") + Text("lblMessage.Visible") + Text("lblMessage.ForeColor"),
-            "Game Overfalse255");
-  EXPECT_EQ(Text("frmSplash.Visible") + Text("Timer4.Enabled") + Text("CardTotalRectangle.Visible"),
-            "truetruetrue");
-  EXPECT_EQ(Text("lblCurrentScore.ForeColor"), std::to_string(0xFF0000));
 }
 
 TEST_F(Sumfall, AReplayIsCardForCard) {

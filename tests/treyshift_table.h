@@ -2,6 +2,7 @@
 #pragma once
 
 #include "games/treyshift/treyshift.h"
+#include "tests/game_test.h"
 #include "tests/sumfall_cards.h"
 
 inline frmTreyshift& TreyshiftOf(Driver& driver) {
@@ -12,8 +13,6 @@ inline const std::string kOpenTreyshift = "click frmSelect.cmdTreyshift\n";
 inline const std::string kPlayTreyshift = "click frmTreyshift.cmdPlay\n";
 inline const std::string kTakeTreyshift = "click frmTreyshift.cmdTakeScore\n";
 inline const std::string kUp = "click frmTreyshift.UpCard(2)\n";
-inline const std::string kName =
-    "type frmHiScoreName.lblPlayerName \"Ann\"\nclick frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone\n";
 
 inline std::string Column(int column) {
   return "click frmTreyshift.PlayCard(" + std::to_string(column) + ")\n";
