@@ -51,23 +51,4 @@ TEST(Differences, TellTheLikeOnceAndAllInAFewLines) {
   EXPECT_GT(std::ranges::count(Differences(script, before, now, 10000), '\n'), 400);
 }
 
-TEST(Differences, FindAPlaceInALongLine) {
-  const std::string start = "ok\n* msgbox " + std::string(500, 'a');
-  const std::string told =
-      Differences("click a", start + "old" + std::string(500, 'b'), start + "new" + std::string(500, 'b'));
-  EXPECT_LT(told.size(), 500u);
-  EXPECT_TRUE(Contains(told, "aaaoldbbb") && Contains(told, "aaanewbbb")) << told;
-}
-
-TEST(Differences, SeeWhereARunEndsAndWhatAScriptHasGained) {
-  const std::string crashed = kBefore.substr(0, kBefore.find("ok 7")) + "* end \"Overflow\"\n";
-  EXPECT_EQ(Differences(kScript, kBefore, crashed),
-            "4 steps of 6 differ\n  step 2, get b\n    - ok 7\n    + * end \"Overflow\"\n"
-            "  step 3, advance 10, to step 5, click c: gone\n    - * set a 2\n    - ok\n"
-            "    - ok {\"b\":{\"Left\":3},\"c\":1}\n    - * end\n");
-  EXPECT_EQ(
-      Differences(Changed(kScript, "get b", "get b\nget x"), kBefore, Changed(kBefore, "ok 7", "ok 7\nok 8")),
-      "1 step of 7 differs\n  step 3, get x: new\n    + ok 8\n");
-}
-
 }  // namespace

@@ -66,7 +66,7 @@ TEST_F(Treyshift, KeepsItsSettings) {
 
 // The place below a card that is picked up goes with it, and comes back with it.
 TEST_F(Treyshift, APlaceTakesClicksBelowACardAlone) {
-  StartTreyshift(driver, {"1S", "8H"});
+  StartTreyshift(driver, {"1S", "8H", "6C"});
   EXPECT_EQ(Heard(Lay(0) + Column(0)), "Click x3");
   EXPECT_EQ(Clickable() + " " + Marked(), "0 1 2 3 PlayCardSelection(0)");
   EXPECT_EQ(Heard(Column(3) + Lay(3)), "Click x3");
