@@ -23,6 +23,10 @@ TABLE, INI, SAVED = "HiScores90_11.Txt", "Sumfall.Ini", "mine.sfl"
 NOTE, LATE = "HiScores90_11.late-0123456789abcdef.Txt", "Late, 100\r\n\r\n"
 FRESH = "Quillmark, 50000\r\n" * 10 + "\r\n"
 LOW = "".join(f"P{n}, {n}\r\n" for n in range(10, 0, -1)) + "\r\n"  # any score has a place in it
+# The games played before; the last line was cut off.
+HISTORY = "History.csv"
+PLAYED = "ended,game,limit,goal,custom,rounds,score,place,seconds,deal,end,record\r\n" + \
+    "2026-11-21T12:00:00+00:00,Duopick,45,,0,2,4000,0,50,0,time,\r\n2026-11-21T12:0"
 OPEN = ["click frmSelect.cmdSumfall"]
 # A box, where one stands, is answered; elsewhere the line is refused.
 OK = ['answer "OK"'] * 3
@@ -43,6 +47,7 @@ SCENARIOS = {
     "damaged settings": ({INI: "rubbish", TABLE: LOW}, OPEN + OK + CLOSE),
     "saved game": ({TABLE: LOW, SAVED: "[Card Goal]\r\n11\r\n"}, OPEN + OK + GAME + ENTER + OK + SAVE + REOPEN + CLOSE),
     "late note": ({TABLE: LOW, NOTE: LATE}, OPEN + OK + GAME + ENTER + CLOSE),
+    "history": ({TABLE: LOW, HISTORY: PLAYED}, OPEN + OK + GAME + ENTER + CLOSE),
     "two copies": ({TABLE: LOW}, OPEN + OK + GAME + ENTER + CLOSE),
 }
 # What "saved game" writes where nothing stands against it.
@@ -137,11 +142,18 @@ def stuck_notes(options):
             yield from late_findings(folder)
 
 
+def games(folder):
+    """The whole lines of Sumfall in the history."""
+    lines = (read(folder, HISTORY) or "").split("\r\n")
+    return [line for line in lines[:-1] if line.count(",") == 11 and ",Sumfall," in line]
+
+
 def findings(options, folder, scenario, kind, ran, beside):
     files, lines = SCENARIOS[scenario]
     if beside:
         yield beside
-    killed = kind.startswith("kill")
+    # How many calls two copies make depends on who comes first: a late call may not be made at all.
+    killed = kind.startswith("kill") and not (scenario == "two copies" and ran.returncode == 0)
     if ran.returncode != (-9 if killed else 0):
         yield f"ended with {ran.returncode}: {ran.stderr[-300:]}"
     boxes = [line for line in ran.stdout.split("\n") if line.startswith("* msgbox")]
@@ -168,6 +180,12 @@ def findings(options, folder, scenario, kind, ran, beside):
         yield f"the other copy's score is there {names.count('You')} times"
     if names.count("Late") > 1:
         yield f"the late score is there {names.count('Late')} times"
+    if not (read(folder, HISTORY) or "").startswith(files.get(HISTORY, "")):
+        yield f"the history has lost lines: {read(folder, HISTORY)!r}"
+    # A saved game that is opened is one more.
+    played = len(games(folder)) - (scenario == "two copies") - (SAVED in files and len(games(folder)) == 2)
+    if "click frmHiScoreName.cmdOK" in lines and not killed and played != 1 and "game's line" not in ran.stderr:
+        yield f"the history has {played} lines of the game, and nobody was told"
     for name, text in files.items():
         new = read(folder, name)
         beside = [read(folder, each) for each in os.listdir(folder) if each.startswith(name + ".bad")]
@@ -235,6 +253,8 @@ def copies(options, number, each):
         expected = min(10, number * each)
         if len(names) < expected:
             wrong.append(f"{number} copies on a slow disk kept {len(names)} of {expected} entries: {names}")
+        if len(games(folder)) != number * each:
+            wrong.append(f"the history has {len(games(folder))} lines of {number * each}")
         return wrong
 
 
