@@ -123,7 +123,7 @@ TEST_F(Duopick, TimeRunsOutOnAHalfMadePair) {
 }
 
 TEST_F(Duopick, TwoCardsThatDontMatchAreBothPutBack) {
-  Start(LayDuopick({{18, "13S"}, {19, "1H"}, {20, "2C"}, {21, "12D"}, {22, "7H"}, {23, "8S"}}));
+  Start(LayCards({{18, "13S"}, {19, "1H"}, {20, "2C"}, {21, "12D"}, {22, "7H"}, {23, "8S"}}));
   const struct {
     Cards cards;
     const char* heard;
@@ -153,7 +153,7 @@ TEST_F(Duopick, TwoCardsThatDontMatchAreBothPutBack) {
 }
 
 TEST_F(Duopick, TheUpCardGivesWayToTheOneBeneath) {
-  Start(LayDuopick({{18, "7S"}, {19, "8H"}, {20, "5C"}, {23, "7H"}, {24, "9C"}}));
+  Start(LayCards({{18, "7S"}, {19, "8H"}, {20, "5C"}, {23, "7H"}, {24, "9C"}}));
   EXPECT_EQ(Tell(kTurnCard), "Click");
   EXPECT_EQ(Face(23) + " " + Game().lblCards.Caption.get(), "9C 27");
   EXPECT_EQ(Tell(Click({23, 19})), "Markq, TwentyOne");  // a run; the seven was beneath
@@ -172,25 +172,8 @@ TEST_F(Duopick, TheUpCardGivesWayToTheOneBeneath) {
   EXPECT_EQ(Counts(), "1 1 1");
 }
 
-TEST_F(Duopick, TurningACardFillsTheFirstGapAndDropsTheSelection) {
-  Start(LayTwelvePairs());
-  driver.Do(ClickTwoByTwo(0, 4) + ClickTwoByTwo(6, 8) + Click({22}));
-  EXPECT_TRUE(Game().board.CheckForLegalMove(9));
-  const std::string upCard = Face(23);
-  EXPECT_EQ(Tell(kTurnCard), "Click");
-  EXPECT_EQ(Gaps(), Cards({15, 18, 19, 20, 21}));
-  EXPECT_EQ(Face(14), upCard);
-  EXPECT_FALSE(Game().board.CheckForLegalMove(9)) << "covered again";
-  EXPECT_FALSE(Outlined(22));
-  EXPECT_TRUE(Game().PlayCard(22).Enabled && Game().PlayCard(14).Enabled);
-  // The card that came back plays like any other.
-  Game().board.field[16] = Game().board.field[14];
-  driver.Do(Click({16, 14}));
-  EXPECT_EQ(Gaps(), Cards({14, 15, 16, 18, 19, 20, 21}));
-}
-
 TEST_F(Duopick, TheStackEndsAndThenGivesAnUpCardOfNoRank) {
-  Start(LayDuopick({{18, "1S"}, {19, "1H"}, {20, "2C"}, {51, "9D"}}));
+  Start(LayCards({{18, "1S"}, {19, "1H"}, {20, "2C"}, {51, "9D"}}));
   for (int turn = 1; turn <= 33; ++turn) {
     EXPECT_EQ(Tell(kTurnCard), turn <= 28 ? "Click" : "Click, Chord");
     EXPECT_EQ(Game().lblCards.Caption, std::to_string(std::max(0, 28 - turn)));

@@ -1,8 +1,6 @@
 // Lays known cards for Duopick.
 #pragma once
 
-#include <map>
-
 #include "games/duopick/duopick.h"
 #include "tests/game_test.h"
 #include "tests/sumfall_cards.h"
@@ -30,22 +28,6 @@ inline std::string LayTwelvePairs() {
   for (int rank = 1; rank <= 12; ++rank)
     for (const char* suit : {"S", "H"}) cards.push_back(std::to_string(rank) + suit);
   return LayTwoByTwo(cards);
-}
-// The command that makes the next deal lay those cards at those indices (0 to 51), and any others elsewhere.
-inline std::string LayDuopick(const std::map<int, std::string>& wanted) {
-  CardCodes rest;
-  for (const std::string& code : StandardDeck()) {
-    const std::string key(CardKey(code));
-    const bool taken = std::ranges::any_of(wanted, [&](const auto& each) { return each.second == key; });
-    if (!key.empty() && !taken) rest.push_back(key);
-  }
-  std::vector<std::string> cards;
-  for (int i = 0; i < 52; ++i) {
-    const auto found = wanted.find(i);
-    cards.push_back(found == wanted.end() ? rest[i - std::distance(wanted.begin(), wanted.lower_bound(i))]
-                                          : found->second);
-  }
-  return DrawsFor(StandardDeck(), cards);
 }
 
 inline std::string Click(const std::vector<int>& cards) {

@@ -244,18 +244,6 @@ TEST_F(Spirehold, EndGameOffersTheScore) {
   EXPECT_FALSE(Is("lblTower3.Visible"));
 }
 
-TEST_F(Spirehold, EachRoundStartsTheMusicOnce) {
-  driver.Do(kOpenSpirehold + "click frmSpirehold.mnuMusic");
-  EXPECT_EQ(Tell(kPlaySpirehold), "open, music");
-  driver.Do("advance 44000");
-  EXPECT_EQ(Tell("advance 1000"),
-            "\"Times Up!\", 250 x10, silence, \"Prepare for Round Two!\", 250 x11, \"\", open, music");
-  driver.Do("click frmSpirehold.mnuSounds");
-  EXPECT_EQ(Tell(kTurn + kTake),
-            "silence, \"Sorry, you must complete at least\\r\\none tower to receive the time bonus!\", 3000, "
-            "\"Game Over\", 2000");
-}
-
 TEST_F(Spirehold, ClearHighRun) {
   folder.Write("Spirehold.Ini", "[Hi Run]\r\n9\r\n\r\n[Card Bonus]\r\n40000\r\n\r\n[Time]\r\n31\r\n\r\n");
   driver.Do(kOpenSpirehold);

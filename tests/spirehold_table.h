@@ -1,34 +1,12 @@
 // Lays known cards for Spirehold.
 #pragma once
 
-#include <map>
-#include <set>
-
 #include "games/spirehold/spirehold.h"
 #include "tests/game_test.h"
 #include "tests/sumfall_cards.h"
 
 inline frmSpirehold& SpireholdOf(Driver& driver) {
   return static_cast<frmSpirehold&>(*driver.common().window);
-}
-
-// The command that makes the next deal lay those cards at those indices (0 to 51), and any others elsewhere.
-inline std::string LayCards(const std::map<int, std::string>& wanted) {
-  const CardCodes deck = StandardDeck();
-  std::set<std::string> taken;
-  for (const auto& [index, code] : wanted) taken.insert(code);
-  std::vector<std::string> cards;
-  size_t next = 1;
-  for (int i = 0; i < 52; ++i) {
-    const auto found = wanted.find(i);
-    if (found != wanted.end()) {
-      cards.push_back(found->second);
-      continue;
-    }
-    while (taken.contains(std::string(CardKey(deck[next])))) ++next;
-    cards.emplace_back(CardKey(deck[next++]));
-  }
-  return DrawsFor(deck, cards);
 }
 
 // A table that goes in one run, from the last card to the first: ace, two, ... king, ace, ... The up card is

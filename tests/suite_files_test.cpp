@@ -6,27 +6,16 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
+#include "tests/game_test.h"
 #include "tests/sumfall_cards.h"
 
 namespace {
 
 const std::string kIni = "Sumfall.Ini";
 
-std::string IniText(const std::vector<std::pair<std::string, std::string>>& sections) {
-  std::string text;
-  for (const auto& [name, value] : sections) text += "[" + name + "]\r\n" + value + "\r\n\r\n";
-  return text;
-}
-const std::string kDefaults = IniText({{"Color", "1"},
-                                       {"Play Music", "False"},
-                                       {"Time", "90"},
-                                       {"DrawTimer", "True"},
-                                       {"Play Sounds", "True"},
-                                       {"CardGoal", "11"},
-                                       {"State", "0"},
-                                       {"Width", "9540"},
-                                       {"Height", "7200"},
-                                       {"Deck", "1"}});
+const std::string kDefaults = Settings(
+    "Color 1|Play Music False|Time 90|DrawTimer True|Play Sounds True|CardGoal 11|State 0|Width 9540|Height 7200|"
+    "Deck 1");
 const std::string kClose = "close frmSumfall\nanswer \"Yes\"\n";
 
 TEST(Settings, AMissingFileIsMadeWithTheDefaults) {
@@ -41,16 +30,9 @@ TEST(Settings, AMissingFileIsMadeWithTheDefaults) {
 
 TEST(Settings, AreAppliedAsTheMenusWouldAndWrittenBack) {
   TestFolder folder;
-  const std::string text = IniText({{"Color", "4"},
-                                    {"Play Music", "True"},
-                                    {"Time", "150"},
-                                    {"DrawTimer", "False"},
-                                    {"Play Sounds", "False"},
-                                    {"CardGoal", "14"},
-                                    {"State", "0"},
-                                    {"Width", "12000"},
-                                    {"Height", "9000"},
-                                    {"Deck", "3"}});
+  const std::string text = Settings(
+      "Color 4|Play Music True|Time 150|DrawTimer False|Play Sounds False|CardGoal 14|State 0|Width 12000|"
+      "Height 9000|Deck 3");
   folder.Write(kIni, text);
   Driver driver(folder.Path());
   driver.Do(kOpenSumfall);
@@ -96,8 +78,8 @@ TEST(Settings, AValueThatMatchesNothingChangesNothing) {
   };
   for (const auto& row : rows) {
     TestFolder folder;
-    folder.Write(
-        kIni, "; a line that nobody knows\r\n" + IniText({{row.section, row.value}}) + "[Unknown]\r\n12\r\n");
+    folder.Write(kIni, "; a line that nobody knows\r\n" +
+                           Settings(std::string(row.section) + " " + row.value) + "[Unknown]\r\n12\r\n");
     Driver driver(folder.Path());
     EXPECT_TRUE(BoxesOf(driver.Do(kOpenSumfall)).empty());
     EXPECT_EQ(driver.Text("frmSumfall." + std::string(row.property)), row.expected)
@@ -108,22 +90,22 @@ TEST(Settings, AValueThatMatchesNothingChangesNothing) {
 
 TEST(Settings, TheOrderOfTheFileMatters) {
   const struct {
-    std::vector<std::pair<std::string, std::string>> sections;
+    const char* settings;
     int width, height;
   } rows[] = {
-      {{{"State", "2"}, {"Width", "10000"}, {"Height", "8000"}}, 15360, 11520},
-      {{{"Width", "10000"}, {"Height", "8000"}, {"State", "2"}}, 15360, 11520},
-      {{{"State", "0"}, {"Width", "10000"}, {"Height", "8000"}}, 10000, 8000},
-      {{{"Width", "12000"}, {"Height", "3000"}}, 9540, 7200},  // the resize event sets both
-      {{{"Height", "3000"}, {"Width", "12000"}}, 12000, 7200},
+      {"State 2|Width 10000|Height 8000", 15360, 11520},
+      {"Width 10000|Height 8000|State 2", 15360, 11520},
+      {"State 0|Width 10000|Height 8000", 10000, 8000},
+      {"Width 12000|Height 3000", 9540, 7200},  // the resize event sets both
+      {"Height 3000|Width 12000", 12000, 7200},
   };
   for (const auto& row : rows) {
     TestFolder folder;
-    folder.Write(kIni, IniText(row.sections));
+    folder.Write(kIni, Settings(row.settings));
     Driver driver(folder.Path());
     driver.Do(kOpenSumfall);
-    EXPECT_EQ(driver.Get("frmSumfall.Width"), row.width) << IniText(row.sections);
-    EXPECT_EQ(driver.Get("frmSumfall.Height"), row.height) << IniText(row.sections);
+    EXPECT_EQ(driver.Get("frmSumfall.Width"), row.width) << Settings(row.settings);
+    EXPECT_EQ(driver.Get("frmSumfall.Height"), row.height) << Settings(row.settings);
   }
 }
 
@@ -140,7 +122,7 @@ TEST(Settings, ADesignStaysInForceWhereTheFileNamesNone) {
   Driver driver(folder.Path());
   driver.Do(kOpenSumfall + "click frmSumfall.mnuHot\n" + kClose);
   EXPECT_TRUE(Contains(folder.Read(kIni), "[Deck]\r\n4\r\n"));
-  folder.Write(kIni, IniText({{"Time", "60"}}));
+  folder.Write(kIni, Settings("Time 60"));
   driver.Do(kOpenSumfall);
   EXPECT_EQ(driver.common().ImageList2("FULL"), 10);
 }
@@ -199,9 +181,9 @@ TEST(Settings, AFileThatCantBeReadNowStays) {
   EXPECT_TRUE(BoxesOf(driver.Do(kOpenSumfall)).empty()) << "told once";
   EXPECT_EQ(driver.Get("frmSumfall.mnu30.Checked"), true) << "kept until the program ends";
   std::filesystem::remove(path);
-  folder.Write(kIni, IniText({{"Time", "60"}}));
+  folder.Write(kIni, Settings("Time 60"));
   driver.Do(kClose);
-  EXPECT_EQ(folder.Read(kIni), IniText({{"Time", "60"}})) << "not overwritten before anybody saw it";
+  EXPECT_EQ(folder.Read(kIni), Settings("Time 60")) << "not overwritten before anybody saw it";
   driver.Do(kOpenSumfall);
   EXPECT_EQ(driver.Get("frmSumfall.mnu60.Checked"), true);
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <algorithm>
+#include <map>
+#include <set>
 #include <stdexcept>
 
 #include "games/sumfall/sumfall.h"
@@ -26,6 +28,21 @@ inline std::string DrawsFor(CardCodes from, const std::vector<std::string>& want
     command += " " + std::to_string(drawn);
   }
   return command + "\n";
+}
+
+// The command that makes the next deal of the standard deck lay those cards at those indices (0 to 51), and
+// any others elsewhere.
+inline std::string LayCards(const std::map<int, std::string>& wanted) {
+  const CardCodes deck = StandardDeck();
+  std::set<std::string> taken;
+  for (const auto& [index, code] : wanted) taken.insert(code);
+  std::vector<std::string> cards;
+  for (size_t i = 0, next = 1; i < 52; ++i) {
+    const auto found = wanted.find(static_cast<int>(i));
+    while (found == wanted.end() && taken.contains(std::string(CardKey(deck[next])))) ++next;
+    cards.emplace_back(found == wanted.end() ? CardKey(deck[next++]) : found->second);
+  }
+  return DrawsFor(deck, cards);
 }
 
 inline std::string Field(int place) { return "frmSumfall.FieldCardPicture(" + std::to_string(place) + ")"; }

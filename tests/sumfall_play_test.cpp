@@ -1,7 +1,7 @@
 // A round of Sumfall click by click, and what a whole game pays.
 #include <gtest/gtest.h>
 
-#include "suite/high_scores.h"
+#include "tests/game_test.h"
 #include "tests/sumfall_cards.h"
 
 using namespace modSumfall;
@@ -10,12 +10,10 @@ namespace {
 
 const std::string kFlip = "click frmSumfall.PlayCardPicture\n", kUp = "click frmSumfall.UpCardPicture\n";
 
-class Sumfall : public ::testing::Test {
+class Sumfall : public GameTest {
  protected:
-  Sumfall() { driver.Do(kOpenSumfall); }
+  Sumfall() : GameTest("Sumfall", "lblMessage", "HiScores90_11.Txt") { Open(); }
   frmSumfall& game() { return SumfallOf(driver); }
-  modCommon& common() { return driver.common(); }
-  std::string Text(const std::string& property) { return driver.Text("frmSumfall." + property); }
   // Deals a deck that begins with these cards.
   void Deal(const std::vector<std::string>& cards) {
     driver.Do(DrawsFor(DeckForGoal(static_cast<int>(game().CardGoal)), cards) + kPlay);
@@ -27,9 +25,13 @@ class Sumfall : public ::testing::Test {
       all += sound.substr(3, sound.size() - 8) + " ";
     return all + Text("lblCurrentTotal.Caption") + " " + Text("lblCurrentScore.Caption");
   }
-
-  TestFolder folder;
-  Driver driver{folder.Path()};
+  // All pairs but the last card of the last are played; the click on that one is given back.
+  std::string ClearButOne() {
+    const std::string clicks = ClearElevenPairs();
+    const size_t last = clicks.rfind("click");
+    driver.Do(clicks.substr(0, last));
+    return clicks.substr(last);
+  }
 };
 
 TEST_F(Sumfall, DealsTheDeckAsItLies) {
@@ -128,109 +130,52 @@ TEST_F(Sumfall, ASelectionAtTheTopEndsWithTheGame) {
   EXPECT_FALSE(game().board.selected[0]);
 }
 
-// What a player hears and sees while a round is scored, in order.
-std::string Story(const std::string& trace) {
-  std::string story;
-  std::istringstream lines(trace);
-  for (std::string line; std::getline(lines, line);) {
-    const auto take = [&](const std::string& prefix, const std::string& mark) {
-      if (line.rfind(prefix, 0) != 0) return;
-      story += mark + line.substr(prefix.size()) + "\n";
-    };
-    take("* sound ", "");
-    take("* sleep ", "sleep ");
-    take("* doevents", "doevents");
-    take("* mci ", "");
-    take("* set frmSumfall.lblMessage.Caption ", "");
-    take("* set frmSumfall.lblCurrentScore.Caption ", "score ");
-    take("* set frmSumfall.lblCurrentElevens.Caption ", "elevens ");
-    take("* set frmSumfall.MousePointer ", "pointer ");
-  }
-  return story;
-}
-
-std::string Counted(int times, int& score, int step, int elevens = -1) {
-  std::string story;
-  for (int i = 0; i < times; ++i) {
-    score += step;
-    story += "score \"" + FormatNumber(score) + "\"\n";
-    if (elevens > 0) story += "elevens \"" + std::to_string(--elevens) + "\"\n";
-    story += "\"\\\\Snap.wav\"\nsleep 75\n";
-  }
-  return story;
-}
-
-std::string Sleeps(int times, int milliseconds) {
-  std::string story;
-  for (int i = 0; i < times; ++i) story += "sleep " + std::to_string(milliseconds) + "\n";
-  return story;
-}
-
 TEST_F(Sumfall, AClearedFieldPaysThreeBonusesInOrder) {
   Deal(ElevenPairs());
-  const std::string clicks = ClearElevenPairs();
-  const size_t last = clicks.rfind("click");
-  driver.Do("advance 10000\n" + clicks.substr(0, last));
-  const std::string story = Story(driver.Trace(clicks.substr(last)));
-  int score = 9600;
-  std::string expected =
-      "\"\\\\Markq.wav\"\n\"\\\\TwentyOne.wav\"\nelevens \"11\"\nscore \"9,600\"\npointer "
-      "11\n\"\\\\Wingame.wav\"\n\"Completion Bonus! 10000\"\nsleep 1000\n";
-  expected += Counted(10, score, 1000);
-  expected += "\"11 Elevens! Bonus = 16500\"\n" + Counted(11, score, 1500, 11);
-  expected += "\"Speed Bonus! 8000\"\nsleep 1000\n" + Counted(80, score, 100);
-  expected += "doevents\n\"Prepare for Round Two!\"\n" + Sleeps(11, 250) + "\"\"\npointer 0\n";
-  EXPECT_EQ(story, expected);
-  EXPECT_EQ(common().CurrentScore, 9600 + 10000 + 16500 + 8000);
-  EXPECT_EQ(Text("lblCurrentRound.Caption") + Text("lblTime.Caption"), "2Time: 90");
-  EXPECT_EQ(Text("Timer1.Enabled") + Text("FieldCardPicture(0).Visible") + Text("lblMessage.Visible"),
-            "truetruefalse");
+  const std::string last = ClearButOne();
+  driver.Do("advance 10000");
+  const std::string trace = driver.Trace(last);
+  EXPECT_EQ(Told(trace),
+            "Markq, TwentyOne, Wingame, \"Completion Bonus! 10000\", 1000, Snap 75 x10, "
+            "\"11 Elevens! Bonus = 16500\", Snap 75 x11, \"Speed Bonus! 8000\", 1000, Snap 75 x80, "
+            "\"Prepare for Round Two!\", 250 x11, \"\"");
+  EXPECT_EQ(Joined(LinesOf(trace, "* set frmSumfall.lblCurrentElevens.Caption ")),
+            "\"11\"|\"10\"|\"9\"|\"8\"|\"7\"|\"6\"|\"5\"|\"4\"|\"3\"|\"2\"|\"1\"|\"0\"");
+  const auto scores = LinesOf(trace, "* set frmSumfall.lblCurrentScore.Caption ");
+  ASSERT_EQ(scores.size(), 1u + 10 + 11 + 80);
+  EXPECT_EQ(scores[1] + scores[10] + scores[11] + scores[22], "\"10,600\"\"19,600\"\"21,100\"\"36,200\"");
+  EXPECT_EQ(Score(), 9600 + 10000 + 16500 + 8000);
+  EXPECT_EQ(Caption("lblCurrentRound") + Caption("lblTime"), "2Time: 90");
+  EXPECT_TRUE(Is("Timer1.Enabled") && Is("FieldCardPicture(0).Visible") && !Is("lblMessage.Visible"));
 }
 
 TEST_F(Sumfall, WithoutCountingDownTheSumsComeAtOnce) {
   driver.Do("click frmSumfall.mnuDrawTimer");
   Deal(ElevenPairs());
-  const std::string clicks = ClearElevenPairs();
-  const size_t last = clicks.rfind("click");
-  driver.Do(clicks.substr(0, last));
-  EXPECT_EQ(Story(driver.Trace(clicks.substr(last))),
-            "\"\\\\Markq.wav\"\n\"\\\\TwentyOne.wav\"\nelevens \"11\"\nscore \"9,600\"\npointer "
-            "11\n\"\\\\Wingame.wav\"\n\"Completion Bonus! 10000\"\nsleep 1000\n"
-            "score \"19,600\"\nsleep 1000\n\"11 Elevens! Bonus = 16500\"\nscore \"36,100\"\nelevens "
-            "\"0\"\nsleep 1000\n"
-            "\"Speed Bonus! 9000\"\nsleep 1000\nscore \"45,100\"\nsleep 1000\ndoevents\n\"Prepare for Round "
-            "Two!\"\n" +
-                Sleeps(11, 250) + "\"\"\npointer 0\n");
+  const std::string trace = driver.Trace(ClearButOne());
+  EXPECT_EQ(
+      Told(trace),
+      "Markq, TwentyOne, Wingame, \"Completion Bonus! 10000\", 1000 x2, \"11 Elevens! Bonus = 16500\", 1000, "
+      "\"Speed Bonus! 9000\", 1000 x2, \"Prepare for Round Two!\", 250 x11, \"\"");
+  EXPECT_EQ(Joined(LinesOf(trace, "* set frmSumfall.lblCurrentScore.Caption ")),
+            "\"9,600\"|\"19,600\"|\"36,100\"|\"45,100\"");
+  EXPECT_EQ(Joined(LinesOf(trace, "* set frmSumfall.lblCurrentElevens.Caption ")), "\"11\"|\"0\"");
 }
 
-TEST_F(Sumfall, TheBonusRoundNeedsTheWholeScore) {
-  for (int score : {79999, 80000}) {
-    driver.Do("click frmSumfall.mnuMusic\n" + kPlay);
-    common().ElapsedSeconds = common().TimeLimit;
-    driver.Do(kTakeScore);
-    common().ElapsedSeconds = common().TimeLimit;
-    common().CurrentScore = score;
-    const std::string name = "click frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone\n";
-    const std::string story = Story(driver.Trace(kTakeScore + (score < 80000 ? name : "")));
-    if (score < 80000) {
-      EXPECT_TRUE(Contains(story, "\"Game Over\"\nsleep 2000\npointer 0\n")) << story;
-      EXPECT_FALSE(Contains(story, "play Harbek"));
-      driver.Do("click frmSumfall.mnuMusic");
-      continue;
-    }
-    EXPECT_EQ(story, "pointer 11\n\"close HarbekMidi\"\ndoevents\n\"\\\\HighScore.wav\"\n\"Bonus Round!\"\n" +
-                         Sleeps(11, 250) +
-                         "\"\"\n\"open \\\"\\\\Quillmark.MID\\\" type sequencer alias HarbekMidi\"\n\"play "
-                         "HarbekMidi\"\npointer 0\n")
-        << "the music is started once";
-    EXPECT_EQ(Text("lblCurrentRound.Caption"), "Bonus");
-    common().CurrentScore = 500000;
-    driver.Do(kTakeScore + name);
-    EXPECT_FALSE(driver.InGame()) << "there is no fourth round";
-    EXPECT_EQ(common().PreviousScore, 509000);
-    EXPECT_TRUE(
-        Contains(folder.Read("HiScores90_11.Txt"), "Unknown User, 509000\r\nUnknown User, 79999\r\n"));
-  }
+TEST_F(Sumfall, TheBonusRoundIsTheLast) {
+  driver.Do("click frmSumfall.mnuMusic\n" + kPlay);
+  common().ElapsedSeconds = common().TimeLimit;
+  driver.Do(kTakeScore);
+  common().ElapsedSeconds = common().TimeLimit;
+  common().CurrentScore = 80000;
+  EXPECT_EQ(Tell(kTakeScore), "silence, HighScore, \"Bonus Round!\", 250 x11, \"\", open, music")
+      << "the music is started once";
+  EXPECT_EQ(Caption("lblCurrentRound"), "Bonus");
+  common().CurrentScore = 500000;
+  driver.Do(kTakeScore + "click frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone\n");
+  EXPECT_FALSE(driver.InGame()) << "there is no fourth round";
+  EXPECT_EQ(common().PreviousScore, 509000);
+  EXPECT_EQ(Best(), "Unknown User, 509000");
 }
 
 TEST_F(Sumfall, AReplayIsCardForCard) {

@@ -263,25 +263,6 @@ TEST(SumfallSaved, DialogsFindFiles) {
     EXPECT_EQ(Joined(BoxesOf(out)), cant) << name;
     EXPECT_TRUE(Contains(out, "\"name\":\"frmSave\"")) << "the window stays";
   }
-  const auto texts =
-      LinesOf(driver.Do("click frmSumfall.mnuSave\nget frmSave.lblSaveInfo.Caption\nget "
-                        "frmSave.txtGameName.Text\nget frmSave.txtGameName.ToolTipText\n"
-                        "get frmSave.txtUserName.ToolTipText\nget frmSave.cmdOK.ToolTipText\nget "
-                        "frmSave.cmdCancel.ToolTipText\nkey frmSave \"Escape\"\n"
-                        "click frmSumfall.mnuOpen\nget frmOpen.lblOpenInfo.Caption\nget "
-                        "frmOpen.txtGameName.ToolTipText\nget frmOpen.cmdOK.ToolTipText\nget "
-                        "frmOpen.cmdCancel.ToolTipText\nkey frmOpen \"Escape\""),
-              "ok ");
-  EXPECT_EQ(Joined(texts, "\n"),
-            "\"Use this dialog to save the last game played. You may load a saved game later to replay it. "
-            "This cannot be used to save a game in progress.\"\n"
-            "\"*.sfl\"\n\"Enter the filename to be used for the saved game\"\n\"Enter your name if you want "
-            "it to be saved with this game\"\n"
-            "\"Saves the game to the specified filename\"\n\"Cancels the save\"\n"
-            "\"Use this dialog to open a previously saved game. If you want to use customized scoring you "
-            "must set that option before opening a saved game.\"\n"
-            "\"Enter the name of the saved game to open\"\n\"Opens the specified saved game\"\n\"Cancels "
-            "opening a saved game\"");
 }
 
 TEST(SumfallSaved, TheCommandLineOpensAGame) {

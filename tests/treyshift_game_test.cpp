@@ -148,23 +148,6 @@ TEST_F(Treyshift, LeftOverCardsCostOnlyWhenTheDeckIsUsedUp) {
   common().TimeBonus = 0;
   driver.Do(kTakeTreyshift);
   EXPECT_EQ(Score(), 0);
-
-  // Thirteen cards are left over, and the clock has run out.
-  driver.Do(kPlayTreyshift + kYes + InOrder(StuckBoard()) + kPlayTreyshift + kFillColumns + Store(2));
-  Game().board.UpCards[kInPlay].clear();
-  const std::string trace = driver.Trace("advance 120000");
-  EXPECT_EQ(TreyshiftStory(trace),
-            "\"Times Up!\", Slide, 250 x10, \"Deck Completion Bonus!\", \"15,000!\", Applause, 2000, "
-            "\"Removing left over cards\", \"-250\", 1000, Click, 500, Click, 500, Click, 500, Click, 500, "
-            "Click, 500, Click, 500, Click, 500, Click, 500, Click, 500, Click, 500, Click, 500, Click, 500, "
-            "Click, 500, \"Speed Bonus!\", \"Prepare For Round 2\", 2000");
-  EXPECT_EQ(Score(), 15000 - 13 * 250);
-  // From the last slot to the first, the storage behind the columns.
-  const size_t first = trace.find("PlayCardSelection(11).Visible true"),
-               last = trace.find("PlayCardSelection(0).Visible true"),
-               stored = trace.find("TempCardSelection(2).Visible true");
-  EXPECT_TRUE(first < last && last < stored && stored < trace.size());
-
   const struct {
     int deck, penalty, score;
     const char* told;
