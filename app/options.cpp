@@ -85,6 +85,25 @@ std::string GameNamed(const std::string& name) {
   return "";
 }
 
+// File managers may name a file as "file:///home/me/a%20game.sfl".
+std::string PathOf(const std::string& argument) {
+  constexpr std::string_view kScheme = "file://";
+  if (!argument.starts_with(kScheme)) return argument;
+  const size_t root = argument.find('/', kScheme.size());  // behind the machine's name
+  std::string path;
+  for (size_t i = std::min(root, argument.size()); i < argument.size(); ++i) {
+    int byte = 0;
+    if (argument[i] == '%' && i + 2 < argument.size() &&
+        std::from_chars(&argument[i + 1], &argument[i + 3], byte, 16).ptr == &argument[i + 3]) {
+      path += static_cast<char>(byte);
+      i += 2;
+    } else {
+      path += argument[i];
+    }
+  }
+  return path;
+}
+
 void ApplyValue(const std::string& option, const std::string& value, Options& options) {
   const auto bad = [&](const char* wanted) {
     throw BadOptions("the value of " + option + " must be " + wanted + ", not \"" + value + "\"");
@@ -132,7 +151,7 @@ Options ParseOptions(Program program, const std::vector<std::string>& arguments)
     const std::string option = argument.substr(0, equals);
     if (onlyFiles || argument.size() < 2 || argument[0] != '-') {
       if (!options.savedGame.empty()) throw BadOptions("there is more than one saved game");
-      options.savedGame = argument;
+      options.savedGame = program == Program::Desktop ? PathOf(argument) : argument;
     } else if (argument == "--") {
       onlyFiles = true;
     } else if (argument == "--help" || argument == "-h") {
@@ -157,6 +176,9 @@ Options ParseOptions(Program program, const std::vector<std::string>& arguments)
       throw BadOptions("there is no option " + argument);
     }
   }
+  // A double click on a saved game means to play it.
+  if (program == Program::Desktop && !options.console && !options.savedGame.empty() && options.game.empty())
+    options.game = "Sumfall";
   if (program == Program::Desktop && !options.console && !needsConsole.empty())
     throw BadOptions(needsConsole + " goes with --console only");
   return options;
@@ -214,7 +236,9 @@ std::optional<int> ReadCommandLine(Program program, int argc, char** argv, Optio
     return EXIT_SUCCESS;
   }
   if (options.version) {
-    std::cout << Name(program) << " " << CARDHAVEN_VERSION << "\n";
+    const std::string commit = CARDHAVEN_COMMIT;
+    std::cout << Name(program) << " " << CARDHAVEN_VERSION << (commit.empty() ? "" : " (" + commit + ")")
+              << "\n";
     return EXIT_SUCCESS;
   }
   return std::nullopt;
