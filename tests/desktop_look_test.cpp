@@ -16,6 +16,7 @@
 #include "games/blackrush/custom.h"
 #include "games/duopick/duopick.h"
 #include "games/fivestack/custom.h"
+#include "games/handgrid/handgrid.h"
 #include "games/spirehold/spirehold.h"
 #include "games/sumfall/dialogs.h"
 #include "games/treyshift/custom.h"

@@ -71,7 +71,9 @@ std::map<std::string, Change> Changes() {
 }  // namespace
 
 TEST_F(ViewFileTest, EachEntryWritesWhatItSaysAndTheRestStays) {
-  const View first = front.looks.Now();
+  View first = front.looks.Now();
+  first.maximised = false;
+  front.looks.Set(first);
   const auto changes = Changes();
   int entries = 0;
   for (QAction* entry : Entries()) {
@@ -124,6 +126,7 @@ TEST_F(ViewFileTest, EveryKeyIsReadBackByItself) {
   View all = first;
   all.zoom = 150;
   all.fitMaximised = false;
+  all.maximised = false;
   all.fitNormal = all.fullScreen = all.fourColours = all.highContrast = all.lessMotion = true;
   all.waveVolume = 75;
   all.musicVolume = 25;
@@ -136,6 +139,7 @@ TEST_F(ViewFileTest, EveryKeyIsReadBackByItself) {
       [&](View& view) { view.fitMaximised = all.fitMaximised; },
       [&](View& view) { view.fitNormal = all.fitNormal; },
       [&](View& view) { view.fullScreen = all.fullScreen; },
+      [&](View& view) { view.maximised = all.maximised; },
       [&](View& view) { view.fourColours = all.fourColours; },
       [&](View& view) { view.highContrast = all.highContrast; },
       [&](View& view) { view.lessMotion = all.lessMotion; },

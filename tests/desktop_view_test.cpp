@@ -147,11 +147,45 @@ TEST_F(ViewTest, MaximisedWindowsFitAndComeBackAsTheyWere) {
   Choose(game, "viewFit");
   EXPECT_TRUE(front.looks.Now().fitNormal);
   window.resize(763, 640);
-  input::Settle();
+  EXPECT_TRUE(input::Await([&] { return front.looks.Now().zoom == 120; }));
   EXPECT_EQ(game.Width, 9540);
   EXPECT_NEAR(game.Height, 8000, 2);
-  EXPECT_TRUE(input::Await([&] { return front.looks.Now().zoom == 120; }));
   EXPECT_EQ(window.size(), QSize(763, 640));
+}
+
+TEST_F(ViewTest, WindowsFitTheScreenAndOpenAsTheOthersWereLeft) {
+  GameWindow& game = OpenGame();
+  const QSize room = WindowOf(game).screen()->availableSize();
+  WindowOf(game).resize(760, 480);
+  input::Settle();
+  Set([](View& view) { view.zoom = 200; });
+  EXPECT_LE(WindowOf(game).width(), room.width()) << "a wide window is zoomed as a whole";
+  EXPECT_EQ(game.Width, 11400);
+  Set([](View& view) { view.zoom = 100; });
+  WindowOf(game).setWindowState(Qt::WindowMaximized);
+  input::Settle();
+  EXPECT_EQ(front.looks.Now().maximised, true);
+  game.Discard();
+  suite.common.selector->Show();
+
+  const auto spirehold = [&]() -> GameWindow& {
+    input::Click(front, *static_cast<Visual*>(Selector().find("cmdSpirehold")));
+    input::Settle();
+    return *suite.common.window;
+  };
+  GameWindow& other = spirehold();
+  FormWindow& window = WindowOf(other);
+  EXPECT_TRUE(window.isMaximized());
+  for (const Qt::WindowStates state : {Qt::WindowStates(), Qt::WindowStates(Qt::WindowMaximized)}) {
+    window.setWindowState(state);
+    ASSERT_TRUE(
+        input::Await([&] { return std::abs(other.Width - window.width() * 15 / window.Zoom()) < 15; }));
+    for (int card = 0; card < 28; ++card) {
+      const auto& image = static_cast<const Visual&>(*other.find("UpCardImage", card));
+      EXPECT_GE(image.Left, 0) << card;
+      EXPECT_LE(image.Left + image.Width, other.Width) << card;
+    }
+  }
 }
 
 TEST_F(ViewTest, AWindowThatWasMinimisedAndFetchedBackDuringACountStays) {

@@ -100,6 +100,8 @@ class Guide {
   virtual TextBox* OffersAgain() const { return nullptr; }
   // Whether it is a picture that moves to please the eye and tells nothing.
   virtual bool IsOrnament(const Control& /*control*/) const { return false; }
+  // How wide the window must be for all of its board to show, in twips; 0 where its smallest size is enough.
+  virtual int Breadth() const { return 0; }
   // Whether the window comes back where the player has left it.
   virtual bool KeepsPlace() const { return false; }
 

@@ -20,6 +20,13 @@ class SpireholdGuide : public GameGuide {
     return spots;
   }
 
+  // The bottom row, and a finger's breadth at its ends.
+  int Breadth() const override {
+    constexpr int kMargin = 180;
+    const Image &first = window_.UpCardImage(kCards - 10), &last = window_.UpCardImage(kCards - 1);
+    return last.Left + last.Width - first.Left + 2 * kMargin;
+  }
+
   std::vector<std::string> FirstSteps() const override {
     return {"Click free cards one rank above or below the card turned up.",
             "A run pays more with each card; the stock breaks it.",

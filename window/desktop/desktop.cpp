@@ -43,6 +43,7 @@ DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles pic
   clockTimer_.setSingleShot(true);
   QObject::connect(&clockTimer_, &QTimer::timeout, &timer_, [this] { ShowClock(); });
   QGuiApplication::setQuitOnLastWindowClosed(false);
+  WatchScreens();
 }
 
 DesktopFrontEnd::~DesktopFrontEnd() { windows_.Clear(); }
@@ -285,10 +286,28 @@ void DesktopFrontEnd::SettleBoards() {
 }
 
 // A dialog follows the window behind it.
-void DesktopFrontEnd::ApplyView() {
+void DesktopFrontEnd::InOrder(void (FormWindow::*apply)()) {
   for (const bool dialogs : {false, true})
     for (const auto& [form, window] : windows_)
-      if (form->Modal() == dialogs) window->ApplyView();
+      if (form->Modal() == dialogs) (window->*apply)();
+}
+
+void DesktopFrontEnd::WatchScreens() {
+  constexpr int kSettled = 200;  // milliseconds; screens come and go several at a time
+  refit_.setSingleShot(true);
+  refit_.setInterval(kSettled);
+  QObject::connect(&refit_, &QTimer::timeout, &refit_, [this] { InOrder(&FormWindow::Refit); });
+  const auto changed = [this] { refit_.start(); };
+  const auto watch = [this, changed](QScreen* screen) {
+    QObject::connect(screen, &QScreen::availableGeometryChanged, &refit_, changed);
+  };
+  for (QScreen* screen : QGuiApplication::screens()) watch(screen);
+  QObject::connect(qApp, &QGuiApplication::screenAdded, &refit_, watch);
+  QObject::connect(qApp, &QGuiApplication::screenRemoved, &refit_, changed);
+}
+
+void DesktopFrontEnd::ApplyView() {
+  InOrder(&FormWindow::ApplyView);
   media_.SetVolumes(looks.Now().waveVolume, looks.Now().musicVolume);
 }
 

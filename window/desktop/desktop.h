@@ -121,6 +121,8 @@ class DesktopFrontEnd : public FrontEnd, public Deeds {
 
  private:
   void ApplyView();
+  void InOrder(void (FormWindow::*apply)());
+  void WatchScreens();
   void ServeTick();
   void DeliverWaiting();
   // Whether a handler may begin. Not once what the innermost wait waits for has come: its handler goes first.
@@ -140,7 +142,7 @@ class DesktopFrontEnd : public FrontEnd, public Deeds {
   const DesktopFolders folders_;
   const Operator by_;
   QElapsedTimer clock_;
-  QTimer timer_, clockTimer_;
+  QTimer timer_, clockTimer_, refit_;
   Media media_;
   Access access_;
   Windows windows_{platform};

@@ -16,6 +16,7 @@
 #include "window/desktop/speech/access.h"
 #include "window/desktop/view/comfort.h"
 #include "window/desktop/view/looks.h"
+#include "window/desktop/view/managed.h"
 #include "window/desktop/view/menus.h"
 #include "window/desktop/view/native.h"
 #include "window/desktop/view/view_menu.h"
@@ -61,12 +62,17 @@ FormWindow::FormWindow(Form& form, std::unique_ptr<Guide> guide, const Desk& des
     desk_.looks.Alter(
         [&](View& view) { view.zoom = std::clamp(static_cast<int>(std::lround(zoom_ * 100)), 100, 300); });
   });
-  // A window that comes back from the full screen gets its frame a moment later, and its place is that of the
-  // frame.
+  // A window that comes back from the full screen gets its frame and size a moment later, and its place is
+  // that of the frame.
   framed_.setSingleShot(true);
   framed_.setInterval(200);
   connect(&framed_, &QTimer::timeout, this, [this] {
-    if (!left_ && isVisible() && !IsFilled() && !isMinimized()) ApplyPlace();
+    if (left_ || !isVisible() || IsFilled() || isMinimized()) return;
+    if (WindowsAreManaged() && windowHandle()->frameMargins().isNull() && --frameAwaited_ > 0)
+      return framed_.start();
+    ApplyPlace();
+    if (size() != ShownSize()) FollowFrame();
+    TellSizeSoon();
   });
   fits_ = desk.looks.Now().fitNormal;
   ApplySize();
@@ -151,8 +157,11 @@ void FormWindow::ShowForm(QWidget* behind) {
                                       Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint | buttons);
     setWindowModality(form.Modal() ? Qt::ApplicationModal : Qt::NonModal);
     behind_ = form.Modal() ? behind : nullptr;
+    FollowOthers();
+    ShowWholeBoard();
     Rezoom();
     ApplySize();
+    KeepOnScreen();
     if (comfort_) comfort_->BeforeShow();
     // Before the window is there: the place is that of its frame, whose size isn't known yet.
     if (form.Left != 0 || form.Top != 0) ApplyPlace();
@@ -251,8 +260,10 @@ void FormWindow::ApplyForm(Prop prop) {
       return;
     case Prop::Width:
     case Prop::Height:
+      if (form.WindowState == window_state::kNormal) normal_ = {form.Width, form.Height};
+      if (tellsPlace_) return;  // the window's own size
       ApplySize();
-      if (zoom_ != 1 && isVisible() && !IsFilled() && !isMinimized() && !tellsPlace_) ApplyPlace();
+      if (zoom_ != 1 && isVisible() && !IsFilled() && !isMinimized()) ApplyPlace();
       return;
     case Prop::MousePointer:
       form.MousePointer == kWaiting ? setCursor(Qt::WaitCursor) : unsetCursor();

@@ -57,6 +57,8 @@ class FormWindow : public QWidget, public SpokenWindow {
   void ApplyClock() { ApplyPanels(); }
   // A message box without a choice has stood before the window: what it said is mostly of a field.
   void Refused() { refused_ = true; }
+  // The screen has become another one.
+  void Refit();
   // Brings everything up to date that Qt may have changed by itself.
   void Settle();
   // How much larger than at 100 % the window is drawn.
@@ -96,6 +98,17 @@ class FormWindow : public QWidget, public SpokenWindow {
   void ApplyLimits();
   void ApplyPlace();
   void ApplyPanels();
+  void FollowOthers();
+  void KeepOnScreen();
+  void ShowWholeBoard();
+  void PutInMiddle();
+  // The frame around the window, and the room that the screen has within it.
+  QSize Frame() const;
+  QSize Room() const;
+  // The least size in which all of the window shows, and its size when neither maximised nor minimised;
+  // pixels at 100 %.
+  QSizeF LeastSize() const;
+  QSizeF NormalSize() const;
   // The zoom that the player has asked for, as far as the screen allows.
   double WantedZoom() const;
   // The zoom with which the usual arrangement fills the window.
@@ -132,7 +145,9 @@ class FormWindow : public QWidget, public SpokenWindow {
   std::vector<QLabel*> panels_;
   QPointer<QWidget> behind_;  // what a dialog stands before
   QTimer zoomKept_;           // runs out when the player has let go of the frame
-  QTimer framed_;             // runs while the frame of a restored window isn't known
+  QTimer framed_;             // runs while the frame and size of a restored window aren't known
+  int frameAwaited_ = 0;
+  QSize normal_;  // twips, when neither maximised nor minimised
   double zoom_ = 1;
   bool left_ = false, sizeWaits_ = false, tellsPlace_ = false, zooming_ = false;
   bool untold_ = false;    // news that no one could take yet

@@ -1,5 +1,6 @@
 // The size of a window, its place and its zoom: what the model tells, and what the player does to them.
 #include <QEvent>
+#include <QGuiApplication>
 #include <QScreen>
 #include <QTimer>
 #include <cmath>
@@ -9,8 +10,21 @@
 #include "window/desktop/painting/style.h"
 #include "window/desktop/view/form_window.h"
 #include "window/desktop/view/looks.h"
+#include "window/desktop/view/managed.h"
 #include "window/desktop/view/menus.h"
 #include "window/desktop/view/native.h"
+
+namespace {
+
+constexpr double kSmallest = 0.25, kLargest = 10;
+constexpr int kMostAwaited = 10;  // times; a window may have no frame at all
+
+// How much larger it may be and still have room there.
+double Fits(QSizeF what, QSizeF room) {
+  return std::min(room.width() / what.width(), room.height() / what.height());
+}
+
+}  // namespace
 
 // --- Zoom ----------------------------------------------------------------------------------------
 
@@ -27,28 +41,37 @@ FormWindow& FormWindow::Leader() {
   return before ? before->Leader() : *this;
 }
 
-double FormWindow::FittingZoom() const {
-  constexpr double kLargest = 10;
-  if (form.MinWidth <= 0 || form.MinHeight <= 0) return 1;
-  return std::clamp(std::min(width() * 15.0 / form.MinWidth, height() * 15.0 / form.MinHeight), 1.0,
-                    kLargest);
+QSize FormWindow::Frame() const {
+  // A window that isn't there or comes back from the full screen doesn't know its frame yet.
+  return QSize(4, 30).expandedTo(isVisible() ? frameSize() - size() : QSize());
 }
+
+QSize FormWindow::Room() const { return screen()->availableGeometry().size() - Frame(); }
+
+QSizeF FormWindow::LeastSize() const {
+  if (!form.Sizable || form.MinWidth <= 0 || form.MinHeight <= 0) return NormalSize();
+  return QSizeF(std::max(form.MinWidth, guide_ ? guide_->Breadth() : 0), form.MinHeight) / 15;
+}
+
+QSizeF FormWindow::NormalSize() const {
+  const bool known = form.Sizable && !normal_.isEmpty();
+  return QSizeF(known ? normal_ : QSize(form.Width, form.Height)) / 15;
+}
+
+double FormWindow::FittingZoom() const { return std::clamp(Fits(LeastSize(), size()), kSmallest, kLargest); }
 
 double FormWindow::WantedZoom() const {
   const View& view = desk_.looks.Now();
   const double wanted = view.zoom / 100.0;
   if (!desk_.hasPlayer) return 1;
   if (form.Sizable && IsFilled()) return view.fitMaximised ? FittingZoom() : std::min(wanted, FittingZoom());
+  // A window that was made large is made smaller before its cards get smaller than they are.
+  const double most = std::max(Fits(NormalSize(), Room()), std::min(1.0, Fits(LeastSize(), Room())));
   // The one that the player has dragged the window to isn't a round number.
-  if (form.Sizable && view.fitNormal && (zoomKept_.isActive() || std::abs(zoom_ - wanted) < 0.006))
-    return zoom_;
-  // A window that comes back from the full screen doesn't know its frame yet.
-  const QSize frame = QSize(4, 30).expandedTo(isVisible() ? frameSize() - size() : QSize());
-  const QSize room = screen()->availableGeometry().size() - frame;
-  const double width = (form.Sizable && form.MinWidth > 0 ? form.MinWidth : form.Width) / 15.0;
-  const double height = (form.Sizable && form.MinHeight > 0 ? form.MinHeight : form.Height) / 15.0;
-  const double asked = behind_ ? style::ZoomOf(behind_) : wanted;
-  return std::max(1.0, std::min({asked, room.width() / width, room.height() / height}));
+  if (form.Sizable && view.fitNormal && zoomKept_.isActive()) return zoom_;
+  const bool dragged = form.Sizable && view.fitNormal && std::abs(zoom_ - wanted) < 0.006;
+  const double asked = behind_ ? style::ZoomOf(behind_) : dragged ? zoom_ : wanted;
+  return std::max(kSmallest, std::min(asked, most));
 }
 
 void FormWindow::Rezoom() {
@@ -65,6 +88,7 @@ void FormWindow::SetZoom(double zoom) {
     ZoomNative(*widget, static_cast<const Visual&>(*control));
   if (!IsFilled() && !zooming_) {
     ApplySize();
+    KeepOnScreen();
     if (isVisible()) ApplyPlace();
   }
   LayOutParts();
@@ -72,8 +96,8 @@ void FormWindow::SetZoom(double zoom) {
 
 // A window that fits what it shows to its frame: the frame is dragged, and the board grows with it.
 void FormWindow::FollowFrame() {
-  if (!form.Sizable || IsFilled() || isMinimized() || zooming_ || !desk_.looks.Now().fitNormal ||
-      !desk_.hasPlayer)
+  if (!form.Sizable || IsFilled() || isMinimized() || zooming_ || framed_.isActive() ||
+      !desk_.looks.Now().fitNormal || !desk_.hasPlayer)
     return;
   zooming_ = true;
   SetZoom(std::min(FittingZoom(), 3.0));
@@ -84,9 +108,10 @@ void FormWindow::FollowFrame() {
 
 // --- What the model tells ------------------------------------------------------------------------
 
-// Where nobody manages windows the size must be asked for as well.
+// Where nobody manages windows the size must be asked for as well. Elsewhere it mustn't: it would be taken
+// for the one to come back to.
 void FormWindow::FillScreen(Qt::WindowStates how) {
-  if (!IsFilled()) {
+  if (!WindowsAreManaged()) {
     const Extent screen = form.platform.front.ScreenExtent();
     zooming_ = true;
     setGeometry(0, 0, Pixels(screen.width), Pixels(screen.height));
@@ -95,8 +120,52 @@ void FormWindow::FillScreen(Qt::WindowStates how) {
   setWindowState((windowState() & ~Qt::WindowMinimized) | how);
 }
 
+// A window opens as all games were left last, whatever its own file tells.
+void FormWindow::FollowOthers() {
+  const bool maximised = form.WindowState == window_state::kMaximised;
+  if (!form.Sizable || !desk_.hasPlayer || form.WindowState == window_state::kMinimised ||
+      desk_.looks.Now().maximised.value_or(maximised) == maximised)
+    return;
+  player::SetState(form, maximised ? window_state::kNormal : window_state::kMaximised);
+  if (maximised) PutInMiddle();
+}
+
+// As long as the player has chosen no size all of the board is to be seen.
+void FormWindow::ShowWholeBoard() {
+  const int breadth = guide_ && desk_.hasPlayer ? guide_->Breadth() : 0;
+  if (breadth <= form.Width || form.Width != form.MinWidth || form.Height != form.MinHeight) return;
+  const int left = form.Left - (breadth - form.Width) / 2;
+  player::Resize(form, breadth, form.Height);
+  player::Place(form, left, form.Top);
+}
+
+void FormWindow::PutInMiddle() {
+  const Extent screen = form.platform.front.ScreenExtent();
+  player::Place(form, (screen.width - form.Width) / 2, (screen.height - form.Height) / 2);
+}
+
+void FormWindow::Refit() {
+  if (left_ || !isVisible() || isMinimized() || !desk_.hasPlayer) return;
+  if (IsFilled()) FillScreen(windowState());
+  Rezoom();
+  ApplyLimits();
+  if (!IsFilled()) {
+    ApplySize();
+    KeepOnScreen();
+    ApplyPlace();
+  }
+  TellSizeSoon();
+}
+
+// The model hears of it as of anything that the player does to the frame.
+void FormWindow::KeepOnScreen() {
+  const bool free = form.Sizable && desk_.hasPlayer && !IsFilled() && !isMinimized();
+  if (const QSize room = size().boundedTo(Room()); free && size() != room) resize(room);
+}
+
 void FormWindow::ApplySize() {
-  const QSize wanted = ShownSize();
+  QSize wanted = ShownSize();
+  if (form.WindowState == window_state::kMaximised) wanted = (NormalSize() * zoom_).toSize();
   ApplyLimits();
   if (form.Sizable && size() != wanted && !IsFilled() && !isMinimized()) resize(wanted);
   if (!isVisible()) LayOutParts();
@@ -109,17 +178,17 @@ void FormWindow::ApplyLimits() {
     return;
   }
   const bool fits = (IsFilled() || desk_.looks.Now().fitNormal) && desk_.hasPlayer;
-  const double least = fits ? 1 : zoom_;
+  const double least = fits ? std::min(1.0, Fits(LeastSize(), Room())) : zoom_;
   setMinimumSize(static_cast<int>(std::lround(form.MinWidth / 15.0 * least)),
                  static_cast<int>(std::lround(form.MinHeight / 15.0 * least)));
 }
 
-// What is drawn larger than the model knows of is kept on the screen.
 void FormWindow::ApplyPlace() {
   QPoint corner = QPoint(Pixels(form.Left), Pixels(form.Top)) + Aside();
-  if (zoom_ != 1) {
-    const QRect room = screen()->availableGeometry();
-    const QSize whole = isVisible() ? frameSize() : size();
+  if (desk_.hasPlayer) {
+    const QSize whole = size() + Frame();
+    const QScreen* const there = QGuiApplication::screenAt(corner + QPoint(whole.width() / 2, 0));
+    const QRect room = (there ? there : screen())->availableGeometry();
     corner.setX(std::max(room.left(), std::min(corner.x(), room.right() + 1 - whole.width())));
     corner.setY(std::max(room.top(), std::min(corner.y(), room.bottom() + 1 - whole.height())));
   }
@@ -154,15 +223,16 @@ bool FormWindow::MustWait() { return untold_ = !player::WhyNot(form).empty(); }
 void FormWindow::TellSize() {
   untold_ = false;
   if (left_ || !isVisible() || isMinimized()) return;
-  Rezoom();
+  if (IsFilled() || !form.Sizable) Rezoom();  // else the player drags its frame
   TellState();
   if (size() == ShownSize()) return;
   if (!form.Sizable || !desk_.hasPlayer) return;
   desk_.deeds.Deliver(form, [this] {
-    if (MustWait()) return;
+    if ((framed_.isActive() && !IsFilled()) || MustWait()) return;
     tellsPlace_ = true;
     player::Resize(form, Told(width()), Told(height()));
     tellsPlace_ = false;
+    if (size() != ShownSize()) ApplySize();
     TellPlace();
   });
 }
@@ -190,6 +260,8 @@ void FormWindow::changeEvent(QEvent* event) {
     Rezoom();
     zooming_ = false;
   }
+  if (!left_ && isVisible() && !isMinimized() && !isFullScreen() && form.Sizable && desk_.hasPlayer)
+    desk_.looks.Alter([this](View& view) { view.maximised = isMaximized(); });
   TellState();
   TellSizeSoon();
 }
@@ -215,11 +287,10 @@ void FormWindow::TellState() {
     Rezoom();
     zooming_ = false;
     player::SetState(form, state);
+    if (state == window_state::kNormal) ShowWholeBoard();
     ApplySize();
-    if (placeless && state == window_state::kNormal) {
-      const Extent screen = form.platform.front.ScreenExtent();
-      player::Place(form, (screen.width - form.Width) / 2, (screen.height - form.Height) / 2);
-    }
+    if (placeless && state == window_state::kNormal) PutInMiddle();
+    frameAwaited_ = kMostAwaited;
     if (state == window_state::kNormal) framed_.start();
   });
 }

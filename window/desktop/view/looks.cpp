@@ -1,13 +1,32 @@
 #include "window/desktop/view/looks.h"
 
 #include <QApplication>
+#include <QScreen>
+#include <algorithm>
 #include <utility>
 
 #include "window/desktop/painting/style.h"
 #include "window/desktop/view/animations.h"
 
+namespace {
+
+// Boards as large as they fit into two thirds of the screen's height, and into its width.
+int FirstZoom() {
+  constexpr QSize kBoard(640, 480);
+  constexpr int kStep = 25;
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  const QSize size = screen ? screen->size() : kBoard;
+  const int fits = std::min(size.height() * 200 / 3 / kBoard.height(), size.width() * 100 / kBoard.width());
+  return std::clamp(fits / kStep * kStep, 100, 300);
+}
+
+}  // namespace
+
 Looks::Looks(std::filesystem::path file, Paintbox& paintbox)
-    : file_(std::move(file)), paintbox_(paintbox), view_(ReadView(file_)), kept_(view_) {
+    : file_(std::move(file)),
+      paintbox_(paintbox),
+      view_(file_.empty() ? View() : ReadView(file_, FirstZoom())),
+      kept_(view_) {
   constexpr int kDelay = 300;  // milliseconds; what changes several times in a row is written once
   timer_.setSingleShot(true);
   timer_.setInterval(kDelay);
@@ -29,6 +48,7 @@ void Looks::Set(const View& view) {
   View before = std::exchange(view_, view);
   if (!file_.empty() && !timer_.isActive()) timer_.start();
   // Where it was and what was done last changes nothing that is seen.
+  before.maximised = view.maximised;
   before.selector = view.selector;
   before.lastGame = view.lastGame;
   before.seen = view.seen;

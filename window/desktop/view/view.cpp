@@ -50,6 +50,7 @@ std::string Compose(const Entries& entries) {
 }
 
 std::string Written(bool value) { return value ? "true" : "false"; }
+std::string Written(const std::optional<bool>& value) { return value ? Written(*value) : ""; }
 std::string Written(int value) { return std::to_string(value); }
 std::string Written(QPoint point) { return "@Point(" + Written(point.x()) + " " + Written(point.y()) + ")"; }
 std::string Written(const QStringList& list) { return list.join(", ").toStdString(); }
@@ -100,6 +101,7 @@ void VisitMembers(Visit visit) {
   visit("view/fitMaximised", &View::fitMaximised, 0, 0);
   visit("view/fitNormal", &View::fitNormal, 0, 0);
   visit("view/fullScreen", &View::fullScreen, 0, 0);
+  visit("view/maximised", &View::maximised, 0, 0);
   visit("view/fourColours", &View::fourColours, 0, 0);
   visit("view/highContrast", &View::highContrast, 0, 0);
   visit("view/lessMotion", &View::lessMotion, 0, 0);
@@ -107,7 +109,8 @@ void VisitMembers(Visit visit) {
   visit("sound/music", &View::musicVolume, 0, 100);
 }
 
-void Read(const std::string& value, bool& flag, int, int) {
+template <class Flag>
+void Read(const std::string& value, Flag& flag, int, int) {
   if (value == "true" || value == "false") flag = value == "true";
 }
 
@@ -119,7 +122,8 @@ void Read(const std::string& value, int& number, int lowest, int highest) {
 std::string Changed(const std::string& old, const View& view, const View& before) {
   Entries entries = Parse(old);
   VisitMembers([&](const char* key, auto member, int, int) {
-    if (view.*member != before.*member || !entries.contains(key)) entries[key] = Written(view.*member);
+    const std::string now = Written(view.*member);
+    if ((view.*member != before.*member || !entries.contains(key)) && !now.empty()) entries[key] = now;
   });
   if (view.selector && view.selector != before.selector) entries["last/selector"] = Written(*view.selector);
   if (view.lastGame != before.lastGame) entries["last/game"] = Written(view.lastGame);
@@ -139,8 +143,9 @@ fs::path ViewFile() {
   return folder.isEmpty() ? fs::path() : fs::path(folder.toStdString()) / "card-haven" / "desktop.ini";
 }
 
-View ReadView(const fs::path& file) {
+View ReadView(const fs::path& file, int firstZoom) {
   View view;
+  view.zoom = firstZoom;
   std::string text;
   if (file.empty() || Disk().Read(file, text) != ReadOutcome::Read) return view;
   const Entries entries = Parse(text);

@@ -12,6 +12,7 @@ struct View {
   bool fitMaximised = true;  // a maximised window shows its usual arrangement larger
   bool fitNormal = false;    // the same for one that the player resizes
   bool fullScreen = false;
+  std::optional<bool> maximised;  // all games; where nobody has chosen yet each is as its own file tells
   bool fourColours = false;
   bool highContrast = false;
   bool lessMotion = false;
@@ -29,7 +30,7 @@ struct View {
 // $XDG_CONFIG_HOME/card-haven/desktop.ini, or its usual place under the home folder; empty if there is none.
 std::filesystem::path ViewFile();
 // What is missing in the file, or makes no sense there, is as at first.
-View ReadView(const std::filesystem::path& file);
+View ReadView(const std::filesystem::path& file, int firstZoom = View().zoom);
 // Writes what has changed since `before`; the rest may have been changed by another copy of the program.
 // False if that can't be done now; the last time, when there is no later, nobody is waited for.
 bool WriteView(const std::filesystem::path& file, const View& view, const View& before, bool last = false);
