@@ -1,6 +1,7 @@
 // The games by keys alone: the cursor, and which key is which click.
 #include <gtest/gtest.h>
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -281,6 +282,37 @@ TEST_F(Keys, AreShownInMenusAndInAWindowThatPauses) {
   EXPECT_EQ(fullScreen->text() + fullScreen->shortcut().toString(), "Full &ScreenF11");
   Press(Qt::Key_F11);
   EXPECT_TRUE(front.looks.Now().fullScreen);
+}
+
+TEST_F(Keys, GoByTheirPlaceWhereTheLayoutHasOtherLetters) {
+  const auto strike = [&](QWidget& at, int key, int place, Qt::KeyboardModifiers held, const QString& text) {
+    QKeyEvent event(QEvent::KeyPress, key, held, place, 0, 0, text);
+    QApplication::sendEvent(&at, &event);
+    input::Settle();
+  };
+  const auto letter = [&](int key, int place, const QString& text) {
+    FormWindow& window = *front.WindowOf(Front());
+    strike(window.focusWidget() ? *window.focusWidget() : window, key, place, {}, text);
+  };
+  letter(Qt::Key_Ampersand, 10, "&");  // French: 1 without Shift
+  ASSERT_EQ(suite.common.AppTitle, "Sumfall!");
+  Press(Qt::Key_F2);
+  auto& game = static_cast<frmSumfall&>(Game());
+  const int stock = static_cast<int>(game.board.stock.size());
+  letter(0x0412, 40, "\u0412");  // Russian: where D is
+  EXPECT_EQ(static_cast<int>(game.board.stock.size()), stock - 1);
+  letter(Qt::Key_W, 40, "w");  // a Latin letter is meant as it is
+  EXPECT_EQ(static_cast<int>(game.board.stock.size()), stock - 1);
+}
+
+TEST_F(Keys, ADoubleClickOnPlayPlays) {
+  Type("1");
+  input::Click(front, Game().cmdPlay);
+  input::Click(front, Game().cmdPlay, 20);
+  input::Settle();
+  EXPECT_FALSE(QApplication::activeModalWidget());
+  EXPECT_TRUE(Game().standing.IsPlaying());
+  Amid([this] { input::Click(front, Game().cmdPlay); }, [] {});  // a press of its own asks
 }
 
 TEST_F(Keys, GoBackToAFieldThatWasRefused) {

@@ -33,6 +33,7 @@ DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles pic
             FormWindow* const window = windows_.Front();
             return window ? &window->Board() : nullptr;
           }) {
+  qApp->installEventFilter(&latinKeys_);
   looks.HoldCards(by == Operator::Script);
   looks.changed = [this] { ApplyView(); };
   clock_.start();

@@ -8,6 +8,7 @@
 
 #include "window/desktop/input/deeds.h"
 #include "window/desktop/input/hurry.h"
+#include "window/desktop/input/latin.h"
 #include "window/desktop/painting/paintbox.h"
 #include "window/desktop/sound/media.h"
 #include "window/desktop/speech/access.h"
@@ -148,6 +149,7 @@ class DesktopFrontEnd : public FrontEnd, public Deeds {
   Windows windows_{platform};
   std::deque<Deed> deeds_;
   Hurry hurry_;
+  LatinKeys latinKeys_;
   std::string waveInAHurry_;  // waits for the end of what is run through
   std::vector<BoxWindow*> boxes_;
   QEventLoop* loop_ = nullptr;  // of the innermost wait

@@ -222,7 +222,13 @@ bool Hurry::eventFilter(QObject* watched, QEvent* event) {
   if (!watched->isWindowType() || !event->spontaneous() || !IsInput(event->type())) return false;
   if (Swallow(*event)) return true;
   const bool own =
-      !looking_ && sent_ && IsKey(event->type()) && static_cast<QKeyEvent*>(event)->key() == *sent_;
+      !looking_ && sent_ && IsKey(event->type()) && static_cast<QKeyEvent*>(event)->key() == sent_->key();
+  if (own && event->type() == sent_->type()) {  // struck again it doesn't tell its place any more
+    const std::unique_ptr<QEvent> whole(sent_->clone());
+    QCoreApplication::sendEvent(watched, whole.get());
+    event->setAccepted(whole->isAccepted());
+    return true;
+  }
   if (own || (!looking_ && kept_.empty())) {
     if (!own) Learn(*event);
     return false;
@@ -261,9 +267,9 @@ bool Hurry::DeliverOne() {
   state_.delivering = true;
   if (IsKey(next.event->type())) {
     const auto& key = static_cast<const QKeyEvent&>(*next.event);
-    sent_ = key.key();
+    sent_ = &key;
     StrikeAgain(*next.window, key);
-    sent_.reset();
+    sent_ = nullptr;
   } else {
     QCoreApplication::sendEvent(next.window, next.event.get());
   }

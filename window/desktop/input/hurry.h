@@ -18,6 +18,7 @@
 class Canvas;
 class Platform;
 class QEventLoop;
+class QKeyEvent;
 class QLabel;
 class QWindow;
 
@@ -91,9 +92,9 @@ class Hurry : public QObject {
   const std::function<Canvas*()> board_;
   State state_;
   std::deque<Kept> kept_;
-  std::set<int> buttons_, keys_;  // pressed in a hurry and not let go yet
-  std::optional<int> sent_;       // the key that is being delivered
-  bool looking_ = false;          // input comes to no window
+  std::set<int> buttons_, keys_;     // pressed in a hurry and not let go yet
+  const QKeyEvent* sent_ = nullptr;  // is being delivered
+  bool looking_ = false;             // input comes to no window
   QEventLoop* loop_ = nullptr;
   std::optional<long long> ahead_;  // of our clock before that of the events
   QPointer<QLabel> word_;

@@ -9,8 +9,10 @@
 #include <QShortcutEvent>
 #include <QTimer>
 #include <algorithm>
+#include <cctype>
 
 #include "window/desktop/input/deeds.h"
+#include "window/desktop/input/latin.h"
 #include "window/desktop/painting/canvas.h"
 
 namespace {
@@ -197,8 +199,20 @@ bool Keyboard::Take(const QKeyEvent& key, const QWidget* focus) {
       if (!key.isAutoRepeat()) ClickCursor();
       return true;
     default:
-      return held == Qt::NoModifier && TakeWord(WordOf(key), key.isAutoRepeat());
+      return held == Qt::NoModifier && TakeWord(WordFor(key), key.isAutoRepeat());
   }
+}
+
+// By the character; where that is neither letter nor digit and means nothing here, by the key's place.
+std::string Keyboard::WordFor(const QKeyEvent& key) const {
+  const std::string word = WordOf(key);
+  const bool plain = !word.empty() && std::isalnum(static_cast<unsigned char>(word[0]));
+  const bool shifted = !word.empty() && key.modifiers() & Qt::ShiftModifier;
+  for (const KeyRow& row : rows_)
+    for (const KeyClick& click : row.clicks)
+      if (click.keys == word) return word;
+  const char latin = plain || shifted ? 0 : LatinAt(key);
+  return latin ? std::string(1, latin) : word;
 }
 
 bool Keyboard::TakeWord(const std::string& word, bool again) {

@@ -51,6 +51,7 @@ class Keyboard : public QObject {
  private:
   bool Take(const QKeyEvent& key, const QWidget* focus);
   bool TakeArrow(const QKeyEvent& key);
+  std::string WordFor(const QKeyEvent& key) const;
   bool TakeWord(const std::string& word, bool again);
   bool TakeShared(QObject* watched, QEvent* event);
   void Do(const std::string& keys);

@@ -156,4 +156,5 @@ class FormWindow : public QWidget, public SpokenWindow {
   Keyboard* keyboard_ = nullptr;
   TextBox* lastField_ = nullptr;
   bool refused_ = false;
+  bool pressedInGame_ = false;  // the mouse, last
 };

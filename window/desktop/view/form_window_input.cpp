@@ -51,6 +51,11 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     if (ScrollsPage(qobject_cast<QWidget*>(watched), key)) return true;
     return !(writes && key.key() != Qt::Key_Escape) && TakeKey(key);
   }
+  // A game that the first press of a double click has begun isn't ended by the second one.
+  if (event->type() == QEvent::MouseButtonPress) pressedInGame_ = guide_ && guide_->InGame();
+  if (event->type() == QEvent::MouseButtonDblClick && control->kind == Control::Kind::CommandButton &&
+      guide_ && guide_->InGame() && !pressedInGame_)
+    return true;
   if (event->type() == QEvent::ToolTip) QToolTip::setFont(style::Letters(zoom_));
   if (event->type() == QEvent::FocusIn && control->kind == Control::Kind::TextBox)
     lastField_ = static_cast<TextBox*>(control);
