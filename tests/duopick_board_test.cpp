@@ -144,15 +144,6 @@ TEST(DuopickBoard, BehindTheEndOfTheStackIsAnUpCardOfNoRank) {
   EXPECT_EQ(board.field[20], "");
 }
 
-TEST(DuopickBoard, TheTopRowIsTheRound) {
-  Board board = Dealt();
-  for (int card = 0; card < kTopRow; ++card) {
-    EXPECT_FALSE(board.RoundCompleted()) << card;
-    board.field[card].clear();
-  }
-  EXPECT_TRUE(board.RoundCompleted());
-}
-
 TEST(DuopickBoard, IsStuckWhenNoTurnHelpsEither) {
   using Codes = std::vector<std::string>;
   const struct {

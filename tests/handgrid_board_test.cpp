@@ -125,14 +125,6 @@ TEST(HandgridBoard, EveryKindOfLineIsJudgedAlike) {
   EXPECT_EQ(met.size(), 10u);
 }
 
-TEST(HandgridBoard, EachHandHasItsPrice) {
-  const std::pair<Hand, int> prices[] = {
-      {Hand::Nothing, 0},         {Hand::OnePair, 50},    {Hand::TwoPair, 70},    {Hand::Trips, 80},
-      {Hand::Straight, 90},       {Hand::Flush, 100},     {Hand::FullHouse, 200}, {Hand::Four, 300},
-      {Hand::StraightFlush, 400}, {Hand::RoyalFlush, 500}};
-  for (const auto& [hand, points] : prices) EXPECT_EQ(HandScores().Of(hand), points) << points;
-}
-
 TEST(HandgridBoard, ACardCountsInItsRowAndItsColumn) {
   Board board;
   board.Deal(StandardDeck(), 1);

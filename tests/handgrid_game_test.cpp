@@ -38,14 +38,6 @@ TEST_F(Handgrid, ReadsBackWhatItWroteButTheLongestLimit) {
   EXPECT_TRUE(folder.Has("HandgridHighScores120.Txt"));
 }
 
-TEST(HandgridNames, StandOnTheLabels) {
-  std::string names;
-  for (int hand = 0; hand < modHandgrid::kHands; ++hand)
-    names += std::string(HandName(static_cast<modHandgrid::Hand>(hand))) + "|";
-  EXPECT_EQ(names,
-            "Nothing|1 Pair|2 Pair|3 of a kind|Straight|Flush|Full House|4 of a kind|St. Flush|Royal Flush|");
-}
-
 // --- Laying cards ----------------------------------------------------------------------------------
 
 TEST_F(Handgrid, OverwritesRunOutByTheirLastDigitOnly) {

@@ -126,15 +126,6 @@ TEST(SpireholdBoard, TheFirstUpCardIsTheStacksLastAndThenComesNothing) {
   for (int card = 0; card < kCards; ++card) EXPECT_FALSE(board.Take(card)) << card;
 }
 
-TEST(SpireholdBoard, ATowerFallsWithItsTopmostCard) {
-  Board board = Dealt();
-  for (int tower = 0; tower < kTowers; ++tower) {
-    EXPECT_EQ(board.TowersCompleted(), tower);
-    board.table[tower].clear();
-  }
-  EXPECT_EQ(board.TowersCompleted(), kTowers);
-}
-
 // Whoever turns all the stack on a stuck board and tries every card takes none; on any other board a card is
 // taken.
 TEST(SpireholdBoard, OnAStuckBoardAloneNothingIsTaken) {

@@ -208,13 +208,6 @@ TEST_F(Frame, MenuPlayDiffersFromTheButton) {
   EXPECT_FALSE(Is("Timer4.Enabled") || Is("mnuSave.Enabled") || Is("mnuOpen.Enabled") ||
                Is("mnuTime.Enabled") || Is("mnuGoal.Enabled") || Is("mnuScoring.Enabled"));
   EXPECT_TRUE(Is("mnuDeck.Enabled") && Is("mnuViewHiScore.Enabled") && Is("mnuPause.Enabled"));
-  // A caption that no game stands behind.
-  driver.common().window->standing.End();
-  driver.common().window->standing.Hold();
-  said = driver.Trace("click frmSumfall.mnuPlay");
-  EXPECT_EQ(Joined(LinesOf(said, "* sleep ")), "2000");
-  EXPECT_EQ(Text("lblMessage.Caption") + Text("lblMessage.Visible"),
-            "Select your options and play again!true");
 }
 
 }  // namespace

@@ -71,20 +71,6 @@ TEST(Tables, ReadWhatCanBeRead) {
   }
 }
 
-TEST(Tables, AreMadeAtTheFirstLookAndOnePerLimitAndGoal) {
-  TestFolder folder;
-  Driver driver(folder.Path());
-  driver.Do(kOpenSumfall);
-  EXPECT_EQ(folder.Read(kTable), kFresh);
-  EXPECT_EQ(driver.Text("frmSumfall.lblHighScore.Caption"), "High Score: 50,000");
-  folder.Write("HiScores30_11.Txt", "Z, 1234567\r\n\r\n");
-  driver.Do("click frmSumfall.mnu30");
-  EXPECT_EQ(driver.Text("frmSumfall.lblHighScore.Caption"), "High Score: 1,234,567");
-  driver.Do("click frmSumfall.mnu15");
-  EXPECT_EQ(folder.Read("HiScores30_15.Txt"), kFresh);
-  EXPECT_EQ(driver.Text("frmSumfall.lblHighScore.Caption"), "High Score: 50,000");
-}
-
 TEST(Tables, APlaceAsksForTheNameAndShowsTheHallOfFame) {
   TestFolder folder;
   Driver driver(folder.Path());
@@ -321,17 +307,6 @@ TEST(Tables, NamesFromElsewhereAreCut) {
   EXPECT_EQ(scores[0].name, cut);
   EXPECT_EQ(scores[1].name, "A B");
   EXPECT_LE(scores[2].name.size(), 400u);
-}
-
-TEST(Tables, TwoCopiesThatAskAtOnceKeepBothNames) {
-  TestFolder folder;
-  Driver first(folder.Path()), second(folder.Path());
-  first.Do(kOpenSumfall);
-  second.Do(kOpenSumfall);
-  first.meanwhile = [&] { FinishWith(second, 65000, Enter("Second")); };
-  FinishWith(first, 60000, "@\n" + Enter("First"));
-  EXPECT_EQ(folder.Read(kTable),
-            "Second, 65000\r\nFirst, 60000\r\n" + Repeated("Quillmark, 50000\r\n", 8) + "\r\n");
 }
 
 TEST(Tables, ManyCopiesLoseNoEntry) {
