@@ -26,11 +26,12 @@ std::string Output(const std::string& command) {
 
 // Places and sizes follow from the widths of texts, which each front end measures with its own letters.
 std::string WithoutPlaces(const std::string& output) {
-  static const std::regex places(R"(^\* set \S+\.(Left|Top|Width|Height) )");
+  static const std::regex places(R"(^\* set \S+\.(Left|Top|Width|Height) )"),
+      dumped(R"re("(Left|Top|Width|Height)":-?\d+,?)re");
   std::istringstream lines(output);
   std::string line, kept;
   while (std::getline(lines, line))
-    if (!std::regex_search(line, places)) kept += line + "\n";
+    if (!std::regex_search(line, places)) kept += std::regex_replace(line, dumped, "") + "\n";
   return kept;
 }
 
