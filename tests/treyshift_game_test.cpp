@@ -73,7 +73,7 @@ TEST_F(Treyshift, APlaceTakesClicksBelowACardAlone) {
   EXPECT_EQ(Clickable() + " " + Marked(), "0 1 2 3 7 11 ");
   EXPECT_EQ(Heard(Column(3)), "Click");
   EXPECT_EQ(Clickable() + " " + Marked(), "0 1 2 3 7 PlayCardSelection(7)");
-  EXPECT_EQ(Heard(Column(3)), "Click");
+  EXPECT_EQ(Heard(Column(3)), "Markq");
   EXPECT_EQ(Heard(Temp(1) + "click frmTreyshift.UpCard(1)\nclick frmTreyshift.CardStackPicture"), "Chord x3");
 }
 
