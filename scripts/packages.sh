@@ -1,7 +1,7 @@
 # Sourced by ./play and ./check: sees to it that Debian packages are installed. "a|b" is met by either; the first one that
 # the system knows is installed. A package that another one provides counts as installed.
 
-play_packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev|libqt6svg6-dev libsdl2-dev libsdl2-mixer-dev
+play_packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev|libqt6svg6-dev libxcb1-dev libsdl2-dev libsdl2-mixer-dev
   nlohmann-json3-dev pkg-config|pkgconf qt6-qpa-plugins fonts-dejavu-core fonts-open-sans timgm6mb-soundfont"
 check_packages="$play_packages clang libclang-rt-dev llvm clang-format libgtest-dev libbenchmark-dev python3 xvfb xauth
   dbus-daemon at-spi2-core"

@@ -32,7 +32,7 @@ printf '#!/bin/sh\necho "started $*"\n' >build/release/app/cardhaven
 chmod +x build/release/app/cardhaven
 END
 
-always="g++ cmake ninja-build qt6-base-dev libsdl2-dev libsdl2-mixer-dev nlohmann-json3-dev pkg-config
+always="g++ cmake ninja-build qt6-base-dev libxcb1-dev libsdl2-dev libsdl2-mixer-dev nlohmann-json3-dev pkg-config
   qt6-qpa-plugins fonts-dejavu-core fonts-open-sans timgm6mb-soundfont"
 list() { # "NAME..." and the line of one package more with what it provides
   { for name in $1; do echo "installed $name, "; done; echo "$2"; } >"$folder/installed"
