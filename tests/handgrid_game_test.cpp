@@ -183,6 +183,10 @@ TEST_F(Handgrid, WhatIsCounted) {
     EXPECT_EQ(Score(), paid) << settings;
     driver.Do(kRelease + kPlayHandgrid + kYes);
   }
+  // The last second counts as well.
+  Open();
+  driver.Do(FirstDeck(RichGrid()) + kPlayHandgrid + "advance 74000\n" + ClickCells(0, 23));
+  EXPECT_TRUE(Contains(Tell(ClickCell(24)), "Wingame, \"1600 X 1 =\", 2000, Snap 75, \"Prepare"));
 }
 
 // --- Ends ------------------------------------------------------------------------------------------
