@@ -6,6 +6,7 @@
 #include <streambuf>
 
 #include "app/options.h"
+#include "app/records.h"
 #include "app/reports.h"
 #include "games/games.h"
 #include "suite/suite.h"
@@ -60,6 +61,7 @@ int main(int argc, char** argv) {
   Options options;
   if (const auto status = ReadCommandLine(Program::Console, argc, argv, options)) return *status;
   try {
+    if (options.verify) return Verify(options.records);
     const std::filesystem::path folder = FindAppPath(options);
     if (options.history) return PrintHistory(folder);
     if (options.statistics) return PrintStatistics(folder, options.game);
@@ -73,9 +75,11 @@ int main(int argc, char** argv) {
     leaving::SetKeeper(&platform.OnLeave);
     if (options.seed) platform.random.Seed(*options.seed);
     platform.CommandLine = options.savedGame;
+    RecordKeeper keeper(platform, options);
     std::unique_ptr<Suite> suite;
     try {
       suite = std::make_unique<Suite>(platform, SuiteFor(options, folder, Program::Console), AllGames());
+      keeper.Attach(suite->common, SuiteFor(options, folder, Program::Console));
       suite->Start();
       console.Run();
     } catch (const std::exception& error) {

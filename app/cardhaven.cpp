@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "app/options.h"
+#include "app/records.h"
 #include "games/games.h"
 #include "suite/catalogue.h"
 #include "suite/suite.h"
@@ -12,6 +13,15 @@
 #include "window/system/folders.h"
 
 namespace {
+
+struct Running {
+  RecordKeeper keeper;
+  Suite suite;
+  Running(Platform& platform, const Options& options, const SuiteOptions& asked)
+      : keeper(platform, options), suite(platform, asked, AllGames()) {
+    keeper.Attach(suite.common, asked);
+  }
+};
 
 // A suite without its pictures can be played, but nobody should have to guess why it looks so bare.
 void TellOfMissingData(Platform& platform, const DesktopOptions& options) {
@@ -39,11 +49,11 @@ int main(int argc, char** argv) {
     return RunDesktop(programAlone, argv, desktop, Catalogue(), [&](Platform& platform) {
       if (options.seed) platform.random.Seed(*options.seed);
       platform.CommandLine = options.savedGame;
-      auto suite = std::make_shared<Suite>(platform, SuiteFor(options, desktop.folders.own, Program::Desktop),
-                                           AllGames());
-      suite->Start();
+      auto running = std::make_shared<Running>(platform, options,
+                                               SuiteFor(options, desktop.folders.own, Program::Desktop));
+      running->suite.Start();
       TellOfMissingData(platform, desktop);
-      return suite;
+      return running;
     });
   } catch (const std::exception& error) {
     std::cerr << "cardhaven: " << error.what() << std::endl;

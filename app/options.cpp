@@ -128,13 +128,17 @@ void ApplyValue(const std::string& option, const std::string& value, Options& op
       bad("a number from 0.01 to 100000");
   } else if (option == "--start") {
     if (!ParseMoment(value, options.start)) bad("a moment written YYYY-MM-DDTHH:MM:SS");
+  } else if (option == "--record") {
+    if (value.empty()) bad("a file");
+    options.record = value;
   } else if (!ParseScreen(value, options.screen)) {
     bad("a size in pixels written WIDTHxHEIGHT");
   }
 }
 
 bool TakesValue(Program program, const std::string& option) {
-  constexpr std::string_view kCommon[] = {"--folder", "--seed", "--start", "--deal", "--game", "--today"};
+  constexpr std::string_view kCommon[] = {"--folder", "--seed",  "--start", "--deal",
+                                          "--game",   "--today", "--record"};
   if (std::ranges::count(kCommon, option) > 0) return true;
   return option == (program == Program::Desktop ? "--speed" : "--screen");
 }
@@ -144,14 +148,14 @@ bool TakesValue(Program program, const std::string& option) {
 Options ParseOptions(Program program, const std::vector<std::string>& arguments) {
   Options options;
   std::string needsConsole;
+  std::vector<std::string> files;
   bool onlyFiles = false;
   for (size_t i = 0; i < arguments.size(); ++i) {
     const std::string& argument = arguments[i];
     const size_t equals = argument.find('=');
     const std::string option = argument.substr(0, equals);
     if (onlyFiles || argument.size() < 2 || argument[0] != '-') {
-      if (!options.savedGame.empty()) throw BadOptions("there is more than one saved game");
-      options.savedGame = program == Program::Desktop ? PathOf(argument) : argument;
+      files.push_back(argument);
     } else if (argument == "--") {
       onlyFiles = true;
     } else if (argument == "--help" || argument == "-h") {
@@ -160,6 +164,8 @@ Options ParseOptions(Program program, const std::vector<std::string>& arguments)
       options.version = true;
     } else if (argument == "--console" && program == Program::Desktop) {
       options.console = true;
+    } else if (argument == "--verify" && program == Program::Console) {
+      options.verify = true;
     } else if (argument == "--history" && program == Program::Console) {
       options.history = true;
     } else if (option == "--statistics" && program == Program::Console) {
@@ -176,11 +182,19 @@ Options ParseOptions(Program program, const std::vector<std::string>& arguments)
       throw BadOptions("there is no option " + argument);
     }
   }
+  if (program == Program::Desktop && !options.console && !needsConsole.empty())
+    throw BadOptions(needsConsole + " goes with --console only");
+  if (options.verify) {
+    if (files.empty()) throw BadOptions("--verify needs a record");
+    options.records = std::move(files);
+  } else if (files.size() > 1) {
+    throw BadOptions("there is more than one saved game");
+  } else if (!files.empty()) {
+    options.savedGame = program == Program::Desktop ? PathOf(files.front()) : files.front();
+  }
   // A double click on a saved game means to play it.
   if (program == Program::Desktop && !options.console && !options.savedGame.empty() && options.game.empty())
     options.game = "Sumfall";
-  if (program == Program::Desktop && !options.console && !needsConsole.empty())
-    throw BadOptions(needsConsole + " goes with --console only");
   return options;
 }
 
@@ -188,19 +202,21 @@ std::string Usage(Program program) {
   std::string usage = "Usage: " + Name(program);
   if (program == Program::Desktop)
     usage +=
-        " [--folder DIR] [--game GAME | --today GAME] [--deal N]\n"
+        " [--folder DIR] [--record FILE] [--game GAME | --today GAME] [--deal N]\n"
         "                 [--console [--speed N] [--seed N] [--start MOMENT]] [SAVED-GAME]\n\n"
         "Seven timed card games in a window.\n\n";
   else
     usage +=
-        " [--folder DIR] [--game GAME | --today GAME] [--deal N] [--seed N]\n"
-        "                         [--start MOMENT] [--screen WxH] [SAVED-GAME]\n"
-        "       cardhaven-console [--folder DIR] --history | --statistics [GAME]\n\n"
+        " [--folder DIR] [--record FILE] [--game GAME | --today GAME] [--deal N]\n"
+        "                         [--seed N] [--start MOMENT] [--screen WxH] [SAVED-GAME]\n"
+        "       cardhaven-console [--folder DIR] --history | --statistics [GAME]\n"
+        "       cardhaven-console --verify FILE...\n\n"
         "The same card games driven by lines: commands from standard input, answers on standard output.\n"
         "The command \"help\" tells which commands there are.\n\n";
   usage +=
       "  SAVED-GAME      a saved game for Sumfall! to open\n"
       "  --folder DIR    where settings, high scores and saved games are kept\n"
+      "  --record FILE   write down what is played; the file is replaced whenever a game has ended\n"
       "  --game GAME     open that game at once\n"
       "  --today GAME    open it with the deal of the day\n"
       "  --deal N        play deal N, from 1 to 999999999; such games enter no table\n";
@@ -214,6 +230,7 @@ std::string Usage(Program program) {
   if (program == Program::Console)
     usage +=
         "  --screen WxH    the size of the screen in pixels, as 1024x768\n"
+        "  --verify FILE   play records again, and tell which ones hold\n"
         "  --history       print the games played so far\n"
         "  --statistics    print what they amount to, of all games or of one\n";
   return usage +

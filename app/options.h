@@ -25,6 +25,9 @@ struct Options {
   bool today = false;                    // --today
   bool history = false;                  // --history
   bool statistics = false;               // --statistics, of `game` if that isn't ""
+  std::string record;                    // --record, "" if it isn't given
+  bool verify = false;                   // the console's --verify
+  std::vector<std::string> records;      // that it names
   std::string savedGame;
 };
 

@@ -25,7 +25,8 @@ struct TimeDial {
 struct TableEntry {
   std::string file, name;
   long long score = 0;
-  size_t place = 0;  // from 0
+  std::optional<size_t> place = {};  // from 0; nothing if it has none
+  int number = 0;                    // of this entry, from 1
 };
 
 class modCommon {
@@ -56,6 +57,7 @@ class modCommon {
   // What the program was asked to play in all games; what is asked for the next game alone.
   DealName askedDeal;
   std::optional<DealName> nextDeal;
+  std::string record;  // the file in which games are written down, for the history; "" if there is none
   // Says in a line, and not in a box, what couldn't be kept; nothing where nobody listens.
   std::function<void(const std::string&)> complain;
 

@@ -41,7 +41,7 @@ class NameGuide : public Guide {
     const int top = window_.cmdOK.Top + 90, height = 300, side = window_.cmdOK.Left - 180;
     return {{&window_, 180, top, side, height, "Score " + FormatNumber(entry.score), 0, Note::Look::Plain},
             {&window_, window_.cmdOK.Left + window_.cmdOK.Width, top, side, height,
-             "Place " + std::to_string(entry.place + 1), 1, Note::Look::Plain}};
+             "Place " + std::to_string(*entry.place + 1), 1, Note::Look::Plain}};
   }
 
   TextBox* OffersAgain() const override { return &window_.lblPlayerName; }

@@ -50,6 +50,7 @@ void GameLog::Write(GameEnd end, int score) {
   game.rounds = common.deal.Decks();
   game.score = givenUp_.value_or(score);
   game.deal = common.deal.Played().number;
+  game.record = common.record;
   game.end = givenUp_ ? GameEnd::GivenUp : end;
   const auto path = common.files.PathOf(kHistoryFile);
   const Ledger history{std::string(kHistoryHeader) + "\r\n", kLargestHistory};

@@ -140,7 +140,7 @@ void UpdateHighScoreTable(const std::string& tableName, GameWindow& window, cons
   if (common.deal.Name().repeated) place.reset();
   window.log.End(place);
   const bool placed = place.has_value();
-  common.lastEntry = {window.TableFile(tableName), "", score, place.value_or(0)};
+  common.lastEntry = {window.TableFile(tableName), "", score, place, common.lastEntry.number + 1};
   if (placed) {
     if (common.PlaySounds) common.PlayWaveFile("\\HighScore.wav");
     frmHiScoreName dialog(common);

@@ -23,6 +23,7 @@ MAY = {
     "history": "",
     "suite": MODEL + " history",
     "games": MODEL + " suite history",
+    "record": MODEL + " suite history",
     # The desktop, from the ground up.
     "window/desktop/painting": MODEL,
     "window/desktop/sound": MODEL,
@@ -60,7 +61,7 @@ def circle(arrows):
 
 def main(root):
     wrong, desktop = [], {}
-    files = [path for folder in ("app", "games", "history", "suite", "window") for path in root.glob(folder + "/**/*.*")]
+    files = [path for folder in ("app", "games", "history", "record", "suite", "window") for path in root.glob(folder + "/**/*.*")]
     for path in (path.relative_to(root) for path in files if path.suffix in (".cpp", ".h")):
         text, own = (root / path).read_text(), layer(path)
         if ONLY_POSIX.search(text) and own != SYSTEM + "/posix":

@@ -5,6 +5,8 @@
 #include <chrono>
 #include <iostream>
 
+#include "record/recorder.h"
+#include "record/replay.h"
 #include "tests/board_player.h"
 #include "tests/driver.h"
 #include "window/player.h"
@@ -15,6 +17,8 @@ class RandomPlayer {
   RandomPlayer(const std::filesystem::path& folder, std::string button, unsigned seed)
       : chance(seed), button_(std::move(button)), suite_(console_.platform, {folder}, AllGames()) {
     console_.platform.random.Seed(seed);
+    recorder_.Attach(suite_.common);
+    recorder_.onGameEnd = [this](const std::string& text, const GameResult& result) { Verify(text, result); };
     suite_.Start();
   }
   virtual ~RandomPlayer() = default;
@@ -27,12 +31,13 @@ class RandomPlayer {
     const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
     std::cout << commands << " commands in " << passed.count() << " s: " << games << " games, " << rounds
               << " moments between rounds, " << dialogs << " commands in dialogs, " << overflows
-              << " overflows\n";
+              << " overflows, " << verified << " records\n";
+    EXPECT_GT(verified, 3);
     EXPECT_FALSE(Contains(end, "* end")) << end;
     EXPECT_GT(games, 50);
   }
 
-  int games = 0, rounds = 0, overflows = 0, dialogs = 0;
+  int games = 0, rounds = 0, overflows = 0, dialogs = 0, verified = 0;
   std::string end;  // what the last command led to
 
  protected:
@@ -74,6 +79,15 @@ class RandomPlayer {
   Chance chance;
 
  private:
+  // Now and then: a record holds all games of its window.
+  void Verify(const std::string& text, const GameResult& result) {
+    if (games % 15 != 0) return;
+    ++verified;
+    const record::Verdict verdict = record::Replay(text, "", AllGames());
+    ASSERT_EQ(verdict.kind, record::Verdict::Kind::Holds) << verdict.Text();
+    ASSERT_EQ(verdict.result, result);
+  }
+
   std::optional<std::string> Next() {
     const std::string said = out_.str();
     out_.str("");
@@ -158,6 +172,7 @@ class RandomPlayer {
   std::istream in_{&input_};
   std::ostringstream out_;
   ConsoleFrontEnd console_{{}, in_, out_};
+  Recorder recorder_{console_.platform, ""};
 
  protected:
   Suite suite_;

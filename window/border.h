@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "window/box.h"
@@ -15,13 +16,21 @@ class Label;
 
 struct Extent {
   int width = 0, height = 0;  // twips
+  bool operator==(const Extent&) const = default;
 };
 
 // A moment of the local calendar.
 struct DateTime {
   int year = 2000, month = 1, day = 1, hour = 0, minute = 0, second = 0;
   int offset = 0;  // minutes before UTC
+  bool operator==(const DateTime&) const = default;
 };
+
+// The moment so many milliseconds later; what doesn't fill a second is dropped.
+DateTime Later(const DateTime& moment, long long milliseconds);
+// The room for a label's caption in letters of one breadth: a rule that needs no font and gives the same
+// everywhere.
+Extent PlainExtent(const Label& label);
 
 enum class Key { Return, Escape };
 

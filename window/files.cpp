@@ -177,3 +177,28 @@ void Files::Refuse(FileRefusal::What what, const fs::path& path) {
 }
 
 std::vector<FileRefusal> Files::TakeRefusals() { return std::exchange(refusals_, {}); }
+
+Files::Memory Files::Remember() const {
+  Memory memory{known_, {}, unread_, told_, stuck_};
+  for (const auto& [path, changes] : waiting_) {
+    const auto last = known_.find(path);
+    std::string text = last == known_.end() ? "" : last->second;
+    for (const FileChange& change : changes) text = change.apply(text);
+    memory.waiting[path] = {text, changes.front().replaces};
+  }
+  return memory;
+}
+
+void Files::Recall(const Memory& memory) {
+  known_ = memory.known;
+  unread_ = memory.unread;
+  told_ = memory.told;
+  stuck_ = memory.stuck;
+  for (const auto& [path, change] : memory.waiting) {
+    FileChange waits;
+    waits.apply = [text = change.text](const std::string&) { return text; };
+    waits.makesSense = [](const std::string&) { return true; };
+    waits.replaces = change.replaces;
+    waiting_[path] = {std::move(waits)};
+  }
+}

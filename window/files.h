@@ -39,6 +39,20 @@ struct FileRefusal {
 
 class Files {
  public:
+  // What is left of earlier trouble with the disk. A change that waits is what its file would hold by now.
+  struct Memory {
+    struct Change {
+      std::string text;
+      bool replaces;
+    };
+    std::map<std::filesystem::path, std::string> known;
+    std::map<std::filesystem::path, Change> waiting;
+    std::set<std::filesystem::path> unread;
+    std::set<std::pair<FileRefusal::What, std::filesystem::path>> told;
+    bool stuck = false;
+    bool HoldsTrouble() const { return stuck || !waiting.empty() || !unread.empty() || !told.empty(); }
+  };
+
   Files(std::filesystem::path folder, Disk& disk) : folder_(std::move(folder)), disk_(disk) {}
 
   // `AppPath`.
@@ -64,6 +78,9 @@ class Files {
   bool Waits(const std::filesystem::path& path) const { return waiting_.contains(path); }
   // What the disk has refused since the last call; each thing once.
   std::vector<FileRefusal> TakeRefusals();
+
+  Memory Remember() const;
+  void Recall(const Memory& memory);
 
   // How long another copy of the program is waited for, in milliseconds. A longer wait has no better chances:
   // what holds a lock that long is stuck.

@@ -13,6 +13,8 @@ class RandomSource {
   // From now on the results follow from `seed` alone; nothing is stirred in any more.
   void Seed(uint64_t seed);
   bool Seeded() const { return seeded_; }
+  // From which the results follow, as from a seed.
+  uint64_t State() const { return state_; }
   // Stirs a number into the generator that nobody can foresee, unless it was seeded.
   void Stir(uint64_t number);
   // Uniform in [0, 1).
@@ -25,6 +27,7 @@ class RandomSource {
   // How many results wait for these bounds.
   size_t CountForeseen(int lower, int upper) const;
   void ForgetForeseen() { foreseen_.clear(); }
+  const std::map<std::pair<int, int>, std::deque<int>>& AllForeseen() const { return foreseen_; }
 
  private:
   uint64_t state_ = 0;

@@ -4,6 +4,8 @@ complete -c cardhaven-console -l today -x -a 'Sumfall Fivestack Blackrush Duopic
 complete -c cardhaven-console -l deal -x -d 'Play that deal, from 1 to 999999999'
 complete -c cardhaven-console -l history -d 'Print the games played so far'
 complete -c cardhaven-console -l statistics -a 'Sumfall Fivestack Blackrush Duopick Spirehold Handgrid Treyshift' -d 'Print what they amount to'
+complete -c cardhaven-console -l record -r -d 'Write down what is played'
+complete -c cardhaven-console -l verify -d 'Play records again and tell which ones hold'
 complete -c cardhaven-console -l seed -x -d 'Make the cards fall the same way each time'
 complete -c cardhaven-console -l start -x -d 'The time of day at the start'
 complete -c cardhaven-console -l screen -x -d 'The size of the screen in pixels, as 1024x768'

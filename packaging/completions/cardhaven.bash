@@ -13,18 +13,30 @@ _cardhaven() {
       COMPREPLY=($(compgen -W 'Sumfall Fivestack Blackrush Duopick Spirehold Handgrid Treyshift' -- "$cur"))
       return
       ;;
+    --record)
+      compopt -o filenames
+      COMPREPLY=($(compgen -f -- "$cur"))
+      return
+      ;;
     --deal | --seed | --speed | --start | --screen) return ;;
   esac
   case $cur in
     -*)
-      options='--folder --game --today --deal --seed --start --help --version'
+      options='--folder --record --game --today --deal --seed --start --help --version'
       case $1 in
-        *cardhaven-console) options="$options --screen --history --statistics" ;;
+        *cardhaven-console) options="$options --screen --verify --history --statistics" ;;
         *) options="$options --console --speed" ;;
       esac
       COMPREPLY=($(compgen -W "$options" -- "$cur"))
       ;;
     *)
+      case " ${COMP_WORDS[*]} " in
+        *" --verify "*)
+          compopt -o filenames
+          COMPREPLY=($(compgen -f -- "$cur"))
+          return
+          ;;
+      esac
       compopt -o filenames
       COMPREPLY=($(compgen -d -- "$cur") $(compgen -f -X '!*.sfl' -- "$cur"))
       ;;

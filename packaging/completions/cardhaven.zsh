@@ -1,6 +1,7 @@
 #compdef cardhaven
 _arguments \
   '--folder[where settings, high scores and saved games are kept]:folder:_directories' \
+  '--record[write down what is played]:file:_files' \
   '--console[take commands from standard input]' \
   '--speed[let the clock of --console run N times as fast]:factor:' \
   '--game[open that game at once]:game:(Sumfall Fivestack Blackrush Duopick Spirehold Handgrid Treyshift)' \

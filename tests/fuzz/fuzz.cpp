@@ -1,5 +1,5 @@
-// Feeds texts from nowhere to all that reads texts: settings, tables, saved games, command lines, console
-// lines and, where the desktop is built, the screening of pictures.
+// Feeds texts from nowhere to all that reads texts: settings, tables, saved games, records, command lines,
+// console lines and, where the desktop is built, the screening of pictures.
 //
 // A plain loop; the corpus has a folder for each reader:
 //
@@ -26,6 +26,7 @@
 #include "app/options.h"
 #include "games/games.h"
 #include "games/sumfall/saved_game.h"
+#include "record/replay.h"
 #include "suite/high_scores.h"
 #include "suite/settings_file.h"
 #include "suite/suite.h"
@@ -85,6 +86,14 @@ void Saved(const std::string& text) {
   }
 }
 
+// Whatever it says, a record leaves nothing on the disk.
+void Record(const std::string& text) {
+  const record::Verdict verdict = record::Replay(text, "", AllGames());
+  Expect(verdict.kind != record::Verdict::Kind::Holds || !verdict.result.game.empty(),
+         "what holds is a game");
+  Expect(!fs::exists(record::kFolder), "nothing is written");
+}
+
 void CommandLine(const std::string& text) {
   std::vector<std::string> arguments;
   std::istringstream lines(text);
@@ -103,6 +112,7 @@ constexpr Reader kReaders[] = {
     {"settings", Settings},
     {"table", Table},
     {"saved", Saved},
+    {"record", Record},
     {"options", CommandLine},
     {"console", [](const std::string& text) { Console(text, nullptr, ""); }},
 #ifdef CARDHAVEN_FUZZ_DESKTOP

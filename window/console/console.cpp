@@ -1,7 +1,5 @@
 #include "window/console/console.h"
 
-#include <algorithm>
-#include <chrono>
 #include <cstdlib>
 #include <istream>
 #include <ostream>
@@ -31,31 +29,4 @@ void ConsoleFrontEnd::Advance(int milliseconds) {
         if (leaving::IsWanted()) leaving::Now(EXIT_SUCCESS);
         platform.Enter({Event::Kind::Tick});
       });
-}
-
-DateTime ConsoleFrontEnd::Now() {
-  using namespace std::chrono;
-  const sys_days day = year_month_day{year{options_.start.year}, month(options_.start.month),
-                                      std::chrono::day(options_.start.day)};
-  const sys_seconds moment = day + hours(options_.start.hour) + minutes(options_.start.minute) +
-                             seconds(options_.start.second) + floor<seconds>(milliseconds(clock_.Now()));
-  const sys_days today = floor<days>(moment);
-  const year_month_day date(today);
-  const hh_mm_ss clock(moment - today);
-  return {int(date.year()),           int(unsigned(date.month())),  int(unsigned(date.day())),
-          int(clock.hours().count()), int(clock.minutes().count()), int(clock.seconds().count())};
-}
-
-Extent ConsoleFrontEnd::TextExtent(const Label& label) {
-  // Letters of one breadth: a rule that needs no font and gives the same everywhere.
-  int lines = 1, letters = 0, longest = 0;
-  for (unsigned char byte : label.Caption.get()) {
-    if (byte == '\n') {
-      ++lines;
-      letters = 0;
-    } else if (byte != '\r' && (byte & 0xC0) != 0x80) {
-      longest = std::max(longest, ++letters);
-    }
-  }
-  return {longest * label.FontSize * 10, lines * label.FontSize * 30};
 }

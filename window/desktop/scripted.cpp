@@ -1,7 +1,6 @@
 #include "window/desktop/scripted.h"
 
 #include <QAbstractButton>
-#include <QDateTime>
 #include <QMessageBox>
 #include <QSocketNotifier>
 #include <algorithm>
@@ -83,16 +82,6 @@ void ScriptedDesktop::PassTo(long long moment) {
   Pause(whole);
   owed_ -= whole;
   clock_.PassTo(moment);
-}
-
-DateTime ScriptedDesktop::Now() {
-  const DateTime& start = options_.start;
-  const QDateTime now = QDateTime(QDate(start.year, start.month, start.day),
-                                  QTime(start.hour, start.minute, start.second), Qt::UTC)
-                            .addMSecs(clock_.Now());
-  const QDate date = now.date();
-  const QTime time = now.time();
-  return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
 }
 
 void ScriptedDesktop::PressAnswer(Platform&, Answer answer) {

@@ -18,7 +18,7 @@ class ScriptedDesktop : public DesktopFrontEnd, private DesktopHands {
                   std::ostream& out);
 
   long long Milliseconds() override { return clock_.Now(); }
-  DateTime Now() override;
+  DateTime Now() override { return Later(options_.start, clock_.Now()); }
   std::string FindBrowser() override { return "browser"; }
   bool OpenPage(const std::string&, const std::string&) override { return true; }
 

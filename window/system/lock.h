@@ -14,7 +14,10 @@ class FolderLock {
   // One that was had, or wasn't, where there is no such folder to lock.
   FolderLock(bool held, bool folderIsThere) : held_(held), folderIsThere_(folderIsThere) {}
   ~FolderLock();
-  FolderLock(const FolderLock&) = delete;
+  FolderLock(FolderLock&& other) noexcept
+      : descriptor_(std::exchange(other.descriptor_, -1)),
+        held_(other.held_),
+        folderIsThere_(other.folderIsThere_) {}
 
   // Whether nobody else holds it; true as well where the file system knows no locks.
   bool Held() const { return held_; }
