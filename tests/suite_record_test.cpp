@@ -5,6 +5,7 @@
 
 #include "record/recorder.h"
 #include "record/replay.h"
+#include "suite/moments.h"
 #include "tests/driver.h"
 
 namespace {
@@ -153,8 +154,8 @@ TEST(Record, EachWindowHasChanceOfItsOwnWithoutASeed) {
   const Played free = Play(opens + opens, std::nullopt), seeded = Play(opens + opens, 5);
   ASSERT_EQ(free.records.size(), 2u);
   EXPECT_NE(chanceIn(free.records[0]), chanceIn(free.records[1]));
-  EXPECT_EQ(chanceIn(seeded.records[0]), "\nchance 5");
-  EXPECT_NE(chanceIn(seeded.records[1]), "\nchance 5") << "runs on";
+  EXPECT_EQ(chanceIn(seeded.records[0]), "\nchance 5 given");
+  EXPECT_NE(chanceIn(seeded.records[1]), "\nchance 5 given") << "runs on";
 }
 
 TEST(Record, NothingElseHolds) {
