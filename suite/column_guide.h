@@ -11,7 +11,7 @@ class ColumnGuide : public GameGuide {
 
   std::vector<Spot> Places() const override {
     std::vector<Spot> spots;
-    Add(spots, window_.PlayCardPicture, false, false, "stock");
+    AddStock(spots, window_.PlayCardPicture);
     Add(spots, window_.NextCardPicture, false, false, "next card");
     for (int i = 0; i < window_.cmdHit.size(); ++i) {
       const std::string name = "olumn " + std::to_string(i + 1);

@@ -175,6 +175,8 @@ class GameWindow : public Form {
 
   // If the player wants them.
   void PlaySound(const char* path);
+  // The bonus round comes next.
+  void CheerBonusRound();
   // The player's click isn't done, and sounds so.
   void Refuse();
   void StartMusic();

@@ -83,6 +83,11 @@ void GameWindow::PlaySound(const char* path) {
   if (common.PlaySounds) common.PlayWaveFile(path);
 }
 
+void GameWindow::CheerBonusRound() {
+  platform.front.Triumph(*this);
+  PlaySound("\\HighScore.wav");
+}
+
 void GameWindow::Refuse() {
   platform.front.Refused();
   PlaySound("\\Chord.wav");

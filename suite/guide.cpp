@@ -76,8 +76,14 @@ void GameGuide::Add(std::vector<Spot>& spots, Image& image, bool playable, bool 
                     const std::string& place) const {
   const std::string text = SpokenPicture(image.Picture);
   if (text.empty()) return;
-  spots.push_back({&image, text + (place.empty() ? "" : ", " + place), playable && Plays(), selected,
+  spots.push_back({&image, text + (place.empty() ? "" : ", " + place), playable && Plays(), selected, false,
                    RankOfPicture(image.Picture)});
+}
+
+void GameGuide::AddStock(std::vector<Spot>& spots, Image& image, bool playable) const {
+  const size_t before = spots.size();
+  Add(spots, image, playable, false, "stock");
+  if (spots.size() > before) spots.back().draws = true;
 }
 
 // By the splash panel.

@@ -42,6 +42,8 @@ class GameGuide : public Guide {
   // shows none of these. None can be played while no round runs.
   void Add(std::vector<Spot>& spots, Image& image, bool playable, bool selected = false,
            const std::string& place = "") const;
+  // The same for what cards are drawn from.
+  void AddStock(std::vector<Spot>& spots, Image& image, bool playable = false) const;
   // Rows that several games have.
   static KeyRow RankKeys();  // the next card of a rank
   static KeyRow BackKey();   // takes a selection back

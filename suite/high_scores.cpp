@@ -156,6 +156,8 @@ void UpdateHighScoreTable(const std::string& tableName, GameWindow& window, cons
   common.TellWhatCantBeKept();
   if (placed) {
     frmHighScores dialog(common, window);
+    dialog.Load();
+    if (place == 0) common.platform.front.Triumph(dialog);
     dialog.Show(true);
   }
 }

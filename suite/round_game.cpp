@@ -26,6 +26,7 @@ void RoundGame::TakeScore() {
 void RoundGame::AnnounceRound(bool bonus) {
   if (plan.commandsLiveWhileTold) EnableButtons(true);
   const BonusCall& call = plan.bonusCall;
+  if (bonus) platform.front.Triumph(*this);
   if (bonus && call.waveFirst) PlaySound(call.wave);
   ShowMessage(bonus ? call.text : "Prepare for Round Two!");
   if (bonus && !call.waveFirst) PlaySound(call.wave);

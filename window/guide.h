@@ -17,7 +17,8 @@ struct Spot {
   std::string text;       // "Ten of diamonds", "Face down, stock", "Empty, row 1, column 2"
   bool playable = false;  // a click on it would be taken as a move now
   bool selected = false;
-  char rank = 0;  // of a face that shows: 'A', '2' to '9', 'T', 'J', 'Q', 'K'; else 0
+  bool draws = false;  // such a click draws a card: nothing can be laid there
+  char rank = 0;       // of a face that shows: 'A', '2' to '9', 'T', 'J', 'Q', 'K'; else 0
 };
 
 // A key, or several struck one after the other, for a click. Of several clicks for one key the first counts

@@ -44,6 +44,8 @@ class FrontEnd : public Observer, public Border {
   virtual void Clicked(Control& /*control*/) {}
   // The window doesn't do what the player has clicked for.
   virtual void Refused() {}
+  // What is worth a cheer has come off there. `goes`: it is about to be cleared away.
+  virtual void Triumph(Visual& /*where*/, bool /*goes*/ = false) {}
   // Obeys "open "PATH" type sequencer alias NAME", "play NAME", "close NAME".
   virtual void MediaCommand(const std::string& command) = 0;
 };

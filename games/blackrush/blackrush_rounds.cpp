@@ -120,7 +120,7 @@ void frmBlackrush::PrepareRound(bool bonus) {
   StartMusic();
   common.ShuffleDeck();
   PlayCardPicture.Picture = common.ImageList2("FULL");
-  if (bonus) PlaySound("\\HighScore.wav");
+  if (bonus) CheerBonusRound();
   TellBriefly(bonus ? "Prepare for Bonus Round" : "Prepare for Round " + std::to_string(CurrentRound));
   Timer1.Enabled = true;
   for (int i = 0; i < kColumns; ++i) ShowEmptyPlace(i);

@@ -70,7 +70,9 @@ void frmDuopick::TakeBoth(int first, int second) {
   RemoveCard(second);
   RemoveCard(first);
   if (second == kUpCard || first == kUpCard) ShowNextUpCard(first, second);
-  if (board.RoundCompleted()) cmdTakeScore_Click(By::Button);
+  if (!board.RoundCompleted()) return;
+  platform.front.Triumph(*this);
+  cmdTakeScore_Click(By::Button);
 }
 
 void frmDuopick::RemoveCard(int index) {

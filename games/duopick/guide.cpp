@@ -14,7 +14,7 @@ class DuopickGuide : public GameGuide {
   std::vector<Spot> Places() const override {
     std::vector<Spot> spots;
     for (int card = 0; card < kCards; ++card) {
-      if (card == kUpCard) Add(spots, window_.CardStackPicture, !window_.board.stack.empty(), false, "stock");
+      if (card == kUpCard) AddStock(spots, window_.CardStackPicture, !window_.board.stack.empty());
       Add(spots, window_.PlayCard(card), window_.board.Takes(card), window_.board.selected == card,
           card == kUpCard ? "up card" : "");
     }

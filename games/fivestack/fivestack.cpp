@@ -88,7 +88,9 @@ void frmFivestack::SumUp() {
   ShowCardTotal(0);
   long long sum = 0;
   for (const Column21& column : board.columns) ShowCardTotal(sum += column.total);
-  if (board.cardTotal == kPerfect) cmdGiveUp_Click();
+  if (board.cardTotal != kPerfect) return;
+  platform.front.Triumph(lblCurrentTotal, true);
+  cmdGiveUp_Click();
 }
 
 void frmFivestack::ShowCardTotal(long long total) {
@@ -334,7 +336,7 @@ void frmFivestack::PrepareRound() {
   ShowCards(false);
   const bool bonus = CurrentRound == kBonusRound;
   ScoringLabel.Caption = bonus ? "Prepare for Bonus Round!" : "Prepare for Round " + number;
-  if (bonus) PlaySound("\\HighScore.wav");
+  if (bonus) CheerBonusRound();
   ScoringLabel.ForeColor = kBlue;
   ScoringLabel.Visible = true;
   Wait();

@@ -16,7 +16,7 @@ class HandgridGuide : public GameGuide {
     for (int cell = 0; cell < kCells; ++cell)
       Add(spots, window_.PlayCards(cell), window_.board.Takes(cell), false,
           "row " + std::to_string(cell / kSide + 1) + ", column " + std::to_string(cell % kSide + 1));
-    Add(spots, window_.CardStackPicture, false, false, "stock");
+    AddStock(spots, window_.CardStackPicture);
     Add(spots, window_.HoleCard, false, false, "next card");
     return spots;
   }

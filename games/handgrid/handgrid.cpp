@@ -185,7 +185,7 @@ void frmHandgrid::AnnounceNextRound() {
   if (CurrentRound > plan.rounds) {
     lblRound.Caption = "Bonus Round";
     ScoringLabel.Caption = "Bonus round!";
-    PlaySound("\\HighScore.wav");
+    CheerBonusRound();
   } else {
     const std::string number = std::to_string(CurrentRound);
     lblRound.Caption = "Round: " + number;

@@ -15,7 +15,7 @@ class SpireholdGuide : public GameGuide {
     std::vector<Spot> spots;
     for (int card = 0; card < kCards; ++card)
       Add(spots, window_.UpCardImage(card), window_.board.CheckForLegalMove(card));
-    Add(spots, window_.CardStackPicture, !window_.board.stack.empty(), false, "stock");
+    AddStock(spots, window_.CardStackPicture, !window_.board.stack.empty());
     Add(spots, window_.UpCardPicture, false, false, "up card");
     return spots;
   }

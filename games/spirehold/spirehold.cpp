@@ -61,6 +61,7 @@ void frmSpirehold::CompleteTower(int index) {
   Label* const labels[] = {&lblTower1, &lblTower2, &lblTower3};
   labels[index]->Visible = true;
   labels[index]->Caption = "Tower " + std::to_string(index + 1) + " Completed!";
+  platform.front.Triumph(*labels[index]);
   PlaySound("\\HighScore.wav");
 }
 

@@ -16,7 +16,7 @@ class SumfallGuide : public GameGuide {
     const Board& board = window_.board;
     for (int place = 0; place < kPlaces; ++place)
       Add(spots, window_.FieldCardPicture(place), board.Takes(place), board.selected[place]);
-    Add(spots, window_.PlayCardPicture, board.CanTurn(), false, "stock");
+    AddStock(spots, window_.PlayCardPicture, board.CanTurn());
     Add(spots, window_.UpCardPicture, board.Takes(kUpCard), board.selected[kUpCard], "up card");
     return spots;
   }

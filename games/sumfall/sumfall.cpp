@@ -113,7 +113,10 @@ void frmSumfall::CheckTotal() {
   lblCurrentElevens.Caption = std::to_string(board.combinations);
   ShowTotal();
   ShowScore();
-  if (board.CheckForCompletion()) cmdTakeScore_Click(By::Button);
+  if (board.CheckForCompletion()) {
+    platform.front.Triumph(*this);
+    cmdTakeScore_Click(By::Button);
+  }
   if (board.TurnsByItself()) PlayCardPicture_Click();
   board.upCardUsed = false;
 }

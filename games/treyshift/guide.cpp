@@ -21,7 +21,7 @@ class TreyshiftGuide : public GameGuide {
       add(Zone::Temp, window_.TempCard(i), "storage " + std::to_string(i + 1));
     for (int slot = 0; slot < kFieldSlots; ++slot)
       add(Zone::Field, window_.PlayCard(slot), "column " + std::to_string(slot % kColumns + 1));
-    Add(spots, window_.CardStackPicture, false, false, "stock");
+    AddStock(spots, window_.CardStackPicture);
     for (int i = 0; i < kUpSlots; ++i)
       add(Zone::Deck, window_.UpCard(i), i == kInPlay ? "deck" : "deck, later");
     return spots;

@@ -143,6 +143,7 @@ void frmTreyshift::AnnounceNextRound() {
                                                   : "Prepare For Round " + std::to_string(CurrentRound);
   CenterScoringLabel();
   ShowScoringLabel(true);
+  if (CurrentRound > plan.rounds) platform.front.Triumph(*this);
   platform.Sleep(2000);
 }
 

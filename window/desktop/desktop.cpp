@@ -98,6 +98,14 @@ void DesktopFrontEnd::Deliver(Form& form, std::function<void()> deed) {
   DeliverWaiting();
 }
 
+void DesktopFrontEnd::ClickSoftly(Control& control) {
+  Do(control, [this, &control] {
+    softly_ = true;
+    player::Click(control);
+    softly_ = false;
+  });
+}
+
 void DesktopFrontEnd::DeliverWaiting() {
   while (MayRun() && !platform.HasEnded()) {
     if (deeds_.empty()) {
@@ -187,6 +195,7 @@ void DesktopFrontEnd::Wake() {
 // --- Sounds --------------------------------------------------------------------------------------
 
 void DesktopFrontEnd::PlayWave(const std::string& path) {
+  if (softly_) return;
   if (hurry_.Hurried()) {  // of many at once only the last one would be heard
     waveInAHurry_ = path;
     return;
@@ -201,11 +210,20 @@ void DesktopFrontEnd::PlayWaveInAHurry() {
 // Shown and told as well as heard.
 void DesktopFrontEnd::Refused() {
   const Control* const clicked = paintbox.occasion.clicked;
-  if (!clicked) return;
+  if (!clicked || softly_) return;
   access_.Refused(*clicked);
   if (clicked->kind != Control::Kind::Image) return;
   if (FormWindow* window = WindowOf(clicked->form))
     window->Board().Refuse(static_cast<const Visual&>(*clicked));
+}
+
+// Only what has gone in the same breath is held up, that it can be seen.
+void DesktopFrontEnd::Triumph(Visual& where, bool goes) {
+  constexpr int kSeen = 900;
+  FormWindow* const window = WindowOf(where.form);
+  if (!guides || !window) return;
+  window->Board().Celebrate(where);
+  if (goes) Sleep(kSeen);
 }
 
 // --- The world -----------------------------------------------------------------------------------

@@ -44,6 +44,7 @@ class DesktopFrontEnd : public FrontEnd, public Deeds {
   FormWindow* WindowOf(const Form& form) const { return windows_.Of(form); }
 
   void Deliver(Form& form, std::function<void()> deed) override;
+  void ClickSoftly(Control& control) override;
   bool TakeAsHurry() override { return hurry_.TakePress(); }
   bool Busy() const override { return busy_; }
   bool Knows(const Form& form) const override { return WindowOf(form); }
@@ -56,6 +57,7 @@ class DesktopFrontEnd : public FrontEnd, public Deeds {
   void PlayWave(const std::string& path) override;
   void Clicked(Control& control) override { paintbox.occasion.clicked = &control; }
   void Refused() override;
+  void Triumph(Visual& where, bool goes) override;
   void MediaCommand(const std::string& command) override { media_.Command(command); }
   std::string FindBrowser() override;
   bool OpenPage(const std::string& browser, const std::string& url) override;
@@ -154,7 +156,7 @@ class DesktopFrontEnd : public FrontEnd, public Deeds {
   std::vector<BoxWindow*> boxes_;
   QEventLoop* loop_ = nullptr;  // of the innermost wait
   const std::function<bool()>* waiting_ = nullptr;
-  bool busy_ = false, painted_ = false;
+  bool busy_ = false, painted_ = false, softly_ = false;
   Ticks ticks_ = Ticks::Served;
   int status_ = 0;
 };

@@ -19,6 +19,8 @@ class Deeds {
     Do(control, [&control] { player::Click(control); });
   }
 
+  // A click that only takes back what was begun: what the window says to it is neither heard nor shown.
+  virtual void ClickSoftly(Control& control) = 0;
   // A press that came by no mouse or key: whether it only lets the handler under way run on without waiting.
   virtual bool TakeAsHurry() = 0;
   // Whether a handler is under way that doesn't wait for the player.

@@ -25,7 +25,8 @@ Canvas::Canvas(Form& form, const Guide* guide, Paintbox& paintbox, QWidget* pare
       guide_(guide),
       paintbox_(paintbox),
       board_(IsBoard(form)),
-      motion_(form, paintbox, [this](const QRect& area) { Repaint(area); }) {
+      motion_(form, paintbox, [this](const QRect& area) { Repaint(area); }),
+      celebration_([this](const QRect& area) { Repaint(area); }) {
   setObjectName("canvas");
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
@@ -66,6 +67,16 @@ void Canvas::SetNotes(std::vector<Note> notes) {
 void Canvas::Settle() {
   const std::optional<long long> score = guide_ ? guide_->Score() : std::nullopt;
   motion_.Settle({size(), zoom_, zoom_ * devicePixelRatioF(), isVisible(), score.value_or(0)});
+}
+
+void Canvas::Celebrate(const Visual& where) {
+  if (!paintbox_.manner.glides) return;
+  const QRectF board(QPointF(0, 0), QSizeF(size()) / zoom_);
+  const bool whole = where.kind == Control::Kind::Form || !IsShown(where);
+  const QRectF area =
+      whole ? board.adjusted(board.width() / 4, board.height() / 3, -board.width() / 4, -board.height() / 2)
+            : QRectF(PlaceOf(where));
+  celebration_.Begin(area, paintbox_.manner.strong);
 }
 
 void Canvas::Leave() {
@@ -123,6 +134,7 @@ void Canvas::paintEvent(QPaintEvent* event) {
   }
   paintNotes(NoteLayer::Above);
   motion_.PaintAbove(easel);
+  celebration_.Paint(painter);
   if (paintOver) paintOver(painter);
   if (painted) painted();
 }
@@ -213,6 +225,7 @@ void Canvas::ShowToolTip(QHelpEvent& event) {
 
 bool Canvas::event(QEvent* event) {
   if (event->type() == QEvent::Hide || event->type() == QEvent::Resize) motion_.Drop();
+  if (event->type() == QEvent::Hide) celebration_.Drop();
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   ShowToolTip(static_cast<QHelpEvent&>(*event));
   return true;

@@ -9,6 +9,7 @@
 #include <optional>
 #include <unordered_map>
 
+#include "window/desktop/painting/celebration.h"
 #include "window/desktop/painting/motion.h"
 #include "window/desktop/painting/scene.h"
 #include "window/guide.h"
@@ -42,8 +43,14 @@ class Canvas : public QWidget {
   void Settle();
   // Shows that a click on the control was refused.
   void Refuse(const Visual& control) { motion_.Refuse(control); }
+  // The player holds a card so far from its place, over what it would be laid on; and lets it go.
+  void Carry(const Image& card, QPointF by, const Visual* aim) { motion_.Carry(card, by, aim); }
+  void PutBack() { motion_.PutBack(); }
+  const Image* Carried() const { return motion_.Carried(); }
+  // Shows that something has come off there; on the whole board where the control doesn't show.
+  void Celebrate(const Visual& where);
   // Whether nothing moves, so that the board is painted as it stands.
-  bool AtRest() const { return motion_.AtRest(); }
+  bool AtRest() const { return motion_.AtRest() && celebration_.AtRest(); }
   // The form and its guide are gone: nothing of them may be touched any more.
   void Leave();
   bool Lives() const { return lives_; }
@@ -92,6 +99,7 @@ class Canvas : public QWidget {
   int pointer_ = 0;  // the one that shows; above 99 that picture
   QPixmap baize_;
   Motion motion_;
+  Celebration celebration_;
   std::unique_ptr<Calm> calm_;                      // where less is to move
   std::unordered_map<const Visual*, QRect> reach_;  // where each control was drawn last
 };

@@ -91,7 +91,15 @@ std::vector<Motion::Change> Motion::TakeChanges() {
   return changes;
 }
 
+// Where the card that is held lies elsewhere by now, it has set out from where it was held.
 void Motion::Settle(const Ground& ground) {
+  SettleCards(ground);
+  if (!carried_ || FaceOf(*carried_) == carriedFace_) return;
+  RepaintCarried();
+  carried_ = nullptr;
+}
+
+void Motion::SettleCards(const Ground& ground) {
   if (!IsOn()) {
     known_.clear();
     return Drop();
@@ -189,7 +197,9 @@ void Motion::Begin(std::vector<Change>& changes) {
     const auto laid = std::ranges::find_if(passing_, [&](const Face& face) {
       return face.LooksLike(each.before) && face.rect != each.before.rect;
     });
-    const QRect to = laid == passing_.end() ? each.before.rect : laid->rect;
+    const QRect to = laid != passing_.end()   ? laid->rect
+                     : each.image == carried_ ? CarriedTo().toAlignedRect()
+                                              : each.before.rect;
     cleared.push_back(QRectF(to).center());
     begun.push_back(
         {Piece::Kind::Fade, nullptr, each.before, {}, WhereNow(*each.image, each.before.rect), to, now_});
@@ -237,6 +247,32 @@ void Motion::Refuse(const Visual& control) {
   GoOn();
   const QRectF rect = DrawnRect(control, paintbox_.pictures);
   Add({Piece::Kind::Flash, &control, {}, {}, rect, rect, now_});
+}
+
+// --- A card in the hand --------------------------------------------------------------------------
+
+void Motion::Carry(const Image& card, QPointF by, const Visual* aim) {
+  if (carried_) RepaintCarried();
+  if (carried_ != &card) carriedFace_ = FaceOf(card);
+  carried_ = &card;
+  carriedBy_ = by;
+  aim_ = aim;
+  RepaintCarried();
+}
+
+void Motion::RepaintCarried() const {
+  repaint_(Around(CarriedTo()));
+  repaint_(Around(carriedFace_.rect));
+  if (aim_) repaint_(Around(DrawnRect(*aim_, paintbox_.pictures)));
+}
+
+void Motion::PutBack() {
+  if (!carried_) return;
+  RepaintCarried();
+  const Image* const card = std::exchange(carried_, nullptr);
+  if (!IsOn()) return;
+  GoOn();
+  Add({Piece::Kind::Glide, card, carriedFace_, {}, CarriedTo(), carriedFace_.rect, now_});
 }
 
 // --- Frames --------------------------------------------------------------------------------------
@@ -293,6 +329,7 @@ QRectF Motion::AreaOf(const Piece& piece) const {
 
 // Where the card of this image is seen just now.
 QRectF Motion::WhereNow(const Image& image, const QRect& rest) const {
+  if (&image == carried_) return CarriedTo();
   for (const Piece& piece : pieces_)
     if (piece.control == &image && piece.kind == Piece::Kind::Glide) return AreaOf(piece);
   return rest;
@@ -301,6 +338,13 @@ QRectF Motion::WhereNow(const Image& image, const QRect& rest) const {
 // --- Painting ------------------------------------------------------------------------------------
 
 bool Motion::PaintInstead(const Easel& easel, const Placed& placed) const {
+  if (placed.control == carried_) {
+    easel.painter.save();
+    easel.painter.setOpacity(0.35);
+    PaintPicture(easel, carriedFace_.picture, carriedFace_.framed, carriedFace_.rect);
+    easel.painter.restore();
+    return true;
+  }
   for (const Piece& piece : pieces_) {
     if (piece.control != placed.control) continue;
     if (piece.kind == Piece::Kind::Glide) {
@@ -365,4 +409,13 @@ void Motion::PaintAbove(const Easel& easel) const {
     }
     painter.restore();
   }
+  if (!carried_) return;
+  if (aim_) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(style::kDeepInk, 5));
+    painter.drawRoundedRect(QRectF(DrawnRect(*aim_, paintbox_.pictures)).adjusted(1, 1, -1, -1), 5, 5);
+    painter.setPen(QPen(easel.strong ? style::kStrongMark : style::kGold, 3));
+    painter.drawRoundedRect(QRectF(DrawnRect(*aim_, paintbox_.pictures)).adjusted(1, 1, -1, -1), 5, 5);
+  }
+  PaintPicture(easel, carriedFace_.picture, carriedFace_.framed, CarriedTo());
 }

@@ -33,6 +33,12 @@ class Motion {
   void Settle(const Ground& ground);
   // Shows that a click on this control was refused.
   void Refuse(const Visual& control);
+  // The player holds this card so far from its place, over what it would be laid on, if anything. It comes
+  // back by itself where it doesn't lie there any more.
+  void Carry(const Image& card, QPointF by, const Visual* aim);
+  const Image* Carried() const { return carried_; }
+  // The player has let the card go: it glides to where it lies.
+  void PutBack();
   // Puts everything to rest where it belongs.
   void Drop();
   bool AtRest() const { return pieces_.empty(); }
@@ -71,6 +77,9 @@ class Motion {
 
   bool IsOn() const { return paintbox_.manner.glides; }
   Face FaceOf(const Image& image) const;
+  QRectF CarriedTo() const { return QRectF(carriedFace_.rect).translated(carriedBy_); }
+  void RepaintCarried() const;
+  void SettleCards(const Ground& ground);
   std::vector<Change> TakeChanges();
   // Sets the cards in motion, and keeps where some of them have been cleared away.
   void Begin(std::vector<Change>& changes);
@@ -94,6 +103,10 @@ class Motion {
   bool changed_ = false;
   QSize size_;
   long long score_ = 0;
+  const Image* carried_ = nullptr;  // with what is known of it
+  Face carriedFace_;
+  QPointF carriedBy_;
+  const Visual* aim_ = nullptr;
   QPointF cleared_;  // where cards went lately
   long long clearedAt_ = -1, clearedIn_ = -1;
   long long now_ = 0;  // of the frame that is shown

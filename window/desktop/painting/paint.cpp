@@ -347,7 +347,7 @@ QRect Reach(const Visual& control, const Pictures& pictures) {
     case Control::Kind::Label: {
       const QRectF bounds = LayOut(static_cast<const Label&>(control), rect).bounds;
       const QRect letters = bounds.isEmpty() ? QRect() : bounds.toAlignedRect().adjusted(-8, -8, 8, 8);
-      return IsOpaque(control) ? letters | rect : letters;
+      return IsOpaque(control) ? letters | rect.adjusted(-1, -1, 1, 1) : letters;
     }
     default:
       return rect.adjusted(-2, -2, 2, 2);

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "window/desktop/input/deeds.h"
+#include "window/desktop/input/drag.h"
 #include "window/desktop/input/keyboard.h"
 #include "window/desktop/painting/canvas.h"
 #include "window/desktop/speech/access.h"
@@ -48,6 +49,7 @@ FormWindow::FormWindow(Form& form, std::unique_ptr<Guide> guide, const Desk& des
     comfort_ = std::make_unique<Comfort>(*canvas_, desk.deeds, desk.looks, *guide_);
     if (!guide_->Keys().empty()) {
       keyboard_ = new Keyboard(*canvas_, desk.deeds, *guide_);
+      drag_ = new Drag(*canvas_, desk.deeds, *guide_);
       keyboard_->moved = [this] { desk_.ears.CursorMoved(*canvas_); };
     }
     connect(new QShortcut(Qt::SHIFT | Qt::Key_F1, this), &QShortcut::activated, this,
@@ -197,6 +199,7 @@ void FormWindow::Leave() {
   comfort_.reset();
   left_ = true;
   if (keyboard_) keyboard_->Leave();
+  if (drag_) drag_->Leave();
   for (auto& [control, widget] : canvas_->widgets) {
     widget->removeEventFilter(this);
     disconnect(widget, nullptr, widget, nullptr);  // not what Qt itself has tied to its end
@@ -318,6 +321,7 @@ void FormWindow::Settle() {
   if (left_) return;
   if (untold_ && player::WhyNot(form).empty()) TellSizeSoon();
   if (comfort_) comfort_->Settle();
+  if (drag_) drag_->Settle();
   if (qobject_cast<QMenuBar*>(focusWidget())) return;  // which gives the focus back by itself
   if (keyboard_) {
     keyboard_->Settle();

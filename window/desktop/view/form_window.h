@@ -14,6 +14,7 @@
 class Access;
 class Canvas;
 class Comfort;
+class Drag;
 class Looks;
 class Menus;
 class QLabel;
@@ -154,6 +155,7 @@ class FormWindow : public QWidget, public SpokenWindow {
   bool fits_ = false;      // what a normal window shows is fitted to its frame
   bool hasStood_ = false;  // on the screen, neither maximised nor minimised
   Keyboard* keyboard_ = nullptr;
+  Drag* drag_ = nullptr;
   TextBox* lastField_ = nullptr;
   bool refused_ = false;
   bool pressedInGame_ = false;  // the mouse, last
