@@ -108,7 +108,9 @@ class SelectGuide : public Guide {
     KeyRow games{"1 to " + std::to_string(window_.gameButtons.size()), "Open that game", {}};
     for (size_t i = 0; i < window_.gameButtons.size(); ++i)
       games.clicks.push_back({std::to_string(i + 1), window_.gameButtons[i]->NameInForm()});
-    return {games};
+    return {games,
+            {"F1", "What the games are about", {}},
+            {"Ctrl with +, -, 0", "Larger, smaller, as at first", {}}};
   }
   bool IsChoice() const override { return true; }
 
@@ -116,6 +118,23 @@ class SelectGuide : public Guide {
     for (size_t i = 0; i < window_.gameButtons.size(); ++i)
       if (&control == window_.gameButtons[i].get()) return window_.Games()[i].what;
     return "";
+  }
+
+  std::string Picture(const Control& button) const override {
+    for (size_t i = 0; i < window_.gameButtons.size(); ++i)
+      if (&button == window_.gameButtons[i].get())
+        return "games/" + std::string(window_.Games()[i].Name()) + ".svg";
+    return "";
+  }
+
+  std::optional<Note> HelpPlace() const override {
+    const int left = window_.cmdLaunchBrowser.Left + window_.cmdLaunchBrowser.Width, gap = 330;
+    return Note{&window_,
+                left + gap,
+                window_.cmdClose.Top,
+                window_.cmdClose.Left - left - 2 * gap,
+                window_.cmdClose.Height,
+                "Help"};
   }
 
   bool KeepsPlace() const override { return true; }

@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTableWidget>
+#include <set>
 
 #include "games/games.h"
 #include "games/spirehold/spirehold.h"
@@ -64,6 +66,28 @@ TEST_F(Comforts, TheSelectorSaysWhatGamesAreAboutAndComesBackWhereItStood) {
   }
   Start second(folder);
   EXPECT_EQ(second.Shown("frmSelect").pos(), QPoint(37, 41));
+  // Each button has its picture, and Help tells of all seven.
+  std::set<qint64> pictures;
+  for (const GameEntry& game : AllGames()) {
+    const QImage picture = second.Find<QPushButton>("frmSelect", game.button).icon().pixmap(22, 22).toImage();
+    pictures.insert(static_cast<qint64>(qHashBits(picture.constBits(), picture.sizeInBytes())));
+  }
+  EXPECT_EQ(pictures.size(), AllGames().size());
+  for (const bool byKey : {false, true}) {
+    bool told = false;
+    input::WhenModal([&] {
+      auto* table = QApplication::activeModalWidget()->findChild<QTableWidget*>("keys");
+      ASSERT_TRUE(table);
+      EXPECT_EQ(table->item(6, 0)->text() + table->item(6, 1)->text().left(10), "7Treyshift:");
+      told = true;
+      QApplication::activeModalWidget()->close();
+    });
+    if (byKey)
+      input::Key(second.Shown("frmSelect"), Qt::Key_F1);
+    else
+      input::Press(second.Find<QPushButton>("frmSelect", "help"), QPoint(5, 5));
+    EXPECT_TRUE(input::Await([&] { return told && !QApplication::activeModalWidget(); })) << byKey;
+  }
   View view = second.front.looks.Now();
   view.selector = QPoint(100'000, 41);  // on a screen that is gone
   second.front.looks.Set(view);

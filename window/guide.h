@@ -91,6 +91,10 @@ class Guide {
   virtual std::string Says(const Label& /*label*/) const { return ""; }
   // A sentence on a control that has no tool tip of its own; "" for none.
   virtual std::string ToolTip(const Control& /*control*/) const { return ""; }
+  // The file of a button's small picture; "" for none.
+  virtual std::string Picture(const Control& /*button*/) const { return ""; }
+  // Where a button for help has room in a window without menus.
+  virtual std::optional<Note> HelpPlace() const { return std::nullopt; }
   // Three lines on what to do, for a player who opens the window for the first time.
   virtual std::vector<std::string> FirstSteps() const { return {}; }
   // What they stand below, or above where there is no room; nothing while there is something else to see.

@@ -77,6 +77,9 @@ int main(int argc, char** argv) {
   for (std::size_t i = 0; i < entries.size(); ++i) {
     if (!Write(pictures_dir / entries[i].file, texts[i])) return 1;
   }
+  std::filesystem::create_directories(pictures_dir / "games", ignored);
+  for (const auto& [name, text] : pictures::DrawGames())
+    if (!Write(pictures_dir / "games" / name, text)) return 1;
   if (!WriteFourColours(pictures_dir / "four-colour")) return 1;
   if (argc == 2) return 0;
   const std::filesystem::path icons_dir = argv[2];

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "glyphs.h"
 
@@ -30,6 +32,9 @@ std::string DrawPointer();
 
 /// The title card of the game Sumfall.
 std::string DrawSumfall();
+
+/// Names and texts of the games' signs.
+std::vector<std::pair<std::string, std::string>> DrawGames();
 
 /// The application's icon; and the one for 16, 22, 24 or 32 pixels.
 std::string DrawIcon();

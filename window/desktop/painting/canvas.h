@@ -59,6 +59,8 @@ class Canvas : public QWidget {
   // Shows the pointer that the control under the mouse asks for.
   void UpdatePointer();
 
+  const Pictures& GetPictures() const { return paintbox_.pictures; }
+
   // What is written on the board beside its controls.
   void SetNotes(std::vector<Note> notes);
   const std::vector<Note>& Notes() const { return notes_; }

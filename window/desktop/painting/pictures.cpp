@@ -87,6 +87,11 @@ QPixmap Pictures::Get(int index, bool framed, double scale) {
   return found->second;
 }
 
+QImage Pictures::Other(const std::string& file, QSize size) const {
+  const QImage own = DrawFile(own_ / file, size);
+  return own.isNull() ? DrawFile(installed_ / file, size) : own;
+}
+
 void Pictures::SetFourColours(bool four) {
   if (std::exchange(fourColours_, four) != four) drawn_.clear();
 }

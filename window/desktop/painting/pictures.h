@@ -26,6 +26,8 @@ class Pictures {
   // The picture for a screen of that scale; with a thin frame around it, which makes it 2 pixels larger
   // either way. A picture without a usable file is an outlined card that names it.
   QPixmap Get(int index, bool framed, double scale);
+  // One that isn't in the catalogue; null without a usable file.
+  QImage Other(const std::string& file, QSize size) const;
   // Whether each suit has a colour of its own from now on.
   void SetFourColours(bool four);
   // Whether the edges of cards are thick.

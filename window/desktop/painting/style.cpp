@@ -81,6 +81,21 @@ class Zoomed : public QProxyStyle {
       Outline(*option, painter, option->rect, element == PE_IndicatorRadioButton);
   }
 
+  // The picture of a button stands at its left edge, so that those of a column are in line.
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element != CE_PushButtonLabel || !button || button->icon.isNull() || button->iconSize.isEmpty())
+      return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionButton label = *button;
+    const int side = button->iconSize.width(), margin = side / 6;
+    const QRect picture(button->rect.left() + margin, button->rect.center().y() - side / 2, side, side);
+    button->icon.paint(painter, picture);
+    label.icon = {};
+    label.rect.setLeft(picture.right() + margin);
+    QProxyStyle::drawControl(element, &label, painter, widget);
+  }
+
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override {
     QProxyStyle::drawComplexControl(control, option, painter, widget);

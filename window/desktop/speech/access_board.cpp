@@ -1,5 +1,6 @@
 #include "window/desktop/speech/access_board.h"
 
+#include <QPushButton>
 #include <QTimer>
 #include <algorithm>
 #include <typeinfo>
@@ -110,6 +111,9 @@ std::vector<QAccessibleInterface*> BoardAccess::Rest() const {
         break;
     }
   }
+  for (QPushButton* each : Board().findChildren<QPushButton*>(Qt::FindDirectChildrenOnly))
+    if (std::ranges::none_of(Board().widgets, [&](const auto& known) { return known.second == each; }))
+      put({Board().ToBoard(each->pos()), QSize(1, 1)}, QAccessible::queryAccessibleInterface(each));
   const std::vector<Note> notes = Notes();
   for (size_t i = 0; i < notes.size(); ++i) {
     const QString text = QString::fromStdString(notes[i].text);

@@ -1,7 +1,11 @@
 #include "window/desktop/view/comfort.h"
 
 #include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QWidget>
 #include <algorithm>
 
@@ -9,8 +13,33 @@
 #include "window/desktop/input/keyboard.h"
 #include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/notes.h"
+#include "window/desktop/painting/style.h"
+#include "window/desktop/view/keys_window.h"
 #include "window/desktop/view/looks.h"
+#include "window/desktop/view/native.h"
 #include "window/player.h"
+
+namespace {
+
+// A picture drawn for the size at which it is shown.
+class DrawnIcon : public QIconEngine {
+ public:
+  DrawnIcon(const Pictures& pictures, std::string file) : pictures_(pictures), file_(std::move(file)) {}
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
+    const QSize size = rect.size() * painter->device()->devicePixelRatioF();
+    if (image_.size() != size) image_ = pictures_.Other(file_, size);
+    painter->drawImage(rect, image_);
+  }
+  QIconEngine* clone() const override { return new DrawnIcon(pictures_, file_); }
+
+ private:
+  const Pictures& pictures_;
+  const std::string file_;
+  QImage image_;
+};
+
+}  // namespace
 
 Comfort::Comfort(Canvas& canvas, Deeds& deeds, Looks& looks, Guide& guide)
     : canvas_(canvas),
@@ -20,7 +49,36 @@ Comfort::Comfort(Canvas& canvas, Deeds& deeds, Looks& looks, Guide& guide)
       looks_(looks),
       guide_(guide) {
   for (const auto& [control, widget] : canvas.widgets)
-    ApplyToolTip(*widget, static_cast<const Visual&>(*control));
+    ApplyToolTip(*widget, static_cast<const Visual&>(*control)),
+        ApplyPicture(*widget, static_cast<const Visual&>(*control));
+  OfferHelp();
+}
+
+void Comfort::ApplyPicture(QWidget& widget, const Visual& control) const {
+  auto* button = qobject_cast<QPushButton*>(&widget);
+  const std::string file = guide_.Picture(control);
+  if (!button || file.empty()) return;
+  button->setIcon(QIcon(new DrawnIcon(canvas_.GetPictures(), file)));
+  ZoomNative(widget, control);
+}
+
+// A window without a menu has a button for it, and F1. It never takes the keyboard, which is the model's.
+void Comfort::OfferHelp() {
+  if (!guide_.HelpPlace()) return;
+  help_ = new QPushButton(QString::fromStdString(guide_.HelpPlace()->text), &canvas_);
+  help_->setObjectName("help");
+  help_->setFocusPolicy(Qt::NoFocus);
+  const auto show = [this] { deeds_.Do(form_, [this] { ShowKeys(form_, guide_, deeds_, window_); }); };
+  QObject::connect(help_, &QPushButton::clicked, help_, show);
+  QObject::connect(new QShortcut(Qt::Key_F1, help_), &QShortcut::activated, help_, show);
+  Zoom();
+}
+
+void Comfort::Zoom() {
+  if (!help_) return;
+  const Note place = *guide_.HelpPlace();
+  help_->setFont(style::Letters(canvas_.Zoom()));
+  help_->setGeometry(canvas_.ToWindow(NoteRect(place)));
 }
 
 void Comfort::BeforeShow() {

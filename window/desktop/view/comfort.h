@@ -10,6 +10,7 @@ class Canvas;
 class Deeds;
 class Keyboard;
 class Looks;
+class QPushButton;
 class QWidget;
 
 class Comfort {
@@ -22,6 +23,8 @@ class Comfort {
   void Hidden(const Keyboard& keyboard);
   // A handler has ended.
   void Settle();
+  // The window has another zoom.
+  void Zoom();
   // The window is hidden for good.
   void Leave();
   std::string PanelText(const Panel& panel) const;
@@ -29,6 +32,8 @@ class Comfort {
  private:
   // The tool tip of a widget that has none of its own.
   void ApplyToolTip(QWidget& widget, const Visual& control) const;
+  void ApplyPicture(QWidget& widget, const Visual& control) const;
+  void OfferHelp();
   void ShowNotes();
   void PlaceSheet(Note& sheet) const;
   // Where something stands on the board, or something but cards; pixels at 100 %.
@@ -44,6 +49,7 @@ class Comfort {
   Deeds& deeds_;
   Looks& looks_;
   Guide& guide_;
+  QPushButton* help_ = nullptr;
   std::string written_;  // in the box that is offered again
   bool shown_ = false, showsSteps_ = false;
 };

@@ -8,6 +8,7 @@
 #include "window/desktop/input/deeds.h"
 #include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/style.h"
+#include "window/desktop/view/comfort.h"
 #include "window/desktop/view/form_window.h"
 #include "window/desktop/view/looks.h"
 #include "window/desktop/view/managed.h"
@@ -86,6 +87,7 @@ void FormWindow::SetZoom(double zoom) {
   menus_->SetZoom(zoom);
   for (const auto& [control, widget] : canvas_->widgets)
     ZoomNative(*widget, static_cast<const Visual&>(*control));
+  if (comfort_) comfort_->Zoom();
   if (!IsFilled() && !zooming_) {
     ApplySize();
     KeepOnScreen();

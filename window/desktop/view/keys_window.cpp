@@ -54,10 +54,29 @@ QSize SizeFor(const QTableWidget& table, const QScreen& screen) {
   return QSize(width, height).boundedTo(room);
 }
 
+// In a choice each key is told with what it opens.
+std::vector<KeyRow> RowsOf(const Form& form, const Guide& guide) {
+  std::vector<KeyRow> rows;
+  for (const KeyRow& row : guide.Keys()) {
+    const size_t before = rows.size();
+    for (const KeyClick& click : row.clicks) {
+      const Control* control = guide.IsChoice() ? form.find(click.control) : nullptr;
+      const std::string what = control ? guide.ToolTip(*control) : "";
+      if (what.empty() || control->kind != Control::Kind::CommandButton) continue;
+      const std::string& caption = static_cast<const CommandButton&>(*control).Caption;
+      rows.push_back({click.keys,
+                      QString::fromStdString(WithoutAccessKey(caption)).trimmed().toStdString() + ": " + what,
+                      {}});
+    }
+    if (rows.size() == before) rows.push_back(row);
+  }
+  return rows;
+}
+
 }  // namespace
 
 void ShowKeys(Form& form, const Guide& guide, Deeds& deeds, QWidget& window) {
-  const std::vector<KeyRow> rows = guide.Keys();
+  const std::vector<KeyRow> rows = RowsOf(form, guide);
   // Presses Pause if the game stands on the other side of it; tells whether it has.
   const auto setPaused = [&guide](bool paused) {
     Control* const pause = guide.Pause();
@@ -71,7 +90,7 @@ void ShowKeys(Form& form, const Guide& guide, Deeds& deeds, QWidget& window) {
   dialog->setObjectName("frmKeys");
   style::SetZoom(*dialog, style::ZoomOf(&window));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setWindowTitle("Keys");
+  dialog->setWindowTitle(guide.IsChoice() ? "Help" : "Keys");
   dialog->setWindowModality(Qt::ApplicationModal);
   auto* table = MakeTable(rows, dialog);
   table->setMinimumSize(SizeFor(*table, *window.screen()));

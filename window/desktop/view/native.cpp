@@ -164,13 +164,15 @@ void ApplyGround(QWidget& widget, const Visual& control) {
 
 // Letters small enough for the caption to fit: the places were laid out for narrower ones.
 void ApplyCaption(QPushButton& button, const std::string& caption) {
-  constexpr int kMargin = 10, kSmallest = 9;
+  constexpr int kMargin = 10, kSmallest = 9, kPictureSide = 22;
   button.setText(Text(caption));
   const QString plain = Text(WithoutAccessKey(caption));
   const double zoom = style::ZoomOf(&button);
   QFont font = style::Letters(zoom);
+  const int side = button.icon().isNull() ? 0 : static_cast<int>(std::lround(kPictureSide * zoom));
+  button.setIconSize({side, side});
   const auto fits = [&] {
-    return QFontMetrics(font).horizontalAdvance(plain) <= button.width() - kMargin * zoom;
+    return QFontMetrics(font).horizontalAdvance(plain) <= button.width() - side - kMargin * zoom;
   };
   if (!fits()) font.setStretch(QFont::SemiCondensed);
   while (!fits() && font.pixelSize() > kSmallest * zoom) font.setPixelSize(font.pixelSize() - 1);
