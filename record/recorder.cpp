@@ -72,13 +72,19 @@ Event Recorder::Next(const Wait& wait) {
   return event;
 }
 
+// How many handlers were under way when the innermost wait began. A front end may serve what comes while none
+// is without being asked for it.
+int Recorder::HandlersServed() const { return servings_.empty() ? 0 : servings_.back().handlers; }
+
 // What a handler makes tick itself by letting events through follows from what came in.
 void Recorder::Entered(const Event& event) {
   const bool isRing = event.kind == Event::Kind::Tick && common_ && &event.control->form == common_->selector;
   if (isRing) ring_ = (ring_ + 1) % kRing;
-  const bool handedOn = !servings_.empty() && servings_.back().handlers == platform_.HandlersUnderWay();
+  const bool handedOn = platform_.HandlersUnderWay() == HandlersServed();
   if (common_ && !inner_.MustLeave() && (given_ || handedOn)) {
-    const Wait::Serving serving = given_ ? *given_ : servings_.back().what;
+    const Wait::Serving serving = given_              ? *given_
+                                  : servings_.empty() ? Wait::Serving::All
+                                                      : servings_.back().what;
     Look();
     if (platform_.HandlersUnderWay() == 0 && !common_->window) {
       if (seedsAfresh_) platform_.random.Seed(FreshSeed());
@@ -169,7 +175,7 @@ void Recorder::Put(const std::string& line) {
 // Whether a window asks, and not the front end for itself or the program that must go.
 bool Recorder::Asks() {
   if (!under_ || inner_.MustLeave()) return false;
-  if (!servings_.empty() && servings_.back().handlers >= platform_.HandlersUnderWay()) return false;
+  if (platform_.HandlersUnderWay() <= HandlersServed()) return false;
   Look();
   if (!under_) return false;
   ++known_->asked;

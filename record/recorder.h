@@ -54,6 +54,7 @@ class Recorder : public Border {
     Wait::Serving what;
     int handlers;  // under way when the wait began
   };
+  int HandlersServed() const;
   void Begin();
   uint64_t FreshSeed();
   void Look();

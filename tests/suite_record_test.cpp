@@ -7,6 +7,7 @@
 #include "record/replay.h"
 #include "suite/moments.h"
 #include "tests/driver.h"
+#include "window/player.h"
 
 namespace {
 
@@ -142,6 +143,26 @@ TEST(Record, HoldsAWindowUpToEachGamesEnd) {
     EXPECT_EQ(VerdictOn(played.records[2]), "holds Spirehold 45 " + std::to_string(played.results[2].score) +
                                                 " 0 " + IsoText(played.results[2].ended) + " custom");
   }
+}
+
+// One that runs a loop of its own, and asks the border only while a handler waits.
+TEST(Record, TakesWhatAFrontEndServesWithoutBeingAsked) {
+  TestFolder folder;
+  std::istringstream in("answer \"Yes\"\n");
+  std::ostringstream out;
+  ConsoleFrontEnd console({}, in, out);
+  Recorder recorder(console.platform, kProgram);
+  std::string text;
+  recorder.onGameEnd = [&](const std::string& record, const GameResult&) { text = record; };
+  Suite suite(console.platform, {folder.Path()}, AllGames());
+  recorder.Attach(suite.common);
+  suite.Start();
+  for (const auto& [form, control] : {std::pair("frmSelect", "cmdDuopick"),
+                                      {"frmDuopick", "cmdPlay"},
+                                      {"frmDuopick", "cmdPlay"},
+                                      {"frmDuopick", "mnuSounds"}})
+    player::Click(*console.platform.FindForm(form)->find(control));
+  EXPECT_EQ(VerdictOn(text).substr(0, 8), "holds Du");
 }
 
 TEST(Record, EachWindowHasChanceOfItsOwnWithoutASeed) {
