@@ -34,8 +34,8 @@ std::optional<GameResult> GameWatch::Look(const modCommon& common) {
   if (asksTable) {
     result_.score = common.lastEntry.score;
     result_.place = common.lastEntry.place ? static_cast<int>(*common.lastEntry.place) + 1 : 0;
-  } else if (inGame) {
-    return std::nullopt;
+  } else if (inGame || (window && common.platform.HandlersUnderWay() > 0)) {
+    return std::nullopt;  // the handler may come to ask the table
   }
   result_.rounds = common.deal.Decks();
   result_.deal = common.deal.Played().number;

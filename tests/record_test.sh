@@ -31,6 +31,12 @@ rm -r suite
 play --record two <cut >/dev/null
 grep -c '^ *end ' two | grep -qx 1 || fail "what was cut off is in the record"
 
+# A game that gets into its table: the place is known before the name is.
+for place in 1 2 3 4 5 6 7 8 9 10; do printf 'Nobody, %d\r\n' $((900 - place * 400)); done >suite/HiScores90_11.Txt
+{ head -n 2 game; echo 'advance 300000'; } >played
+play --record placed <played >/dev/null
+"$console" --verify placed | grep -qx 'holds Sumfall 90_11 0 3 2024-03-01T[0-9:]*+00:00' || fail "said: $("$console" --verify placed)"
+
 # A line a file, in order, and the worst status; nothing is written beside.
 sed 's/^ *click 0 frmSumfall.PlayCardPicture$//;/^$/d' one >changed
 echo nonsense >nonsense
