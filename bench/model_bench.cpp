@@ -106,7 +106,7 @@ void ClockTick(benchmark::State& state) {
   bench.Open();
   player::Click(bench.Game().cmdPlay);
   for (auto _ : state) {
-    bench.suite->common.ElapsedSeconds = 40;
+    bench.Game().clock.ElapsedSeconds = 40;
     bench.Game().Timer1.OnTimer();
   }
 }

@@ -14,11 +14,14 @@
 
 class GameWindow;
 
-// The state of the time dial between two drawings.
-struct TimeDial {
-  Integer DialCenterX, DialCenterY;  // twips on the surface
-  double DialRadius = 0;
-  int DialFirstColor = 65280, DialSecondColor = 65535, DialLastColor = 0xFFFFFF, DialLineColor = 0xC0C0C0;
+// What games tell beyond their windows: the score stands on the board of the next one until that is played,
+// what a second is worth and the cards' backs stay as they were where a game doesn't set them itself, and a
+// dial that is drawn from loading on stands where the last one stood.
+struct Lasting {
+  Long CurrentScore, PreviousScore, TimeBonus;
+  Integer DeckDesign = 1;
+  Integer DialSeconds;
+  int DialLastColor = 0;
 };
 
 // The entry made last into a table of high scores.
@@ -29,7 +32,7 @@ struct TableEntry {
   int number = 0;                    // of this entry, from 1
 };
 
-class modCommon {
+class modCommon : public Lasting {
  public:
   // `folder` is `AppPath`.
   modCommon(Platform& platform, std::filesystem::path folder);
@@ -39,13 +42,9 @@ class modCommon {
   ImageList ImageList2;
   CardCodes Deck;
   Deal deal;
-  TimeDial dial;
 
-  std::string AppTitle;                            // of the game that is open
-  std::string PlayerName;                          // as entered last
-  Integer TimeLimit, ElapsedSeconds, DialSeconds;  // seconds
-  Long CurrentScore, PreviousScore, TimeBonus;
-  Integer DeckDesign = 1;
+  std::string AppTitle;    // of the game that is open
+  std::string PlayerName;  // as entered last
   bool PlaySounds = true, PlayMusic = false, CountDownScore = true, CustomScoringInUse = false;
   long long GameStartTime = 0;  // on the platform's clock, milliseconds
 

@@ -61,7 +61,7 @@ frmHighScores::frmHighScores(modCommon& common, GameWindow& game)
 
 void frmHighScores::Form_Load() {
   CenterOnScreen();
-  Caption = common_.AppTitle + " Hall of Fame (" + std::to_string(common_.TimeLimit) + " secs)";
+  Caption = common_.AppTitle + " Hall of Fame (" + std::to_string(game_.clock.TimeLimit) + " secs)";
   ReadHighScoreTable();
   lblHiScoreInfo.Caption = game_.HighScoreInfo();
   CenterAcross(lblHiScoreInfo);

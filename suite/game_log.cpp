@@ -9,7 +9,7 @@
 void GameLog::Begin() {
   End();  // of one that came to no table
   game_ = PlayedGame{.game = std::string(window_.plan.Name()),
-                     .limit = static_cast<int>(window_.common.TimeLimit),
+                     .limit = static_cast<int>(window_.clock.TimeLimit),
                      .goal = window_.goal ? std::optional(static_cast<int>(*window_.goal)) : std::nullopt,
                      .custom = window_.common.CustomScoringInUse};
   givenUp_.reset();

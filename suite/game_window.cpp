@@ -1,6 +1,5 @@
 #include "suite/game_window.h"
 
-#include "suite/dial.h"
 #include "suite/high_scores.h"
 #include "suite/score_counter.h"
 
@@ -10,17 +9,16 @@ void GameWindow::Form_Load() {
   MousePointer = kHourglass;
   Timer4.Enabled = true;
   Timer1.Enabled = false;
-  common.TimeLimit = plan.timeLimit;
-  common.ElapsedSeconds = 0;
+  clock.Load();
   common.PlaySounds = true;
   common.PlayMusic = false;
   common.DeckDesign = plan.deckDesign;
   common.CountDownScore = true;
   common.CustomScoringInUse = false;
   standing.Rest();
-  for (const GameSetting& setting : settings) setting.SetNumber(setting.standard);
+  settings.SetStandard();
   if (plan.dialRuns == DialRuns::FromLoading) Timer2.Enabled = true;
-  if (plan.dialRuns == DialRuns::FromEachRound) ResetDial();
+  if (plan.dialRuns == DialRuns::FromEachRound) clock.ResetDial();
   if (plan.limitChosenFirst) ChooseTimeLimit(plan.timeLimit);
   SetDefaults();
   for (Visual* above : std::initializer_list<Visual*>{&frmSplash, &lblMessage, &lblScoring}) above->ZOrder(0);
@@ -32,39 +30,10 @@ void GameWindow::Form_Load() {
   CheckForCustom();
   SettingsRead();
   common.GameStartTime = platform.Milliseconds();
-  lblCompanyProduct.Caption = "Quillmark Presents";
-  lblVersion.Caption = "Version 4.0";
-  lblProductName.Caption = common.AppTitle;
-  frmSplash.Visible = true;
+  splash.Load();
   CenterOnScreen();
   ShowTableLeader();
   MousePointer = kDefaultPointer;
-}
-
-// --- The splash panel ----------------------------------------------------------------------------
-
-void GameWindow::Timer4_Timer() {
-  Image& image = imgSplashImage(SplashPosition_);
-  image.ZOrder(1);
-  if (SplashForward_) {
-    const char* face = plan.names.splashFace;
-    if (SplashShowBack_ || face) image.Picture = common.ImageList2(SplashShowBack_ ? "BACK" : face);
-    if (!SplashShowBack_ && !face) image.Picture = common.RandomInteger(kFirstFace, kLastFace);
-    if (!face) image.BorderStyle = SplashShowBack_ ? 0 : 1;
-    if (++SplashPosition_ == 4) {
-      SplashForward_ = false;
-      SplashPosition_ = 3;
-    }
-  } else if (--SplashPosition_ == -1) {
-    SplashForward_ = true;
-    SplashPosition_ = 0;
-    SplashShowBack_ = !SplashShowBack_;
-  }
-}
-
-void GameWindow::ShowSplash(bool visible) {
-  frmSplash.Visible = visible;
-  Timer4.Enabled = visible;
 }
 
 // --- Play and End Game ---------------------------------------------------------------------------
@@ -77,8 +46,8 @@ void GameWindow::cmdPlay_Click(By) {
 
 void GameWindow::LeaveIdle() {
   cmdPlay.ToolTipText = "Ends the game in progress";
-  SetPlayCaption(plan.names.endGame);
-  ShowSplash(false);
+  commands.SetPlayCaption(plan.names.endGame);
+  splash.Show(false);
 }
 
 void GameWindow::StartGame() {
@@ -105,19 +74,11 @@ void GameWindow::BackToIdle() {
   log.End();
   standing.Rest();
   Timer1.Enabled = false;
-  ResetDial();
+  clock.ResetDial();
   HideMessage();
-  SetPlayCaption("&Play");
-  cmdPlay.ToolTipText = "Starts a new game";
-  SetPauseCaptions(false);
-  cmdPause.ToolTipText = plan.names.pauseTip;
-  for (CommandButton* button : {&cmdPlay, &cmdExit}) button->Enabled = true;
-  for (CommandButton* button : {&cmdPause, &cmdTakeScore}) button->Enabled = false;
-  for (Menu* entry : {&mnuPlay, &mnuExit}) entry->Enabled = true;
-  EnableOptions(true);
-  for (Menu* entry : {&mnuPause, &mnuTakeScore}) entry->Enabled = false;
+  commands.Rest();
   ShowCards(false);
-  ShowSplash(true);
+  splash.Show(true);
   MousePointer = kDefaultPointer;
 }
 
@@ -125,8 +86,8 @@ void GameWindow::BackToIdle() {
 void GameWindow::AskToEndGame(const std::string& question) {
   if (!standing.IsPlaying()) return;
   const int score = static_cast<int>(common.CurrentScore);
-  const auto [text, meanwhile, tipIsAhead] = plan.endGame;
-  if (tipIsAhead) cmdPlay.ToolTipText = "Starts a new game";
+  const auto& [text, meanwhile, tipIsAhead] = plan.endGame;
+  if (tipIsAhead) commands.TellStart();
   if (meanwhile != WhileAsked::Paused) StopMusic();
   if (meanwhile != WhileAsked::RunsOn) PauseGame();
   const bool ends = common.Ask(question);
@@ -138,17 +99,12 @@ void GameWindow::AskToEndGame(const std::string& question) {
     StartMusic();
   if (!ends && tipIsAhead) cmdPlay.ToolTipText = "Ends the game in progress";
   if (!wasRunning || !ends) return;
-  cmdPlay.ToolTipText = "Starts a new game";
-  SetPlayCaption("&Play");
+  commands.TellStart();
+  commands.SetPlayCaption("&Play");
   log.GiveUp(score);
   EndGame();
   log.End();
   standing.End();
-}
-
-void GameWindow::SetPlayCaption(const char* caption) {
-  cmdPlay.Caption = caption;
-  if (plan.playEntryFollows) mnuPlay.Caption = caption;
 }
 
 // --- The round clock -----------------------------------------------------------------------------
@@ -156,27 +112,19 @@ void GameWindow::SetPlayCaption(const char* caption) {
 // More than a tick may come where events are let through while a round is being paid: one that isn't open yet
 // keeps its last second.
 void GameWindow::Tick() {
-  if (standing.IsBusy() && common.ElapsedSeconds + 1 >= common.TimeLimit) return;
-  common.ElapsedSeconds += 1;
-  DrawTimeDial(DialAngle(*this, plan.dialIsLate ? common.DialSeconds : common.ElapsedSeconds), *this);
-  common.DialSeconds = common.ElapsedSeconds;
+  if (standing.IsBusy() && clock.ElapsedSeconds + 1 >= clock.TimeLimit) return;
+  clock.Tick();
   ShowTimeLeft();
-  if (common.ElapsedSeconds >= common.TimeLimit) TimeIsUp();
+  if (clock.ElapsedSeconds >= clock.TimeLimit) TimeIsUp();
 }
 
 void GameWindow::ShowTimeLeft() {
-  const long long limit = common.TimeLimit, left = limit - common.ElapsedSeconds;
+  const long long limit = clock.TimeLimit, left = limit - clock.ElapsedSeconds;
   const long long quarter = RoundHalfEven(static_cast<double>(limit) / 4);
   const long long half = RoundHalfEven(static_cast<double>(limit) / 2);
   lblTime.Caption = "Time: " + std::to_string(left);
   if (left >= quarter && left <= half) StatusBar1.Panels(2).Text = "Times running out!";
   if (left < quarter) StatusBar1.Panels(2).Text = "Better Hurry!";
-}
-
-void GameWindow::ResetDial() {
-  if (plan.dialRuns == DialRuns::InLastQuarter) Timer2.Enabled = false;
-  InitTimeDial(*this);
-  if (plan.dialRuns == DialRuns::FromEachRound) Timer2.Enabled = true;
 }
 
 // --- Pausing -------------------------------------------------------------------------------------
@@ -186,19 +134,13 @@ void GameWindow::Pause() {
   standing.IsPaused() ? ResumeGame() : PauseGame();
 }
 
-void GameWindow::SetPauseCaptions(bool paused) {
-  cmdPause.Caption = paused ? "&Resume" : plan.names.pause;
-  mnuPause.Caption = cmdPause.Caption;
-}
-
 void GameWindow::PauseGame() {
   standing.Pause();
   cmdPause.ToolTipText = "Resumes the current game";
   TellPause(true);
   Timer1.Enabled = false;
-  SetPauseCaptions(true);
-  for (CommandButton* button : {&cmdExit, &cmdTakeScore, &cmdPlay}) button->Enabled = false;
-  for (Menu* entry : {&mnuExit, &mnuPlay, &mnuTakeScore}) entry->Enabled = false;
+  commands.SetPauseCaptions(true);
+  commands.EnableAllButPause(false);
   CoverCards(true);
   StopMusic();
 }
@@ -208,9 +150,8 @@ void GameWindow::ResumeGame() {
   cmdPause.ToolTipText = plan.names.pauseTip;
   TellPause(false);
   Timer1.Enabled = standing.InGame();
-  SetPauseCaptions(false);
-  for (CommandButton* button : {&cmdExit, &cmdTakeScore, &cmdPlay}) button->Enabled = true;
-  for (Menu* entry : {&mnuExit, &mnuPlay, &mnuTakeScore}) entry->Enabled = true;
+  commands.SetPauseCaptions(false);
+  commands.EnableAllButPause(true);
   if (standing.InGame()) {
     CoverCards(false);
     StartMusic();

@@ -5,16 +5,17 @@
 #pragma once
 
 #include <functional>
-#include <memory>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "suite/commands.h"
 #include "suite/common.h"
+#include "suite/game_controls.h"
 #include "suite/game_log.h"
-#include "suite/game_plan.h"
+#include "suite/round_clock.h"
 #include "suite/settings.h"
+#include "suite/splash.h"
 #include "suite/standing.h"
 #include "window/text.h"
 
@@ -23,14 +24,7 @@ class Guide;
 // What the menu bar and the status bar take off a window's height, at most.
 inline constexpr int kBars = 750;
 
-// A box let into the board, with the lines that light its edges.
-struct ScoreBox {
-  Shape& box;
-  Shape& side;
-  Shape& bottom;
-};
-
-class GameWindow : public Form {
+class GameWindow : public Form, public GameControls {
  public:
   GameWindow(modCommon& common, const GamePlan& plan);
   ~GameWindow() override;
@@ -39,6 +33,9 @@ class GameWindow : public Form {
   const GamePlan& plan;
 
   Standing standing;
+  RoundClock clock{Surface, Timer2, plan, common};
+  Commands commands{*this, plan};
+  Splash splash{*this, common, plan};
   Integer CurrentRound;
   Long BonusScore;                // for the bonus round
   const Integer* goal = nullptr;  // what is played for, where the player chooses it
@@ -46,7 +43,7 @@ class GameWindow : public Form {
   int daily = 0;
   GameLog log{*this};
   // The game's own values, named in its constructor; those with a field in the order of the dialog's checks.
-  std::vector<GameSetting> settings;
+  GameSettings settings;
 
   // === What a game must give =======================================================================
 
@@ -133,8 +130,6 @@ class GameWindow : public Form {
   void OpenRound();
   // A second has passed.
   void Tick();
-  // The dial of a round that begins, or of no round; nothing blinks.
-  void ResetDial();
   bool EarnsBonusRound() const;
   // What was counted is gone.
   void EndScoring();
@@ -147,13 +142,6 @@ class GameWindow : public Form {
   // "Game Over" on that label, for so long.
   void TellGameOver(Label& label, int milliseconds = 2000);
 
-  // The four command buttons; their four menu entries; the entries for what can't be changed during a game.
-  void EnableButtons(bool enable);
-  void EnableEntries(bool enable);
-  void EnableOptions(bool enable);
-  // The captions of the button and the menu entry Play.
-  void SetPlayCaption(const char* caption);
-  void ShowSplash(bool visible);
   void ShowMessage(const std::string& text);
   void HideMessage();  // and empties it
   // Swaps a label's colour between red and black that many times.
@@ -184,14 +172,10 @@ class GameWindow : public Form {
 
   // Places controls as in their design, but in the middle of the present window.
   void PlaceInMiddle(std::span<const Design> rows);
-  // The boxes of the board; a game adds its own. Their edges follow them.
-  void AddScoreBox(Shape& box, Shape& side, Shape& bottom);
   void ChooseTimeLimit(int seconds);
   void ChooseDeck(int number);
   // Ticks `entry` and no other entry of its menu.
   void TickOnly(Menu& entry);
-  // The game's own value under a section; null if it has none.
-  const GameSetting* OwnSetting(std::string_view section) const;
   // Sets `CustomScoringInUse`; by the table of settings.
   void CheckForCustom();
   // The name of a table's file for the present settings; the line under the Hall of Fame.
@@ -202,34 +186,10 @@ class GameWindow : public Form {
   // Writes the settings file; the text that it holds now.
   std::string KeepSettings();
 
-  // === The standing controls =======================================================================
+  // === What a game may add ========================================================================
 
-  PictureBox Surface{*this, "Surface"};
-  Shape TimerRectangle{*this, "TimerRectangle"}, TimerBevelSide{*this, "TimerBevelSide"},
-      TimerBevelBottom{*this, "TimerBevelBottom"};
-  Shape ScoreRectangle{*this, "ScoreRectangle"}, ScoreBevelSide{*this, "ScoreBevelSide"},
-      ScoreBevelBottom{*this, "ScoreBevelBottom"};
-  Shape RoundRectangle, RoundBevelSide, RoundBevelBottom;
-  Label lblTime{*this, "lblTime"}, lblScore{*this, "lblScore"}, lblCurrentScore, lblRound{*this, "lblRound"},
-      lblCurrentRound, lblHighScore{*this, "lblHighScore"}, lblMessage, lblScoring;
-  Frame frmSplash{*this, "frmSplash"};
-  ControlArray<Image, 4> imgSplashImage{frmSplash, "imgSplashImage"};
-  Label lblCompanyProduct{frmSplash, "lblCompanyProduct"}, lblProductName{frmSplash, "lblProductName"},
-      lblPlatform{frmSplash, "lblPlatform"}, lblVersion{frmSplash, "lblVersion"};
-  CommandButton cmdPlay{*this, "cmdPlay"}, cmdTakeScore, cmdPause{*this, "cmdPause"}, cmdExit;
-  StatusBar StatusBar1{*this, "StatusBar1"};
-  Timer Timer1{*this, "Timer1"}, Timer2{*this, "Timer2"}, ClockTimer, Timer4{*this, "Timer4"};
-
-  Menu mnuFile, mnuPlay, mnuTakeScore, mnuPause, mnuFileLine, mnuExit;
-  Menu mnuOptions, mnuView, mnuClear, mnuOptionsLine, mnuMusic, mnuSounds, mnuCustom, mnuTime;
-  std::vector<std::unique_ptr<Menu>> timeLimitEntries;
-  Menu mnuDeck, mnuPalm, mnuMagic, mnuNight, mnuHot;
-  Menu mnuHelp, mnuRules, mnuAbout;
-
-  std::vector<ScoreBox> scoreBoxes;
-  // What else of the game's own is shown during a round; and which entries can't be used during a game.
+  // What of the game's own is shown during a round.
   std::vector<Visual*> roundControls;
-  std::vector<Menu*> gameOptions{&mnuCustom, &mnuTime};
   // Where messages stand in the middle; else across the window.
   const Shape* messageBox = nullptr;
 
@@ -242,8 +202,6 @@ class GameWindow : public Form {
   void Form_Unload() override;
 
  private:
-  void SetUpControls();
-  void SetUpMenus();
   void BindEvents();
   void ReadSettingsINI();
   std::string SettingsText() const;
@@ -252,14 +210,10 @@ class GameWindow : public Form {
   std::string SettingText(std::string_view section) const;
   // The same, and tells what can't be kept.
   std::string SaveSettings();
-  void SetPauseCaptions(bool paused);
   void Sleep();
-  void Timer4_Timer();
   void ToggleSounds();
   void ToggleMusic();
   void mnuClear_Click();
 
-  int SplashPosition_ = 0;
-  bool SplashForward_ = false, SplashShowBack_ = false;
   bool closeWanted_ = false;
 };

@@ -5,16 +5,16 @@
 
 void GameWindow::ClearRound() {
   standing.InputLives();
-  common.ElapsedSeconds = 0;
+  clock.ElapsedSeconds = 0;
   HideMessage();
 }
 
 void GameWindow::OpenRound() {
   standing.Open();
-  SetPlayCaption(plan.names.endGame);
-  EnableOptions(false);
+  commands.SetPlayCaption(plan.names.endGame);
+  commands.EnableOptions(false);
   for (Menu* entry : {&mnuPause, &mnuTakeScore}) entry->Enabled = true;
-  EnableButtons(true);
+  commands.EnableButtons(true);
   ShowControls(true);
   StartMusic();
 }
@@ -45,8 +45,8 @@ void GameWindow::FinishGame() {
   const auto finish = [this] {
     Timer1.Enabled = false;
     standing.GameOver();
-    SetPlayCaption("&Play");
-    EnableOptions(true);
+    commands.SetPlayCaption("&Play");
+    commands.EnableOptions(true);
     cmdPause.Enabled = false;
     cmdTakeScore.Enabled = false;
     mnuPause.Enabled = false;

@@ -27,11 +27,7 @@ void GameWindow::ReadSettingsINI() {
 
 bool GameWindow::ApplySetting(std::string_view section, std::string_view value) {
   if (ApplyGameSetting(section, value)) return true;
-  if (OwnSetting(section)) {
-    for (const GameSetting& setting : settings)
-      if (setting.section == section) setting.Apply(value);
-    return true;
-  }
+  if (settings.Apply(section, value)) return true;
   int number = 0;
   const bool isNumber = ParseLong(value, number);
   const auto applyFlag = [&](bool& flag, Menu& entry) {
@@ -59,12 +55,6 @@ bool GameWindow::ApplySetting(std::string_view section, std::string_view value) 
   return true;
 }
 
-const GameSetting* GameWindow::OwnSetting(std::string_view section) const {
-  if (section.empty()) return nullptr;
-  const auto setting = std::ranges::find(settings, section, &GameSetting::section);
-  return setting == settings.end() ? nullptr : &*setting;
-}
-
 // A window larger than the screen couldn't be handled: it may have been kept on a larger one.
 void GameWindow::ApplySize(std::string_view section, int value) {
   if (WindowState == window_state::kMaximised) return;
@@ -77,16 +67,12 @@ void GameWindow::ApplySize(std::string_view section, int value) {
     Height = std::clamp(value, resizes ? 1 : plan.height, std::max(plan.height, screen.height));
 }
 
-void GameWindow::CheckForCustom() {
-  common.CustomScoringInUse = std::ranges::any_of(settings, [](const GameSetting& setting) {
-    return setting.customises == Customises::Yes && !setting.IsStandard();
-  });
-}
+void GameWindow::CheckForCustom() { common.CustomScoringInUse = settings.AreCustomised(); }
 
 std::string GameWindow::SettingText(std::string_view section) const {
-  if (const GameSetting* own = OwnSetting(section)) return own->Text();
+  if (const GameSetting* own = settings.Find(section)) return own->Text();
   const bool maximised = WindowState == window_state::kMaximised;
-  if (section == plan.names.timeSection) return std::to_string(common.TimeLimit);
+  if (section == plan.names.timeSection) return std::to_string(clock.TimeLimit);
   if (section == "[Play Sounds]") return FlagText(common.PlaySounds);
   if (section == "[Play Music]") return FlagText(common.PlayMusic);
   if (section == "[Deck]") return std::to_string(common.DeckDesign);
@@ -122,12 +108,12 @@ std::string GameWindow::SaveSettings() {
 }
 
 std::string GameWindow::TableFile(const std::string& tableName) const {
-  const GameSetting* goal = OwnSetting(plan.tables.goal.section);
-  return "\\" + tableName + std::to_string(common.TimeLimit) + (goal ? "_" + goal->Text() : "") + ".Txt";
+  const GameSetting* goal = settings.Find(plan.tables.goal.section);
+  return "\\" + tableName + std::to_string(clock.TimeLimit) + (goal ? "_" + goal->Text() : "") + ".Txt";
 }
 
 std::string GameWindow::HighScoreInfo() const {
-  const GameSetting* goal = OwnSetting(plan.tables.goal.section);
+  const GameSetting* goal = settings.Find(plan.tables.goal.section);
   return (goal ? plan.tables.goal.info + goal->Text() + "\r\n" : "") +
          "* denotes customized scoring was used";
 }
@@ -135,8 +121,8 @@ std::string GameWindow::HighScoreInfo() const {
 std::string GameWindow::RulesPage() const {
   RulesValues values = MoreRulesValues();
   values.emplace_back("title", common.AppTitle);
-  values.emplace_back("limit", std::to_string(common.TimeLimit));
-  values.emplace_back("quarter", std::to_string(common.TimeLimit / 4));
+  values.emplace_back("limit", std::to_string(clock.TimeLimit));
+  values.emplace_back("quarter", std::to_string(clock.TimeLimit / 4));
   values.emplace_back("takeScore", cmdTakeScore.Caption.get().substr(1));
   for (const GameSetting& setting : settings) values.emplace_back(setting.name, setting.Text());
   return ComposeRules(common.AppTitle, plan.rules, values);

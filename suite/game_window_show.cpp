@@ -7,18 +7,6 @@
 
 // --- Commands, messages, score -------------------------------------------------------------------
 
-void GameWindow::EnableButtons(bool enable) {
-  for (CommandButton* button : {&cmdTakeScore, &cmdPlay, &cmdPause, &cmdExit}) button->Enabled = enable;
-}
-
-void GameWindow::EnableEntries(bool enable) {
-  for (Menu* entry : {&mnuPlay, &mnuTakeScore, &mnuPause, &mnuExit}) entry->Enabled = enable;
-}
-
-void GameWindow::EnableOptions(bool enable) {
-  for (Menu* entry : gameOptions) entry->Enabled = enable;
-}
-
 void GameWindow::ShowMessage(const std::string& text) {
   lblMessage.Caption = text;
   lblMessage.Visible = true;
@@ -43,7 +31,7 @@ void GameWindow::AddToScore(long long amount) {
 
 void GameWindow::ShowScore() { lblCurrentScore.Caption = FormatNumber(common.CurrentScore); }
 
-void GameWindow::ShowRoundTime() { lblTime.Caption = "Time: " + std::to_string(common.TimeLimit); }
+void GameWindow::ShowRoundTime() { lblTime.Caption = "Time: " + std::to_string(clock.TimeLimit); }
 
 void GameWindow::ShowBonusGoal(const char* ending) {
   StatusBar1.Panels(1).Text = "Make " + FormatNumber(BonusScore) + ending;
@@ -122,12 +110,6 @@ void GameWindow::PlaceInMiddle(std::span<const Design> rows) {
     }
 }
 
-void GameWindow::AddScoreBox(Shape& box, Shape& side, Shape& bottom) {
-  box.Sunken = true;
-  side.BorderColor = bottom.BorderColor = kWhite;
-  scoreBoxes.push_back({box, side, bottom});
-}
-
 void GameWindow::Form_Resize() {
   if (WindowState == window_state::kMinimised) return;
   if (WindowState == window_state::kNormal && (Width < plan.width || Height < plan.height)) {
@@ -141,10 +123,7 @@ void GameWindow::Form_Resize() {
   StatusBar1.Top = Height - StatusBar1.Height;
   for (int i = 0; i < 3; ++i) StatusBar1.Panels(i + 1).Width = Width * plan.panels[i] / 100;
   PlaceBoard();
-  for (const ScoreBox& each : scoreBoxes) {
-    each.side.Visual::Move(each.box.Left + each.box.Width, each.box.Top, 0, each.box.Height);
-    each.bottom.Visual::Move(each.box.Left, each.box.Top + each.box.Height, each.box.Width, 0);
-  }
+  PlaceEdges();
   PlaceMessage();
 }
 
@@ -158,7 +137,7 @@ void GameWindow::TickOnly(Menu& entry) {
 }
 
 void GameWindow::ChooseTimeLimit(int seconds) {
-  common.TimeLimit = seconds;
+  clock.TimeLimit = seconds;
   for (size_t i = 0; i < plan.limits.size(); ++i)
     if (plan.limits[i].seconds == seconds) TickOnly(*timeLimitEntries[i]);
   ShowTableLeader();
@@ -166,7 +145,7 @@ void GameWindow::ChooseTimeLimit(int seconds) {
 
 void GameWindow::ChooseDeck(int number) {
   const BackDesign& design = plan.designs[number - 1];
-  TickOnly(static_cast<Menu&>(*find(design.menu)));
+  TickOnly(DeckEntry(number));
   UseBackDesign(common.ImageList2, design);
   RefreshPlayCard();
   common.DeckDesign = number;

@@ -66,7 +66,7 @@ std::string GameGuide::State() const {
                                                   : "Round " + std::to_string(window_.CurrentRound));
   tell("Score " + FormatNumber(common.CurrentScore));
   if (window_.standing.IsBusy()) return state;
-  const long long left = common.TimeLimit - common.ElapsedSeconds;
+  const long long left = window_.clock.Left();
   tell(std::to_string(left) + (left == 1 ? " second left" : " seconds left"));
   if (const std::string board = BoardState(); !board.empty()) state += " " + board;
   return state;

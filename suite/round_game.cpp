@@ -3,7 +3,7 @@
 void RoundGame::BeginScoring() {
   standing.Score();
   Timer1.Enabled = false;
-  EnableButtons(false);
+  commands.EnableButtons(false);
   MousePointer = kHourglass;
   HideBoard(false);
   StopMusic();
@@ -24,7 +24,7 @@ void RoundGame::TakeScore() {
 }
 
 void RoundGame::AnnounceRound(bool bonus) {
-  if (plan.commandsLiveWhileTold) EnableButtons(true);
+  if (plan.commandsLiveWhileTold) commands.EnableButtons(true);
   const BonusCall& call = plan.bonusCall;
   if (bonus) platform.front.Triumph(*this);
   if (bonus && call.waveFirst) PlaySound(call.wave);
@@ -38,7 +38,7 @@ void RoundGame::TimeIsUp() {
   MousePointer = kHourglass;
   Timer1.Enabled = false;
   HideBoard(true);
-  EnableButtons(false);
+  commands.EnableButtons(false);
   ShowMessage("Times Up!");
   StatusBar1.Panels(2).Text = "Time has expired!";
   Blink(lblMessage, 10);
@@ -55,8 +55,8 @@ void RoundGame::GameOver() {
     for (CommandButton* button : {&cmdPlay, &cmdExit}) button->Enabled = true;
   };
   if (plan.commandsLiveWhileTold) offerPlay();
-  cmdPlay.ToolTipText = "Starts a new game";
+  commands.TellStart();
   TellGameOver(lblMessage);
-  ShowSplash(true);
+  splash.Show(true);
   offerPlay();
 }

@@ -1,6 +1,5 @@
 #include "suite/score_counter.h"
 
-#include "suite/dial.h"
 #include "suite/game_window.h"
 
 void ShowAmount(GameWindow& window, const std::string& message, long long amount, int milliseconds) {
@@ -41,16 +40,14 @@ void CountAmount(GameWindow& window, long long total) {
 
 void CountTimeBonus(GameWindow& window, long long perSecond, const std::string& message) {
   modCommon& common = window.common;
-  if (common.ElapsedSeconds >= common.TimeLimit) return;
-  const Long total = (common.TimeLimit - common.ElapsedSeconds) * perSecond;
+  RoundClock& clock = window.clock;
+  if (clock.Left() <= 0) return;
+  const Long total = Long(clock.Left()) * perSecond;
   long long left = total;
   ShowAmount(window, message, left, 2000);
   if (common.CountDownScore) {
-    const long long limit = common.TimeLimit;
-    for (long long second = common.ElapsedSeconds + 1; second <= limit; ++second) {
-      DrawTimeDial(DialAngle(window, common.ElapsedSeconds), window);
-      common.DialSeconds = second;
-      common.ElapsedSeconds += 1;
+    while (clock.Left() > 0) {
+      clock.PaySecond();
       CountStep(window, perSecond, left);
     }
   }

@@ -27,7 +27,7 @@ std::vector<std::unique_ptr<ScoringDialog::Row>> ScoringDialog::MakeRows() {
 
 ScoringDialog::ScoringDialog(GameWindow& game)
     : Form(game.platform, game.plan.dialog.window),
-      settings_(WithField(game.settings)),
+      settings_(game.settings.WithField()),
       frmScoringOptions(*this, game.plan.dialog.frame),
       rows(MakeRows()),
       chkCountDown(frmScoringOptions, game.plan.dialog.countDown),

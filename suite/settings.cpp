@@ -27,9 +27,31 @@ void GameSetting::Apply(std::string_view text) const {
   if (!std::holds_alternative<Integer*>(value) || std::in_range<std::int16_t>(number)) SetNumber(number);
 }
 
-std::vector<const GameSetting*> WithField(const std::vector<GameSetting>& settings) {
+const GameSetting* GameSettings::Find(std::string_view section) const {
+  const auto setting = std::ranges::find(*this, section, &GameSetting::section);
+  return section.empty() || setting == end() ? nullptr : &*setting;
+}
+
+bool GameSettings::Apply(std::string_view section, std::string_view text) const {
+  if (!Find(section)) return false;
+  for (const GameSetting& setting : *this)
+    if (setting.section == section) setting.Apply(text);
+  return true;
+}
+
+void GameSettings::SetStandard() const {
+  for (const GameSetting& setting : *this) setting.SetNumber(setting.standard);
+}
+
+bool GameSettings::AreCustomised() const {
+  return std::ranges::any_of(*this, [](const GameSetting& setting) {
+    return setting.customises == Customises::Yes && !setting.IsStandard();
+  });
+}
+
+std::vector<const GameSetting*> GameSettings::WithField() const {
   std::vector<const GameSetting*> with;
-  for (const GameSetting& setting : settings)
+  for (const GameSetting& setting : *this)
     if (setting.field) with.push_back(&setting);
   return with;
 }

@@ -69,8 +69,21 @@ struct GameSetting {
   void Apply(std::string_view text) const;
 };
 
-// Those that the scoring dialog has a field for.
-std::vector<const GameSetting*> WithField(const std::vector<GameSetting>& settings);
+// All those of a game, in the order of the dialog's checks.
+class GameSettings : public std::vector<GameSetting> {
+ public:
+  using vector::vector;
+  using vector::operator=;
+
+  // The first one under a section; null if there is none.
+  const GameSetting* Find(std::string_view section) const;
+  // Gives what the file holds to all of a section; false if there are none.
+  bool Apply(std::string_view section, std::string_view text) const;
+  void SetStandard() const;
+  bool AreCustomised() const;
+  // Those that the scoring dialog has a field for.
+  std::vector<const GameSetting*> WithField() const;
+};
 
 // "True" and "False".
 std::string FlagText(bool flag);

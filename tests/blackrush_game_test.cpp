@@ -193,7 +193,7 @@ TEST_F(Blackrush, ARoundThatIsntOpenCantRunOut) {
   Game().Timer4.Enabled = true;
   driver.Do("advance 150\n" + kTake + "advance 60000\nanswer \"Yes\"");
   EXPECT_EQ(Caption("lblRound"), "Round: 2");
-  EXPECT_EQ(common().ElapsedSeconds, 14);
+  EXPECT_EQ(driver.clock().ElapsedSeconds, 14);
   EXPECT_EQ(Tell("advance 1000"), "\"Times Up!\", 250 x10, \"Prepare for Round 3\", 2000");
 }
 
@@ -264,7 +264,7 @@ TEST_F(Blackrush, EndGameLeavesTheTableAlone) {
   const std::string asked = driver.Trace("click frmBlackrush.mnuPlay\nadvance 3000\nanswer \"No\"\n");
   EXPECT_EQ(Story(asked), "silence, box, open, music");
   EXPECT_EQ(Joined(BoxesOf(asked)), "You have a game in progress. Are you sure you want to quit?");
-  EXPECT_EQ(common().ElapsedSeconds, 3);  // the clock ran on
+  EXPECT_EQ(driver.clock().ElapsedSeconds, 3);  // the clock ran on
   EXPECT_EQ(Tell(kPlayBlackrush + kYes), "silence, box, silence, \"Game Over\", 2000");
   EXPECT_TRUE(folder.Read("BlackrushHiScores90.Txt").starts_with("Quillmark, 50000\r\n"));
   EXPECT_EQ(Panel(2), "Game Over ");
@@ -293,7 +293,7 @@ TEST_F(Blackrush, TheClockRunsOnUnderTheQuestions) {
   }
   driver.Do(
       "close frmBlackrush\nadvance 2000\nanswer \"No\"\nstate frmBlackrush 1\nadvance 1000\nstate frmBlackrush 0");
-  EXPECT_EQ(common().ElapsedSeconds, 3) << "nor does a minimised window stop it";
+  EXPECT_EQ(driver.clock().ElapsedSeconds, 3) << "nor does a minimised window stop it";
 }
 
 }  // namespace

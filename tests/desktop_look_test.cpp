@@ -415,7 +415,7 @@ TEST_F(Look, GamesStandAtEverySize) {
         Check(game);
       }
       EndRound(game);
-      suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
+      game.clock.ElapsedSeconds = game.clock.TimeLimit - 1;
       front.platform.Dispatch(game.Timer1.OnTimer);  // time is up
       for (int round = 3; round <= 4 && game.standing.InGame(); ++round) EndRound(game);
       front.onPause = nullptr;

@@ -47,6 +47,7 @@ class Driver {
   std::function<void()> meanwhile;
 
   modCommon& common() { return suite_.common; }
+  RoundClock& clock() { return common().window->clock; }
   // A game is in progress in a window that is open.
   bool InGame() { return common().window && common().window->standing.InGame(); }
   Platform& platform() { return console_.platform; }

@@ -158,7 +158,7 @@ TEST_F(Fivestack, EndGameOffersNothingToTheTable) {
   driver.Do("advance 3000\n" + PlayRound(104) + kGiveUp + "click frmFivestack.mnuMusic\n" + Hit("0"));
   const std::string asked = "silence, \"Game Paused\", silence, box, \"\", ";
   EXPECT_EQ(Tell("click frmFivestack.mnuPlay\nadvance 90000\n" + kNo), asked + "open, music");
-  EXPECT_EQ(common().ElapsedSeconds, 0);
+  EXPECT_EQ(driver.clock().ElapsedSeconds, 0);
   EXPECT_EQ(Tell(kPlayFivestack + kYes), asked + "silence, \"Game Over\"");
   EXPECT_EQ(Best(), "Quillmark, 50000");
   EXPECT_EQ(Caption("lblTotalScore"), "145,000");
@@ -185,13 +185,13 @@ TEST_F(Fivestack, AMinimisedGameStandsStill) {
   StartFivestack(driver, {"2S"});
   driver.Do("click frmFivestack.mnuMusic\nadvance 2000");
   EXPECT_EQ(Tell("state frmFivestack 1\nadvance 70000"), "silence");
-  EXPECT_EQ(common().ElapsedSeconds, 2);
+  EXPECT_EQ(driver.clock().ElapsedSeconds, 2);
   // A question over the minimised window changes nothing.
   driver.Do("close frmFivestack\n" + kNo + "advance 70000");
-  EXPECT_EQ(common().ElapsedSeconds, 2);
+  EXPECT_EQ(driver.clock().ElapsedSeconds, 2);
   EXPECT_EQ(Tell("state frmFivestack 0"), "open, music");
   driver.Do("advance 1000");
-  EXPECT_EQ(common().ElapsedSeconds, 3);
+  EXPECT_EQ(driver.clock().ElapsedSeconds, 3);
   driver.Do(kPauseFivestack + "state frmFivestack 1\nstate frmFivestack 2");
   EXPECT_FALSE(Is("Timer1.Enabled")) << "a paused game stays paused";
 }
@@ -200,10 +200,10 @@ TEST_F(Fivestack, ClosingPausesARunningGameAndRunsAPausedOne) {
   const std::string close = "close frmFivestack\nadvance 5000\n" + kNo;
   StartFivestack(driver, {"2S"});
   driver.Do("advance 1000\n" + close);
-  EXPECT_EQ(common().ElapsedSeconds, 1);
+  EXPECT_EQ(driver.clock().ElapsedSeconds, 1);
   EXPECT_TRUE(Game().standing.IsPlaying());
   driver.Do(kPauseFivestack + close);
-  EXPECT_EQ(common().ElapsedSeconds, 6) << "it ran behind the question";
+  EXPECT_EQ(driver.clock().ElapsedSeconds, 6) << "it ran behind the question";
   EXPECT_TRUE(Game().standing.IsPaused());
   // Behind the question the round may end, and be followed by the next, or by the end of the game.
   driver.Do("close frmFivestack\nadvance 54000\n" + kNo);
@@ -238,7 +238,7 @@ TEST_F(Fivestack, SettingsAreReadInAnyOrder) {
   UseBackDesign(common().ImageList2, kMagicHands);
   Open(Settings("Time 31|Deck 5|WaitPeriod 40000"));
   EXPECT_EQ(Number("PlayCardPicture.Picture"), kMagicHands.back);
-  EXPECT_EQ(common().TimeLimit, 60);
+  EXPECT_EQ(driver.clock().TimeLimit, 60);
   EXPECT_EQ(Game().WaitPeriod, 2000);
 }
 

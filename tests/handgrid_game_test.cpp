@@ -26,7 +26,7 @@ TEST_F(Handgrid, ReadsBackWhatItWroteButTheLongestLimit) {
   for (const int limit : {30, 45, 60, 75, 90, 105}) {
     const std::string file = Settings("Time " + std::to_string(limit) + values);
     Open(file);
-    EXPECT_EQ(common().TimeLimit, limit);
+    EXPECT_EQ(driver.clock().TimeLimit, limit);
     driver.Do("close frmHandgrid\n" + kYes);
     EXPECT_EQ(Kept(), file);
   }

@@ -41,7 +41,7 @@ class AtHandgrid : public PlayerAt<frmHandgrid, HandgridPlayer> {
     ASSERT_EQ(51 - std::ssize(board.stack), 25 - empty + board.overWritesUsed);
     ASSERT_LE(board.overWritesUsed, board.overWritesAllowed);
     ASSERT_EQ(board.overWritesAllowed, game.OverWritesAllowed);
-    ASSERT_EQ(game.lblTimeBonus.Caption, std::to_string(common.TimeLimit - common.ElapsedSeconds));
+    ASSERT_EQ(game.lblTimeBonus.Caption, std::to_string(game.clock.TimeLimit - game.clock.ElapsedSeconds));
     if (paused || chance.Percent(90)) return;  // looking at each card takes time
     for (int cell = 0; cell < kCells; ++cell) {
       const std::string& code = board.cells[cell];

@@ -61,8 +61,8 @@ class RandomPlayer {
     ASSERT_TRUE(minimised || game.Timer1.Enabled != game.standing.IsPaused());
     ASSERT_EQ(game.cmdPlay.Enabled, !game.standing.IsPaused());
     ASSERT_EQ(game.lblCurrentScore.Caption, FormatNumber(common.CurrentScore));
-    ASSERT_GE(common.ElapsedSeconds, 0);
-    ASSERT_LE(common.ElapsedSeconds, common.TimeLimit);
+    ASSERT_GE(game.clock.ElapsedSeconds, 0);
+    ASSERT_LE(game.clock.ElapsedSeconds, game.clock.TimeLimit);
   }
 
   // The picture that a card's face has; 0 for no card.

@@ -248,7 +248,7 @@ TEST_F(Spirehold, ClearHighRun) {
   folder.Write("Spirehold.Ini", "[Hi Run]\r\n9\r\n\r\n[Card Bonus]\r\n40000\r\n\r\n[Time]\r\n31\r\n\r\n");
   driver.Do(kOpenSpirehold);
   EXPECT_EQ(Game().CardValue, 100);  // what doesn't fit was skipped
-  EXPECT_EQ(common().TimeLimit, 45);
+  EXPECT_EQ(driver.clock().TimeLimit, 45);
   EXPECT_EQ(Joined(BoxesOf(driver.Do("click frmSpirehold.mnuClearHighRun\nanswer \"No\""))),
             "This will clear the current high run value. Are you sure?");
   EXPECT_EQ(Game().board.HighestRun, 9);

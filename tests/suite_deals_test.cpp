@@ -191,7 +191,7 @@ TEST(Deals, TheFirstGameOfADayCounts) {
   for (int start = 0; start < 2; ++start) {
     Driver driver(folder.Path(), today);
     folder.Write("DuopickHighScores45.Txt", "Low, -1\r\n");
-    EXPECT_EQ(driver.common().TimeLimit, 45);
+    EXPECT_EQ(driver.clock().TimeLimit, 45);
     EXPECT_EQ(driver.common().DeckDesign, 1);
     EXPECT_FALSE(driver.common().PlaySounds);
     PlayOut(driver, "frmDuopick");

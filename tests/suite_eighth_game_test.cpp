@@ -44,7 +44,7 @@ class frmEighth : public RoundGame {
     InitRound();
   }
   void InitRound() override {
-    ResetDial();
+    clock.ResetDial();
     Timer1.Enabled = true;
     ClearRound();
     ShowRoundTime();
@@ -53,7 +53,7 @@ class frmEighth : public RoundGame {
   void PayAwards() override { AddToScore(1500); }
   void EndGame() override {
     FinishGame();
-    ShowSplash(true);
+    splash.Show(true);
   }
   void ShowCards(bool) override {}
   void RefreshPlayCard() override {}

@@ -79,7 +79,7 @@ TEST_P(EveryGame, SettingsComeBackAsTheyWereWritten) {
   close();
   const std::string changed = folder.Read(file);
   Open();
-  EXPECT_EQ(driver.common().TimeLimit, Plan().limits.front().seconds);
+  EXPECT_EQ(driver.clock().TimeLimit, Plan().limits.front().seconds);
   EXPECT_EQ(driver.common().DeckDesign, deck);
   EXPECT_TRUE(driver.common().PlayMusic && !driver.common().PlaySounds);
   EXPECT_EQ(driver.Get(Window() + "." + limit + ".Checked"), true);
@@ -140,7 +140,7 @@ TEST_P(EveryGame, PausesAndGoesOn) {
     EXPECT_EQ(game.cmdPause.Caption.get() + game.mnuPause.Caption.get(), "&Resume&Resume");
     EXPECT_EQ(Joined(LinesOf(said, "* mci ")), "\"close HarbekMidi\"");
     driver.Do("advance 200000");
-    EXPECT_EQ(driver.common().ElapsedSeconds, 2);
+    EXPECT_EQ(driver.clock().ElapsedSeconds, 2);
     said = driver.Trace(Click(*command));
     EXPECT_TRUE(game.standing.IsPlaying());
     EXPECT_FALSE(game.lblMessage.Visible);
@@ -150,9 +150,9 @@ TEST_P(EveryGame, PausesAndGoesOn) {
     EXPECT_EQ(LinesOf(said, "* mci ").size(), 2u) << "the music begins again";
   }
   driver.Do("advance 999");
-  EXPECT_EQ(driver.common().ElapsedSeconds, 2) << "the second begins anew";
+  EXPECT_EQ(driver.clock().ElapsedSeconds, 2) << "the second begins anew";
   driver.Do("advance 1");
-  EXPECT_EQ(driver.common().ElapsedSeconds, 3);
+  EXPECT_EQ(driver.clock().ElapsedSeconds, 3);
 }
 
 TEST_P(EveryGame, DialogsStopARunningGameAndNoOther) {
@@ -167,12 +167,12 @@ TEST_P(EveryGame, DialogsStopARunningGameAndNoOther) {
   driver.meanwhile = [&] { seen += stands(); };
   const auto lookAtAll = [&](const std::string& during, const std::string& after) {
     for (const auto& [entry, done] : dialogs) {
-      const long long seconds = driver.common().ElapsedSeconds;
+      const long long seconds = driver.clock().ElapsedSeconds;
       seen.clear();
       driver.Do(Click(*entry) + "advance 5000\n@\n" + done);
       EXPECT_EQ(seen, during);
       EXPECT_EQ(stands(), after);
-      EXPECT_EQ(driver.common().ElapsedSeconds, seconds);
+      EXPECT_EQ(driver.clock().ElapsedSeconds, seconds);
     }
   };
   lookAtAll("idle", "idle");
@@ -280,7 +280,7 @@ TEST_P(EveryGame, TheBonusRoundIsEarnedByTheScoreAlone) {
   };
   const long long needed =
       std::ranges::find_if(Game().settings, named)->Number() + (GetParam() == "cmdBlackrush");
-  const std::string out = "advance " + std::to_string(driver.common().TimeLimit * 1000) + "\nadvance 2000\n";
+  const std::string out = "advance " + std::to_string(driver.clock().TimeLimit * 1000) + "\nadvance 2000\n";
   for (const long long score : {needed - 1, needed}) {
     driver.Do(Play());
     while (Game().CurrentRound < Plan().rounds) driver.Do(out);
@@ -297,11 +297,11 @@ TEST_P(EveryGame, ClosingStopsTheClockOrTheGameMayEndUnderTheQuestion) {
   const bool stops = GetParam() == "cmdSumfall" || GetParam() == "cmdFivestack";
   const std::string ask = "close " + Window() + "\nadvance ", no = "\nanswer \"No\"\n";
   driver.Do(Play() + ask + "5000" + no);
-  EXPECT_EQ(driver.common().ElapsedSeconds, stops ? 0 : 5);
+  EXPECT_EQ(driver.clock().ElapsedSeconds, stops ? 0 : 5);
   if (stops) return;
   Game().CurrentRound = Plan().rounds;
   driver.common().CurrentScore = Plan().rounds == 2 ? 35000 : 60000;
-  const std::string limit = std::to_string(driver.common().TimeLimit * 1000);
+  const std::string limit = std::to_string(driver.clock().TimeLimit * 1000);
   const std::string said =
       driver.Do(ask + limit + "\nadvance 2000\nclick frmHiScoreName.cmdOK\nclick frmHighScores.cmdDone" + no);
   EXPECT_FALSE(driver.InGame()) << said;

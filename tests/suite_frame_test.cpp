@@ -1,7 +1,6 @@
 // The plan of a game window, seen on Sumfall: clock, dial, pausing, closing, music, the shared dialogs.
 #include <gtest/gtest.h>
 
-#include "suite/dial.h"
 #include "tests/sumfall_cards.h"
 
 namespace {
@@ -101,7 +100,7 @@ TEST_F(Frame, DialGrowsQuarterByQuarter) {
   for (const auto& row : rows) {
     std::string said;
     game.Timer1.Enabled = game.Timer2.Enabled = false;
-    game.Timer4.OnTimer = [&] { DrawTimeDial(row.angle, game); };
+    game.Timer4.OnTimer = [&] { game.clock.Draw(row.angle); };
     game.Timer4.Enabled = true;
     said = driver.Trace("advance 250");
     game.Timer4.Enabled = false;

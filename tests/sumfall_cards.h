@@ -57,7 +57,7 @@ inline std::string FinishWith(Driver& driver, int score, const std::string& answ
   driver.Do(kPlay);
   for (int round = 1; round <= 2; ++round) {
     SumfallOf(driver).board.combinations = 0;
-    driver.common().ElapsedSeconds = driver.common().TimeLimit;
+    driver.clock().ElapsedSeconds = driver.clock().TimeLimit;
     if (round == 1) driver.Do(kTakeScore);
   }
   driver.common().CurrentScore = score;

@@ -164,9 +164,9 @@ TEST_F(Sumfall, WithoutCountingDownTheSumsComeAtOnce) {
 
 TEST_F(Sumfall, TheBonusRoundIsTheLast) {
   driver.Do("click frmSumfall.mnuMusic\n" + kPlay);
-  common().ElapsedSeconds = common().TimeLimit;
+  driver.clock().ElapsedSeconds = driver.clock().TimeLimit;
   driver.Do(kTakeScore);
-  common().ElapsedSeconds = common().TimeLimit;
+  driver.clock().ElapsedSeconds = driver.clock().TimeLimit;
   common().CurrentScore = 80000;
   EXPECT_EQ(Tell(kTakeScore), "silence, HighScore, \"Bonus Round!\", 250 x11, \"\", open, music")
       << "the music is started once";

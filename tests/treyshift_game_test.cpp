@@ -59,7 +59,7 @@ TEST_F(Treyshift, KeepsItsSettings) {
       "Trips Score 1|Runs Score -7|Flush Score 2000000000|Bonus Score 99999999999|Time 180|Width 12000"));
   EXPECT_EQ(Game().TripValue, 6000);
   EXPECT_EQ(Game().BonusScore, 100000);
-  EXPECT_EQ(common().TimeLimit, 180);
+  EXPECT_EQ(driver.clock().TimeLimit, 180);
   driver.Do("close frmTreyshift\n" + kYes);
   EXPECT_TRUE(Contains(Kept(), Settings("Trips Score 6000|Runs Score -7|Flush Score 2000000000")));
 }

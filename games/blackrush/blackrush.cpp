@@ -28,8 +28,8 @@ void frmBlackrush::Play() {
   lblTime.Visible = true;
   Timer1.Enabled = true;
   Surface.Visible = true;
-  ResetDial();
-  common.ElapsedSeconds = 0;
+  clock.ResetDial();
+  clock.ElapsedSeconds = 0;
   board.Deal(common.Deck);
   ShowFace(NextCardPicture, board.Next());
   ShowCardsUsed(0);

@@ -30,7 +30,7 @@ void frmBlackrush::TakeScore() {
   if (board.twentyOnes != 0) CountTwentyOnes();
   EndCount();
   CurrentRound += 1;
-  common.ElapsedSeconds = 0;
+  clock.ElapsedSeconds = 0;
   ShowRound();
   NextRound();
   if (standing.InGame()) StartMusic();
@@ -85,7 +85,7 @@ void frmBlackrush::EndCount() {
     label->ForeColor = kBlue;
   SetVisible({&lblRoundScore, &lblRoundScoreCount}, false);
   ForgetTwentyOnes();
-  ResetDial();
+  clock.ResetDial();
   SetVisible({&TimerRectangle, &TimerBevelSide, &TimerBevelBottom, &ProgressBar1, &lblTwentyoneTime}, true);
 }
 
@@ -136,18 +136,18 @@ void frmBlackrush::GameOver() {
   if (!QuitRequested) EnterHighScore();
   TellGameOver(ScoringLabelInfo);
   lblRound.Caption = "Game Over";
-  SetPlayCaption("&Play");
-  cmdPlay.ToolTipText = "Starts a new game";
+  commands.SetPlayCaption("&Play");
+  commands.TellStart();
   TellBriefly("Game Over");
   frameScoreInfo.Visible = false;
-  ShowSplash(true);
-  ResetDial();
+  splash.Show(true);
+  clock.ResetDial();
   ShowGameBoard(false);
   EnablePause(false);
   lblTime.Caption = "Time:";
   mnuUserOptions.Enabled = true;
   mnuTimeLimit.Enabled = true;
-  common.ElapsedSeconds = 0;
+  clock.ElapsedSeconds = 0;
 }
 
 void frmBlackrush::OpenBoard(bool over) {

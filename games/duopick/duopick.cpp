@@ -29,7 +29,7 @@ void frmDuopick::Deal() {
   ShowControls(true);
   CardStackPicture.Picture = common.ImageList2("FULL");
   lblCards.Caption = std::to_string(board.stack.size());
-  ResetDial();
+  clock.ResetDial();
   Timer1.Enabled = true;
   ShowBonusGoal();
   StatusBar1.Panels(2).Text = "Create runs by clicking on exposed cards!   ";
@@ -155,6 +155,6 @@ void frmDuopick::EndGame() {
   for (Menu* entry : {&mnuTakeScore, &mnuPause}) entry->Enabled = false;
   for (CommandButton* button : {&cmdTakeScore, &cmdPause}) button->Enabled = false;
   Timer1.Enabled = false;
-  ShowSplash(true);
+  splash.Show(true);
   StopMusic();
 }

@@ -126,12 +126,12 @@ void frmFivestack::LeaveIdle() {
   MousePointer = kHourglass;
   standing.InputLives();
   QuitRequested = false;
-  ShowSplash(false);
+  splash.Show(false);
   StatusBar1.Panels(2).Text = "Click on Hit buttons to create columns of 21!   ";
   ShowBonusGoal(" for bonus round.  ");
   // The back design may be changed during a game.
   for (Menu* entry : {&mnuTime, &mnuCustom}) entry->Enabled = false;
-  SetPlayCaption(plan.names.endGame);
+  commands.SetPlayCaption(plan.names.endGame);
   cmdPlay.ToolTipText = "Ends the game in progress";
 }
 
@@ -171,7 +171,7 @@ void frmFivestack::DealCards() {
 
 void frmFivestack::StartClock() {
   UpdateCardTotalValue();
-  ResetDial();
+  clock.ResetDial();
   Timer1.Enabled = true;
 }
 
@@ -205,18 +205,16 @@ void frmFivestack::Reset() {
   cmdPause.Enabled = false;
   mnuPause.Enabled = false;
   Timer1.Enabled = false;
-  common.ElapsedSeconds = 0;
+  clock.ElapsedSeconds = 0;
   ShowTimeBonus(TimeBonusMax);
 }
 
 // --- The time bonus ------------------------------------------------------------------------------
 
-float frmFivestack::TimeBonusDecay() const {
-  return BonusDecay(TimeBonusMax, TimeBonusMin, common.TimeLimit);
-}
+float frmFivestack::TimeBonusDecay() const { return BonusDecay(TimeBonusMax, TimeBonusMin, clock.TimeLimit); }
 
 void frmFivestack::ShowTimeLeft() {
-  common.TimeBonus = BonusAfter(common.ElapsedSeconds, TimeBonusMax, TimeBonusMin, TimeBonusDecay());
+  common.TimeBonus = BonusAfter(clock.ElapsedSeconds, TimeBonusMax, TimeBonusMin, TimeBonusDecay());
   ShowTimeBonus(common.TimeBonus);
   lblTime.Caption = "Time Bonus:";
 }
@@ -321,7 +319,7 @@ void frmFivestack::CountScore(long long roundScore) {
 // --- The next round, or the end of the game ------------------------------------------------------
 
 void frmFivestack::EndRound(Integer round) {
-  common.ElapsedSeconds = 0;
+  clock.ElapsedSeconds = 0;
   if (CurrentRound == kBonusRound && !EarnsBonusRound()) CurrentRound = round = kBonusRound + 1;
   StopMusic();
   round <= kBonusRound ? PrepareRound() : GameOver();
@@ -365,14 +363,14 @@ void frmFivestack::GameOver() {
   SetVisible({&ScoringLabel, &ScoringLabelOutline}, false);
   common.CurrentScore = 0;
   CurrentRound = 0;
-  SetPlayCaption("&Play");
-  cmdPlay.ToolTipText = "Starts a new game";
+  commands.SetPlayCaption("&Play");
+  commands.TellStart();
   for (Menu* entry : {&mnuCustom, &mnuTime, &mnuDeck}) entry->Enabled = true;
-  common.ElapsedSeconds = 0;
-  ResetDial();
+  clock.ElapsedSeconds = 0;
+  clock.ResetDial();
   Timer1.Enabled = false;
   ShowRoundControls(false);
-  ShowSplash(true);
+  splash.Show(true);
   StatusBar1.Panels(1).Text = "Game over!  ";
   StatusBar1.Panels(2).Text = "Click on Play to start a new game.  ";
   lblCurrentTotal.ForeColor = kRed;

@@ -36,12 +36,12 @@ void frmHandgrid::DrawNextCard() {
 }
 
 void frmHandgrid::Reset(bool endOfGame) {
-  ShowSplash(endOfGame);
+  splash.Show(endOfGame);
   board.Clear();
   for (int i = 0; i < kCells; ++i) PlayCards(i).Picture = common.ImageList2("EMPTY");
   for (int column = 0; column < kSide; ++column) StackColumn(column);
   if (!endOfGame) return;
-  SetPlayCaption("&Play");
+  commands.SetPlayCaption("&Play");
   mnuPause.Enabled = true;  // although there is nothing to pause
   cmdPause.Enabled = false;
   HoleCard.BorderStyle = 0;
@@ -96,7 +96,7 @@ void frmHandgrid::CardStackPicture_Click() { Refuse(); }
 // --- The round clock -----------------------------------------------------------------------------
 
 void frmHandgrid::ShowTimeLeft() {
-  lblTimeBonus.Caption = std::to_string(common.TimeLimit - common.ElapsedSeconds);
+  lblTimeBonus.Caption = std::to_string(clock.Left());
   lblTime.Caption = "Time:";
 }
 
@@ -122,9 +122,9 @@ void frmHandgrid::Play() {
   mnuPause.Enabled = true;
   cmdPause.Enabled = true;
   ShowOverWrites();
-  common.ElapsedSeconds = 0;
+  clock.ElapsedSeconds = 0;
   ShowTimeLeft();
-  ResetDial();
+  clock.ResetDial();
   Timer1.Enabled = true;
   if (common.CreateStandardDeck()) {
     Reset(false);
@@ -168,7 +168,7 @@ void frmHandgrid::ForfeitRound() {
 }
 
 void frmHandgrid::PayRound() {
-  const long long secondsLeft = common.TimeLimit - common.ElapsedSeconds;
+  const long long secondsLeft = clock.Left();
   if (secondsLeft > 0) {
     SetAnnouncementFont("Arial", 20);
     ScoringLabel.Caption = std::to_string(RoundPoints) + " X " + std::to_string(secondsLeft) + " =";
@@ -201,10 +201,10 @@ void frmHandgrid::BeginNextRound() {
   Deal();
   ShowCards(true);
   ShowControls(true, true);
-  common.ElapsedSeconds = 0;
+  clock.ElapsedSeconds = 0;
   ShowTimeLeft();
   ShowOverWrites();
-  ResetDial();
+  clock.ResetDial();
   Timer1.Enabled = true;
   RoundPoints = 0;
   ShowPointsEarned();
@@ -216,7 +216,7 @@ void frmHandgrid::BeginNextRound() {
 
 // The dial stands at 0 from here on: `Timer2` goes on drawing it while the player enters a name.
 void frmHandgrid::GameOver() {
-  ResetDial();
+  clock.ResetDial();
   ScoringLabel.Caption = "Game Over";
   FinishGame();
   MousePointer = kHourglass;
@@ -226,7 +226,7 @@ void frmHandgrid::GameOver() {
   TellGameOver(ScoringLabel);
   ShowAnnouncement(false);
   Reset(true);
-  cmdPlay.ToolTipText = "Starts a new game";
+  commands.TellStart();
 }
 
 // Whatever was being shown is taken back, so that the next game begins as any other.
@@ -241,7 +241,7 @@ void frmHandgrid::EndGame() {
   ShowCards(false);
   ShowControls(false, false);
   Reset(true);
-  ResetDial();
+  clock.ResetDial();
   for (Menu* entry : {&mnuTime, &mnuDeck, &mnuCustom}) entry->Enabled = true;
   Timer1.Enabled = false;
 }

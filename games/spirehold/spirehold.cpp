@@ -33,7 +33,7 @@ void frmSpirehold::Deal() {
   ShowCards(true);
   CardStackPicture.Picture = common.ImageList2("FULL");
   lblCards.Caption = std::to_string(board.stack.size());
-  ResetDial();
+  clock.ResetDial();
   Timer1.Enabled = true;
   ShowBonusGoal();
   StatusBar1.Panels(2).Text = "Create runs by clicking on exposed cards!   ";
@@ -109,7 +109,7 @@ void frmSpirehold::Play() {
 void frmSpirehold::PayAwards() {
   lblMessage.ForeColor = kRed;
   lblMessage.Visible = true;
-  if (common.TimeLimit - common.ElapsedSeconds > 0)
+  if (clock.Left() > 0)
     board.TowersCompleted() != 0 ? CountTimeBonus(*this, common.TimeBonus) : RefuseTimeBonus();
   TowerScore();
   HighRunScore();
@@ -147,6 +147,6 @@ void frmSpirehold::HighRunScore() {
 void frmSpirehold::EndGame() {
   FinishGame();
   GameFinished();
-  ShowSplash(true);
+  splash.Show(true);
   StopMusic();
 }

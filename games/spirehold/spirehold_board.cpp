@@ -114,7 +114,7 @@ void frmSpirehold::SetUpBoard() {
   HideTowerLabels();
   mnuClearHighRun.Caption = "Clear &High Run";
   mnuClearHighRun.rank = 25;
-  gameOptions.push_back(&mnuClearHighRun);
+  commands.gameOptions.push_back(&mnuClearHighRun);
 }
 
 void frmSpirehold::BindBoardEvents() {

@@ -41,7 +41,7 @@ std::vector<std::unique_ptr<Kind>> Make(Frame& frame, const std::vector<const Ga
 
 frmSumfallCustomScoring::frmSumfallCustomScoring(frmSumfall& game)
     : Form(game.platform, "frmSumfallCustomScoring"),
-      settings(WithField(game.settings)),
+      settings(game.settings.WithField()),
       labels(Make<Label>(Frame1, settings, &ScoringField::label)),
       boxes(Make<TextBox>(Frame1, settings, &ScoringField::box)),
       game_(game) {

@@ -1,6 +1,5 @@
 #include "games/sumfall/sumfall.h"
 
-#include "suite/dial.h"
 #include "window/text.h"
 
 using namespace modSumfall;
@@ -52,7 +51,7 @@ bool frmSumfall::Deal(bool newGame) {
     ShowRoundTime();
     lblTime.Visible = true;
     Timer1.Enabled = true;
-    common.ElapsedSeconds = 0;
+    clock.ElapsedSeconds = 0;
     if (newGame) {
       common.PreviousScore = common.CurrentScore;
       common.CurrentScore = 0;
@@ -64,7 +63,7 @@ bool frmSumfall::Deal(bool newGame) {
     lblCurrentElevens.Caption = "0";
     ShowControls(true);
     RoundDeck(CurrentRound) = common.Deck;
-    ResetDial();
+    clock.ResetDial();
     ShowTimerRect();
   };
   return common.Try(deal, "Unable to deal the cards.");
@@ -212,7 +211,7 @@ void frmSumfall::PayAwards() {
   if (completed_) PayCompletionBonus();
   if (board.combinations != 0) PayCombinationBonus();
   lblCurrentElevens.ForeColor = kBlue;
-  if (common.TimeLimit - common.ElapsedSeconds >= 1) PayTimeBonus();
+  if (clock.Left() >= 1) PayTimeBonus();
   platform.DoEvents();
   standing.InputLives();
 }
@@ -260,25 +259,23 @@ void frmSumfall::PayCombinationBonus() {
 }
 
 void frmSumfall::PayTimeBonus() {
-  const long long limit = common.TimeLimit;
-  const Long bonus = (limit - common.ElapsedSeconds) * common.TimeBonus;
+  const long long limit = clock.TimeLimit;
+  const Long bonus = (limit - clock.ElapsedSeconds) * common.TimeBonus;
   ShowMessage("Speed Bonus! " + std::to_string(bonus));
   lblCurrentScore.ForeColor = kCyan;
   platform.Sleep(1000);
   if (!common.CountDownScore) {
-    common.ElapsedSeconds = common.TimeLimit;
+    clock.ElapsedSeconds = clock.TimeLimit;
     common.CurrentScore += bonus;
-    ResetDial();
+    clock.ResetDial();
     lblCurrentScore.ForeColor = kRed;
     ShowScore();
     platform.Sleep(1000);
     lblCurrentScore.ForeColor = kBlack;
     return;
   }
-  while (common.ElapsedSeconds < limit) {
-    DrawTimeDial(DialAngle(*this, common.ElapsedSeconds), *this);
-    common.DialSeconds = common.ElapsedSeconds + 1;
-    common.ElapsedSeconds += 1;
+  while (clock.ElapsedSeconds < limit) {
+    clock.PaySecond();
     AddToScore(common.TimeBonus);
     PlaySound("\\Snap.wav");
     platform.Sleep(75);
@@ -327,17 +324,17 @@ void frmSumfall::GameOver() {
   EnterHighScore();
   lblMessage.Top = Height / 2;
   TellGameOver(lblMessage);
-  ShowSplash(true);
+  splash.Show(true);
   cmdExit.Enabled = true;
   cmdPlay.Enabled = true;
-  cmdPlay.ToolTipText = "Starts a new game";
-  SetPlayCaption("&Play");
+  commands.TellStart();
+  commands.SetPlayCaption("&Play");
   OfferReplay();
   for (Menu* entry : {&mnuExit, &mnuPlay, &mnuTime, &mnuGoal, &mnuCustom}) entry->Enabled = true;
   cmdPause.Enabled = false;
   mnuPause.Enabled = false;
-  common.ElapsedSeconds = common.TimeLimit;
-  ResetDial();
+  clock.ElapsedSeconds = clock.TimeLimit;
+  clock.ResetDial();
   ReplayPending = false;
   EndCount();
 }
@@ -351,7 +348,7 @@ void frmSumfall::OfferReplay() {
 }
 
 void frmSumfall::EndCount() {
-  common.ElapsedSeconds = 0;
+  clock.ElapsedSeconds = 0;
   lblCurrentScore.ForeColor = kBlue;
   lblMessage.ForeColor = kRed;
   SelRectangle(false);
@@ -367,7 +364,7 @@ void frmSumfall::EndGame() {
   ShowLowerCards(false);
   Timer1.Enabled = false;
   Timer2.Enabled = false;
-  common.ElapsedSeconds = 0;
+  clock.ElapsedSeconds = 0;
   lblTime.Caption = "Time:";
   Surface.Cls();
   CardTotalVisible(false);
@@ -382,7 +379,7 @@ void frmSumfall::EndGame() {
   OfferReplay();
   for (Menu* entry : {&mnuTime, &mnuGoal, &mnuCustom, &mnuSave, &mnuOpen, &mnuPlay}) entry->Enabled = true;
   mnuPause.Enabled = false;
-  ShowSplash(true);
+  splash.Show(true);
   StopMusic();
 }
 
@@ -400,7 +397,7 @@ void frmSumfall::cmdPlay_Click(By by) {
 void frmSumfall::mnuPlay_Click() {
   if (standing.CanStart()) {
     cmdPlay.ToolTipText = "Ends the game in progress";
-    SetPlayCaption("&End Game");
+    commands.SetPlayCaption("&End Game");
     frmSplash.Visible = false;
     StartGame();
   } else if (standing.InGame()) {
@@ -436,7 +433,7 @@ void frmSumfall::ChooseGoal(int goal) {
 SavedGame frmSumfall::LastGame(const std::string& userName) const {
   SavedGame game;
   game.cardGoal = static_cast<int>(CardGoal);
-  game.timeLimit = static_cast<int>(common.TimeLimit);
+  game.timeLimit = static_cast<int>(clock.TimeLimit);
   game.score = static_cast<int>(common.PreviousScore);
   game.custom = common.CustomScoringInUse;
   game.userName = userName;
@@ -471,9 +468,9 @@ bool frmSumfall::LoadSavedGame(const std::filesystem::path& path) {
                         (game.custom ? "Customized scoring was in effect when this game was played. "
                                      : "Customized scoring was not in effect when this game was played. ");
   const std::string title = "Saved Game Information";
-  if (game.timeLimit != common.TimeLimit) {
+  if (game.timeLimit != clock.TimeLimit) {
     message += "This game was saved with the time limit set to " + limit +
-               ". Your time limit is currently set to " + std::to_string(common.TimeLimit) +
+               ". Your time limit is currently set to " + std::to_string(clock.TimeLimit) +
                ". Do you want to change your time limit to " + limit + "?";
     if (platform.MsgBox(message, title, Icon::Question, Buttons::YesNo) == Answer::Yes)
       ChooseTimeLimit(game.timeLimit);
@@ -482,7 +479,7 @@ bool frmSumfall::LoadSavedGame(const std::filesystem::path& path) {
   }
   ReplayPending = true;
   common.nextDeal = DealName{};  // the cards are those of the file
-  ShowSplash(false);
+  splash.Show(false);
   cmdTakeScore.Caption = "&Replay";
   cmdTakeScore_Click(By::Button);
   return true;

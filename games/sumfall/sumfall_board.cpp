@@ -302,8 +302,8 @@ void frmSumfall::ShowCards(bool visible) {
 }
 
 void frmSumfall::EnableCommands(bool enable) {
-  EnableButtons(enable);
-  EnableEntries(enable);
+  commands.EnableButtons(enable);
+  commands.EnableEntries(enable);
 }
 
 // A paused game lies face down, and what was selected no longer is.

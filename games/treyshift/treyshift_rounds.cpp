@@ -47,7 +47,7 @@ void frmTreyshift::InitRound() {
     TempCardSelection(i).Visible = false;
   }
   UpCardSelection.Visible = false;
-  common.ElapsedSeconds = 0;
+  clock.ElapsedSeconds = 0;
   lblRound.Caption = "Round: " + std::to_string(CurrentRound);
   ShowCardCount();  // of the deck that was
   ShowScore();
@@ -74,7 +74,7 @@ void frmTreyshift::Deal() {
   for (int i = 0; i < kTempSlots; ++i) TempCard(i).Picture = common.ImageList2("EMPTY");
   for (int i = 0; i < kColumns; ++i) PlayCard(i).Picture = common.ImageList2("EMPTY");
   RefreshPlayCard();
-  ResetDial();
+  clock.ResetDial();
   Timer1.Enabled = true;
   ShowBonusGoal();
   StatusBar1.Panels(2).Text = "Create runs and triples by moving available cards!   ";
@@ -221,15 +221,15 @@ void frmTreyshift::RestoreFlush() {
 void frmTreyshift::GameOver() {
   FinishGame();
   ShowControls(false);
-  ResetDial();
-  cmdPlay.ToolTipText = "Starts a new game";
+  clock.ResetDial();
+  commands.TellStart();
   lblScoring.ForeColor = kBlue;
   lblScoring.Caption = "Game Over";
   CenterScoringLabel();
   ShowScoringLabel(true);
   platform.Sleep(1000);
   ShowScoringLabel(false);
-  ShowSplash(true);
+  splash.Show(true);
 }
 
 // Whatever was on show when it happened goes.
