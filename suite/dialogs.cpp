@@ -61,7 +61,8 @@ frmHighScores::frmHighScores(modCommon& common, GameWindow& game)
 
 void frmHighScores::Form_Load() {
   CenterOnScreen();
-  Caption = common_.AppTitle + " Hall of Fame (" + std::to_string(game_.clock.TimeLimit) + " secs)";
+  const std::string limit = " (" + std::to_string(game_.clock.TimeLimit) + " secs)";
+  Caption = common_.AppTitle + " Hall of Fame" + (game_.plan.HasClock() ? limit : "");
   ReadHighScoreTable();
   lblHiScoreInfo.Caption = game_.HighScoreInfo();
   CenterAcross(lblHiScoreInfo);

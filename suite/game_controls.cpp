@@ -78,8 +78,8 @@ void GameControls::SetUpControls() {
   AddScoreBox(ScoreRectangle, ScoreBevelSide, ScoreBevelBottom);
   AddScoreBox(RoundRectangle, RoundBevelSide, RoundBevelBottom);
 
-  Timer1.Interval = 1000;
-  Timer2.Interval = 200;
+  Timer1.Interval = plan_.HasClock() ? 1000 : 0;
+  Timer2.Interval = plan_.HasClock() ? 200 : 0;
   ClockTimer.Interval = 60000;
   ClockTimer.Enabled = true;
 }

@@ -21,18 +21,19 @@ class GameControls {
   Form& form_;
   const GamePlan& plan_;
   const GameNames& names_ = plan_.names;
+  const char* OfClock(const char* name) const { return plan_.HasClock() ? name : ""; }
 
  public:
   GameControls(Form& form, const GamePlan& plan);
 
-  PictureBox Surface{form_, "Surface"};
-  Shape TimerRectangle{form_, "TimerRectangle"}, TimerBevelSide{form_, "TimerBevelSide"},
-      TimerBevelBottom{form_, "TimerBevelBottom"};
+  PictureBox Surface{form_, OfClock("Surface")};
+  Shape TimerRectangle{form_, OfClock("TimerRectangle")}, TimerBevelSide{form_, OfClock("TimerBevelSide")},
+      TimerBevelBottom{form_, OfClock("TimerBevelBottom")};
   Shape ScoreRectangle{form_, "ScoreRectangle"}, ScoreBevelSide{form_, "ScoreBevelSide"},
       ScoreBevelBottom{form_, "ScoreBevelBottom"};
   Shape RoundRectangle{form_, names_.roundBox.box}, RoundBevelSide{form_, names_.roundBox.side},
       RoundBevelBottom{form_, names_.roundBox.bottom};
-  Label lblTime{form_, "lblTime"}, lblScore{form_, "lblScore"}, lblCurrentScore{form_, names_.score},
+  Label lblTime{form_, OfClock("lblTime")}, lblScore{form_, "lblScore"}, lblCurrentScore{form_, names_.score},
       lblRound{form_, "lblRound"}, lblCurrentRound{form_, names_.roundNumber},
       lblHighScore{form_, "lblHighScore"}, lblMessage{form_, names_.message},
       lblScoring{form_, names_.scoring};
@@ -43,8 +44,8 @@ class GameControls {
   CommandButton cmdPlay{form_, "cmdPlay"}, cmdTakeScore{form_, names_.takeScoreButton},
       cmdPause{form_, "cmdPause"}, cmdExit{form_, names_.exitButton};
   StatusBar StatusBar1{form_, "StatusBar1"};
-  Timer Timer1{form_, "Timer1"}, Timer2{form_, "Timer2"}, ClockTimer{form_, names_.clockTimer},
-      Timer4{form_, "Timer4"};
+  Timer Timer1{form_, OfClock("Timer1")}, Timer2{form_, OfClock("Timer2")},
+      ClockTimer{form_, names_.clockTimer}, Timer4{form_, "Timer4"};
 
   Menu mnuFile{form_, names_.fileMenu}, mnuPlay{mnuFile, "mnuPlay"},
       mnuTakeScore{mnuFile, names_.takeScoreEntry}, mnuPause{mnuFile, "mnuPause"},
@@ -52,7 +53,7 @@ class GameControls {
   Menu mnuOptions{form_, "mnuOptions"}, mnuView{mnuOptions, names_.viewEntry},
       mnuClear{mnuOptions, "mnuClear"}, mnuOptionsLine{mnuOptions, "mnuOptionsLine"},
       mnuMusic{mnuOptions, "mnuMusic"}, mnuSounds{mnuOptions, "mnuSounds"},
-      mnuCustom{mnuOptions, names_.customEntry}, mnuTime{mnuOptions, names_.timeMenu};
+      mnuCustom{mnuOptions, names_.customEntry}, mnuTime{mnuOptions, OfClock(names_.timeMenu)};
   std::vector<std::unique_ptr<Menu>> timeLimitEntries;
   Menu mnuDeck{mnuOptions, "mnuDeck"}, mnuPalm{mnuDeck, kPalmTree.menu}, mnuMagic{mnuDeck, kMagicHands.menu},
       mnuNight{mnuDeck, kNightCastle.menu}, mnuHot{mnuDeck, kHotCards.menu};

@@ -131,7 +131,7 @@ struct GamePlan {
   HighScoreTables tables;
   int width, height;  // smallest size, twips; written for a maximised window
   std::span<const TimeLimitEntry> limits;
-  int timeLimit;                          // the default, seconds
+  int timeLimit;                          // the default, seconds; a game with 0 has no clock
   std::span<const char* const> sections;  // of the settings file, in writing order
   const RulesText& rules;
   ScoringNames dialog{};
@@ -157,4 +157,6 @@ struct GamePlan {
   bool limitChosenFirst = false;       // the default limit's table is looked at before the settings are read
   bool otherTextIsOff = false;         // sounds and music are off unless the file says "True"
   int panels[3] = {40, 45, 15};        // widths in the status bar, percent
+
+  bool HasClock() const { return timeLimit > 0; }
 };

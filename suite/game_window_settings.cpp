@@ -109,7 +109,8 @@ std::string GameWindow::SaveSettings() {
 
 std::string GameWindow::TableFile(const std::string& tableName) const {
   const GameSetting* goal = settings.Find(plan.tables.goal.section);
-  return "\\" + tableName + std::to_string(clock.TimeLimit) + (goal ? "_" + goal->Text() : "") + ".Txt";
+  return "\\" + tableName + (plan.HasClock() ? std::to_string(clock.TimeLimit) : "") +
+         (goal ? "_" + goal->Text() : "") + ".Txt";
 }
 
 std::string GameWindow::HighScoreInfo() const {

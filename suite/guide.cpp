@@ -67,7 +67,7 @@ std::string GameGuide::State() const {
   tell("Score " + FormatNumber(common.CurrentScore));
   if (window_.standing.IsBusy()) return state;
   const long long left = window_.clock.Left();
-  tell(std::to_string(left) + (left == 1 ? " second left" : " seconds left"));
+  if (window_.plan.HasClock()) tell(std::to_string(left) + (left == 1 ? " second left" : " seconds left"));
   if (const std::string board = BoardState(); !board.empty()) state += " " + board;
   return state;
 }

@@ -28,7 +28,10 @@ void RoundGame::AnnounceRound(bool bonus) {
   const BonusCall& call = plan.bonusCall;
   if (bonus) platform.front.Triumph(*this);
   if (bonus && call.waveFirst) PlaySound(call.wave);
-  ShowMessage(bonus ? call.text : "Prepare for Round Two!");
+  static constexpr const char* kNumbers[] = {"One", "Two", "Three", "Four", "Five", "Six"};
+  const size_t round = static_cast<size_t>(CurrentRound);
+  const std::string number = round <= std::size(kNumbers) ? kNumbers[round - 1] : std::to_string(round);
+  ShowMessage(bonus ? call.text : "Prepare for Round " + number + "!");
   if (bonus && !call.waveFirst) PlaySound(call.wave);
   Blink(lblMessage, 11);
   lblMessage.Visible = false;

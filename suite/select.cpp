@@ -1,5 +1,7 @@
 #include "suite/select.h"
 
+#include <algorithm>
+
 #include "suite/moments.h"
 
 namespace {
@@ -29,9 +31,11 @@ frmSelect::frmSelect(modCommon& common, const std::vector<GameEntry>& games)
     : Form(common.platform, "frmSelect"), common_(common), games_(games) {
   common.selector = this;
   Form::Move(0, 0, kSelectorWidth, kSelectorHeight);
+  // Up to nine fit, one below the other.
+  const int pitch = std::min(520, 3640 / std::max(1, static_cast<int>(games.size()) - 1));
   for (const GameEntry& game : games) {
     auto button = std::make_unique<CommandButton>(frmGameChoice, game.button);
-    button->Visual::Move(195, 240 + 520 * static_cast<int>(gameButtons.size()), 1320, 420);
+    button->Visual::Move(195, 240 + pitch * static_cast<int>(gameButtons.size()), 1320, 420);
     button->OnClick = [this, &game] { Open(game); };
     gameButtons.push_back(std::move(button));
   }
