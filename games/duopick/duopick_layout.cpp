@@ -1,4 +1,4 @@
-// The board of frmDuopick: its design, where things stand at any window size, what is shown when; and its
+// The layout of frmDuopick: its design, where things stand at any window size, what is shown when; and its
 // settings.
 #include "games/duopick/duopick.h"
 

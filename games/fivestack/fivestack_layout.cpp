@@ -1,4 +1,4 @@
-// The board of frmFivestack: its design, where things stand at any window size, what is shown when; and its
+// The layout of frmFivestack: its design, where things stand at any window size, what is shown when; and its
 // settings.
 #include "games/fivestack/fivestack.h"
 #include "suite/column_places.h"

@@ -1,4 +1,4 @@
-// The board of frmSpirehold: its design, where things stand at any window size, what is shown when; and its
+// The layout of frmSpirehold: its design, where things stand at any window size, what is shown when; and its
 // settings.
 #include "games/spirehold/spirehold.h"
 

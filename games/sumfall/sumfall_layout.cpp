@@ -1,4 +1,4 @@
-// The board of frmSumfall: its design, where things stand at any window size, what is shown when; and its
+// The layout of frmSumfall: its design, where things stand at any window size, what is shown when; and its
 // settings.
 #include "games/sumfall/dialogs.h"
 #include "games/sumfall/sumfall.h"
