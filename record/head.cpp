@@ -16,16 +16,12 @@ constexpr int kMostTwips = 10'000'000;
 // What windows share and don't set anew when they open.
 template <class Visitor>
 void VisitKept(modCommon& common, Visitor visit) {
-  visit("TimeLimit", common.TimeLimit);
-  visit("ElapsedSeconds", common.ElapsedSeconds);
-  visit("DialSeconds", common.DialSeconds);
   visit("DeckDesign", common.DeckDesign);
   visit("CurrentScore", common.CurrentScore);
   visit("PreviousScore", common.PreviousScore);
   visit("TimeBonus", common.TimeBonus);
 }
-constexpr const char* kKept[] = {"TimeLimit",    "ElapsedSeconds", "DialSeconds", "DeckDesign",
-                                 "CurrentScore", "PreviousScore",  "TimeBonus"};
+constexpr const char* kKept[] = {"DeckDesign", "CurrentScore", "PreviousScore", "TimeBonus"};
 constexpr const char* kBacks[] = {"FULL", "BACK", "HALF"};
 
 std::string Numbers(std::initializer_list<long long> numbers) {

@@ -1,4 +1,6 @@
 // Deals: the same cards for the same number, in every game, however one came there.
+#include <gtest/gtest.h>
+
 #include <fstream>
 #include <map>
 #include <sstream>

@@ -1,4 +1,6 @@
 // The history and what it amounts to; and what ends of games write there.
+#include <gtest/gtest.h>
+
 #include <fstream>
 #include <map>
 #include <random>
