@@ -106,6 +106,10 @@ void Recorder::Entered(const Event& event) {
       }
       clock = now;
       Put(line);
+      if (const DateTime moment = inner_.Now(); moment != known_->Now()) {
+        known_->SetMoment(moment);
+        Put("now " + IsoText(moment));
+      }
     }
   }
   given_.reset();
@@ -144,12 +148,7 @@ void Recorder::Look() {
   if (!under_ || inner_.MustLeave()) return;
   if (common_->window) opened_ = true;
   if (auto result = watch_.Look(*common_)) {
-    ++known_->asked;
-    result->ended = inner_.Now();
-    if (result->ended != known_->Now()) {
-      known_->SetMoment(result->ended);
-      Answered("now " + IsoText(result->ended));
-    }
+    result->ended = known_->Now();
     Put("end " + result->game + " " + result->limit +
         Numbers({result->score, result->rounds, result->place, result->custom, result->deal}) + " " +
         IsoText(result->ended));
@@ -206,13 +205,10 @@ uint64_t Recorder::Chance() {
   return number;
 }
 
+// While a handler runs the calendar stands still as the clock does, whoever looks at it.
 DateTime Recorder::Now() {
-  const DateTime now = inner_.Now();
-  if (Asks() && now != known_->Now()) {
-    known_->SetMoment(now);
-    Answered("now " + IsoText(now));
-  }
-  return now;
+  const bool inHandler = under_ && platform_.HandlersUnderWay() > HandlersServed();
+  return inHandler ? known_->Now() : inner_.Now();
 }
 
 Extent Recorder::ScreenExtent() {

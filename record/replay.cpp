@@ -87,13 +87,7 @@ class Player : public FrontEnd {
     Advance();
     return number;
   }
-  DateTime Now() override {
-    if (Asks("now")) {
-      known_.SetMoment(ReadMoment(line_));
-      Advance();
-    }
-    return known_.Now();
-  }
+  DateTime Now() override { return known_.Now(); }
   Extent ScreenExtent() override {
     if (Asks("screen")) {
       known_.screen = ReadExtent(line_);
@@ -206,7 +200,8 @@ class Player : public FrontEnd {
     what_ = hasLine_ ? line_.Word() : "";
     kind_ = KindOf(what_);
     const bool counts = what_ == "told" || what_ == "waited" || what_ == "late";
-    if (hasLine_ && kind_ == Event::Kind::None && !counts && what_ != "end" && what_ != "nextdeal")
+    if (hasLine_ && kind_ == Event::Kind::None && !counts && what_ != "end" && what_ != "nextdeal" &&
+        what_ != "now")
       line_.Wrong("there is nothing like \"" + what_ + "\"");
     at_ = counts ? line_.Number(0, kMostWaits) : -1;
     if (kind_ == Event::Kind::None) return;
@@ -257,6 +252,10 @@ class Player : public FrontEnd {
     if (kind_ == Event::Kind::Tick) known_.clock = std::max(known_.clock, *platform.timers.NextDue());
     known_.clock += time_;
     Advance();
+    if (what_ == "now") {
+      known_.SetMoment(ReadMoment(line_));
+      Advance();
+    }
     return current_.event;
   }
 
@@ -265,7 +264,7 @@ class Player : public FrontEnd {
     if (!common_) return;
     auto result = watch_.Look(*common_);
     if (!result) return;
-    result->ended = Now();
+    result->ended = known_.Now();
     if (what_ != "end") Fail("a game ends");
     GameResult told;
     told.game = line_.Word();
