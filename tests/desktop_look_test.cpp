@@ -327,6 +327,7 @@ bool Write(Form& form, const Longest& longest) {
 
 // Plays the round to its end.
 void EndRound(GameWindow& game) {
+  if (auto* fivestack = dynamic_cast<frmFivestack*>(&game)) return player::Click(fivestack->cmdGiveUp);
   auto* handgrid = dynamic_cast<frmHandgrid*>(&game);
   if (!handgrid) return player::Click(game.cmdTakeScore);
   game.standing.InputLives();
