@@ -20,8 +20,11 @@ void VisitKept(modCommon& common, Visitor visit) {
   visit("CurrentScore", common.CurrentScore);
   visit("PreviousScore", common.PreviousScore);
   visit("TimeBonus", common.TimeBonus);
+  visit("DialSeconds", common.DialSeconds);
+  visit("DialLastColor", common.DialLastColor);
 }
-constexpr const char* kKept[] = {"DeckDesign", "CurrentScore", "PreviousScore", "TimeBonus"};
+constexpr const char* kKept[] = {"DeckDesign", "CurrentScore", "PreviousScore",
+                                 "TimeBonus",  "DialSeconds",  "DialLastColor"};
 constexpr const char* kBacks[] = {"FULL", "BACK", "HALF"};
 
 std::string Numbers(std::initializer_list<long long> numbers) {
@@ -183,7 +186,7 @@ Head ReadHead(LineReader& lines) {
       bool known = false;
       for (size_t i = 0; i < std::size(kKept); ++i) {
         if (name != kKept[i]) continue;
-        const bool isLong = name.ends_with("Score") || name == "TimeBonus";
+        const bool isLong = name.ends_with("Score") || name == "TimeBonus" || name == "DialLastColor";
         head.kept[i] = isLong ? line.Number(INT_MIN, INT_MAX) : line.Number(SHRT_MIN, SHRT_MAX);
         known = true;
       }
