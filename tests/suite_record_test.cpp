@@ -192,11 +192,11 @@ TEST(Record, NothingElseHolds) {
       {"no game", With(whole, "cmdPlay", ""), kProgram, "fails: line "},
       {"other cards", With(whole, "chance ", "chance 99\n"), kProgram, "fails: line "},
       {"what isn't there", With(whole, "UpCardImage(18)", "click 0 frmSpirehold.UpCardImage(99)\n"), kProgram,
-       "fails: line 44: there is no frmSpirehold.UpCardImage(99)"},
+       "fails: line 46: there is no frmSpirehold.UpCardImage(99)"},
       {"what can't be clicked", With(whole, "UpCardImage(18)", "click 0 frmSpirehold.Timer1\n"), kProgram,
-       "fails: line 44: frmSpirehold.Timer1 takes no part in what a player does"},
+       "fails: line 46: frmSpirehold.Timer1 takes no part in what a player does"},
       {"an answer to nobody", With(whole, "UpCardImage(18)", "answer 0 Yes\n"), kProgram,
-       "fails: line 44: no message box stands"},
+       "fails: line 46: no message box stands"},
       {"a version of ours that goes differently", With(whole, "chance ", "chance 99\n"), "1.3.0",
        "no record: version 1.2.3 made it"},
       {"another version that goes alike", whole, "1.3.0", "holds "},
@@ -207,7 +207,7 @@ TEST(Record, NothingElseHolds) {
       {"another form", With(whole, "card-haven-record 1", "card-haven-record 2\n"), kProgram,
        "no record: its form is of version 2"},
       {"chance out of bounds", With(whole, "UpCardImage(18)", "random 0 1 52 53\n"), kProgram,
-       "no record: line 44: the number 53 doesn't fit"},
+       "no record: line 46: the number 53 doesn't fit"},
   };
   for (const auto& [what, text, program, verdict] : cases)
     EXPECT_EQ(VerdictOn(text, program).substr(0, verdict.size()), verdict) << what;
