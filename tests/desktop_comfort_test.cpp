@@ -252,7 +252,10 @@ TEST_F(Comforts, AStuckBoardSaysSoUntilItIsPausedOrDealtAnew) {
   EXPECT_EQ(calls(), "");
   start.Click("frmSpirehold", "cmdPause");
   EXPECT_EQ(calls(), stuck);
+  std::string meanwhile = stuck;  // while the round is paid
+  start.front.onSleep = [&] { start.front.onSleep = [&] { meanwhile = calls(); }; };
   start.Click("frmSpirehold", "cmdTakeScore");
+  EXPECT_EQ(meanwhile, "");
   EXPECT_TRUE(input::Await([&] { return game.standing.IsPlaying(); }));
   EXPECT_EQ(calls(), "");
 }

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
 
 #include "window/desktop/painting/baize.h"
 #include "window/desktop/painting/notes.h"
@@ -65,6 +66,13 @@ void Canvas::SetNotes(std::vector<Note> notes) {
 }
 
 void Canvas::Settle() {
+  // What is called for may be done while the handler is still under way.
+  const auto calls = [](const Note& note) { return note.look == Note::Look::Call; };
+  if (guide_ && std::ranges::any_of(notes_, calls) && !guide_->WayOut()) {
+    std::vector<Note> others = notes_;
+    std::erase_if(others, calls);
+    SetNotes(std::move(others));
+  }
   const std::optional<long long> score = guide_ ? guide_->Score() : std::nullopt;
   motion_.Settle({size(), zoom_, zoom_ * devicePixelRatioF(), isVisible(), score.value_or(0)});
 }
