@@ -26,6 +26,7 @@ void SetUpColumns(Window& window, const ColumnPlaces& places) {
   window.ColumnTotal.Set(&Label::Caption, "0");
   window.ColumnTotal.Set(&Label::Alignment, 2);
   window.ColumnSoft.Set(&Label::Visible, false);
+  window.ColumnSoft.Set(&Label::Remark, true);
   window.cmdHit.Set(&CommandButton::Caption, "Hit");
 }
 

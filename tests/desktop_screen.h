@@ -47,6 +47,16 @@ class QuickDesktop : public DesktopFrontEnd {
   void MediaCommand(const std::string&) override {}
 };
 
+// Whether letters of that colour say what the told one says: its hue, or that none is meant.
+inline bool Means(const QColor& letters, const QColor& told) {
+  const auto hue = [](const QColor& colour) {
+    const auto [least, most] = std::minmax({colour.red(), colour.green(), colour.blue()});
+    return most - least < 48 ? -1 : colour.hsvHue();
+  };
+  const int apart = std::abs(hue(letters) - hue(told));
+  return (hue(letters) < 0) == (hue(told) < 0) && std::min(apart, 360 - apart) < 12;
+}
+
 namespace input {
 
 inline void Settle() {

@@ -29,6 +29,7 @@ class Label : public Visual, public Lettering {
   Property<int> BackStyle{*this, Prop::BackStyle, 0};         // 0 transparent, 1 opaque
   Property<int> Alignment{*this, Prop::Alignment, 0};         // 0 left, 1 right, 2 centre
   bool AutoSize = false;  // width and height follow the caption; else it wraps
+  bool Remark = false;    // says something of what it stands beside: drawn strong, in no colour of its own
 
   // The caption has taken a new text, and an `AutoSize` label its new size. May set the caption again, which
   // is told at once; without end raises "Out of stack space".
@@ -64,8 +65,8 @@ class Shape : public Visual {
   Property<int> BorderColor{*this, Prop::BorderColor, 0};
   Property<int> FillColor{*this, Prop::FillColor, 0};
   int BorderWidth = 1;  // pixels
-  bool Filled = false;  // filled with `FillColor`
   bool Sunken = false;  // drawn as a box let into the window, a score box
+  bool Raised = false;  // drawn as a plate on the window, on which something is announced
 
   void Visit(const PropertyVisitor& visit) const override;
 };

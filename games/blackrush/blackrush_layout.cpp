@@ -134,7 +134,7 @@ void frmBlackrush::SetUpBoard() {
   ApplyDesign(*this, kStatusDesign);
   SetUpColumns(*this, kPlaces);
   for (Shape* line : {&Column1Line, &Column2Line, &Column3Line}) line->BorderColor = kWhite;
-  ScoringLabelOutline.Filled = true;
+  ScoringLabelOutline.Raised = true;
   ScoringLabelOutline.FillColor = 0x101212;
   ScoringLabelOutline.BorderColor = 0x4EA9D4;
   messageBox = &ScoringLabelOutline;

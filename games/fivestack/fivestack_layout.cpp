@@ -115,7 +115,7 @@ void frmFivestack::SetUpBoard() {
   ColumnTotal.Set(&Label::FontSize, 14);
   ColumnSoft.Set(&Label::AutoSize, true);
   ColumnSoft.Set(&Label::FontBold, true);
-  ScoringLabelOutline.Sunken = true;
+  ScoringLabelOutline.Raised = true;
   for (Label* label : {&lblTime, &lblScore, &lblCurrentRoundScore, &lblHighScore}) label->FontBold = true;
   for (Label* label : {&lblRound, &lblCurrentRoundScore, &lblCurrentTotal}) label->Alignment = 2;
   for (Label* label : {&lblRound, &ScoringLabelInfo}) label->FontSize = 10;

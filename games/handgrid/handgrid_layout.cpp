@@ -135,7 +135,7 @@ void frmHandgrid::SetUpLabels() {
   lblTimeBonus.Caption = std::to_string(kPlan.timeLimit);
   lblOverwrites.ForeColor = kBlue;
   lblMessage.FontSize = 14;
-  ScoringLabelOutline.Sunken = true;
+  ScoringLabelOutline.Raised = true;
   ScoringLabel.FontBold = true;
   SetAnnouncementFont("MS Sans Serif", 18);
   for (Label* label : {&lblTimeBonus, &lblRound, &lblOverwrites, &ScoringLabel, &lblCurrentScore}) {

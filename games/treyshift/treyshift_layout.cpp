@@ -122,6 +122,7 @@ void frmTreyshift::SetUpBoard() {
   lblFlush.ForeColor = kRed;
   FieldRect.BorderColor = kWhite;
   ScoringLabelOutline.BorderColor = kWhite;
+  ScoringLabelOutline.Raised = true;
   lblCurrentScore.Fit();
   RestoreFlush();
   messageBox = &ScoringLabelOutline;

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstdint>
 
+#include "window/desktop/painting/style.h"
+
 namespace {
 
 constexpr int kTile = 96;
@@ -36,7 +38,7 @@ QPixmap Baize(QSize size, double scale) {
   QPainter painter(&cloth);
   QRadialGradient light(pixels.width() * 0.5, pixels.height() * 0.36,
                         std::hypot(pixels.width(), pixels.height()) * 0.68);
-  light.setColorAt(0, QColor(0x2f, 0x86, 0x5e));
+  light.setColorAt(0, style::kBaize);
   light.setColorAt(0.55, QColor(0x1f, 0x6c, 0x4a));
   light.setColorAt(1, QColor(0x10, 0x47, 0x31));
   painter.fillRect(cloth.rect(), light);

@@ -34,8 +34,19 @@ QColor Strong(const QColor& told) {
   return warns ? style::kStrongMark : QColor(Qt::white);
 }
 
-QColor GroundFor(const QColor& letters) {
-  if (Contrast(letters, style::kIvory) >= kReadable) return style::kIvory;
-  return Contrast(letters, style::kDeepInk) >= Contrast(letters, style::kIvory) ? style::kDeepInk
-                                                                                : style::kIvory;
+bool IsNeutral(const QColor& colour) {
+  const auto [least, most] = std::minmax({colour.red(), colour.green(), colour.blue()});
+  return most - least < 32;
+}
+
+QColor LettersOn(const QColor& ground, const QColor& told) {
+  const bool light = Contrast(ground, Qt::black) > Contrast(ground, Qt::white);
+  if (IsNeutral(told)) return light ? style::kInk : style::kIvory;
+  constexpr int kSteps = 20;
+  const int end = light ? 0 : 255;
+  QColor colour = told;
+  const auto part = [&](int channel, int step) { return channel + (end - channel) * step / kSteps; };
+  for (int step = 1; step <= kSteps && Contrast(colour, ground) < kReadable; ++step)
+    colour = QColor(part(told.red(), step), part(told.green(), step), part(told.blue(), step));
+  return colour;
 }

@@ -9,10 +9,11 @@ QColor ToColour(int value);
 double Contrast(const QColor& a, const QColor& b);
 // Letters are easy to read on a ground from here on.
 inline constexpr double kReadable = 4.5;
-// On a ground whose colour was told letters may stand from here on.
-inline constexpr double kLegible = 3;
 // Where high contrast is asked for: the colour of letters and lines on a black ground that stands for this
 // one.
 QColor Strong(const QColor& told);
-// Ivory or a deep ink, whichever lets letters of that colour stand out more.
-QColor GroundFor(const QColor& letters);
+// Neither one colour nor another: that of letters that mean nothing beside what they say.
+bool IsNeutral(const QColor& colour);
+// The colour of letters that means the same and is easy to read on that ground: the told one, or darker or
+// lighter.
+QColor LettersOn(const QColor& ground, const QColor& told);

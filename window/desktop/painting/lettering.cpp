@@ -60,7 +60,7 @@ void Shorten(QStringList& parts, const QString& line, double y, const QRectF& re
 
 }  // namespace
 
-QFont FontOf(const Label& label) { return style::Letters(label.FontSize, label.FontBold); }
+QFont FontOf(const Label& label) { return style::Letters(label.FontSize, label.FontBold || label.Remark); }
 
 TextBlock LayOut(const Label& label, const QRectF& rect) {
   TextBlock block{FontOf(label), {}, {}};
@@ -81,6 +81,11 @@ TextBlock LayOut(const Label& label, const QRectF& rect) {
       }
       y += high.height;
     }
+  }
+  if (label.BackStyle == 1 && !label.AutoSize) {  // in the middle of its box
+    const double down = (rect.height() - block.bounds.height()) / 2;
+    for (TextLine& line : block.lines) line.baseline.ry() += down;
+    block.bounds.translate(0, down);
   }
   return block;
 }

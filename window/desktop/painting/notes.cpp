@@ -1,17 +1,12 @@
 #include "window/desktop/painting/notes.h"
 
+#include "window/desktop/painting/plates.h"
 #include "window/desktop/painting/scene.h"
 #include "window/desktop/painting/style.h"
 
 namespace {
 
 constexpr int kSmall = 8, kReading = 9, kCalling = 11;  // points
-
-void PaintSheet(QPainter& painter, const QRectF& rect, bool strong) {
-  painter.setPen(strong ? QPen(Qt::white, 1.5) : QPen(style::kGold, 1));
-  painter.setBrush(strong ? style::kStrongGround : style::kIvory);
-  painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
-}
 
 void PaintMark(QPainter& painter, const QRectF& rect, bool strong) {
   QColor band = style::kGold;
@@ -62,7 +57,7 @@ void PaintNote(QPainter& painter, const Note& note, NoteLayer layer, bool strong
   if (beneath != (layer == NoteLayer::Beneath)) return;
   const QRectF rect(NoteRect(note));
   painter.save();
-  if (note.look == Note::Look::Sheet) PaintSheet(painter, rect, strong);
+  if (note.look == Note::Look::Sheet) plates::Plate(painter, rect, strong);
   if (note.look == Note::Look::Call) PaintCall(painter, rect, strong, note.text.empty());
   if (beneath) PaintMark(painter, rect, strong);
   const Qt::Alignment sides[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};

@@ -1,45 +1,30 @@
 #include "window/desktop/painting/paint.h"
 
-#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 
 #include "window/desktop/painting/contrast.h"
+#include "window/desktop/painting/labels.h"
 #include "window/desktop/painting/lettering.h"
+#include "window/desktop/painting/plates.h"
 #include "window/desktop/painting/style.h"
 
 namespace {
-
-constexpr int kBigLetters = 14;  // points from which letters get an outline instead of a plate
-constexpr QColor kBox(0xfb, 0xf6, 0xe8);
 
 void PaintImage(const Easel& easel, const Placed& placed) {
   if (placed.picture != 0) PaintPicture(easel, placed.picture, placed.framed, placed.rect);
 }
 
-// Black with a white edge.
-void PaintStrongBox(QPainter& painter, const QRectF& rect) {
-  painter.setPen(QPen(Qt::white, 1.5));
-  painter.setBrush(style::kStrongGround);
-  painter.drawRoundedRect(rect, 2, 2);
-}
-
-// A box let into the window: dark along the top and left, lit along the bottom and right.
-void PaintSunken(const Easel& easel, const QRectF& rect, const QColor& fill) {
-  QPainter& painter = easel.painter;
-  if (easel.strong) return PaintStrongBox(painter, rect);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(255, 255, 255, 90));
-  painter.drawRoundedRect(rect.adjusted(0, 0, 1, 1), 1, 1);
-  painter.setBrush(QColor(0, 0, 0, 130));
-  painter.drawRoundedRect(rect.adjusted(-1, -1, 0, 0), 2, 2);
-  painter.setBrush(fill);
-  painter.drawRoundedRect(rect, 1, 1);
-  QLinearGradient shade(rect.topLeft(), QPointF(rect.left(), rect.top() + std::min(7.0, rect.height() / 2)));
-  shade.setColorAt(0, QColor(0, 0, 0, 60));
-  shade.setColorAt(1, QColor(0, 0, 0, 0));
-  painter.setBrush(shade);
-  painter.drawRoundedRect(rect, 1, 1);
+// Where a label stands on the upper line of that rectangle.
+QRectF GapFor(const Easel& easel, const QRectF& rect) {
+  for (const Placed& each : easel.scene) {
+    if (each.control->kind != Control::Kind::Label) continue;
+    const QRectF letters = LayOut(static_cast<const Label&>(*each.control), each.rect).bounds;
+    if (letters.top() < rect.top() && letters.bottom() > rect.top() && letters.left() > rect.left() &&
+        letters.right() < rect.right())
+      return letters.adjusted(-5, 0, 5, 0);
+  }
+  return {};
 }
 
 void PaintShape(const Easel& easel, const Placed& placed) {
@@ -52,19 +37,20 @@ void PaintShape(const Easel& easel, const Placed& placed) {
     painter.drawLine(start, start + QPointF(placed.rect.width(), placed.rect.height()));
     return;
   }
-  if (shape.Sunken) return PaintSunken(easel, placed.rect, shape.Filled ? ToColour(shape.FillColor) : kBox);
+  if (shape.Sunken) return plates::Box(painter, placed.rect, easel.strong);
+  if (shape.Raised) return plates::Plate(painter, placed.rect, easel.strong);
   const double inset = shape.BorderWidth / 2.0;
   const QRectF rect = QRectF(placed.rect).adjusted(inset, inset, -inset, -inset);
-  if (!shape.Filled && shape.BorderWidth > 1) {
+  if (shape.BorderWidth > 1) {
     // The mark of a selection: a thin light line on either side lets every colour show on every card.
     painter.setBrush(Qt::NoBrush);
     const QColor edge = easel.strong ? QColor(Qt::black) : QColor(255, 255, 255, 150);
     painter.setPen(QPen(edge, shape.BorderWidth + (easel.strong ? 4 : 2)));
     painter.drawRoundedRect(rect, 4, 4);
   }
-  if (easel.strong && shape.Filled) return PaintStrongBox(painter, rect);
-  painter.setPen(shape.BorderWidth > 0 ? QPen(border, shape.BorderWidth) : QPen(Qt::NoPen));
-  painter.setBrush(shape.Filled ? QBrush(ToColour(shape.FillColor)) : QBrush(Qt::NoBrush));
+  if (shape.BorderWidth == 1) return plates::Inlay(painter, rect, GapFor(easel, rect), true, easel.strong);
+  painter.setPen(QPen(border, shape.BorderWidth));
+  painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(rect, 4, 4);
 }
 
@@ -75,61 +61,31 @@ void PaintProgress(const Easel& easel, const Placed& placed) {
   const double part = std::clamp((bar.Value - bar.Min) / range, 0.0, 1.0);
   QPainter& painter = easel.painter;
   const QRectF groove = QRectF(placed.rect).adjusted(1, 1, -1, -1);
-  PaintSunken(easel, groove, kBox);
+  plates::Box(painter, groove, easel.strong);
   QRectF filling = groove.adjusted(2, 2, -2, -2);
   filling.setWidth(filling.width() * part);
   if (filling.width() < 1) return;
   QLinearGradient shine(filling.topLeft(), filling.bottomLeft());
-  shine.setColorAt(0, style::kBaize.lighter(135));
-  shine.setColorAt(1, style::kBaize.darker(115));
+  shine.setColorAt(0, style::kBaize);
+  shine.setColorAt(1, style::kBaize.darker(140));
   painter.setPen(Qt::NoPen);
   painter.setBrush(easel.strong ? QBrush(style::kStrongMark) : QBrush(shine));
   painter.drawRoundedRect(filling, 1.5, 1.5);
 }
 
-void PaintPanel(const Easel& easel, const QRectF& rect) {
-  QPainter& painter = easel.painter;
-  if (easel.strong) return PaintStrongBox(painter, rect.adjusted(1, 1, -1, -1));
-  painter.setPen(Qt::NoPen);
-  for (int step = 4; step > 0; --step) {
-    painter.setBrush(QColor(0, 0, 0, 18));
-    painter.drawRoundedRect(rect.adjusted(-step / 2.0, 0, step / 2.0, step * 1.4), 10, 10);
-  }
-  QLinearGradient paper(rect.topLeft(), rect.bottomLeft());
-  paper.setColorAt(0, QColor(0xff, 0xfc, 0xf1));
-  paper.setColorAt(1, QColor(0xec, 0xe0, 0xc2));
-  painter.setBrush(paper);
-  painter.setPen(QPen(style::kGold.darker(125), 1));
-  painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), 9, 9);
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(style::kGold, 1));
-  painter.drawRoundedRect(rect.adjusted(4.5, 4.5, -4.5, -4.5), 6, 6);
-}
-
-// A group with its caption: let into the baize of a board, outlined on the paper of a dialog.
+// A group with its caption. On a board its labels stand on paper.
 void PaintGroup(const Easel& easel, const QRectF& rect, const std::string& caption) {
   QPainter& painter = easel.painter;
   const QString text = QString::fromStdString(caption);
-  int size = easel.board ? 10 : 9;
-  const auto needs = [&] { return QFontMetricsF(style::Letters(size, easel.board)).horizontalAdvance(text); };
-  while (size > 7 && needs() + 28 > rect.width()) --size;  // a narrow group has a small caption
-  const QFont font = style::Letters(size, easel.board);
+  QFont font = style::Letters(9, easel.board);
+  if (QFontMetricsF(font).horizontalAdvance(text) + 28 > rect.width()) font = style::Letters(9);
   const QFontMetricsF metrics(font);
-  const double top = text.isEmpty() ? 0.5 : metrics.height() / 2;
+  const double top = text.isEmpty() ? 0.5 : std::round(metrics.height() / 2) + 0.5;
   const QRectF outline = rect.adjusted(0.5, top, -0.5, -0.5);
   const QRectF title(outline.left() + 12, rect.top(),
                      text.isEmpty() ? 0 : metrics.horizontalAdvance(text) + 10, metrics.height());
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(easel.board ? QColor(0, 0, 0, 56) : QColor(255, 255, 255, easel.strong ? 0 : 70));
-  painter.drawRoundedRect(outline, 8, 8);
-  painter.save();
-  if (!text.isEmpty())
-    painter.setClipRegion(QRegion(rect.toAlignedRect()) - title.toAlignedRect(), Qt::IntersectClip);
-  painter.setBrush(Qt::NoBrush);
-  const QColor line = easel.board ? style::kGold : QColor(0xb5, 0xa8, 0x8a);
-  painter.setPen(easel.strong ? QPen(Qt::white, 1.5) : QPen(line, 1));
-  painter.drawRoundedRect(outline, 8, 8);
-  painter.restore();
+  plates::Inlay(painter, outline, title, easel.board, easel.strong);
+  if (easel.board) plates::Box(painter, rect.adjusted(10, 19, -10, -5), easel.strong);
   painter.setFont(font);
   painter.setPen(easel.strong ? QColor(Qt::white) : easel.board ? style::kIvory : style::kInk);
   painter.drawText(title, Qt::AlignCenter, text);
@@ -191,93 +147,6 @@ void PaintSurface(const Easel& easel, const Placed& placed) {
   }
 }
 
-bool IsOpaque(const Visual& label) { return static_cast<const Label&>(label).BackStyle == 1; }
-
-// The one colour on which a label's letters stand, if there is one.
-const QColor* GroundBeneath(const Easel& easel, size_t place, const QPointF& point, QColor& colour) {
-  colour = style::kPaper;
-  const Placed& label = easel.scene[place];
-  for (size_t i = place + 1; i-- > 0;) {
-    const Placed& below = easel.scene[i];
-    if (!below.rect.contains(point.toPoint())) continue;
-    if (below.control->kind == Control::Kind::PictureBox) return nullptr;  // anything may be drawn there
-    if (below.control->kind == Control::Kind::Frame)
-      return static_cast<Frame*>(below.control)->Panel || !easel.board ? &colour : nullptr;
-    if (below.control->kind == Control::Kind::Label && IsOpaque(*below.control)) {
-      colour = ToColour(static_cast<const Label*>(below.control)->BackColor);
-      return &colour;
-    }
-    if (below.control->kind != Control::Kind::Shape) continue;
-    const auto& shape = static_cast<const Shape&>(*below.control);
-    if (!shape.Filled && !shape.Sunken) continue;
-    colour = shape.Filled ? ToColour(shape.FillColor) : kBox;
-    return &colour;
-  }
-  return easel.board && label.control->parent->kind == Control::Kind::Form ? nullptr : &colour;
-}
-
-void PaintOutlined(QPainter& painter, const TextBlock& block, const QColor& colour) {
-  QPainterPath letters;
-  for (const TextLine& line : block.lines) letters.addText(line.baseline, block.font, line.text);
-  letters.setFillRule(Qt::WindingFill);
-  const QColor outline = GroundFor(colour);
-  const double breadth = std::clamp(block.font.pixelSize() / 5.0, 6.0, 8.0);
-  QColor halo = outline;
-  halo.setAlpha(90);
-  painter.strokePath(letters, QPen(halo, breadth + 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.strokePath(letters, QPen(outline, breadth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.fillPath(letters, colour);
-}
-
-// On black, with an edge where it stands over a card.
-void PaintStrongLabel(const Easel& easel, size_t place, const TextBlock& block, const QColor& colour) {
-  if (block.lines.empty()) return;
-  QPainter& painter = easel.painter;
-  const bool opaque = IsOpaque(*easel.scene[place].control);
-  const QRectF plate = opaque ? QRectF(easel.scene[place].rect) : block.bounds.adjusted(-5, -1, 5, 1);
-  const bool overCards =
-      std::any_of(easel.scene.begin(), easel.scene.begin() + place,
-                  [&](const Placed& below) { return below.picture != 0 && plate.intersects(below.rect); });
-  painter.setPen(overCards || opaque ? QPen(Qt::white, 1.5) : QPen(Qt::NoPen));
-  painter.setBrush(style::kStrongGround);
-  painter.drawRoundedRect(plate, 3, 3);
-  painter.setFont(block.font);
-  painter.setPen(colour);
-  for (const TextLine& line : block.lines) painter.drawText(line.baseline, line.text);
-}
-
-void PaintLabel(const Easel& easel, size_t place) {
-  const Placed& placed = easel.scene[place];
-  const auto& label = static_cast<const Label&>(*placed.control);
-  const TextBlock block = LayOut(label, placed.rect);
-  QPainter& painter = easel.painter;
-  const int told =
-      easel.calm ? easel.calm->Colour(label, label.Caption, label.ForeColor) : label.ForeColor.get();
-  if (easel.strong) return PaintStrongLabel(easel, place, block, Strong(ToColour(told)));
-  if (IsOpaque(label)) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(ToColour(label.BackColor));
-    painter.drawRoundedRect(QRectF(placed.rect), 2, 2);
-  }
-  if (block.lines.empty()) return;
-  const QColor colour = ToColour(told);
-  QColor known;
-  const QColor* ground = GroundBeneath(easel, place, block.bounds.center(), known);
-  const bool readable = ground && Contrast(colour, *ground) >= (IsOpaque(label) ? kLegible : kReadable);
-  if (!readable && label.FontSize >= kBigLetters) return PaintOutlined(painter, block, colour);
-  if (!readable) {
-    QColor plate = GroundFor(colour);
-    if (!ground) plate.setAlpha(238);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(plate);
-    const double height = std::min(block.bounds.height() / 2 + 1, 7.0);
-    painter.drawRoundedRect(block.bounds.adjusted(-5, -1, 5, 1), height, height);
-  }
-  painter.setFont(block.font);
-  painter.setPen(colour);
-  for (const TextLine& line : block.lines) painter.drawText(line.baseline, line.text);
-}
-
 }  // namespace
 
 void PaintPicture(const Easel& easel, int index, bool framed, const QRectF& rect) {
@@ -324,7 +193,8 @@ void PaintControl(const Easel& easel, size_t place) {
       break;
     case Control::Kind::Frame: {
       const auto& frame = static_cast<const Frame&>(*placed.control);
-      frame.Panel ? PaintPanel(easel, placed.rect) : PaintGroup(easel, placed.rect, frame.Caption);
+      frame.Panel ? plates::Panel(painter, placed.rect, easel.strong)
+                  : PaintGroup(easel, placed.rect, frame.Caption);
       break;
     }
     default:
@@ -344,11 +214,8 @@ QRect Reach(const Visual& control, const Pictures& pictures) {
       const int more = static_cast<const Shape&>(control).BorderWidth + 2;
       return rect.adjusted(-more, -more, more, more);
     }
-    case Control::Kind::Label: {
-      const QRectF bounds = LayOut(static_cast<const Label&>(control), rect).bounds;
-      const QRect letters = bounds.isEmpty() ? QRect() : bounds.toAlignedRect().adjusted(-8, -8, 8, 8);
-      return IsOpaque(control) ? letters | rect.adjusted(-1, -1, 1, 1) : letters;
-    }
+    case Control::Kind::Label:
+      return LabelReach(static_cast<const Label&>(control), rect);
     default:
       return rect.adjusted(-2, -2, 2, 2);
   }

@@ -127,8 +127,5 @@ bool IsBoard(const Form& form) {
 }
 
 bool IsOnBaize(const Visual& control) {
-  if (!IsBoard(control.form)) return false;
-  for (const Control* each = control.parent; each->kind == Control::Kind::Frame; each = each->parent)
-    if (static_cast<const Frame*>(each)->Panel) return false;
-  return true;
+  return control.parent->kind == Control::Kind::Form && IsBoard(control.form);
 }

@@ -10,11 +10,13 @@ class QWidget;
 namespace style {
 
 inline constexpr QColor kInk(0x22, 0x1d, 0x24);
-inline constexpr QColor kDeepInk(0x0d, 0x0b, 0x0e);  // dark enough for pure red to read on it
+inline constexpr QColor kDeepInk(0x0d, 0x0b, 0x0e);
 inline constexpr QColor kIvory(0xff, 0xfb, 0xee);
 inline constexpr QColor kPaper(0xf6, 0xf0, 0xe0);
+inline constexpr QColor kBox(0xfb, 0xf6, 0xe8);    // of boxes and plates
+inline constexpr QColor kPanel(0xec, 0xe0, 0xc2);  // the darkest of a panel
 inline constexpr QColor kGold(0xd9, 0xb4, 0x5b);
-inline constexpr QColor kBaize(0x1d, 0x6b, 0x4a);
+inline constexpr QColor kBaize(0x2b, 0x7c, 0x57);  // where it is lightest
 
 inline constexpr QColor kStrongGround(0, 0, 0);  // of everything, where high contrast is asked for
 inline constexpr QColor kStrongMark(0xff, 0xe0, 0x00);

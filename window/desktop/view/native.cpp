@@ -139,15 +139,14 @@ void ApplyList(QListWidget& widget, const ListControl& list, Prop prop) {
   if (widget.currentRow() != list.ListIndex) widget.setCurrentRow(list.ListIndex);
 }
 
-// The letters of a text box on a ground on which they read well.
+// The letters of a text box in the colour of what they mean.
 void ApplyInk(QWidget& widget, const TextBox& box) {
   QPalette palette = QApplication::palette();
   const bool strong = palette.color(QPalette::Window) == style::kStrongGround;
-  const QColor told = ToColour(box.ForeColor), ink = strong ? Strong(told) : told;
+  const QColor told = ToColour(box.ForeColor);
+  const QColor ink = strong ? Strong(told) : LettersOn(palette.color(QPalette::Base), told);
   for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
     palette.setColor(group, QPalette::Text, ink);
-  if (Contrast(ink, palette.color(QPalette::Base)) < kLegible)
-    palette.setColor(QPalette::Base, GroundFor(ink));
   widget.setPalette(palette);
 }
 
