@@ -11,7 +11,7 @@ class HallOfFameGuide : public Guide {
   explicit HallOfFameGuide(frmHighScores& window) : window_(window) {}
 
   std::vector<Note> Notes() const override {
-    constexpr int kBreadth = 300, kRankHeight = 240, kBandLeft = 60, kGap = 60;
+    constexpr int kBreadth = 300, kRankHeight = 195, kBandLeft = 40, kGap = 60, kBandHeight = 330;
     std::vector<Note> notes;
     const std::optional<size_t> taken = window_.PlaceJustTaken();
     for (size_t place = 0; place < kTablePlaces; ++place) {
@@ -19,8 +19,8 @@ class HallOfFameGuide : public Guide {
       const Label& score = window_.ScoreList(2 * place + 1);
       if (score.Caption.get().empty()) continue;
       if (place == taken)
-        notes.push_back({&window_, kBandLeft, name.Top - kGap, score.Left + score.Width, name.Height + kGap,
-                         "", 0, Note::Look::Mark});
+        notes.push_back({&window_, kBandLeft, name.Top - kGap, score.Left + score.Width + kGap - kBandLeft,
+                         kBandHeight, "", 0, Note::Look::Mark});
       notes.push_back(
           {&window_, 0, name.Top, kBreadth, kRankHeight, std::to_string(place + 1), 1, Note::Look::Plain});
     }
@@ -38,9 +38,12 @@ class NameGuide : public Guide {
 
   std::vector<Note> Notes() const override {
     const TableEntry& entry = window_.common.lastEntry;
-    const int top = window_.cmdOK.Top + 90, height = 300, side = window_.cmdOK.Left - 180;
-    return {{&window_, 180, top, side, height, "Score " + FormatNumber(entry.score), 0, Note::Look::Plain},
-            {&window_, window_.cmdOK.Left + window_.cmdOK.Width, top, side, height,
+    const TextBox& field = window_.lblPlayerName;
+    const CommandButton& ok = window_.cmdOK;
+    const int right = ok.Left + ok.Width;
+    return {{&window_, field.Left, ok.Top, ok.Left - field.Left, ok.Height,
+             "Score " + FormatNumber(entry.score), 0, Note::Look::Plain},
+            {&window_, right, ok.Top, field.Left + field.Width - right, ok.Height,
              "Place " + std::to_string(*entry.place + 1), 1, Note::Look::Plain}};
   }
 

@@ -28,6 +28,8 @@
 #include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/contrast.h"
 #include "window/desktop/painting/lettering.h"
+#include "window/desktop/painting/notes.h"
+#include "window/desktop/painting/room.h"
 #include "window/desktop/painting/style.h"
 #include "window/desktop/view/form_window.h"
 #include "window/player.h"
@@ -567,6 +569,45 @@ TEST_F(Look, LettersAreOfFourSizesAndFiguresDontDance) {
   }
   EXPECT_EQ(sizes.size(), 4u);
   EXPECT_EQ(families.size(), 1u);
+}
+
+// What the desktop adds: the first steps before the first game, and the offer to skip whatever is said.
+TEST_F(Look, FirstStepsAndTheHintHideNothing) {
+  front.guides = MakeGuide;  // to windows that are loaded from now on
+  const auto check = [&](const GameWindow& game, const QRect& added, const char* what) {
+    for (const QRect& each : Taken(front.WindowOf(game)->Board(), std::string(what) != "hint"))
+      if (each.intersects(added)) Fault(game, std::string(what) + " covers something" + where);
+  };
+  for (const GameEntry& entry : AllGames()) {
+    GameWindow& game = Open(entry);
+    FormWindow& window = *front.WindowOf(game);
+    for (const QSize size : kSizes) {
+      Resize(game, size);
+      window.Settle();
+      where = ", idle";
+      int sheets = 0;
+      for (const Note& note : window.Board().Notes())
+        if (note.look == Note::Look::Sheet) check(game, NoteRect(note), "sheet"), ++sheets;
+      EXPECT_EQ(sheets, 1) << game.name;
+    }
+    int hints = 0;
+    front.onPause = [&] {
+      where = " while it says \"" + game.lblMessage.Caption.get() + "\"";
+      check(game, RoomForHint(window.Board(), QSize(140, 28)), "hint"), ++hints;
+    };
+    for (const QSize size : kSizes) {
+      Resize(game, size);
+      game.standing.InputLives();
+      player::Click(game.cmdPlay);
+      EndRound(game);
+      suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
+      front.platform.Dispatch(game.Timer1.OnTimer);
+      for (int round = 3; round <= 4 && game.standing.InGame(); ++round) EndRound(game);
+    }
+    front.onPause = nullptr;
+    EXPECT_GT(hints, 10) << game.name;
+    Close(game);
+  }
 }
 
 TEST_F(Look, DialogsHoldTheirTexts) {

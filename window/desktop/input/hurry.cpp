@@ -14,6 +14,7 @@
 
 #include "window/desktop/input/key_again.h"
 #include "window/desktop/painting/canvas.h"
+#include "window/desktop/painting/room.h"
 #include "window/desktop/painting/style.h"
 #include "window/platform.h"
 
@@ -130,6 +131,7 @@ void Hurry::Sleep(int milliseconds) {
 void Hurry::LookWhileWaiting(int milliseconds) {
   if (!word_) ShowWord();
   settle_();
+  PlaceWord();
   QEventLoop loop;
   QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
   loop_ = &loop;
@@ -166,10 +168,18 @@ void Hurry::ShowWord() {
                            .arg(std::lround(3 * board.Zoom()))
                            .arg(std::lround(14 * board.Zoom())));
   word_->adjustSize();
-  const int above = static_cast<int>(std::lround(10 * board.Zoom()));
-  word_->move((board.width() - word_->width()) / 2, board.height() - word_->height() - above);
+  PlaceWord();
   word_->show();
   word_->raise();
+}
+
+// Where it hides nothing that can be read or pressed; what is said may have changed since it came.
+void Hurry::PlaceWord() {
+  const Canvas* const board = board_();
+  if (!board || !word_ || word_->parentWidget() != board) return;
+  const double zoom = board->Zoom();
+  const QRect room = RoomForHint(*board, (QSizeF(word_->size()) / zoom).toSize() + QSize(1, 1));
+  word_->move((QPointF(room.topLeft()) * zoom).toPoint());
 }
 
 // --- Input ---------------------------------------------------------------------------------------

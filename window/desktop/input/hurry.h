@@ -84,6 +84,7 @@ class Hurry : public QObject {
   void Learn(const QEvent& event);
   void Keep(QWindow& window, const QEvent& event);
   void ShowWord();
+  void PlaceWord();
 
   long long Now() const;
 

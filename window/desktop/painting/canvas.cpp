@@ -9,6 +9,7 @@
 #include "window/desktop/painting/baize.h"
 #include "window/desktop/painting/notes.h"
 #include "window/desktop/painting/paint.h"
+#include "window/desktop/painting/plates.h"
 #include "window/desktop/painting/style.h"
 
 namespace {
@@ -60,9 +61,9 @@ void Canvas::Refresh(const Visual& control) {
 
 void Canvas::SetNotes(std::vector<Note> notes) {
   if (notes == notes_) return;
-  for (const Note& note : notes_) Repaint(NoteRect(note));
+  for (const Note& note : notes_) Repaint(NoteRect(note) + plates::kShadow);
   notes_ = std::move(notes);
-  for (const Note& note : notes_) Repaint(NoteRect(note));
+  for (const Note& note : notes_) Repaint(NoteRect(note) + plates::kShadow);
 }
 
 void Canvas::Settle() {
@@ -131,7 +132,8 @@ void Canvas::paintEvent(QPaintEvent* event) {
   const Easel easel{painter, paintbox_.pictures, scene, board_, scale * zoom_, strong, calm_.get()};
   const auto paintNotes = [&](NoteLayer layer) {
     for (const Note& note : notes_)
-      if (event->region().intersects(ToWindow(NoteRect(note)))) PaintNote(painter, note, layer, strong);
+      if (event->region().intersects(ToWindow(NoteRect(note) + plates::kShadow)))
+        PaintNote(painter, note, layer, strong);
   };
   paintNotes(NoteLayer::Beneath);
   for (size_t i = 0; i < scene.size(); ++i) {

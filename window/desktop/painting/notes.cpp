@@ -46,7 +46,7 @@ QRect NoteRect(const Note& note) {
   if (!FitsItsText(note)) return rect;
   QRect sheet = QFontMetrics(FontOf(note))
                     .boundingRect(QRect(0, 0, 10'000, 10'000), 0, QString::fromStdString(note.text))
-                    .adjusted(-16, -9, 16, 9);
+                    .adjusted(-14, -5, 14, 5);
   sheet.moveTop(rect.top());
   sheet.moveLeft(rect.center().x() - sheet.width() / 2);
   return sheet;

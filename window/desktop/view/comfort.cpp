@@ -13,6 +13,7 @@
 #include "window/desktop/input/keyboard.h"
 #include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/notes.h"
+#include "window/desktop/painting/room.h"
 #include "window/desktop/painting/style.h"
 #include "window/desktop/view/keys_window.h"
 #include "window/desktop/view/looks.h"
@@ -140,60 +141,51 @@ void Comfort::Leave() {
   looks_.Alter([&](View& view) { view.lastName = QString::fromStdString(written_); });
 }
 
-std::vector<QRect> Comfort::Taken(bool byCards) const {
-  std::vector<QRect> taken;
-  for (const Control* control : form_.Controls()) {
-    if (control->parent != &form_ || !(IsDrawn(control->kind) || canvas_.WidgetOf(*control))) continue;
-    const auto& visual = static_cast<const Visual&>(*control);
-    if (visual.Visible && (byCards || visual.kind != Control::Kind::Image))
-      taken.push_back(canvas_.ReachOf(visual));
-  }
-  return taken;
-}
-
 // The text stands where there is room nearest to the button; where there is none, over cards that can't be
 // played any more.
 void Comfort::CallFor(const CommandButton& button, std::vector<Note>& notes) const {
-  constexpr int kEdge = 90, kStep = 4;
+  constexpr int kEdge = 90;
   const QRect marked = ModelRect(button);
   notes.push_back({&form_, button.Left - kEdge, button.Top - kEdge, button.Width + 2 * kEdge,
                    button.Height + 2 * kEdge, "", 0, Note::Look::Call});
   Note call{&form_,          0, 0, 0, 0, "No more moves.\n" + WithoutAccessKey(button.Caption.get()) + "?", 2,
             Note::Look::Call};
   const QSize size = NoteRect(call).size();
-  const QRect board(QPoint(0, 0), canvas_.ToBoard(canvas_.rect().bottomRight()));
   QRect best;
-  for (const bool byCards : {true, false}) {
-    if (!best.isNull()) break;
-    const std::vector<QRect> taken = Taken(byCards);
-    for (int top = kStep; top + size.height() < board.bottom(); top += kStep)
-      for (int left = kStep; left + size.width() < board.right(); left += kStep) {
-        const QRect here({left, top}, size), around = here.adjusted(-kStep, -kStep, kStep, kStep);
-        const auto far = [&](const QRect& place) {
-          return (place.center() - marked.center()).manhattanLength();
-        };
-        if (!best.isNull() && far(here) >= far(best)) continue;
-        if (std::ranges::none_of(taken, [&](const QRect& each) { return each.intersects(around); }))
-          best = here;
-      }
-  }
+  for (const bool byCards : {true, false})
+    if (best.isNull()) best = FindRoom(canvas_, size, marked.center(), Taken(canvas_, byCards));
   call.left = best.center().x() * 15;
   call.top = best.top() * 15;
   notes.push_back(std::move(call));
 }
 
-// Below the place that was told, or above it, or else before its lower part.
+// The same words in two lines that are equally long, or nearly so.
+std::string Comfort::InTwoLines(std::string text) {
+  std::ranges::replace(text, '\n', ' ');
+  size_t best = text.find(' ');
+  const auto aside = [&](size_t blank) { return std::max(blank, text.size() - blank); };
+  for (size_t blank = best; blank != std::string::npos; blank = text.find(' ', blank + 1))
+    if (aside(blank) < aside(best)) best = blank;
+  if (best != std::string::npos) text[best] = '\n';
+  return text;
+}
+
+// Below the place that was told, or above it; where there is less room, in two lines.
 void Comfort::PlaceSheet(Note& sheet) const {
-  constexpr int kGap = 180;
-  const int height = NoteRect(sheet).height() * 15;
-  const int below = sheet.top + sheet.height + kGap, above = sheet.top - kGap - height;
-  const std::vector<QRect> taken = Taken(true);
-  const auto isFree = [&](int top) {
-    sheet.top = top;
-    const QRect area = NoteRect(sheet);
-    return top >= 0 && std::ranges::none_of(taken, [&](const QRect& each) { return each.intersects(area); });
-  };
-  if (!isFree(below) && !isFree(above)) sheet.top = below - 2 * kGap - height;
+  const std::vector<QRect> taken = Taken(canvas_, true);
+  const int top = sheet.top;
+  for (int lines = 3; lines > 1; --lines) {
+    if (lines == 2) sheet.text = InTwoLines(sheet.text);
+    const int height = NoteRect(sheet).height() * 15;
+    for (const int gap : {180, 45})
+      for (const int place : {top + sheet.height + gap, top - gap - height}) {
+        sheet.top = place;
+        const QRect area = NoteRect(sheet);
+        const auto covers = [&](const QRect& each) { return each.intersects(area); };
+        if (place >= 0 && std::ranges::none_of(taken, covers)) return;
+      }
+  }
+  sheet.top = top + sheet.height - NoteRect(sheet).height() * 15;
 }
 
 // The first steps are read once a game has been played behind them.

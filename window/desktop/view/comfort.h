@@ -35,9 +35,8 @@ class Comfort {
   void ApplyPicture(QWidget& widget, const Visual& control) const;
   void OfferHelp();
   void ShowNotes();
+  static std::string InTwoLines(std::string text);
   void PlaceSheet(Note& sheet) const;
-  // Where something stands on the board, or something but cards; pixels at 100 %.
-  std::vector<QRect> Taken(bool byCards) const;
   // The player is told that nothing is left but this button.
   void CallFor(const CommandButton& button, std::vector<Note>& notes) const;
   void OfferAgain();
