@@ -29,6 +29,7 @@ class Label : public Visual, public Lettering {
   Property<int> BackStyle{*this, Prop::BackStyle, 0};         // 0 transparent, 1 opaque
   Property<int> Alignment{*this, Prop::Alignment, 0};         // 0 left, 1 right, 2 centre
   bool AutoSize = false;  // width and height follow the caption; else it wraps
+  int Lower = 0;          // twips by which it is drawn lower than it stands
   bool Remark = false;    // says something of what it stands beside: drawn strong, in no colour of its own
 
   // The caption has taken a new text, and an `AutoSize` label its new size. May set the caption again, which

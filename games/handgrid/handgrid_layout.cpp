@@ -63,6 +63,8 @@ constexpr int kColumnLeft[kSide] = {210, 1320, 2415, 3525, 4635};
 constexpr int kRowTop[kSide] = {204, 1260, 2310, 3345, 4410};
 constexpr int kRowLabelLeft = 5820, kColumnLabelTop = 5895;
 constexpr int kRowLabelTop[kSide] = {645, 1770, 2850, 3990, 4965};
+// From there to the middle of what shows of its row: all but the lowest are overlapped by the next one.
+constexpr int kRowLabelLower[kSide] = {-18, -90, -128, -218, 67};
 
 constexpr Design kDesign[] = {
     {"CardStackPicture", 7110, 4395, kCardWidth, kCardHeight},
@@ -167,6 +169,7 @@ void frmHandgrid::PlaceBoard() {
   for (int line = 1; line <= kSide; ++line) {
     lblRow(line).Left = kRowLabelLeft + right;
     lblRow(line).Top = kRowLabelTop[line - 1] + down;
+    lblRow(line).Lower = kRowLabelLower[line - 1];
     lblCol(line).Top = kColumnLabelTop + down;
     lblCol_Change(line);
   }

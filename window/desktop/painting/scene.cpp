@@ -23,7 +23,9 @@ Still Seen(const Visual& control, const Stills& stills) {
 }
 
 QRect RectOf(const Visual& control, const Still& still, const Pictures& pictures) {
-  const QRect rect = ModelRect(control);
+  QRect rect = ModelRect(control);
+  if (control.kind == Control::Kind::Label)
+    rect.translate(0, Pixels(static_cast<const Label&>(control).Lower));
   if (still.picture == 0) return rect;
   const int frame = still.framed ? 2 : 0;
   return {rect.topLeft(), pictures.Size(still.picture) + QSize(frame, frame)};
