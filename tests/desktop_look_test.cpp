@@ -600,7 +600,7 @@ TEST_F(Look, FirstStepsAndTheHintHideNothing) {
       game.standing.InputLives();
       player::Click(game.cmdPlay);
       EndRound(game);
-      suite.common.ElapsedSeconds = suite.common.TimeLimit - 1;
+      game.clock.ElapsedSeconds = game.clock.TimeLimit - 1;
       front.platform.Dispatch(game.Timer1.OnTimer);
       for (int round = 3; round <= 4 && game.standing.InGame(); ++round) EndRound(game);
     }
