@@ -21,7 +21,7 @@ class AtDuopick : public PlayerAt<frmDuopick, DuopickPlayer> {
     return move.card == kNone ? static_cast<const Control&>(game.CardStackPicture) : game.PlayCard(move.card);
   }
   std::string Instead(frmDuopick& game) override {
-    if (chance.Draw(3000) == 0) {  // a score that the next bonus may carry too far
+    if (meddles && chance.Draw(1500) == 0) {  // a score that the next bonus may carry too far
       suite_.common.CurrentScore = 2147483000;
       game.ShowScore();
     }

@@ -26,10 +26,12 @@ class AtTreyshift : public PlayerAt<frmTreyshift, TreyshiftPlayer> {
     trips = std::max(trips, static_cast<int>(board.TripCount));
     decks += board.DeckPosition == kUsedUp;
     beyond += board.DeckPosition == kBeyondDeck;
-    // Mostly a deck that goes well: without one nobody gets to its end.
-    if (board.DeckPosition == kDealt && chance.Percent(60))
+    // A deck that goes well, and most of it passed over: else nobody gets to its end.
+    if (meddles && board.DeckPosition == kDealt && chance.Percent(60)) {
       std::sort(board.deck.begin() + kDealt + 1, board.deck.end(),
                 [](const std::string& a, const std::string& b) { return CardValue(a) < CardValue(b); });
+      if (chance.Percent(30)) board.DeckPosition = kUsedUp - 6;
+    }
     if (chance.Percent(2)) return "click frmTreyshift.CardStackPicture";
     return board.DeckPosition >= kUsedUp && chance.Percent(20) ? "click frmTreyshift.cmdTakeScore" : "";
   }
