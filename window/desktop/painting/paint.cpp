@@ -74,7 +74,15 @@ void PaintProgress(const Easel& easel, const Placed& placed) {
 }
 
 // A group with its caption. On a board its labels stand on paper.
-void PaintGroup(const Easel& easel, const QRectF& rect, const std::string& caption) {
+// Buttons lie on the baize itself; figures have paper under them.
+bool HoldsButtons(const Frame& frame) {
+  return std::ranges::any_of(frame.form.Controls(), [&](const Control* control) {
+    return control->parent == &frame && control->kind == Control::Kind::CommandButton;
+  });
+}
+
+void PaintGroup(const Easel& easel, const QRectF& rect, const Frame& frame) {
+  const std::string& caption = frame.Caption;
   QPainter& painter = easel.painter;
   const QString text = QString::fromStdString(caption);
   QFont font = style::Letters(9, easel.board);
@@ -85,7 +93,7 @@ void PaintGroup(const Easel& easel, const QRectF& rect, const std::string& capti
   const QRectF title(outline.left() + 12, rect.top(),
                      text.isEmpty() ? 0 : metrics.horizontalAdvance(text) + 10, metrics.height());
   plates::Inlay(painter, outline, title, easel.board, easel.strong);
-  if (easel.board) plates::Box(painter, rect.adjusted(10, 19, -10, -5), easel.strong);
+  if (easel.board && !HoldsButtons(frame)) plates::Box(painter, rect.adjusted(10, 19, -10, -5), easel.strong);
   painter.setFont(font);
   painter.setPen(easel.strong ? QColor(Qt::white) : easel.board ? style::kIvory : style::kInk);
   painter.drawText(title, Qt::AlignCenter, text);
@@ -193,8 +201,7 @@ void PaintControl(const Easel& easel, size_t place) {
       break;
     case Control::Kind::Frame: {
       const auto& frame = static_cast<const Frame&>(*placed.control);
-      frame.Panel ? plates::Panel(painter, placed.rect, easel.strong)
-                  : PaintGroup(easel, placed.rect, frame.Caption);
+      frame.Panel ? plates::Panel(painter, placed.rect, easel.strong) : PaintGroup(easel, placed.rect, frame);
       break;
     }
     default:
