@@ -74,10 +74,11 @@ void PaintProgress(const Easel& easel, const Placed& placed) {
 }
 
 // A group with its caption. On a board its labels stand on paper.
-// Buttons lie on the baize itself; figures have paper under them.
-bool HoldsButtons(const Frame& frame) {
+// Texts have paper under them; cards and buttons alone lie on the baize itself.
+bool HoldsTexts(const Frame& frame) {
   return std::ranges::any_of(frame.form.Controls(), [&](const Control* control) {
-    return control->parent == &frame && control->kind == Control::Kind::CommandButton;
+    return control->parent == &frame && control->kind != Control::Kind::CommandButton &&
+           control->kind != Control::Kind::Image;
   });
 }
 
@@ -93,7 +94,7 @@ void PaintGroup(const Easel& easel, const QRectF& rect, const Frame& frame) {
   const QRectF title(outline.left() + 12, rect.top(),
                      text.isEmpty() ? 0 : metrics.horizontalAdvance(text) + 10, metrics.height());
   plates::Inlay(painter, outline, title, easel.board, easel.strong);
-  if (easel.board && !HoldsButtons(frame)) plates::Box(painter, rect.adjusted(10, 19, -10, -5), easel.strong);
+  if (easel.board && HoldsTexts(frame)) plates::Box(painter, rect.adjusted(10, 19, -10, -5), easel.strong);
   painter.setFont(font);
   painter.setPen(easel.strong ? QColor(Qt::white) : easel.board ? style::kIvory : style::kInk);
   painter.drawText(title, Qt::AlignCenter, text);
