@@ -42,7 +42,9 @@ ImageList::ImageList() {
 
 int ImageList::Find(std::string_view key) const {
   if (key.empty()) return 0;
-  const auto found = std::ranges::find(keys_, key);
+  // Asked at every card that is shown: the first sign settles most.
+  const auto found = std::ranges::find_if(
+      keys_, [&](const std::string& other) { return other[0] == key[0] && other == key; });
   return found == keys_.end() ? 0 : static_cast<int>(found - keys_.begin());
 }
 

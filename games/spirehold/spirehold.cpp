@@ -89,7 +89,7 @@ void frmSpirehold::CardStackPicture_Click() {
   lblCards.Caption = std::to_string(board.stack.size());
   PlaySound("\\Click.wav");
   if (!isUsedUp) ShowCard(UpCardPicture, board.pile.back());
-  isUsedUp ? PlaySound("\\Chord.wav") : RefreshPlayCard();
+  isUsedUp ? PlaySound("\\Chord.wav") : ShowStack();
   MousePointer = kDefaultPointer;
 }
 

@@ -60,6 +60,7 @@ class frmSpirehold : public RoundGame {
   void CoverCard(Image& image);
   void ShowRun();
   void ShowHighRun();
+  void ShowStack();
   void RefreshFieldCards();
   void HideTowerLabels();
   void CompleteTower(int index);

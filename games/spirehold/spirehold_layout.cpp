@@ -177,8 +177,12 @@ void frmSpirehold::CoverCards(bool covered) {
 }
 
 void frmSpirehold::RefreshPlayCard() {
-  if (board.IsDealt()) CardStackPicture.Picture = common.ImageList2(StockKey(board.stack.size(), 18, 11));
+  if (board.IsDealt()) ShowStack();
   RefreshFieldCards();
+}
+
+void frmSpirehold::ShowStack() {
+  CardStackPicture.Picture = common.ImageList2(StockKey(board.stack.size(), 18, 11));
 }
 
 // Covered cards lie face down in play, too.

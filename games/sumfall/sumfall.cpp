@@ -141,7 +141,7 @@ void frmSumfall::PlayCardPicture_Click() {
   UpCardSelectionRectangle.Visible = false;
   ShowTotal();
   lblCardCount.Caption = "Cards: " + std::to_string(board.stock.size());
-  RefreshPlayCard();
+  ShowStock();
   if (costs) AddToScore(-kTurnCost);
   MousePointer = kDefaultPointer;
 }

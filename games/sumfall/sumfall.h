@@ -109,6 +109,7 @@ class frmSumfall : public RoundGame {
   void PayTimeBonus();
   void EndCount();
   void mnuPlay_Click();
+  void ShowStock();
   void RefreshFieldCards();
 
   bool commandLineTaken_ = false;

@@ -321,12 +321,12 @@ void frmSumfall::CoverCards(bool covered) {
 }
 
 void frmSumfall::RefreshPlayCard() {
-  const size_t cards = board.stock.size();
-  PlayCardPicture.Picture = common.ImageList2(cards > 20   ? "FULL"
-                                              : cards > 10 ? "HALF"
-                                              : cards > 0  ? "BACK"
-                                                           : "EMPTY");
+  ShowStock();
   RefreshFieldCards();
+}
+
+void frmSumfall::ShowStock() {
+  PlayCardPicture.Picture = common.ImageList2(StockKey(board.stock.size(), 21, 11));
 }
 
 void frmSumfall::RefreshFieldCards() {
