@@ -63,6 +63,7 @@ int main(int argc, char** argv) {
   try {
     if (options.verify) return Verify(options.records);
     const std::filesystem::path folder = FindAppPath(options);
+    if (options.verifyTables) return VerifyTables(folder);
     if (options.history) return PrintHistory(folder);
     if (options.statistics) return PrintStatistics(folder, options.game);
     Input input;

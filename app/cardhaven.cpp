@@ -17,9 +17,15 @@ namespace {
 struct Running {
   RecordKeeper keeper;
   Suite suite;
-  Running(Platform& platform, const Options& options, const SuiteOptions& asked)
-      : keeper(platform, options), suite(platform, asked, AllGames()) {
+  Running(DesktopFrontEnd& front, const Options& options, const SuiteOptions& asked)
+      : keeper(front.platform, options, Keeps(front, options)), suite(front.platform, asked, AllGames()) {
     keeper.Attach(suite.common, asked);
+  }
+
+ private:
+  static std::function<bool()> Keeps(DesktopFrontEnd& front, const Options& options) {
+    if (options.console || options.noRecords) return nullptr;
+    return [&front] { return front.looks.Now().keepsRecords; };
   }
 };
 
@@ -45,12 +51,14 @@ int main(int argc, char** argv) {
       desktop.script = ScriptOptions{options.start, options.speed};
     else
       desktop.folders.view = ViewFile();
+    desktop.keepsRecords = !options.console && !options.noRecords && options.record.empty();
     int programAlone = 1;  // the toolkit gets no options of ours
-    return RunDesktop(programAlone, argv, desktop, Catalogue(), [&](Platform& platform) {
+    return RunDesktop(programAlone, argv, desktop, Catalogue(), [&](DesktopFrontEnd& front) {
+      Platform& platform = front.platform;
       if (options.seed) platform.random.Seed(*options.seed);
       platform.CommandLine = options.savedGame;
-      auto running = std::make_shared<Running>(platform, options,
-                                               SuiteFor(options, desktop.folders.own, Program::Desktop));
+      auto running =
+          std::make_shared<Running>(front, options, SuiteFor(options, desktop.folders.own, Program::Desktop));
       running->suite.Start();
       TellOfMissingData(platform, desktop);
       return running;

@@ -166,6 +166,10 @@ Options ParseOptions(Program program, const std::vector<std::string>& arguments)
       options.console = true;
     } else if (argument == "--verify" && program == Program::Console) {
       options.verify = true;
+    } else if (argument == "--verify-tables" && program == Program::Console) {
+      options.verifyTables = true;
+    } else if (argument == "--no-records" && program == Program::Desktop) {
+      options.noRecords = true;
     } else if (argument == "--history" && program == Program::Console) {
       options.history = true;
     } else if (option == "--statistics" && program == Program::Console) {
@@ -202,15 +206,15 @@ std::string Usage(Program program) {
   std::string usage = "Usage: " + Name(program);
   if (program == Program::Desktop)
     usage +=
-        " [--folder DIR] [--record FILE] [--game GAME | --today GAME] [--deal N]\n"
-        "                 [--console [--speed N] [--seed N] [--start MOMENT]] [SAVED-GAME]\n\n"
+        " [--folder DIR] [--record FILE | --no-records] [--game GAME | --today GAME]\n"
+        "                 [--deal N] [--console [--speed N] [--seed N] [--start MOMENT]] [SAVED-GAME]\n\n"
         "Seven timed card games in a window.\n\n";
   else
     usage +=
         " [--folder DIR] [--record FILE] [--game GAME | --today GAME] [--deal N]\n"
         "                         [--seed N] [--start MOMENT] [--screen WxH] [SAVED-GAME]\n"
         "       cardhaven-console [--folder DIR] --history | --statistics [GAME]\n"
-        "       cardhaven-console --verify FILE...\n\n"
+        "       cardhaven-console --verify FILE... | [--folder DIR] --verify-tables\n\n"
         "The same card games driven by lines: commands from standard input, answers on standard output.\n"
         "The command \"help\" tells which commands there are.\n\n";
   usage +=
@@ -222,6 +226,7 @@ std::string Usage(Program program) {
       "  --deal N        play deal N, from 1 to 999999999; such games enter no table\n";
   if (program == Program::Desktop)
     usage +=
+        "  --no-records    keep no records of games beside the tables\n"
         "  --console       take commands from standard input, under a clock of their own\n"
         "  --speed N       let that clock run N times as fast\n";
   usage +=
@@ -231,6 +236,7 @@ std::string Usage(Program program) {
     usage +=
         "  --screen WxH    the size of the screen in pixels, as 1024x768\n"
         "  --verify FILE   play records again, and tell which ones hold\n"
+        "  --verify-tables do so for all entries of the tables\n"
         "  --history       print the games played so far\n"
         "  --statistics    print what they amount to, of all games or of one\n";
   return usage +

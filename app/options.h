@@ -26,7 +26,9 @@ struct Options {
   bool history = false;                  // --history
   bool statistics = false;               // --statistics, of `game` if that isn't ""
   std::string record;                    // --record, "" if it isn't given
+  bool noRecords = false;                // the desktop's --no-records
   bool verify = false;                   // the console's --verify
+  bool verifyTables = false;             // the console's --verify-tables
   std::vector<std::string> records;      // that it names
   std::string savedGame;
 };

@@ -4,19 +4,30 @@
 #include <memory>
 
 #include "app/options.h"
+#include "record/keeper.h"
 #include "record/recorder.h"
 
-// Writes down what is played, if the command line asks for it.
+// Writes down what is played, where the command line says, or else for itself.
 class RecordKeeper {
  public:
-  // To be made before any window.
-  RecordKeeper(Platform& platform, const Options& options);
+  // To be made before any window. `keeps`: whether records are kept beside the tables just now; null where
+  // that is nobody's wish.
+  RecordKeeper(Platform& platform, const Options& options, std::function<bool()> keeps = nullptr);
   void Attach(modCommon& common, const SuiteOptions& suite);
 
  private:
+  void KeepIn(const std::string& file);
+  void KeepBeside(modCommon& common);
+
   std::unique_ptr<Recorder> recorder_;
-  std::string name_;  // of the file, for the history
+  const std::string file_;  // "" where records are kept beside the tables
+  const std::function<bool()> keeps_;
+  std::unique_ptr<record::Keeper> keeper_;
+  std::string kept_;  // the record of the game that ended last
+  bool complained_ = false;
 };
 
 // Plays records again and tells on standard output, in a line each, whether they hold; the exit status.
 int Verify(const std::vector<std::string>& files);
+// The same for the records of all entries that stand in tables of that folder.
+int VerifyTables(const std::filesystem::path& folder);

@@ -27,6 +27,10 @@ class GameWatch {
   // without one.
   std::optional<GameResult> Look(const modCommon& common);
 
+  // Whether there was one under way when it was looked last, and which.
+  bool GameIsUnder() const { return under_; }
+  const std::string& Game() const { return result_.game; }
+
  private:
   bool under_ = false;     // a game is
   bool told_ = false;      // its end was told, before its window knows of it

@@ -1,5 +1,7 @@
 #include "record/recorder.h"
 
+#include <utility>
+
 #include "record/events.h"
 #include "suite/game_window.h"
 #include "suite/moments.h"
@@ -47,6 +49,7 @@ void Recorder::Attach(modCommon& common, const SuiteOptions& options) {
 
 Event Recorder::Next(const Wait& wait) {
   Look();
+  LookForEntry();
   given_.reset();
   Event event;
   {
@@ -147,7 +150,10 @@ void Recorder::Begin() {
 void Recorder::Look() {
   if (!under_ || inner_.MustLeave()) return;
   if (common_->window) opened_ = true;
-  if (auto result = watch_.Look(*common_)) {
+  const bool wasUnder = watch_.GameIsUnder();
+  auto result = watch_.Look(*common_);
+  if (!wasUnder && watch_.GameIsUnder() && onGameBegin) onGameBegin(watch_.Game(), known_->Now());
+  if (result) {
     result->ended = known_->Now();
     Put("end " + result->game + " " + result->limit +
         Numbers({result->score, result->rounds, result->place, result->custom, result->deal}) + " " +
@@ -161,6 +167,14 @@ void Recorder::Look() {
     }
   }
   if (opened_ && !common_->window) under_ = false;
+}
+
+// The name comes behind the place, when the player has written it.
+void Recorder::LookForEntry() {
+  if (!common_ || !onEntered) return;
+  const TableEntry& entry = common_->lastEntry;
+  if (entry.name.empty() || std::exchange(entered_, entry.number) == entry.number) return;
+  onEntered(entry);
 }
 
 void Recorder::Put(const std::string& line) {

@@ -18,8 +18,12 @@ class Recorder : public Border {
   // Begins to watch the suite that was made since. Chance was seeded by then, or is to be with each window.
   void Attach(modCommon& common, const SuiteOptions& options = {});
 
+  // A game has begun.
+  std::function<void(const std::string& game, const DateTime& now)> onGameBegin;
   // A game has ended; `record` holds its window up to here, and is empty if that would be too large.
   std::function<void(const std::string& record, const GameResult& result)> onGameEnd;
+  // A score stands in its table, under its name. Told when the program waits.
+  std::function<void(const TableEntry& entry)> onEntered;
 
   Event Next(const Wait& wait) override;
   void Entered(const Event& event) override;
@@ -58,6 +62,7 @@ class Recorder : public Border {
   void Begin();
   uint64_t FreshSeed();
   void Look();
+  void LookForEntry();
   bool Asks();
   void Put(const std::string& line);
   void Answered(const std::string& what);
@@ -81,4 +86,5 @@ class Recorder : public Border {
   std::unique_ptr<record::Known> known_;
   std::set<std::string> touched_;  // files that were asked for
   GameWatch watch_;
+  int entered_ = 0;  // the table entry that was told last
 };

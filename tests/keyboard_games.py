@@ -5,7 +5,7 @@
 
 Needs Xvfb and xdotool, for the pictures ImageMagick. The player is blind and not clever: the high score tables are prepared
 so that any score gets in, and rounds are ended by their keys after some time. Fails when a game doesn't come to its end,
-or when the name that was typed isn't in its table. All seven take some four minutes.
+when the name that was typed isn't in its table, or when a record doesn't hold by the console beside. All seven take some four minutes.
 """
 import os
 import random
@@ -180,6 +180,16 @@ def play(player, key, title, table, moves, seconds, ends):
     print(f"{title} {entered[0]} after {time.monotonic() - start:.0f} s", flush=True)
 
 
+def verify(player, console, games):
+    records = [os.path.join(player.folder, "records", name) for name in os.listdir(player.folder + "/records")]
+    said = player.run(console, "--verify", *[name for name in records if name.endswith(".record")]).splitlines()
+    proved = [line for line in player.run(console, "--folder", player.folder, "--verify-tables").splitlines()
+              if ": holds " in line]
+    print(f"{sum(line.startswith('holds ') for line in said)} of {len(said)} records hold, {len(proved)} entries", flush=True)
+    if len(said) < games or len(proved) != games or not all(line.startswith("holds ") for line in said):
+        raise SystemExit("\n".join(said + proved))
+
+
 def main():
     signal.signal(signal.SIGTERM, lambda *_: sys.exit("told to end"))
     program, pictures, wanted = sys.argv[1], (sys.argv + [""])[2], sys.argv[3:]
@@ -188,9 +198,10 @@ def main():
     with tempfile.TemporaryDirectory() as folder:
         player = Player(os.path.abspath(program), folder, pictures)
         try:
-            for game in GAMES:
-                if not wanted or game[0] in wanted:
-                    play(player, *game)
+            games = [game for game in GAMES if not wanted or game[0] in wanted]
+            for game in games:
+                play(player, *game)
+            verify(player, os.path.join(os.path.dirname(os.path.abspath(program)), "cardhaven-console"), len(games))
         finally:
             player.close()
 

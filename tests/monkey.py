@@ -3,7 +3,8 @@
 
   monkey.py DESKTOP-PROGRAM [SECONDS [SEED]]
 
-The seconds are for all games together. Fails when the program crashes, hangs or ends on a failure.
+The seconds are for all games together. Fails when the program crashes, hangs or ends on a failure, or when the record of
+the game that ended last doesn't hold by the console beside.
 """
 import json
 import os
@@ -25,7 +26,8 @@ class Program:
     def __init__(self, path, folder):
         env = dict(os.environ, QT_QPA_PLATFORM="offscreen", SDL_AUDIODRIVER="dummy",
                    ASAN_OPTIONS="detect_leaks=0")  # the font library keeps a block till the end
-        self.process = subprocess.Popen([path, "--console", "--seed", "1", "--speed", "100000", "--folder", folder],
+        self.process = subprocess.Popen([path, "--console", "--seed", "1", "--speed", "100000", "--folder", folder,
+                                         "--record", os.path.join(folder, "record")],
                                         stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE, env=env)
         self.rest = b""
         self.box = None
@@ -125,6 +127,13 @@ def play(path, button, seconds, chance, folder):
             raise Gone(f"{button}: doesn't end") from None
         if status:
             raise Gone(f"{button}: ended with {status}\n{program.process.stderr.read().decode()[-4000:]}")
+        record = os.path.join(folder, "record")
+        if os.path.exists(record):
+            console = os.path.join(os.path.dirname(path), "cardhaven-console")
+            said = subprocess.run([console, "--verify", record], capture_output=True, text=True).stdout
+            if not said.startswith("holds "):
+                raise Gone(f"{button}: {said}")
+            os.remove(record)
     return deeds, done
 
 

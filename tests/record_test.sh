@@ -37,6 +37,21 @@ for place in 1 2 3 4 5 6 7 8 9 10; do printf 'Nobody, %d\r\n' $((900 - place * 4
 play --record placed <played >/dev/null
 "$console" --verify placed | grep -qx 'holds Sumfall 90_11 0 3 2024-03-01T[0-9:]*+00:00' || fail "said: $("$console" --verify placed)"
 
+# The same record proves an entry of its table, and no better one.
+mkdir suite/records
+cp placed suite/records/a.record
+for score in 0 500; do
+  printf 'Ada, %d\r\nNobody, -300\r\n' $score >suite/HiScores90_11.Txt
+  printf 'table,record,score,name\r\nHiScores90_11.Txt,a.record,%d,Ada\r\n' $score >suite/records/Entries.csv
+  status=0
+  "$console" --folder suite --verify-tables >said || status=$?
+  grep -qx 'HiScores90_11.Txt 2 Nobody, -300: unproved' said || fail "said: $(cat said)"
+  if [ $score = 0 ]; then wanted='holds Sumfall'; else wanted='fails: it is of another game'; fi
+  grep -q "^HiScores90_11.Txt 1 Ada, $score: $wanted" said || fail "said: $(cat said)"
+  [ $status = $((score > 0)) ] || fail "status $status"
+done
+
+rm said
 # A line a file, in order, and the worst status; nothing is written beside.
 sed 's/^ *click 0 frmSumfall.PlayCardPicture$//;/^$/d' one >changed
 echo nonsense >nonsense

@@ -8,6 +8,7 @@ _arguments \
   '--statistics[print what they amount to]::game:(Sumfall Fivestack Blackrush Duopick Spirehold Handgrid Treyshift)' \
   '--record[write down what is played]:file:_files' \
   '--verify[play records again and tell which ones hold]:*:record:_files' \
+  '--verify-tables[do so for all entries of the tables]' \
   '--seed[make the cards fall the same way each time]:number:' \
   '--start[the time of day at the start]:moment:' \
   '--screen[the size of the screen in pixels, as 1024x768]:size:' \

@@ -24,8 +24,8 @@ _cardhaven() {
     -*)
       options='--folder --record --game --today --deal --seed --start --help --version'
       case $1 in
-        *cardhaven-console) options="$options --screen --verify --history --statistics" ;;
-        *) options="$options --console --speed" ;;
+        *cardhaven-console) options="$options --screen --verify --verify-tables --history --statistics" ;;
+        *) options="$options --console --speed --no-records" ;;
       esac
       COMPREPLY=($(compgen -W "$options" -- "$cur"))
       ;;

@@ -41,7 +41,7 @@ class NoTheme {
 }  // namespace
 
 int RunDesktop(int argc, char** argv, const DesktopOptions& options, const PictureFiles& pictures,
-               const std::function<std::shared_ptr<void>(Platform&)>& start) {
+               const std::function<std::shared_ptr<void>(DesktopFrontEnd&)>& start) {
   qInstallMessageHandler(Message);
   QCoreApplication::setApplicationName("cardhaven");
   QGuiApplication::setApplicationDisplayName("");
@@ -59,10 +59,11 @@ int RunDesktop(int argc, char** argv, const DesktopOptions& options, const Pictu
   else
     front = std::make_unique<DesktopFrontEnd>(options.folders, pictures);
   if (!options.script) front->guides = options.guides;
+  front->looks.mayKeepRecords = options.keepsRecords;
   std::shared_ptr<void> kept;  // goes before the front end does
   leaving::SetKeeper(&front->platform.OnLeave);
   if (heeds) HeedSession(application, front->platform);
-  const int status = front->Run([&] { kept = start(front->platform); });
+  const int status = front->Run([&] { kept = start(*front); });
   leaving::SetKeeper(nullptr);
   return status;
 }

@@ -10,9 +10,10 @@ struct DesktopOptions {
   DesktopFolders folders;
   std::optional<ScriptOptions> script;  // commands come from standard input
   Guides guides;                        // for a player; a script needs none
+  bool keepsRecords = false;            // unless the player's view says otherwise
 };
 
-// Opens the screen, lets `start` show the first window on the platform, and runs until the program ends. What
+// Opens the screen, lets `start` show the first window on its platform, and runs until the program ends. What
 // `start` returns is kept till then. The exit status; 1 with a line on standard error if there is no screen.
 int RunDesktop(int argc, char** argv, const DesktopOptions& options, const PictureFiles& pictures,
-               const std::function<std::shared_ptr<void>(Platform&)>& start);
+               const std::function<std::shared_ptr<void>(DesktopFrontEnd&)>& start);

@@ -18,6 +18,8 @@ class Looks {
 
   // Called when windows are to be drawn in another way from now on.
   std::function<void()> changed;
+  // Whether this program keeps records of games at all. Set before the first window is loaded.
+  bool mayKeepRecords = false;
 
   const View& Now() const { return view_; }
   // Shows all windows in this way from now on, and keeps it.

@@ -105,6 +105,7 @@ void VisitMembers(Visit visit) {
   visit("view/fourColours", &View::fourColours, 0, 0);
   visit("view/highContrast", &View::highContrast, 0, 0);
   visit("view/lessMotion", &View::lessMotion, 0, 0);
+  visit("records/keep", &View::keepsRecords, 0, 0);
   visit("sound/waves", &View::waveVolume, 0, 100);
   visit("sound/music", &View::musicVolume, 0, 100);
 }

@@ -16,6 +16,7 @@ struct View {
   bool fourColours = false;
   bool highContrast = false;
   bool lessMotion = false;
+  bool keepsRecords = true;                 // of games, beside the tables
   int waveVolume = 100, musicVolume = 100;  // percent
 
   // What was done last.

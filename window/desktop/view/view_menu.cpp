@@ -46,6 +46,10 @@ ViewMenu::ViewMenu(QWidget& window, Looks& looks, std::function<Size()> size, QM
   menu->addSeparator();
   AddVolume(*menu, "viewWaves", "Sound &Volume", &View::waveVolume);
   AddVolume(*menu, "viewMusic", "&Music Volume", &View::musicVolume);
+  if (looks_.mayKeepRecords) {
+    menu->addSeparator();
+    AddSwitch(menu, "viewKeepRecords", "&Keep Records of Games", &View::keepsRecords);
+  }
   Apply();
 }
 

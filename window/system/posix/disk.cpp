@@ -37,8 +37,11 @@ bool WriteAll(int descriptor, const std::string& text, bool hurries) {
 bool IsLeftover(const fs::path& folder, const std::string& name) {
   const size_t at = name.rfind(kTemporary);
   if (at == std::string::npos || at < 4) return false;
-  const std::string kind = name.substr(at - 4, 4), suffix = name.substr(at + sizeof kTemporary - 1);
-  if (kind != ".Ini" && kind != ".Txt" && kind != ".sfl" && kind != ".ini") return false;
+  const std::string_view whole = std::string_view(name).substr(0, at);
+  const std::string suffix = name.substr(at + sizeof kTemporary - 1);
+  constexpr std::string_view kKinds[] = {".Ini", ".Txt", ".sfl", ".ini", ".record", ".csv"};
+  if (std::ranges::none_of(kKinds, [&](std::string_view kind) { return whole.ends_with(kind); }))
+    return false;
   if (suffix.empty() || suffix.find_first_not_of("0123456789abcdef") != std::string::npos) return false;
   if (suffix.size() == Disk::kSuffixLetters) {
     const Descriptor descriptor(
