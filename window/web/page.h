@@ -1,0 +1,20 @@
+// The page in which the program runs: what `web/host.js` does for this front end.
+#pragma once
+
+#include "window/system/web/host.h"
+
+namespace page {
+
+// Changes of the tree of controls, sounds and the like, in the order in which they came.
+HOST_CALL("tell") void Tell(const char* text, size_t length);
+// The only call that blocks: for so many milliseconds, below 0 for ever. `serving` is a `Wait::Serving`. The
+// length of the event that came, 0 for none; `host::Take` gives it.
+HOST_CALL("wait") int Wait(double milliseconds, int serving);
+
+HOST_CALL("now") double Now();           // milliseconds since the start
+HOST_CALL("date") void Date(int* date);  // year, month, day, hour, minute, second, minutes before UTC
+HOST_CALL("chance") double Chance();     // up to 2^53
+// How broad a line is in letters of so many pixels.
+HOST_CALL("breadth") double Breadth(const char* text, size_t length, int pixels, int bold);
+
+}  // namespace page

@@ -1,0 +1,307 @@
+#include "window/web/web.h"
+
+#include <cmath>
+#include <cstdlib>
+
+#include "window/player.h"
+#include "window/web/describe.h"
+#include "window/web/page.h"
+
+namespace {
+
+// What stands before the next blank; the rest stays.
+std::string_view Word(std::string_view& rest) {
+  const size_t end = std::min(rest.find(' '), rest.size());
+  const std::string_view word = rest.substr(0, end);
+  rest.remove_prefix(std::min(end + 1, rest.size()));
+  return word;
+}
+
+int Number(std::string_view& rest) { return std::atoi(std::string(Word(rest)).c_str()); }
+
+}  // namespace
+
+WebFrontEnd::WebFrontEnd(const PictureFiles& pictures, Guides guides) : guides_(std::move(guides)) {
+  out_.Open('[');
+  Json& json = Say("pictures").Key("files").Open('[');
+  for (const PictureFile& picture : pictures)
+    json.Open('[')
+        .Write(picture.file)
+        .Write(picture.width)
+        .Write(picture.height)
+        .Write(static_cast<int>(picture.kind))
+        .Close(']');
+  json.Close(']').Close('}');
+}
+
+// --- What the page is told -----------------------------------------------------------------------
+
+Json& WebFrontEnd::Say(std::string_view what) {
+  TellChanges();
+  any_ = true;
+  return out_.Open('{').Member("do", what);
+}
+
+void WebFrontEnd::SayForm(std::string_view what, const Form& form) {
+  if (const int id = IdOf(form)) Say(what).Member("id", id * ids::kPerForm).Close('}');
+}
+
+int WebFrontEnd::IdOf(const Form& form) const {
+  for (const auto& [id, window] : windows_)
+    if (window.form == &form) return id;
+  return 0;
+}
+
+// A window as a whole the first time, later on what is new of it.
+void WebFrontEnd::TellChanges() {
+  for (auto& [id, window] : windows_) {
+    if (window.told) continue;
+    window.told = true;
+    any_ = true;
+    out_.Open('{').Member("do", "window").Key("window");
+    Describe(out_, id, *window.form, window.guide.get());
+    out_.Close('}');
+    std::erase_if(dirty_, [&](const Control* control) { return &control->form == window.form; });
+  }
+  for (const Control* control : dirty_) {
+    const int id = IdOf(control->form);
+    if (id == 0) continue;
+    any_ = true;
+    if (control->kind == Control::Kind::Form) {
+      const Form& form = control->form;
+      out_.Open('{').Member("do", "form").Member("id", id * ids::kPerForm).Member("text", form.Caption.get());
+      out_.Member("width", Pixels(form.Width)).Member("height", Pixels(form.Height));
+      out_.Member("pointer", form.MousePointer.get()).Close('}');
+    } else {
+      out_.Open('{').Member("do", "set").Key("control");
+      Describe(out_, id, *control);
+      out_.Close('}');
+    }
+  }
+  dirty_.clear();
+}
+
+void WebFrontEnd::TellGuide(int id, Window& window) {
+  if (!window.guide || !window.form->Loaded() || !window.form->Visible) return;
+  if (window.keyboard) window.keyboard->Settle();
+  Json json;
+  Describe(json, id, *window.form, *window.guide, window.keyboard ? window.keyboard->Cursor() : nullptr);
+  if (json.Text() == window.guided) return;
+  window.guided = json.Text();
+  Say("guide").Key("guide").Plain(window.guided).Close('}');
+}
+
+void WebFrontEnd::Flush(bool settled) {
+  TellChanges();
+  if (settled)
+    for (auto& [id, window] : windows_) TellGuide(id, window);
+  if (!any_) return;
+  any_ = false;
+  out_.Close(']');
+  const Json told = std::exchange(out_, Json());
+  out_.Open('[');
+  page::Tell(told.Text().data(), told.Text().size());
+}
+
+// --- What the player does ------------------------------------------------------------------------
+
+Event WebFrontEnd::Next(const Wait& wait) {
+  const bool sleeps = wait.serving == Wait::Serving::Nothing;
+  Flush(!sleeps);
+  const double until = wait.until == Wait::kForever ? -1 : std::max(0ll, wait.until - Milliseconds());
+  const int length = page::Wait(until, static_cast<int>(wait.serving));
+  if (length > 0) return Take(host::Taken(length), wait);
+  const bool due = wait.serving == Wait::Serving::All && wait.until <= Milliseconds();
+  return {due ? Event::Kind::Tick : Event::Kind::None};
+}
+
+// "click 4100", "type 4101 text", "key 4096 0 P", "answer 2"
+Event WebFrontEnd::Take(std::string_view line, const Wait& wait) {
+  const std::string_view what = Word(line);
+  if (what == "answer") {
+    if (!wait.box) return {};
+    const auto answers = AnswersOf(wait.box->buttons);
+    const auto number = static_cast<size_t>(Number(line));
+    return {.kind = Event::Kind::Answer,
+            .answer = number < answers.size() ? answers[number] : answers.back()};
+  }
+  const int id = Number(line);
+  const auto window = windows_.find(id / ids::kPerForm);
+  Control* const control = window == windows_.end() ? nullptr : ids::Find(*window->second.form, id);
+  if (!control) return {};
+  if (what == "close" || what == "press" || what == "key" || what == "hidden" || what == "resize") {
+    if (player::WhyNot(*window->second.form).empty()) Do(what, window->second, *control, line);
+  } else if (player::WhyNot(*control).empty()) {
+    Do(what, window->second, *control, line);
+  }
+  return {};
+}
+
+void WebFrontEnd::Do(std::string_view what, Window& window, Control& control, std::string_view rest) {
+  Form& form = *window.form;
+  if (what == "click") {
+    if (window.keyboard) window.keyboard->Press(control);
+    player::Click(control);
+  } else if (what == "twice") {
+    player::DblClick(control);
+  } else if (what == "over") {
+    player::MouseMove(control);
+  } else if (what == "focus") {
+    if (form.ActiveControl() != &control) player::Focus(control);
+  } else if (what == "type" && control.kind == Control::Kind::TextBox) {
+    player::Type(static_cast<TextBox&>(control), std::string(rest));
+  } else if (what == "select") {
+    player::Select(control, Number(rest));
+  } else if (what == "press") {
+    player::Press(form, Number(rest) == 0 ? Key::Return : Key::Escape);
+  } else if (what == "close") {
+    player::Close(form);
+  } else if (what == "resize") {
+    const int width = Number(rest), height = Number(rest);
+    player::Resize(form, width * 15, height * 15);
+  } else if (what == "key" && window.keyboard) {
+    const bool far = Number(rest) != 0;
+    if (Control* const meant = window.keyboard->Take(std::string(rest), far, Milliseconds()))
+      player::Click(*meant);
+  } else if (what == "pause" && window.guide) {
+    // Puts the game on one side of the button: "1" pauses it.
+    Control* const pause = window.guide->Pause();
+    if (pause && window.guide->Paused() != (Number(rest) != 0) && player::WhyNot(*pause).empty())
+      player::Click(*pause);
+  }
+}
+
+void WebFrontEnd::Entered(const Event& event) {
+  ++handler_;
+  if (event.kind != Event::Kind::Click) clicked_ = nullptr;
+}
+
+void WebFrontEnd::Hidden() {
+  if (platform.OnKeep) platform.OnKeep();
+}
+
+void WebFrontEnd::Leaving() {
+  if (platform.OnLeave) platform.OnLeave();
+}
+
+// --- The world -----------------------------------------------------------------------------------
+
+long long WebFrontEnd::Milliseconds() { return static_cast<long long>(page::Now()); }
+
+DateTime WebFrontEnd::Now() {
+  int date[7] = {};
+  page::Date(date);
+  return {date[0], date[1], date[2], date[3], date[4], date[5], date[6]};
+}
+
+uint64_t WebFrontEnd::Chance() { return static_cast<uint64_t>(page::Chance()); }
+
+// As tall as the page draws lines: 1.17 times its letters.
+Extent WebFrontEnd::TextExtent(const Label& label) {
+  const int pixels = label.FontSize <= 10 ? 12 : label.FontSize <= 14 ? 16 : label.FontSize <= 20 ? 24 : 34;
+  double width = 0;
+  int lines = 0;
+  std::string_view rest = label.Caption.get();
+  do {
+    const size_t end = std::min(rest.find_first_of("\r\n"), rest.size());
+    const double here = page::Breadth(rest.data(), end, pixels, label.FontBold || label.Remark);
+    width = std::max(width, here);
+    ++lines;
+    const bool pair = rest.substr(end).starts_with("\r\n");
+    rest.remove_prefix(std::min(end + (pair ? 2 : 1), rest.size()));
+  } while (!rest.empty());
+  return {static_cast<int>(std::ceil(width)) * 15, static_cast<int>(std::ceil(1.17 * pixels * lines)) * 15};
+}
+
+bool WebFrontEnd::OpenPage(const std::string&, const std::string& url) {
+  Say("open").Member("url", url).Close('}');
+  return true;
+}
+
+void WebFrontEnd::PlayWave(const std::string& path) {
+  Say("wave").Member("path", path).Member("handler", handler_).Close('}');
+}
+
+void WebFrontEnd::MediaCommand(const std::string& command) {
+  Say("tune").Member("command", command).Close('}');
+}
+
+void WebFrontEnd::Clicked(Control& control) {
+  clicked_ = &control;
+  if (const int id = IdOf(control.form)) Say("clicked").Member("id", ids::Of(id, control)).Close('}');
+}
+
+void WebFrontEnd::Refused() {
+  if (!clicked_) return;
+  if (const int id = IdOf(clicked_->form)) Say("refused").Member("id", ids::Of(id, *clicked_)).Close('}');
+}
+
+// Only what has gone in the same breath is held up, that it can be seen.
+void WebFrontEnd::Triumph(Visual& where, bool goes) {
+  constexpr int kSeen = 900;
+  const int id = IdOf(where.form);
+  if (id == 0) return;
+  Say("triumph").Member("id", ids::Of(id, where)).Close('}');
+  if (!goes) return;
+  Flush(false);
+  page::Wait(kSeen, static_cast<int>(Wait::Serving::Nothing));
+}
+
+// --- Windows -------------------------------------------------------------------------------------
+
+void WebFrontEnd::FormLoaded(Form& form) {
+  Window window{&form, guides_ ? guides_(form) : nullptr, nullptr, false, ""};
+  if (window.guide && !window.guide->Keys().empty())
+    window.keyboard = std::make_unique<Keyboard>(form, *window.guide);
+  windows_.emplace(++nextForm_, std::move(window));
+}
+
+void WebFrontEnd::FormShown(Form& form) {
+  const int id = IdOf(form);
+  if (id == 0) return;
+  const auto& guide = windows_.at(id).guide;
+  // All of the board is to be seen.
+  const int breadth = guide ? guide->Breadth() : 0;
+  if (breadth > form.Width && form.Width == form.MinWidth && form.Height == form.MinHeight)
+    player::Resize(form, breadth, form.Height);
+  Json& json = Say("show").Member("id", id * ids::kPerForm).Member("modal", form.Modal());
+  if (TextBox* const box = guide ? guide->OffersAgain() : nullptr) json.Member("offer", ids::Of(id, *box));
+  json.Close('}');
+}
+
+void WebFrontEnd::FormHidden(Form& form) { SayForm("hide", form); }
+
+void WebFrontEnd::FormUnloaded(Form& form) {
+  if (clicked_ && &clicked_->form == &form) clicked_ = nullptr;
+  SayForm("gone", form);
+  std::erase_if(windows_, [&](const auto& each) { return each.second.form == &form; });
+  std::erase_if(dirty_, [&](const Control* control) { return &control->form == &form; });
+}
+
+void WebFrontEnd::PropertyChanged(Control& control, Prop) { Changed(control); }
+
+// Nobody tells when a control of a window that isn't loaded goes.
+void WebFrontEnd::Changed(Control& control) {
+  if (control.kind != Control::Kind::Timer && IdOf(control.form) != 0) dirty_.insert(&control);
+}
+
+void WebFrontEnd::FocusMoved(Visual& control) {
+  if (const int id = IdOf(control.form)) Say("focus").Member("id", ids::Of(id, control)).Close('}');
+}
+
+void WebFrontEnd::TextSelected(TextBox& box) {
+  if (const int id = IdOf(box.form)) Say("selectText").Member("id", ids::Of(id, box)).Close('}');
+}
+
+void WebFrontEnd::BoxShown(const MessageBox& box) {
+  Json& json = Say("box").Member("text", box.text).Member("title", box.title);
+  json.Member("icon", IconName(box.icon)).Key("answers").Open('[');
+  for (const Answer answer : AnswersOf(box.buttons)) json.Write(AnswerName(answer));
+  // A question is answered with No by who presses Return without reading it.
+  const bool asks = box.buttons == Buttons::YesNo && box.icon == Icon::Question;
+  json.Close(']').Member("first", asks ? 1 : 0).Close('}');
+}
+
+void WebFrontEnd::BoxGone(const MessageBox&) { Say("unbox").Close('}'); }
+
+void WebFrontEnd::Ended(const std::string& failure) { Say("end").Member("failure", failure).Close('}'); }

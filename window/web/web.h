@@ -1,0 +1,87 @@
+// The front end in a browser. It draws nothing by itself: the page is told of every window and control, in
+// one batch for each time that the program waits, and gives what the player does as a line of text.
+#pragma once
+
+#include <deque>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string_view>
+
+#include "window/guide.h"
+#include "window/pictures.h"
+#include "window/platform.h"
+#include "window/web/json.h"
+#include "window/web/keyboard.h"
+
+class WebFrontEnd : public FrontEnd {
+ public:
+  WebFrontEnd(const PictureFiles& pictures, Guides guides);
+
+  Platform platform{*this};
+
+  // The page is hidden: what closing the windows would keep is kept, and a running round pauses.
+  void Hidden();
+  // The page goes.
+  void Leaving();
+
+  Event Next(const Wait& wait) override;
+  void Entered(const Event& event) override;
+  long long Milliseconds() override;
+  DateTime Now() override;
+  uint64_t Chance() override;
+  Extent ScreenExtent() override { return {1024 * 15, 768 * 15}; }
+  Extent TextExtent(const Label& label) override;
+  std::string FindBrowser() override { return "browser"; }
+  bool OpenPage(const std::string& browser, const std::string& url) override;
+
+  void PlayWave(const std::string& path) override;
+  void MediaCommand(const std::string& command) override;
+  void Clicked(Control& control) override;
+  void Refused() override;
+  void Triumph(Visual& where, bool goes) override;
+
+  void FormLoaded(Form& form) override;
+  void FormShown(Form& form) override;
+  void FormHidden(Form& form) override;
+  void FormUnloaded(Form& form) override;
+  void PropertyChanged(Control& control, Prop prop) override;
+  void OrderChanged(Visual& control) override { Changed(control); }
+  void FocusMoved(Visual& control) override;
+  void TextSelected(TextBox& box) override;
+  void SurfaceCleared(PictureBox& surface) override { Changed(surface); }
+  void SurfaceDrawn(PictureBox& surface, const Stroke&) override { Changed(surface); }
+  void BoxShown(const MessageBox& box) override;
+  void BoxGone(const MessageBox& box) override;
+  void Ended(const std::string& failure) override;
+
+ private:
+  struct Window {
+    Form* form;
+    std::unique_ptr<Guide> guide;
+    std::unique_ptr<Keyboard> keyboard;
+    bool told = false;   // to the page
+    std::string guided;  // what the page was told last of what the guide says
+  };
+
+  // Begins something that the page is told. What has changed so far goes before it.
+  Json& Say(std::string_view what);
+  void SayForm(std::string_view what, const Form& form);
+  void TellChanges();
+  void TellGuide(int id, Window& window);
+  void Flush(bool settled);
+  Event Take(std::string_view line, const Wait& wait);
+  void Do(std::string_view what, Window& window, Control& control, std::string_view rest);
+  void Changed(Control& control);
+  int IdOf(const Form& form) const;  // 0 if it isn't loaded
+
+  const Guides guides_;
+  std::map<int, Window> windows_;
+  std::set<Control*> dirty_;
+  Json out_;
+  bool any_ = false;  // to be told
+  int nextForm_ = 0;
+  long long handler_ = 0;
+  Control* clicked_ = nullptr;
+};
