@@ -50,7 +50,7 @@ class GameWindow : public Form, public GameControls {
   // Starts a game: begins it (`standing`), deals, starts the clock. The captions of Play have changed
   // already, and the splash panel is hidden.
   virtual void Play() = 0;
-  // The player has confirmed End Game.
+  // The player has confirmed End Game: nothing of the game goes on, its music neither.
   virtual void EndGame() = 0;
   // All card images.
   virtual void ShowCards(bool visible) = 0;

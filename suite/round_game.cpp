@@ -16,6 +16,7 @@ void RoundGame::TakeScore() {
   const bool bonus = CurrentRound == plan.rounds + 1;
   if (CurrentRound <= plan.rounds || (bonus && EarnsBonusRound())) {
     AnnounceRound(bonus);
+    DropWaitingInput();
     InitRound();
   } else {
     GameOver();

@@ -22,6 +22,8 @@ class RoundGame : public GameWindow {
   virtual void BeginScoring();
   // Takes the board away: when the time is up, and while the round is paid.
   virtual void HideBoard(bool /*timeIsUp*/) { ShowCards(false); }
+  // The next round has been announced. What was clicked meanwhile meets dead input, and comes to nothing.
+  virtual void DropWaitingInput() { platform.DoEvents(); }
   // What else a finished game hides, between the score's entry and "Game Over": Spirehold's towers.
   virtual void GameFinished() {}
 

@@ -58,10 +58,14 @@ class frmEighth : public RoundGame {
     ShowRoundTime();
     OpenRound();
   }
-  void PayAwards() override { AddToScore(1500); }
+  void PayAwards() override {
+    AddToScore(1500);
+    if (whilePaid) whilePaid();
+  }
   void EndGame() override {
     FinishGame();
     splash.Show(true);
+    StopMusic();
   }
   void ShowCards(bool) override {}
   void RefreshPlayCard() override {}
@@ -73,6 +77,7 @@ class frmEighth : public RoundGame {
 
   ControlArray<Image, 2> Card{*this, "Card"};
   bool dealt = true;
+  std::function<void()> whilePaid;
 };
 
 // Three rounds before a bonus round that nobody reaches.
@@ -276,6 +281,43 @@ TEST(EighthGame, EachRoundIsAnnouncedByItsNumber) {
   EXPECT_EQ(Joined(LinesOf(said, "* set frmEighth.lblMessage.Caption ")),
             R"("Prepare for Round Two!"|""|"Prepare for Round Three!"|"")");
   EXPECT_TRUE(Contains(said, "* show frmHiScoreName modal"));
+}
+
+// A tick stands for the click: both wait until the round has been paid and the next one announced.
+TEST(EighthGame, WhatIsClickedWhileARoundIsPaidComesToNothing) {
+  TestFolder folder;
+  int presses = 0;
+  const std::string said = RunEighth(folder,
+                                     "click frmSelect.cmdEighth\nclick frmEighth.cmdPlay\ntrace on\n"
+                                     "click frmEighth.cmdTakeScore\nadvance 1000\n",
+                                     [&](modCommon& common) {
+                                       auto game = std::make_unique<frmEighth>(common, kThreeRounds);
+                                       game->whilePaid = [&presses, &window = *game] {
+                                         window.Timer4.OnTimer = [&] {
+                                           window.Timer4.Enabled = false;
+                                           ++presses;
+                                           window.cmdTakeScore_Click(GameWindow::By::Button);
+                                         };
+                                         window.Timer4.Enabled = true;
+                                       };
+                                       return game;
+                                     });
+  EXPECT_EQ(presses, 1);
+  EXPECT_EQ(Joined(LinesOf(said, "* set frmEighth.lblMessage.Caption ")), R"("Prepare for Round Two!"|"")");
+}
+
+TEST(EighthGame, IsSilentOnceItIsGivenUp) {
+  TestFolder folder;
+  const std::string said = RunEighth(folder, R"(click frmSelect.cmdEighth
+click frmEighth.mnuMusic
+click frmEighth.cmdPlay
+trace on
+click frmEighth.cmdPlay
+answer "Yes"
+)");
+  const std::vector<std::string> sent = LinesOf(said, "* mci ");
+  ASSERT_FALSE(sent.empty()) << said;
+  EXPECT_TRUE(sent.back().starts_with("\"close")) << said;
 }
 
 TEST(EighthGame, MayHaveNoClock) {

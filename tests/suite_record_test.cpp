@@ -111,8 +111,9 @@ std::string ThreeGames() {
 }  // namespace
 
 TEST(Record, AWholeGameIsDoneAgainStepByStep) {
-  for (const char* game :
-       {"sumfall", "fivestack", "blackrush", "duopick", "spirehold", "handgrid", "treyshift"}) {
+  for (const GameEntry& each : AllGames()) {
+    std::string game(each.Name());
+    game[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(game[0])));
     SCOPED_TRACE(game);
     const Played played = Play(WholeGame(game));
     ASSERT_FALSE(played.records.empty());

@@ -7,7 +7,6 @@ using namespace modDuopick;
 // --- Dealing -------------------------------------------------------------------------------------
 
 void frmDuopick::InitRound() {
-  platform.DoEvents();
   common.CreateStandardDeck();
   common.ShuffleDeck();
   Deal();
@@ -126,6 +125,7 @@ void frmDuopick::Play() {
   ShowScore();
   standing.Begin();
   frmSplash.Visible = false;
+  platform.DoEvents();
   InitRound();
 }
 

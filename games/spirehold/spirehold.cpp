@@ -8,7 +8,6 @@ using namespace modSpirehold;
 // --- Dealing -------------------------------------------------------------------------------------
 
 void frmSpirehold::InitRound() {
-  platform.DoEvents();
   common.CreateStandardDeck();
   common.ShuffleDeck();
   Deal();
@@ -102,6 +101,7 @@ void frmSpirehold::Play() {
   CurrentRound = 1;
   common.CurrentScore = 0;
   ShowScore();
+  platform.DoEvents();
   InitRound();
   cmdPlay.ToolTipText = "Ends the current game";
 }

@@ -72,6 +72,7 @@ class frmSumfall : public RoundGame {
   void BeginScoring() override;
   void HideBoard(bool timeIsUp) override;
   void PayAwards() override;
+  void DropWaitingInput() override {}  // the awards have done so
   void InitRound() override;
   void GameOver() override;
   void EndGame() override;
