@@ -97,6 +97,7 @@ void Recorder::Entered(const Event& event) {
       if (!platform_.random.Seeded()) platform_.random.Seed(head_.chance);
       if (const auto& deal = common_->nextDeal; deal && serving == Wait::Serving::All)
         Put("nextdeal" + Numbers({deal->number, deal->repeated}));
+      if (common_->nextIsToday) Put("nextistoday");
       const long long now = inner_.Milliseconds();
       long long& clock = known_->clock;
       std::string line(NameOf(event.kind));

@@ -59,6 +59,10 @@ class Player : public FrontEnd {
   Event Next(const Wait& wait) override {
     if (!common_) return {Event::Kind::Over};
     Look();
+    if (what_ == "nextistoday") {
+      common_->nextIsToday = true;
+      Advance();
+    }
     if (what_ == "nextdeal") {
       const int number = static_cast<int>(line_.Number(0, kLastDeal));
       common_->nextDeal = DealName{number, line_.Flag()};
@@ -201,7 +205,7 @@ class Player : public FrontEnd {
     kind_ = KindOf(what_);
     const bool counts = what_ == "told" || what_ == "waited" || what_ == "late";
     if (hasLine_ && kind_ == Event::Kind::None && !counts && what_ != "end" && what_ != "nextdeal" &&
-        what_ != "now")
+        what_ != "nextistoday" && what_ != "now")
       line_.Wrong("there is nothing like \"" + what_ + "\"");
     at_ = counts ? line_.Number(0, kMostWaits) : -1;
     if (kind_ == Event::Kind::None) return;

@@ -78,7 +78,7 @@ bool modCommon::CreateStandardDeck() {
 
 bool modCommon::ShuffleDeck() {
   const auto draw = [this](int lower, int upper) { return DrawCard(lower, upper); };
-  deal.DeckShuffled();
+  deal.DeckShuffled(static_cast<int>(CurrentScore));
   return Try([&] { Shuffle(Deck, draw); }, "Unable to shuffle the deck.", Icon::Critical);
 }
 

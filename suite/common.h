@@ -56,7 +56,8 @@ class modCommon : public Lasting {
   // What the program was asked to play in all games; what is asked for the next game alone.
   DealName askedDeal;
   std::optional<DealName> nextDeal;
-  std::string record;  // the file in which games are written down, for the history; "" if there is none
+  bool nextIsToday = false;  // the next window is to play the deal of the day
+  std::string record;        // the file in which games are written down, for the history; "" if there is none
   // Says in a line, and not in a box, what couldn't be kept; nothing where nobody listens.
   std::function<void(const std::string&)> complain;
 
@@ -67,6 +68,8 @@ class modCommon : public Lasting {
   // Each tells a failure to the player and returns false.
   bool CreateStandardDeck();
   bool ShuffleDeck();
+  // The deck is ready as it is: a shuffle less.
+  void SkipDeck() { deal.SkipDeck(UpperBound(Deck), static_cast<int>(CurrentScore)); }
 
   // Plays a wave, named "\Name.wav", and doesn't wait. The caller looks at `PlaySounds`.
   void PlayWaveFile(const std::string& path);

@@ -1,22 +1,6 @@
 #include "suite/deal.h"
 
-#include <cstdint>
 #include <string>
-
-namespace {
-
-// FNV-1a of 64 bits.
-uint64_t HashOf(std::string_view text) {
-  uint64_t hash = 0xCBF29CE484222325u;
-  for (const char letter : text) hash = (hash ^ static_cast<unsigned char>(letter)) * 0x100000001B3u;
-  return hash;
-}
-
-}  // namespace
-
-int DealOfTheDay(std::string_view date, std::string_view game) {
-  return 1 + static_cast<int>(HashOf(std::string(date) + " " + std::string(game)) % kLastDeal);
-}
 
 void Deal::Begin(DealName name, std::string_view game) {
   *this = {};
@@ -24,7 +8,17 @@ void Deal::Begin(DealName name, std::string_view game) {
   source_.Seed(HashOf(std::to_string(name.number) + " " + std::string(game)));
 }
 
-void Deal::SkipDeck(int cards) {
-  DeckShuffled();
+// A game begins with no score, whatever stands on the board when its first deck is shuffled.
+std::vector<int> Deal::Payments(int score) const {
+  std::vector<int> payments;
+  for (size_t round = 0; round < scores_.size(); ++round) {
+    const int before = round == 0 ? 0 : scores_[round];
+    payments.push_back((round + 1 < scores_.size() ? scores_[round + 1] : score) - before);
+  }
+  return payments;
+}
+
+void Deal::SkipDeck(int cards, int score) {
+  DeckShuffled(score);
   for (int i = 0; i < cards; ++i) source_.Next();
 }

@@ -2,13 +2,10 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
+#include "history/deal_number.h"
 #include "window/random.h"
-
-inline constexpr int kLastDeal = 999'999'999;
-
-// The number that everybody plays on a day, written YYYY-MM-DD; of the game named as on its button.
-int DealOfTheDay(std::string_view date, std::string_view game);
 
 // Which cards a game is played with.
 struct DealName {
@@ -23,14 +20,16 @@ class Deal {
   void Begin(DealName name, std::string_view game);
 
   const DealName& Name() const { return name_; }
-  int Decks() const { return decks_; }  // as many as rounds were dealt
+  int Decks() const { return static_cast<int>(scores_.size()); }  // as many as rounds were dealt
+  // What each of these rounds has paid, if that is the score by now.
+  std::vector<int> Payments(int score) const;
   bool DrawsByItself() const { return name_.number > 0; }
   // Uniform in [0, 1).
   double Draw() { return source_.Next(); }
-  // A deck of so many cards is ready.
-  void DeckShuffled() { ++decks_; }
-  // One was ready before it was shuffled: the next ones are as if it had been.
-  void SkipDeck(int cards);
+  // A deck is about to be shuffled, at that score.
+  void DeckShuffled(int score) { scores_.push_back(score); }
+  // One of so many cards was ready before it was shuffled: the next ones are as if it had been.
+  void SkipDeck(int cards, int score);
   // Somebody has laid a card ready: what is played follows from no number.
   void Tampered() { tampered_ = true; }
   // What the game is called afterwards.
@@ -39,6 +38,6 @@ class Deal {
  private:
   DealName name_;
   RandomSource source_;
-  int decks_ = 0;
+  std::vector<int> scores_;  // when each deck was shuffled
   bool tampered_ = false;
 };

@@ -53,10 +53,29 @@ class NameGuide : public Guide {
   frmHiScoreName& window_;
 };
 
+// The number of the cards that were played last.
+class AboutGuide : public Guide {
+ public:
+  explicit AboutGuide(frmAbout& window) : window_(window) {}
+
+  std::vector<Note> Notes() const override {
+    const GameWindow* const game = window_.common.window;
+    const int deal = game ? game->log.PlayedDeal().number : 0;
+    if (deal == 0) return {};
+    const CommandButton& button = window_.cmdCoolDude;
+    return {{&window_, window_.lblFolder.Left, button.Top, button.Left - window_.lblFolder.Left,
+             button.Height, "Deal " + std::to_string(deal), 0, Note::Look::Plain}};
+  }
+
+ private:
+  frmAbout& window_;
+};
+
 }  // namespace
 
 std::unique_ptr<Guide> DialogGuide(Form& form) {
   if (auto* table = dynamic_cast<frmHighScores*>(&form)) return std::make_unique<HallOfFameGuide>(*table);
   if (auto* name = dynamic_cast<frmHiScoreName*>(&form)) return std::make_unique<NameGuide>(*name);
+  if (auto* about = dynamic_cast<frmAbout*>(&form)) return std::make_unique<AboutGuide>(*about);
   return nullptr;
 }

@@ -130,7 +130,7 @@ void frmRules::Form_Load() {
   lblRules.Text = game_.RulesPage();
 }
 
-frmAbout::frmAbout(modCommon& common) : Form(common.platform, "frmAbout"), common_(common) {
+frmAbout::frmAbout(modCommon& common) : Form(common.platform, "frmAbout"), common(common) {
   Form::Move(0, 0, 5700, 3000);
   ApplyDesign(*this, kAboutDesign);
   lblInfo.Alignment = 2;
@@ -145,11 +145,11 @@ frmAbout::frmAbout(modCommon& common) : Form(common.platform, "frmAbout"), commo
 
 void frmAbout::Form_Load() {
   CenterOnScreen();
-  Caption = "About " + common_.AppTitle;
+  Caption = "About " + common.AppTitle;
   lblInfo.Caption =
       "These games are distributed and supported by Quillmark. Please direct questions, comments, bugs and "
       "suggestions to: support@quillmark.example";
-  lblStats.Caption = "This session has lasted " + std::to_string(common_.MinutesPlayed()) + " minutes." +
+  lblStats.Caption = "This session has lasted " + std::to_string(common.MinutesPlayed()) + " minutes." +
                      "Thanks for playing!";
   CenterAcross(cmdCoolDude);
   CenterAcross(lblInfo);

@@ -56,9 +56,8 @@ class frmAbout : public Form {
   explicit frmAbout(modCommon& common);
   void Form_Load() override;
 
+  modCommon& common;
+
   Label lblInfo{*this, "lblInfo"}, lblStats{*this, "lblStats"}, lblFolder{*this, "lblFolder"};
   CommandButton cmdCoolDude{*this, "cmdCoolDude"};
-
- private:
-  modCommon& common_;
 };

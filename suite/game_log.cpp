@@ -43,6 +43,11 @@ bool GameLog::WasPlayed(int deal) {
   });
 }
 
+DealName GameLog::PlayedDeal() const {
+  if (!window_.standing.CanStart()) return window_.common.deal.Played();
+  return last_ ? DealName{last_->game.deal, last_->repeated} : DealName{};
+}
+
 void GameLog::Write(GameEnd end, int score) {
   modCommon& common = window_.common;
   PlayedGame game = *std::exchange(game_, std::nullopt);
@@ -52,6 +57,7 @@ void GameLog::Write(GameEnd end, int score) {
   game.deal = common.deal.Played().number;
   game.record = common.record;
   game.end = givenUp_ ? GameEnd::GivenUp : end;
+  last_ = EndedGame{game, common.deal.Name().repeated, common.deal.Payments(game.score)};
   const auto path = common.files.PathOf(kHistoryFile);
   const Ledger history{std::string(kHistoryHeader) + "\r\n", kLargestHistory};
   if (!common.files.Append(path, FormatGame(game) + "\r\n", history) && common.complain)

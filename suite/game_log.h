@@ -2,10 +2,19 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "history/history.h"
+#include "suite/deal.h"
 
 class GameWindow;
+
+// A game that has ended.
+struct EndedGame {
+  PlayedGame game;
+  bool repeated = false;      // its deal was asked for
+  std::vector<int> payments;  // of its rounds
+};
 
 class GameLog {
  public:
@@ -24,12 +33,17 @@ class GameLog {
   void Close(std::optional<int> score = {});
   // Whether the history has a game with that deal.
   bool WasPlayed(int deal);
+  // The game that has ended last in this window.
+  const std::optional<EndedGame>& Last() const { return last_; }
+  // The deal that is played here, or was last.
+  DealName PlayedDeal() const;
 
  private:
   void Write(GameEnd end, int score);
 
   GameWindow& window_;
   std::optional<PlayedGame> game_;
+  std::optional<EndedGame> last_;
   std::optional<int> givenUp_;
   int timedOut_ = 0;  // the round whose clock ran out
 };

@@ -41,6 +41,7 @@ class GameWindow : public Form, public GameControls {
   const Integer* goal = nullptr;  // what is played for, where the player chooses it
   // The deal of the day that is played here, 0 for none: by the standard settings, which aren't kept.
   int daily = 0;
+  std::string day;  // whose deal that is: "2026-11-21"
   GameLog log{*this};
   // The game's own values, named in its constructor; those with a field in the order of the dialog's checks.
   GameSettings settings;

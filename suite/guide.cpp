@@ -54,6 +54,22 @@ bool GameGuide::IsOrnament(const Control& control) const {
   return control.parent == &window_.frmSplash && control.kind == Control::Kind::Image;
 }
 
+std::optional<GameFacts> GameGuide::Game() const {
+  const modCommon& common = window_.common;
+  GameFacts facts;
+  facts.name = window_.plan.Name();
+  facts.inProgress = !window_.standing.CanStart();
+  facts.next = window_.daily != 0 ? window_.daily : common.askedDeal.number;
+  facts.day = window_.day;
+  facts.deal = window_.log.PlayedDeal().number;
+  facts.repeated = window_.log.PlayedDeal().repeated;
+  if (const auto& last = window_.log.Last()) {
+    facts.last = FormatGame(last->game);
+    facts.payments = last->payments;
+  }
+  return facts;
+}
+
 std::string GameGuide::State() const {
   std::string state;
   const auto tell = [&](const std::string& text) {
@@ -138,6 +154,14 @@ class SelectGuide : public Guide {
   }
 
   bool KeepsPlace() const override { return true; }
+
+  std::vector<GameDoor> Doors() const override {
+    std::vector<GameDoor> doors;
+    for (size_t i = 0; i < window_.gameButtons.size(); ++i)
+      doors.push_back({window_.gameButtons[i].get(), std::string(window_.Games()[i].Name())});
+    return doors;
+  }
+  void AskForToday() override { window_.common.nextIsToday = true; }
 
  private:
   frmSelect& window_;

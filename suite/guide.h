@@ -24,6 +24,10 @@ class GameGuide : public Guide {
   std::optional<long long> Score() const override { return window_.common.CurrentScore; }
   Control* Pause() const override { return &window_.cmdPause; }
   const Menu* KeysMenu() const override { return &window_.mnuHelp; }
+  std::optional<GameFacts> Game() const override;
+  Control* Play() const override { return &window_.cmdPlay; }
+  const Menu* PlayMenu() const override { return &window_.mnuFile; }
+  void AskForDeal(int number) override { window_.common.nextDeal = DealName{number, true}; }
   bool IsMessage(const Label& label) const override { return &label == &window_.lblMessage; }
   const CommandButton* WayOut() const override {
     return Plays() && IsStuck() ? &window_.cmdTakeScore : nullptr;
@@ -52,7 +56,7 @@ class GameGuide : public Guide {
   GameWindow& window_;
 };
 
-// The guide to the Hall of Fame or the window that asks for a name; null for other forms.
+// The guide to the Hall of Fame, About, or the window that asks for a name; null for other forms.
 std::unique_ptr<Guide> DialogGuide(Form& form);
 // The guide to the selector or one of the dialogs that all games share; null if the form is none of them.
 std::unique_ptr<Guide> SharedGuide(Form& form);

@@ -28,7 +28,7 @@ constexpr const char* kFirstCards[8] = {"1S", "13H", "1C", "13D", "1H", "13S", "
 }  // namespace
 
 frmSelect::frmSelect(modCommon& common, const std::vector<GameEntry>& games)
-    : Form(common.platform, "frmSelect"), common_(common), games_(games) {
+    : Form(common.platform, "frmSelect"), common(common), games_(games) {
   common.selector = this;
   Form::Move(0, 0, kSelectorWidth, kSelectorHeight);
   // Up to nine fit, one below the other.
@@ -46,7 +46,7 @@ frmSelect::frmSelect(modCommon& common, const std::vector<GameEntry>& games)
     imgSplashImage(i).BorderStyle = 1;
   }
   lblCopyRight.Alignment = 2;
-  cmdLaunchBrowser.OnClick = [this] { common_.OpenWebPage(kWebSite); };
+  cmdLaunchBrowser.OnClick = [this] { this->common.OpenWebPage(kWebSite); };
   cmdClose.OnClick = [this] { Unload(); };
   Timer1.OnTimer = [this] { Timer1_Timer(); };
   Timer1.Interval = 250;
@@ -62,25 +62,29 @@ void frmSelect::Form_Load() {
 void frmSelect::Form_Terminate() {
   Discard();  // the window goes first: nothing happens any more once the program has ended
   // What could not be kept so far has no later.
-  common_.files.mustHurry = [] { return true; };
-  common_.files.TryAgain();
+  common.files.mustHurry = [] { return true; };
+  common.files.TryAgain();
   platform.End();
 }
 
 void frmSelect::Open(const GameEntry& game, bool today) {
-  common_.AppTitle = game.title;
+  today |= std::exchange(common.nextIsToday, false);
+  common.AppTitle = game.title;
   MousePointer = kHourglass;
   if (platform.HandlersUnderWay() <= 1) gone_.clear();
   if (window_) gone_.push_back(std::move(window_));
-  window_ = game.create(common_);
-  if (today) window_->daily = DealOfTheDay(UtcDay(platform.Now()), game.Name());
+  window_ = game.create(common);
+  if (today) {
+    window_->day = UtcDay(platform.Now());
+    window_->daily = DealOfTheDay(window_->day, game.Name());
+  }
   window_->Show();
   MousePointer = kDefaultPointer;
   if (window_->Visible) Hide();  // a saved game that can't be played has closed it again
 }
 
 void frmSelect::Timer1_Timer() {
-  if (common_.window) common_.window->standing.InputLives();
+  if (common.window) common.window->standing.InputLives();
   if (SplashBackIndex_ == 0) SplashBackIndex_ = 2;
   Image& image = imgSplashImage(SplashPosition_);
   image.ZOrder(1);
@@ -89,7 +93,7 @@ void frmSelect::Timer1_Timer() {
       image.Picture = SplashBackIndex_;
       image.BorderStyle = 0;
     } else {
-      image.Picture = common_.RandomInteger(kFirstFace, kLastFace);
+      image.Picture = common.RandomInteger(kFirstFace, kLastFace);
       image.BorderStyle = 1;
     }
     if (++SplashPosition_ > 7) {

@@ -31,6 +31,8 @@ class frmSelect : public Form {
   // Opens a game's window; one for the deal of the day, if that is asked for.
   void Open(const GameEntry& game, bool today = false);
 
+  modCommon& common;
+
   Frame frmGameChoice{*this, "frmGameChoice"};
   ControlArray<Image, 8> imgSplashImage{frmGameChoice, "imgSplashImage"};
   std::vector<std::unique_ptr<CommandButton>> gameButtons;
@@ -41,7 +43,6 @@ class frmSelect : public Form {
  private:
   void Timer1_Timer();
 
-  modCommon& common_;
   const std::vector<GameEntry>& games_;
   std::unique_ptr<GameWindow> window_;  // the game window opened last
   std::vector<std::unique_ptr<GameWindow>>

@@ -31,8 +31,10 @@ MAY = {
     "window/desktop/sound": MODEL,
     "window/desktop/input": MODEL + " window/desktop/painting",
     "window/desktop/speech": MODEL + " window/desktop/painting window/desktop/input",
-    "window/desktop/view": MODEL + " window/desktop/painting window/desktop/input window/desktop/speech",
-    "window/desktop": MODEL + " window/script window/desktop/painting window/desktop/sound window/desktop/input"
+    "window/desktop/results": MODEL + " history window/desktop/painting",
+    "window/desktop/view": MODEL + " history window/desktop/painting window/desktop/input window/desktop/speech"
+                                   " window/desktop/results",
+    "window/desktop": MODEL + " history window/script window/desktop/painting window/desktop/sound window/desktop/input"
                               " window/desktop/speech window/desktop/view",
 }
 TOOLKIT = re.compile(r"#include <(Q[A-Z]|Qt|SDL)")

@@ -3,6 +3,7 @@
 
 #include <fstream>
 #include <map>
+#include <numeric>
 #include <sstream>
 
 #include "suite/deal.h"
@@ -171,6 +172,10 @@ TEST(Deals, ARepeatedDealEntersNoTable) {
     SCOPED_TRACE(dealt.game);
     LowTable(dealt);
     PlayOut(dealt.driver, dealt.window());
+    const EndedGame& last = *dealt.driver.common().window->log.Last();
+    EXPECT_EQ(static_cast<int>(last.payments.size()), last.game.rounds);
+    EXPECT_EQ(std::accumulate(last.payments.begin(), last.payments.end(), 0), last.game.score);
+    EXPECT_TRUE(last.repeated);
     dealt.Begin();
     dealt.driver.Do("advance 1000\nclick " + dealt.window() + ".cmdPlay\nanswer \"Yes\"\nadvance 9000");
     dealt.driver.common().askedDeal = {};
@@ -181,6 +186,16 @@ TEST(Deals, ARepeatedDealEntersNoTable) {
     for (size_t i = 0; i < games.size(); ++i)
       EXPECT_EQ(std::pair(games[i].deal, games[i].place), expected[i]) << i;
   }
+}
+
+TEST(Deals, KnowWhatEachRoundHasPaid) {
+  Deal deal;
+  deal.Begin({5}, "Duopick");
+  deal.DeckShuffled(900);  // of the game before
+  EXPECT_EQ(deal.Payments(300), std::vector<int>{300});
+  deal.SkipDeck(52, 300);
+  deal.DeckShuffled(250);
+  EXPECT_EQ(deal.Payments(1000), (std::vector<int>{300, -50, 750}));
 }
 
 // By standard settings, whatever the player's own are; these stay as they are.

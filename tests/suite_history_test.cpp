@@ -5,6 +5,7 @@
 #include <map>
 #include <random>
 
+#include "history/comparison.h"
 #include "history/statistics.h"
 #include "tests/driver.h"
 
@@ -107,6 +108,37 @@ TEST(Statistics, AreATableForATerminal) {
             "game     limit  goal  custom  games  played-out   best  average  median  bonus  seconds\n"
             "Sumfall     90     -       0      1           1  -4200    -4200   -4200      1      250\n"
             "Sumfall     90    11       1      1           0      -        -       -      1      250\n");
+}
+
+TEST(History, AGameIsComparedWithThoseBeforeIt) {
+  PlayedGame game{.game = "Spirehold", .limit = 45, .score = 500};
+  const auto told = [&](std::vector<int> scores) {
+    std::vector<PlayedGame> history(scores.size(), game);
+    for (size_t i = 0; i < scores.size(); ++i) history[i].score = scores[i];
+    history.push_back(game);
+    for (PlayedGame other : {game, game, game}) {  // what isn't compared with it
+      history.push_back(other);
+      PlayedGame& last = history.back();
+      if (history.size() % 3 == 0) last.limit = 60;
+      if (history.size() % 3 == 1) last.custom = true;
+      if (history.size() % 3 == 2) last.end = GameEnd::GivenUp;
+    }
+    return HowItCompares(game, history);
+  };
+  EXPECT_EQ(told({}), "Your first game at 45 seconds");
+  EXPECT_EQ(told({499}), "Your best of 2 at 45 seconds");
+  EXPECT_EQ(told({500, 1}), "Your second best of 3 at 45 seconds");
+  const auto place = [&](int better) {
+    const std::string text = told(std::vector<int>(better, 501));
+    return text.substr(5, text.find(" best") - 5);
+  };
+  EXPECT_EQ(place(11) + place(12) + place(20) + place(21) + place(110), "twelfth13th21st22nd111th");
+  game.goal = 11;
+  game.custom = true;
+  EXPECT_EQ(HowItCompares(game, {}), "Your first game at 45 seconds, goal 11, own scoring");
+  EXPECT_NE(FormatGame(game).find(SettingsField(game)), std::string::npos);
+  game.end = GameEnd::GivenUp;
+  EXPECT_EQ(HowItCompares(game, {}), "");
 }
 
 // Each way in which a game ends, in every game.

@@ -48,9 +48,18 @@ struct Played {
   std::vector<std::string> told;
 };
 
-Played Play(const std::string& commands, std::optional<uint64_t> seed = 7) {
+// A line "@" calls `meanwhile`.
+Played Play(const std::string& commands, std::optional<uint64_t> seed = 7,
+            const std::function<void(modCommon&)>& meanwhile = {}) {
   TestFolder folder;
-  std::istringstream in(commands);
+  std::istringstream lines(commands);
+  modCommon* common = nullptr;
+  LiveInput input([&]() -> std::optional<std::string> {
+    for (std::string line; std::getline(lines, line); meanwhile(*common))
+      if (line != "@") return line;
+    return std::nullopt;
+  });
+  std::istream in(&input);
   std::ostringstream out;
   Told told;
   ConsoleFrontEnd console({}, in, out);
@@ -64,6 +73,7 @@ Played Play(const std::string& commands, std::optional<uint64_t> seed = 7) {
   };
   Suite suite(console.platform, {folder.Path()}, AllGames());
   recorder.Attach(suite.common);
+  common = &suite.common;
   suite.Start();
   console.Run();
   played.told = told.Lines();
@@ -248,4 +258,24 @@ TEST(Record, NoChangeMakesABetterScore) {
     EXPECT_EQ(verdict.result.score, honest) << "change " << i;
   }
   EXPECT_LT(held, 300) << "changes are noticed";
+}
+
+// The day's window is opened, and a deal begun, by a click that a front end has spoken of before.
+TEST(Records, WhatAFrontEndHasAskedForIsPlayedAgain) {
+  const Played played = Play(
+      "@\nclick frmSelect.cmdDuopick\n@\nclick frmDuopick.cmdPlay\nadvance 3000\nclick frmDuopick.cmdPlay\n"
+      "answer \"Yes\"\nadvance 9000\nclose frmDuopick\nanswer \"Yes\"\n"
+      "click frmSelect.cmdDuopick\n@\nclick frmDuopick.cmdPlay\nadvance 3000\nclick frmDuopick.cmdPlay\n"
+      "answer \"Yes\"\nadvance 9000",
+      std::nullopt, [](modCommon& common) {
+        if (common.window)
+          common.nextDeal = DealName{4711, true};
+        else
+          common.nextIsToday = true;
+      });
+  ASSERT_EQ(played.records.size(), 2u);
+  EXPECT_TRUE(played.records[0].find("nextistoday") != std::string::npos);
+  EXPECT_EQ(played.results[0].deal, DealOfTheDay("2000-01-01", "Duopick"));
+  EXPECT_EQ(played.results[1].deal, 4711);
+  for (const std::string& text : played.records) EXPECT_EQ(VerdictOn(text).substr(0, 6), "holds ");
 }

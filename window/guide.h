@@ -54,6 +54,26 @@ struct Note {
   friend bool operator==(const Note&, const Note&) = default;
 };
 
+// What there is to know of the games of a window beyond its board.
+struct GameFacts {
+  std::string name;           // "Sumfall"
+  bool inProgress = false;    // a game is
+  int deal = 0;               // of it, or of the one that has ended last here; 0 for none
+  bool repeated = false;      // that deal was asked for
+  int next = 0;               // the deal that all games here were asked to play; 0 if none was
+  std::string day;            // "2026-11-21" where that is the deal of a day
+  std::string last;           // the history's line of the game that has ended last here, "" before
+  std::vector<int> payments;  // of the rounds of that one
+
+  friend bool operator==(const GameFacts&, const GameFacts&) = default;
+};
+
+// What opens the window of a game, and how that is called.
+struct GameDoor {
+  Control* button;
+  std::string name;  // "Sumfall"
+};
+
 class Guide {
  public:
   virtual ~Guide() = default;
@@ -109,6 +129,17 @@ class Guide {
   virtual int Breadth() const { return 0; }
   // Whether the window comes back where the player has left it.
   virtual bool KeepsPlace() const { return false; }
+  // Of a window in which games are played; nothing for any other.
+  virtual std::optional<GameFacts> Game() const { return std::nullopt; }
+  // What is clicked on to begin a game, while none is in progress; null where nothing is.
+  virtual Control* Play() const { return nullptr; }
+  // The menu in which a player looks for that; null for none.
+  virtual const Menu* PlayMenu() const { return nullptr; }
+  // The next game that is begun plays that deal.
+  virtual void AskForDeal(int /*number*/) {}
+  // What opens games from here; and the next one plays the deal of the day.
+  virtual std::vector<GameDoor> Doors() const { return {}; }
+  virtual void AskForToday() {}
 
  protected:
   // All places of the board, whether they show or not.

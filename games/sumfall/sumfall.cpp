@@ -160,7 +160,7 @@ void frmSumfall::Play() {
   bool ready = true;
   if (ReplayPending) {
     for (int i = 1; i <= UpperBound(common.Deck); ++i) common.Deck[i] = Round1Deck.at(i);
-    common.deal.SkipDeck(UpperBound(common.Deck));
+    common.SkipDeck();
   } else {
     ready = CreateSumfallDeck() && common.ShuffleDeck();
   }
@@ -287,7 +287,7 @@ void frmSumfall::InitRound() {
   const CardCodes& stored = RoundDeck(CurrentRound);
   if (ReplayPending && stored.size() > 1 && !stored[1].empty()) {
     common.Deck = stored;
-    common.deal.SkipDeck(UpperBound(common.Deck));
+    common.SkipDeck();
   } else {
     common.ShuffleDeck();
   }

@@ -13,6 +13,7 @@
 #include <iostream>
 #include <utility>
 
+#include "history/history.h"
 #include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/lettering.h"
 #include "window/desktop/painting/style.h"
@@ -353,7 +354,13 @@ void DesktopFrontEnd::BoxGone(const MessageBox& box) {
 QMessageBox* DesktopFrontEnd::StandingBox() const { return boxes_.empty() ? nullptr : boxes_.back(); }
 
 void DesktopFrontEnd::FormLoaded(Form& form) {
-  const Desk desk{*this, looks, paintbox, access_, [this] { Painted(); }, by_ == Operator::Player};
+  const Desk desk{*this,
+                  looks,
+                  paintbox,
+                  access_,
+                  [this] { Painted(); },
+                  folders_.own / kHistoryFile,
+                  by_ == Operator::Player};
   windows_.Add(form, *new FormWindow(form, guides ? guides(form) : nullptr, desk));
 }
 

@@ -15,6 +15,7 @@
 #include "window/desktop/painting/notes.h"
 #include "window/desktop/painting/room.h"
 #include "window/desktop/painting/style.h"
+#include "window/desktop/results/remarks.h"
 #include "window/desktop/view/keys_window.h"
 #include "window/desktop/view/looks.h"
 #include "window/desktop/view/native.h"
@@ -42,13 +43,14 @@ class DrawnIcon : public QIconEngine {
 
 }  // namespace
 
-Comfort::Comfort(Canvas& canvas, Deeds& deeds, Looks& looks, Guide& guide)
+Comfort::Comfort(Canvas& canvas, Deeds& deeds, Looks& looks, Guide& guide, std::filesystem::path history)
     : canvas_(canvas),
       window_(*canvas.parentWidget()),
       form_(canvas.form),
       deeds_(deeds),
       looks_(looks),
-      guide_(guide) {
+      guide_(guide),
+      history_(std::move(history)) {
   for (const auto& [control, widget] : canvas.widgets)
     ApplyToolTip(*widget, static_cast<const Visual&>(*control)),
         ApplyPicture(*widget, static_cast<const Visual&>(*control));
@@ -170,9 +172,10 @@ std::string Comfort::InTwoLines(std::string text) {
   return text;
 }
 
-// Below the place that was told, or above it; where there is less room, in two lines.
-void Comfort::PlaceSheet(Note& sheet) const {
-  const std::vector<QRect> taken = Taken(canvas_, true);
+// Below the place that was told, or above it; where there is less room, in two lines, or anywhere near.
+void Comfort::PlaceSheet(Note& sheet, const std::vector<Note>& others) const {
+  std::vector<QRect> taken = Taken(canvas_, true);
+  for (const Note& other : others) taken.push_back(NoteRect(other));
   const int top = sheet.top;
   for (int lines = 3; lines > 1; --lines) {
     if (lines == 2) sheet.text = InTwoLines(sheet.text);
@@ -185,26 +188,46 @@ void Comfort::PlaceSheet(Note& sheet) const {
         if (place >= 0 && std::ranges::none_of(taken, covers)) return;
       }
   }
-  sheet.top = top + sheet.height - NoteRect(sheet).height() * 15;
+  const QRect area = NoteRect(sheet),
+              panel(Pixels(sheet.left), Pixels(top), Pixels(sheet.width), Pixels(sheet.height));
+  const QRect room = FindRoom(canvas_, area.size(), panel.center(), taken);
+  if (room.isNull()) {
+    sheet.top = top + sheet.height - area.height() * 15;
+  } else {
+    sheet.left = room.center().x() * 15 - sheet.width / 2;
+    sheet.top = room.top() * 15;
+  }
+}
+
+std::string Comfort::Remark() {
+  const auto facts = guide_.Game();
+  if (!facts) return "";
+  if (facts_ != *facts) remark_ = RemarkOn(*facts, history_);
+  facts_ = *facts;
+  return remark_;
+}
+
+// A sheet by the splash panel, while that shows; none without a text.
+bool Comfort::AddSheet(const std::string& text, std::vector<Note>& notes) const {
+  std::optional<Note> sheet = guide_.FirstStepsPlace();
+  if (!sheet || text.empty()) return sheet.has_value();
+  sheet->text = text;
+  PlaceSheet(*sheet, notes);
+  notes.push_back(std::move(*sheet));
+  return true;
 }
 
 // The first steps are read once a game has been played behind them.
 void Comfort::ShowNotes() {
   std::vector<Note> notes = guide_.Notes();
   if (const QString name = window_.objectName(); !looks_.Now().seen.contains(name)) {
-    std::optional<Note> sheet = guide_.FirstStepsPlace();
-    if (sheet) {
-      for (const std::string& line : guide_.FirstSteps())
-        sheet->text += (sheet->text.empty() ? "" : "\n") + line;
-      if (!sheet->text.empty()) {
-        PlaceSheet(*sheet);
-        notes.push_back(std::move(*sheet));
-      }
-    } else if (showsSteps_) {
-      looks_.Alter([&](View& view) { view.seen << name; });
-    }
-    showsSteps_ = sheet.has_value();
+    std::string steps;
+    for (const std::string& line : guide_.FirstSteps()) steps += (steps.empty() ? "" : "\n") + line;
+    const bool shows = AddSheet(steps, notes);
+    if (!shows && showsSteps_) looks_.Alter([&](View& view) { view.seen << name; });
+    showsSteps_ = shows;
   }
+  if (guide_.FirstStepsPlace()) AddSheet(Remark(), notes);
   if (const CommandButton* button = guide_.WayOut()) CallFor(*button, notes);
   canvas_.SetNotes(std::move(notes));
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QRect>
+#include <filesystem>
 
 #include "window/guide.h"
 
@@ -15,7 +16,8 @@ class QWidget;
 
 class Comfort {
  public:
-  Comfort(Canvas& canvas, Deeds& deeds, Looks& looks, Guide& guide);
+  // `history` is the file of the games played so far.
+  Comfort(Canvas& canvas, Deeds& deeds, Looks& looks, Guide& guide, std::filesystem::path history);
 
   // The window is about to be shown, has been shown, or is no longer seen.
   void BeforeShow();
@@ -36,7 +38,10 @@ class Comfort {
   void OfferHelp();
   void ShowNotes();
   static std::string InTwoLines(std::string text);
-  void PlaceSheet(Note& sheet) const;
+  void PlaceSheet(Note& sheet, const std::vector<Note>& others) const;
+  bool AddSheet(const std::string& text, std::vector<Note>& notes) const;
+  // What is to be said of the last game, while there is nothing else to see.
+  std::string Remark();
   // The player is told that nothing is left but this button.
   void CallFor(const CommandButton& button, std::vector<Note>& notes) const;
   void OfferAgain();
@@ -50,5 +55,8 @@ class Comfort {
   Guide& guide_;
   QPushButton* help_ = nullptr;
   std::string written_;  // in the box that is offered again
+  const std::filesystem::path history_;
+  GameFacts facts_;  // when the remark was made
+  std::string remark_;
   bool shown_ = false, showsSteps_ = false;
 };

@@ -16,6 +16,7 @@
 #include "window/desktop/painting/canvas.h"
 #include "window/desktop/speech/access.h"
 #include "window/desktop/view/comfort.h"
+#include "window/desktop/view/deals.h"
 #include "window/desktop/view/looks.h"
 #include "window/desktop/view/managed.h"
 #include "window/desktop/view/menus.h"
@@ -37,6 +38,7 @@ FormWindow::FormWindow(Form& form, std::unique_ptr<Guide> guide, const Desk& des
   MakeCanvas();
   menus_ = new Menus(form, guide_.get(), desk.deeds, *this);
   if (desk.hasPlayer) MakeViewMenu();
+  if (desk.hasPlayer && guide_) new DealEntries(form, *guide_, desk.deeds, *menus_, *this);
   for (Control* control : form.Controls()) {
     if (control->kind == Control::Kind::StatusBar) MakeStatusBar(static_cast<StatusBar&>(*control));
     if (!IsNative(control->kind)) continue;
@@ -46,7 +48,7 @@ FormWindow::FormWindow(Form& form, std::unique_ptr<Guide> guide, const Desk& des
     canvas_->widgets[control] = widget;
   }
   if (guide_) {
-    comfort_ = std::make_unique<Comfort>(*canvas_, desk.deeds, desk.looks, *guide_);
+    comfort_ = std::make_unique<Comfort>(*canvas_, desk.deeds, desk.looks, *guide_, desk.history);
     if (!guide_->Keys().empty()) {
       keyboard_ = new Keyboard(*canvas_, desk.deeds, *guide_);
       drag_ = new Drag(*canvas_, desk.deeds, *guide_);

@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -28,6 +29,7 @@ struct Desk {
   Paintbox& paintbox;
   Access& ears;
   std::function<void()> painted;  // a board has been
+  std::filesystem::path history;  // the file
   // Whether a player moves the windows, and the pointer over them; a script's stay as the games place them.
   bool hasPlayer = true;
 };

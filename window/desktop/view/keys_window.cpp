@@ -3,15 +3,14 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QHeaderView>
-#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QTableWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "window/desktop/input/deeds.h"
 #include "window/desktop/painting/style.h"
+#include "window/desktop/view/aside.h"
 
 namespace {
 
@@ -77,21 +76,10 @@ std::vector<KeyRow> RowsOf(const Form& form, const Guide& guide) {
 
 void ShowKeys(Form& form, const Guide& guide, Deeds& deeds, QWidget& window) {
   const std::vector<KeyRow> rows = RowsOf(form, guide);
-  // Presses Pause if the game stands on the other side of it; tells whether it has.
-  const auto setPaused = [&guide](bool paused) {
-    Control* const pause = guide.Pause();
-    if (!pause || guide.Paused() == paused || !player::WhyNot(*pause).empty()) return false;
-    player::Click(*pause);
-    return true;
-  };
-  const bool pausedIt = setPaused(true);
-
   auto* dialog = new QDialog(&window);
   dialog->setObjectName("frmKeys");
   style::SetZoom(*dialog, style::ZoomOf(&window));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setWindowTitle(guide.IsChoice() ? "Help" : "Keys");
-  dialog->setWindowModality(Qt::ApplicationModal);
   auto* table = MakeTable(rows, dialog);
   table->setMinimumSize(SizeFor(*table, *window.screen()));
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, dialog);
@@ -101,13 +89,7 @@ void ShowKeys(Form& form, const Guide& guide, Deeds& deeds, QWidget& window) {
   auto* layout = new QVBoxLayout(dialog);
   layout->addWidget(table);
   layout->addWidget(buttons);
-  QObject::connect(dialog, &QDialog::finished, &window, [&deeds, &form, &window, pausedIt, setPaused] {
-    if (!deeds.Knows(form)) return;
-    window.activateWindow();
-    if (pausedIt) deeds.Deliver(form, [setPaused] { setPaused(false); });
-  });
-  dialog->show();
-  dialog->activateWindow();
+  ShowAside(*dialog, form, guide, deeds, window);
   if (table->rowCount() > 0) table->setCurrentCell(0, 0);
   table->setFocus();
 }
