@@ -5,6 +5,8 @@ play_packages="g++ cmake ninja-build qt6-base-dev qt6-svg-dev|libqt6svg6-dev lib
   nlohmann-json3-dev pkg-config|pkgconf qt6-qpa-plugins fonts-dejavu-core fonts-open-sans timgm6mb-soundfont"
 check_packages="$play_packages clang libclang-rt-dev llvm clang-format libgtest-dev libbenchmark-dev python3 xvfb xauth
   dbus-daemon at-spi2-core"
+web_packages="cmake ninja-build clang-22 lld-22 llvm libc++-22-dev-wasm32 libc++abi-22-dev-wasm32 libclang-rt-22-dev-wasm32 wasi-libc
+  nlohmann-json3-dev python3 python3-fonttools python3-brotli opus-tools fonts-open-sans"
 package_packages="$play_packages debhelper dpkg-dev"
 
 # Prints those of the named packages that aren't installed. Asks the local list only: every start comes through here.

@@ -1,0 +1,38 @@
+// The address names the game, and the way back leads to the selector.
+import { send } from './events.js'
+import { windows } from './windows.js'
+
+const select = 'frmSelect'
+const nameOf = window => window.name.slice(3).toLowerCase()
+const shownGame = () => [...windows.values()].find(each => each.shown && !each.modal && each.name !== select)
+
+// What the page was opened with: a game as on its button, or ''.
+export function asked (games) {
+  const name = decodeURIComponent(location.hash.slice(1)).toLowerCase()
+  return games.find(each => each.toLowerCase() === name) ?? ''
+}
+
+export function followWindows () {
+  const game = shownGame()
+  const name = game ? `#${nameOf(game)}` : ''
+  if (name === location.hash) return
+  const url = name || location.pathname + location.search
+  if (name && location.hash === '') history.pushState({ game: true }, '', url)
+  else if (!name && history.state?.game) history.back()
+  else history.replaceState(null, '', url)
+}
+
+// Back: the window is closed as by its close box, which may ask; where the player stays, so does the address.
+addEventListener('popstate', () => {
+  const game = shownGame()
+  if (game && location.hash === '') {
+    history.pushState({ game: true }, '', `#${nameOf(game)}`)
+    send(`close ${game.id}`)
+    return
+  }
+  if (game) return
+  const selector = [...windows.values()].find(each => each.shown && each.name === select)
+  const wanted = location.hash.slice(1).toLowerCase()
+  const button = selector && [...selector.controls.values()].find(each => each.name.toLowerCase() === `cmd${wanted}`)
+  if (button) send(`click ${button.id}`)
+})

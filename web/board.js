@@ -1,0 +1,159 @@
+// The board of a window: what lies under the pointer, what a press means, what a voice tells of the cards, and the gold cursor.
+import { kinds, make, plain } from './controls.js'
+import { sizeOf } from './pictures.js'
+import { isBusy, send, takeAsHurry } from './events.js'
+
+const coarse = matchMedia('(pointer: coarse)')
+
+let keysUsed = false // last, and not the mouse
+export function useKeys (used) {
+  if (keysUsed === used) return
+  keysUsed = used
+  document.documentElement.classList.toggle('keys', used)
+}
+
+const lets = control => {
+  if (control.kind === kinds.image) return false
+  if (control.kind === kinds.frame) return !control.panel && !control.clicks && !control.moves
+  return !control.clicks && !control.moves
+}
+
+// The control at a place of the page. A place without a card shows what lies beneath it, and the player means what shows.
+export function controlAt (window, x, y) {
+  let empty = null
+  for (const element of document.elementsFromPoint(x, y)) {
+    const part = element.closest('.control')
+    const control = part?.control
+    if (!control || control.window !== window || lets(control)) continue
+    if (control.kind !== kinds.image || control.picture > 0) return control.kind === kinds.frame && empty ? empty : control
+    empty ??= control
+  }
+  return empty
+}
+
+// A finger is broader than a card's edge: the nearest place that can be played wins.
+function tappedAt (window, x, y) {
+  const exact = controlAt(window, x, y)
+  const spots = window.guide?.spots ?? []
+  const playable = spots.filter(([, , flags]) => flags & 1).map(([id]) => window.controls.get(id))
+  if (!coarse.matches || (exact && playable.includes(exact))) return exact
+  const reach = 22 // pixels of the page
+  let best = null
+  let least = reach
+  for (const control of playable) {
+    const rect = control.element.getBoundingClientRect()
+    const far = Math.hypot(Math.max(rect.left - x, 0, x - rect.right), Math.max(rect.top - y, 0, y - rect.bottom))
+    if (far < least) [best, least] = [control, far]
+  }
+  return best ?? exact
+}
+
+export function listenOnBoard (window) {
+  const { board } = window
+  if (board.dataset.heard) return
+  board.dataset.heard = 'yes'
+  let over = null
+  board.addEventListener('pointerdown', event => {
+    useKeys(false)
+    if (event.button !== 0 || event.target.closest('button, input, textarea, select, label')) return
+    const control = tappedAt(window, event.clientX, event.clientY)
+    if (!control) return
+    event.preventDefault()
+    pressed(window, control, event)
+  })
+  board.addEventListener('pointermove', event => {
+    const control = controlAt(window, event.clientX, event.clientY)
+    if (control !== over) {
+      over = control
+      if (control?.moves && !isBusy()) send(`over ${control.id}`)
+    }
+    board.style.cursor = pointerOf(window, control)
+  })
+  board.addEventListener('contextmenu', event => { if (coarse.matches) event.preventDefault() })
+}
+
+function pointerOf (window, control) {
+  if (window.pointer === 11 || control?.pointer === 11) return 'wait'
+  return control?.pointer === 99 ? 'pointer' : ''
+}
+
+let last = { control: null, at: 0 }
+
+function pressed (window, control, event) {
+  const now = event.timeStamp
+  const twice = last.control === control && now - last.at < 400
+  last = { control, at: twice ? 0 : now }
+  send(`${twice && control.kind !== kinds.image ? 'twice' : 'click'} ${control.id}`)
+}
+
+// --- What is told of the cards -----------------------------------------------------------------------------------
+
+export function settleBoard (window) {
+  const { guide } = window
+  if (!guide || !window.shown) return
+  const known = new Set()
+  for (const [id, text, flags] of guide.spots) {
+    const control = window.controls.get(id)
+    const { element } = control
+    known.add(element)
+    if (control.kind === kinds.button) {
+      element.setAttribute('aria-label', `${plain(control.text).trim()}, ${text}`)
+      continue
+    }
+    element.setAttribute('role', 'button')
+    element.setAttribute('aria-label', text)
+    element.setAttribute('aria-pressed', String(Boolean(flags & 2)))
+    element.setAttribute('aria-disabled', String(!(flags & 1)))
+    element.tabIndex = id === guide.cursor ? 0 : -1
+  }
+  for (const element of window.board.querySelectorAll('[role=button]')) {
+    if (known.has(element)) continue
+    for (const name of ['role', 'aria-label', 'aria-pressed', 'aria-disabled', 'tabindex']) element.removeAttribute(name)
+  }
+  showRing(window)
+}
+
+function showRing (window) {
+  window.ring ??= make('div', 'ring', window.over)
+  const control = window.controls.get(window.guide.cursor)
+  window.ring.hidden = !control || !window.guide.open
+  if (window.ring.hidden) return
+  const place = placeOf(window, control)
+  Object.assign(window.ring.style, { left: `${place.left}px`, top: `${place.top}px`, width: `${place.width}px`, height: `${place.height}px` })
+  // The keyboard stays with the board, also while a card that had it goes.
+  const active = document.activeElement
+  const free = active === document.body || !active || (active.closest('.board') === window.board && active.closest('.image'))
+  if (free && control.kind === kinds.image && !document.querySelector('dialog[open]')) {
+    control.element.focus({ preventScroll: true })
+  }
+}
+
+// In pixels of the board at 100 %.
+export function placeOf (window, control) {
+  const place = { left: control.left, top: control.top, width: control.width, height: control.height }
+  if (control.kind === kinds.image && control.picture > 0) {
+    const frame = control.framed ? 2 : 0
+    const size = sizeOf(control.picture)
+    place.width = size.width + frame
+    place.height = size.height + frame
+  }
+  for (let holder = window.controls.get(control.within); holder; holder = window.controls.get(holder.within)) {
+    place.left += holder.left
+    place.top += holder.top
+  }
+  return place
+}
+
+// While a handler blocks, a press anywhere may only let it run on.
+addEventListener('pointerdown', event => {
+  if (!takeAsHurry()) return
+  event.preventDefault()
+  event.stopPropagation()
+  addEventListener('click', stop, { capture: true, once: true })
+  setTimeout(() => removeEventListener('click', stop, { capture: true }), 500)
+}, { capture: true })
+
+function stop (event) {
+  event.preventDefault()
+  event.stopPropagation()
+}

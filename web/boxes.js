@@ -1,0 +1,58 @@
+// Message boxes, and windows of the page's own.
+import { make } from './controls.js'
+import { send } from './events.js'
+
+const boxes = []
+const signs = { information: 'i', question: '?', exclamation: '!', critical: '\u00d7' }
+
+// The answer's number goes to `answered`.
+export function openBox ({ text, title, icon, answers, first }, answered) {
+  const box = make('dialog', 'box-window', document.body)
+  make('h2', '', box).textContent = title
+  box.setAttribute('aria-label', title || text)
+  const body = make('div', 'said', box)
+  if (signs[icon]) {
+    const sign = make('span', `sign ${icon}`, body)
+    sign.textContent = signs[icon]
+    sign.setAttribute('aria-hidden', 'true')
+  }
+  const words = make('p', '', body)
+  words.textContent = text.replace(/\r\n?/g, '\n')
+  words.id = `said${boxes.length}`
+  box.setAttribute('aria-describedby', words.id)
+  const row = make('div', 'answers', box)
+  answers.forEach((answer, i) => {
+    const button = make('button', '', row)
+    button.type = 'button'
+    button.textContent = answer
+    button.dataset.key = answer[0].toUpperCase()
+    button.addEventListener('click', () => answered(i))
+  })
+  box.addEventListener('cancel', event => {
+    event.preventDefault()
+    answered(answers.length - 1)
+  })
+  box.showModal()
+  row.children[first]?.focus()
+  return box
+}
+
+export function showBox (told) {
+  boxes.push(openBox(told, answer => send(`answer ${answer}`)))
+}
+
+export function hideBox () {
+  const box = boxes.pop()
+  box?.close()
+  box?.remove()
+}
+
+export const boxStands = () => boxes.length > 0
+
+// Of the page itself, where the program isn't asked.
+export function tell (title, text) {
+  const box = openBox({ title, text, icon: 'information', answers: ['OK'], first: 0 }, () => {
+    box.close()
+    box.remove()
+  })
+}

@@ -1,0 +1,51 @@
+// All of the player's files as one, and back: an archive that any system opens, whose files are those of the desktop's folder.
+import { tell } from './boxes.js'
+import * as storage from './storage.js'
+import { pack, unpack } from './archive.js'
+
+const folder = '/card-haven/'
+// What the suite keeps: settings, tables, saved games, lists.
+const isKept = name => /^[^/\\]+\.(ini|txt|sfl|csv|deal|json)$/i.test(name)
+const largest = 1 << 20
+
+export function keepCopy () {
+  const files = storage.names().filter(path => path.startsWith(folder))
+    .map(path => [path.slice(folder.length), Uint8Array.from(storage.read(path), letter => letter.charCodeAt(0))])
+  if (!files.length) return tell('Card Haven', 'There is nothing to keep yet.')
+  const link = document.createElement('a')
+  link.href = URL.createObjectURL(new Blob([pack(files)], { type: 'application/zip' }))
+  link.download = 'card-haven.zip'
+  link.click()
+  setTimeout(() => URL.revokeObjectURL(link.href), 60000)
+}
+
+export function bringBack () {
+  const field = document.createElement('input')
+  field.type = 'file'
+  field.multiple = true
+  field.addEventListener('change', () => take([...field.files]))
+  field.click()
+}
+
+// The copy's archive, or single files of the desktop's folder.
+async function take (chosen) {
+  try {
+    const files = []
+    for (const file of chosen) {
+      const bytes = new Uint8Array(await file.arrayBuffer())
+      files.push(...(/\.zip$/i.test(file.name) ? await unpack(bytes) : [[file.name, bytes]]))
+    }
+    const good = files.map(([name, bytes]) => [name.split('/').at(-1), bytes])
+      .filter(([name, bytes]) => isKept(name) && bytes.length <= largest)
+    if (!good.length) return tell('Card Haven', 'There are no files of Card Haven in it.')
+    for (const [name, bytes] of good) {
+      const text = Array.from(bytes, byte => String.fromCharCode(byte)).join('')
+      if (!storage.write(folder + name, text)) return tell('Card Haven', `The browser has no room for ${name}.`)
+    }
+    // What is open has read its files already.
+    location.replace(location.pathname + location.search)
+  } catch (error) {
+    tell('Card Haven', `It can't be read: ${error.message}`)
+  }
+}
+

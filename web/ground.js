@@ -1,0 +1,100 @@
+// What letters on a board stand on, and so in which colour they are read: what is announced brings a plate, what has a colour
+// a tag; plain words lie on the cloth itself.
+import { baize, black, box, css, fromTold, isNeutral, lettersOn, panel, paper, strong } from './colours.js'
+import { kinds } from './controls.js'
+import { view } from './view.js'
+
+const large = 14 // points
+
+const colourOf = told => told === 0 || told === 0xffffff ? box : fromTold(told) // plain white and black stand for paper
+const contains = (rect, x, y) => rect.left <= x && x < rect.left + rect.width && rect.top <= y && y < rect.top + rect.height
+
+function rectOf (window, control) {
+  const rect = { left: control.left, top: control.top + (control.lower ?? 0), width: control.width, height: control.height }
+  for (let holder = window.controls.get(control.within); holder; holder = window.controls.get(holder.within)) {
+    rect.left += holder.left
+    rect.top += holder.top
+  }
+  return rect
+}
+
+function isShown (window, control) {
+  for (let each = control; each; each = window.controls.get(each.within)) if (each.hidden) return false
+  return true
+}
+
+const overlay = control => [kinds.frame, kinds.surface, kinds.progress].includes(control.kind)
+
+// Where the letters of a label stand within it.
+function lettersOf (label, rect) {
+  const { letters } = label
+  const width = letters.offsetWidth
+  const height = letters.offsetHeight
+  const left = rect.left + (label.align === 1 ? rect.width - width : label.align === 2 ? (rect.width - width) / 2 : 0)
+  return { left, top: rect.top, width, height }
+}
+
+const meet = (a, b) => a.left < b.left + b.width && b.left < a.left + a.width && a.top < b.top + b.height && b.top < a.top + a.height
+
+function groundOf (label, letters, below) {
+  const x = letters.left + letters.width / 2
+  const y = letters.top + letters.height / 2
+  for (const { control, rect } of below) {
+    if (control.kind === kinds.image && control.picture > 0) {
+      if (meet(letters, rect)) return { kind: 'picture', colour: box }
+      continue
+    }
+    if (!contains(rect, x, y)) continue
+    if (control.kind === kinds.surface) return { kind: 'picture', colour: box }
+    if (control.kind === kinds.frame) return { kind: 'paper', colour: control.panel ? panel : box }
+    if (control.kind === kinds.label && control.back !== undefined) return { kind: 'paper', colour: colourOf(control.back) }
+    if (control.kind === kinds.shape && (control.sunken || control.raised)) return { kind: 'paper', colour: box }
+  }
+  return label.window.isBoard ? { kind: 'cloth', colour: baize } : { kind: 'paper', colour: paper }
+}
+
+// Sees to all labels of a window.
+export function layGround (window) {
+  const all = []
+  for (const control of window.controls.values()) {
+    if (control.left === undefined || !isShown(window, control)) continue
+    let depth = 0
+    for (let holder = window.controls.get(control.within); holder; holder = window.controls.get(holder.within)) ++depth
+    all.push({ control, rect: rectOf(window, control), order: [depth, Number(overlay(control)), control.z] })
+  }
+  all.sort((a, b) => a.order[0] - b.order[0] || a.order[1] - b.order[1] || a.order[2] - b.order[2])
+  // A group in which texts stand has paper under them; cards and buttons alone lie on the cloth.
+  for (const { control } of all.filter(each => each.control.kind === kinds.frame)) {
+    control.element.classList.toggle('papered', [...window.controls.values()].some(each =>
+      each.within === control.id && ![kinds.button, kinds.image].includes(each.kind)))
+  }
+  all.forEach((each, place) => {
+    const label = each.control
+    if (label.kind !== kinds.label) return
+    const below = all.slice(0, place).reverse()
+    const letters = lettersOf(label, each.rect)
+    const told = fromTold(label.remark ? 0 : label.colour)
+    const high = view.highContrast
+    const classes = label.element.classList
+    classes.remove('announced', 'tagged', 'edged')
+    let ground = box
+    if (label.back !== undefined) {
+      ground = colourOf(label.back)
+      label.element.style.background = high ? css(black) : css(ground)
+    } else {
+      label.element.style.background = ''
+      const found = groundOf(label, letters, below)
+      if (label.points >= large && window.isBoard && label.within === window.id) {
+        const plated = below.some(({ control, rect }) => control.kind === kinds.shape && control.raised &&
+          contains(rect, letters.left + letters.width / 2, letters.top + letters.height / 2))
+        if (!plated) classes.add('announced')
+      } else if (found.kind === 'paper' || (found.kind === 'cloth' && (high || isNeutral(told)))) {
+        ground = found.colour
+      } else {
+        classes.add('tagged')
+        classes.toggle('edged', found.kind === 'picture')
+      }
+    }
+    label.element.style.color = css(high ? strong(told) : lettersOn(ground, told))
+  })
+}

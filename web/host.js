@@ -1,0 +1,85 @@
+// The other side of window/web/page.h and window/system/web/host.h: every call that leaves WebAssembly.
+import * as storage from './storage.js'
+import { wait } from './events.js'
+
+const decoder = new TextDecoder()
+const encoder = new TextEncoder()
+let memory = null
+let left = new Uint8Array() // what `take` gives next
+
+const bytes = (at, length) => new Uint8Array(memory.buffer, at, length)
+const words = (at, length) => decoder.decode(bytes(at, length))
+
+// As the program's files are: a byte a letter.
+function letters (at, length) {
+  let text = ''
+  const all = bytes(at, length)
+  for (let i = 0; i < length; i += 8192) text += String.fromCharCode(...all.subarray(i, Math.min(i + 8192, length)))
+  return text
+}
+
+function leave (given) {
+  left = given
+  return left.length
+}
+export const leaveWords = text => leave(encoder.encode(text))
+const leaveLetters = text => leave(Uint8Array.from(text, letter => letter.charCodeAt(0)))
+
+// Lines are measured as they are drawn.
+const pen = document.createElement('canvas').getContext('2d')
+function breadth (text, length, pixels, bold) {
+  pen.font = `${bold ? 600 : 400} ${pixels}px ${getComputedStyle(document.body).fontFamily}`
+  return pen.measureText(words(text, length)).width
+}
+
+// Where a turn of the program may end, and the page goes on until it has an event.
+const suspends = async (milliseconds, serving) => leaveWords(await wait(milliseconds, serving))
+
+export function imports (module, tell) {
+  const host = {
+    take: to => { bytes(to, left.length).set(left) },
+    read: (path, length) => {
+      const text = storage.read(words(path, length))
+      return text === null ? -1 : leaveLetters(text)
+    },
+    write: (path, length, text, size) => Number(storage.write(words(path, length), letters(text, size))),
+    remove: (path, length) => { storage.remove(words(path, length)) },
+    names: () => leaveWords(storage.names().join('\n')),
+    input: () => 0,
+    output: () => {},
+    tell: (text, length) => { tell(JSON.parse(words(text, length))) },
+    wait: new WebAssembly.Suspending(suspends),
+    now: () => performance.now(),
+    date: at => {
+      const now = new Date()
+      new Int32Array(memory.buffer, at, 7).set([now.getFullYear(), now.getMonth() + 1, now.getDate(), now.getHours(),
+        now.getMinutes(), now.getSeconds(), -now.getTimezoneOffset()])
+    },
+    chance: () => {
+      const [high, low] = crypto.getRandomValues(new Uint32Array(2))
+      return (high & 0x1fffff) * 2 ** 32 + low
+    },
+    breadth
+  }
+  const system = {
+    random_get: (at, length) => {
+      crypto.getRandomValues(bytes(at, length))
+      return 0
+    },
+    clock_time_get: (clock, precision, at) => {
+      new DataView(memory.buffer).setBigUint64(at, BigInt(Math.round(performance.now() * 1e6)), true)
+      return 0
+    },
+    proc_exit: status => { throw new Error(`The program has stopped (${status}).`) }
+  }
+  const none = () => 52 // there is no such call here
+  const all = {}
+  for (const { module: from, name } of WebAssembly.Module.imports(module)) {
+    (all[from] ??= {})[name] = (from === 'host' ? host : system)[name] ?? none
+  }
+  return all
+}
+
+export function use (instance) {
+  memory = instance.exports.memory
+}

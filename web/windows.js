@@ -1,0 +1,288 @@
+// The windows of the suite: an element for each, as large as its form says at 100 %, and drawn larger or smaller as a whole.
+import { applyControl, createControl, fit, isNative, kinds, make, plain } from './controls.js'
+import { listenOnBoard, settleBoard } from './board.js'
+import { drawDial } from './dial.js'
+import { layGround } from './ground.js'
+import { layMenus, makeMenus } from './menus.js'
+import { showNotes } from './notes.js'
+import { send } from './events.js'
+import { view } from './view.js'
+
+const perForm = 4096 // numbers of a window's controls
+const menuHeight = 26
+const statusHeight = 24
+const titleHeight = 32
+
+export const windows = new Map()
+const desk = document.getElementById('desk')
+const strip = document.getElementById('strip')
+
+export const windowOf = id => windows.get(id - id % perForm)
+export const controlOf = id => windowOf(id)?.controls.get(id)
+
+// The window in front, of those that show.
+export function front () {
+  return [...windows.values()].filter(each => each.shown).sort((a, b) => a.order - b.order).at(-1)
+}
+
+export function createWindow (told) {
+  const window = { ...told, controls: new Map(), shown: false, order: 0, scale: 1, menus: [], panels: [] }
+  window.isBoard = told.controls.some(each => each.kind === kinds.image || each.kind === kinds.menu)
+  window.element = make('section', 'window')
+  window.element.dataset.name = told.name
+  window.board = make('div', 'board')
+  window.surface = make('div', 'surface', window.board) // what notes and rings lie above
+  window.over = make('div', 'over', window.board)
+  for (const each of told.controls) {
+    if (each.kind === kinds.menu) window.menus.push({ ...each })
+    else if (each.kind === kinds.panel) window.panels.push({ ...each })
+    else if (each.kind === kinds.status) window.status = { ...each }
+    else window.controls.set(each.id, createControl(window, each))
+  }
+  // Whoever reads or tabs through meets the buttons that digits stand for before the others.
+  for (const control of window.controls.values()) holderOf(window, control).append(control.element)
+  for (const control of window.controls.values()) applyControl(control, control)
+  nameFields(window)
+  windows.set(told.id, window)
+}
+
+function holderOf (window, control) {
+  const holder = window.controls.get(control.within)
+  return holder ? holder.inner ?? holder.element : window.surface
+}
+
+// A field is called what stands to the left of it or above.
+function nameFields (window) {
+  for (const control of window.controls.values()) {
+    if (control.kind !== kinds.text) continue
+    let best = null
+    let least = Infinity
+    for (const label of window.controls.values()) {
+      if (label.kind !== kinds.label || label.within !== control.within || !/\p{L}/u.test(label.text)) continue
+      const sameLine = Math.abs(label.top + label.height / 2 - control.top - control.height / 2) <= Math.max(label.height, control.height) / 2
+      const left = sameLine && label.left < control.left ? Math.max(0, control.left - label.left - label.width) : Infinity
+      const above = label.top < control.top && label.left < control.left + control.width && control.left < label.left + label.width
+        ? 1000 + Math.max(0, control.top - label.top - label.height)
+        : Infinity
+      const far = Math.min(left, above)
+      if (far < least) [best, least] = [label, far]
+    }
+    control.element.setAttribute('aria-label', plain(best?.text ?? window.text).trim().replace(/:$/, '') || window.text)
+  }
+}
+
+export function applyForm (told) {
+  const window = windows.get(told.id)
+  if (!window) return
+  Object.assign(window, told)
+  dress(window)
+  scaleWindows()
+}
+
+export function applyTold (told) {
+  const window = windowOf(told.id)
+  if (!window) return
+  if (told.kind === kinds.menu) {
+    Object.assign(window.menus.find(each => each.id === told.id), told)
+    window.menusChanged = true
+  } else if (told.kind === kinds.panel) {
+    Object.assign(window.panels.find(each => each.id === told.id), told)
+    showPanels(window)
+  } else if (told.kind === kinds.status) {
+    window.status = told
+    showPanels(window)
+  } else {
+    applyControl(window.controls.get(told.id), told)
+    window.changed = true
+  }
+}
+
+function dress (window) {
+  window.board.style.width = `${window.width}px`
+  window.board.style.height = `${boardHeight(window)}px`
+  window.element.classList.toggle('waiting', window.pointer === 11)
+  if (window.title) window.title.textContent = window.text
+  window.element.setAttribute('aria-label', window.text)
+  if (!window.modal && window.shown) document.title = window.text
+}
+
+const hasBar = window => window.menus.length > 0
+const hasStatus = window => window.status && !window.status.hidden
+const boardHeight = window => window.height - (hasBar(window) ? menuHeight : 0) - (hasStatus(window) ? statusHeight : 0)
+
+export function showWindow (told) {
+  const window = windows.get(told.id)
+  if (!window) return
+  window.order = Math.max(0, ...[...windows.values()].map(each => each.order)) + 1
+  if (window.shown) return
+  window.shown = true
+  window.modal = told.modal
+  const body = window.element
+  body.classList.toggle('dialog', window.modal)
+  body.classList.toggle('baize', window.isBoard)
+  body.replaceChildren()
+  if (window.modal) {
+    const bar = make('header', 'titlebar', body)
+    window.title = make('h2', '', bar)
+    const close = make('button', 'closebox', bar)
+    close.type = 'button'
+    close.textContent = '\u00d7'
+    close.setAttribute('aria-label', 'Close')
+    close.addEventListener('click', () => send(`close ${window.id}`))
+    window.dialog = make('dialog', 'modal', document.body)
+    window.dialog.setAttribute('aria-label', window.text)
+    window.dialog.append(body)
+    window.dialog.addEventListener('cancel', event => event.preventDefault())
+    window.dialog.showModal()
+  } else {
+    desk.querySelector('#word')?.remove()
+    desk.append(body)
+  }
+  window.bar = hasBar(window) ? makeMenus(window, body) : null
+  body.append(window.board)
+  if (window.status) {
+    window.statusbar = make('footer', 'statusbar', body)
+    showPanels(window)
+  }
+  listenOnBoard(window)
+  dress(window)
+  if (told.offer && view.lastName) offer(window.controls.get(told.offer))
+  window.changed = true
+  scaleWindows()
+  for (const control of window.controls.values()) if (control.kind === kinds.button) fit(control)
+}
+
+// What the box held last is in it, selected: a player who is somebody else just writes.
+function offer (control) {
+  if (control.text !== '') return
+  control.element.value = view.lastName
+  send(`type ${control.id} ${view.lastName}`)
+  setTimeout(() => control.element.select(), 0)
+}
+
+export function hideWindow (id) {
+  const window = windows.get(id)
+  if (!window?.shown) return
+  window.shown = false
+  window.dialog?.close()
+  window.dialog?.remove()
+  window.dialog = null
+  window.element.remove()
+  scaleWindows()
+}
+
+export function forgetWindow (id) {
+  hideWindow(id)
+  windows.delete(id)
+}
+
+// The last panel takes what the others leave.
+export function showPanels (window) {
+  if (!window.statusbar) return
+  window.statusbar.hidden = !hasStatus(window)
+  window.statusbar.replaceChildren(...window.panels.map((panel, i) => {
+    const element = make('span', 'panel')
+    element.textContent = panel.text === '' ? '' : window.guide?.panels[i] || panel.text
+    if (i < 2 && panel.width > 0) element.style.width = `${panel.width}px`
+    element.classList.toggle('rest', i === 2 || panel.width === 0)
+    return element
+  }))
+}
+
+// --- Size --------------------------------------------------------------------------------------------------------
+
+const tapped = 44 // pixels of what is tapped
+
+// A window in the page is as large as fits; where it would get too small to tap, its commands stand in a strip beside it.
+export function scaleWindows () {
+  const room = { width: innerWidth, height: innerHeight }
+  const window = front()
+  const main = [...windows.values()].filter(each => each.shown && !each.modal).sort((a, b) => a.order - b.order).at(-1)
+  for (const each of windows.values()) if (!each.modal && each.shown) each.element.hidden = each !== main
+  if (main) {
+    const natural = Math.min(room.width / main.width, room.height / main.height)
+    const small = hasBar(main) && (natural < 1.25 && matchMedia('(pointer: coarse)').matches || natural < 0.9)
+    layStrip(main, small, room)
+    const bar = small && main.bar ? menuHeight : 0
+    const free = { width: room.width - (small && strip.classList.contains('side') ? strip.offsetWidth : 0),
+      height: room.height - (small && !strip.classList.contains('side') ? strip.offsetHeight : 0) }
+    const fits = Math.min(free.width / main.width, free.height / (main.height - bar))
+    const most = main.sizable ? 4 : 1.6
+    setScale(main, Math.min(fits * view.zoom / 100, fits, most), free)
+  } else {
+    strip.hidden = true
+  }
+  for (const each of windows.values()) {
+    if (!each.shown || !each.modal) continue
+    const height = each.height + titleHeight
+    const fits = Math.min(room.width / (each.width + 4), room.height / (height + 4))
+    setScale(each, Math.min(fits, Math.max(1, Math.min(main?.scale ?? 1, 2))), room)
+  }
+  if (window) settleBoard(window)
+}
+
+function setScale (window, scale, room) {
+  const height = window.height + (window.modal ? titleHeight : 0) - (window.element.classList.contains('barless') ? menuHeight : 0)
+  const before = window.scale
+  window.scale = scale
+  const { style } = window.element
+  style.width = `${window.width}px`
+  style.height = `${height}px`
+  style.transform = `translate(${Math.max(0, Math.round((room.width - window.width * scale) / 2))}px, ` +
+    `${Math.max(0, Math.round((room.height - height * scale) / 2))}px) scale(${scale})`
+  if (before !== scale) for (const control of window.controls.values()) if (control.kind === kinds.surface) drawDial(control)
+}
+
+// Menus and commands as large as a finger, in the room that the board leaves.
+function layStrip (window, small, room) {
+  window.element.classList.toggle('barless', small)
+  strip.hidden = !small
+  if (!small) return strip.replaceChildren()
+  strip.classList.toggle('side', room.width > room.height)
+  const buttons = [...window.controls.values()].filter(control =>
+    control.kind === kinds.button && control.within === window.id && control.name.startsWith('cmd') && !control.element.hidden)
+  const key = [window.id, ...buttons.map(each => `${each.id}${each.text}${each.disabled}`), window.menus.map(each => each.text)].join()
+  if (strip.dataset.key === key) return
+  strip.dataset.key = key
+  strip.replaceChildren()
+  layMenus(window, make('div', 'menubar', strip))
+  const commands = make('div', 'commands', strip)
+  for (const each of buttons) {
+    const button = make('button', '', commands)
+    button.type = 'button'
+    button.textContent = plain(each.text).trim()
+    button.disabled = Boolean(each.disabled)
+    button.style.minHeight = `${tapped}px`
+    button.addEventListener('click', () => send(`click ${each.id}`))
+  }
+}
+
+// --- When a batch has been applied -------------------------------------------------------------------------------
+
+export function settle () {
+  for (const window of windows.values()) {
+    if (!window.shown) continue
+    if (window.menusChanged && window.bar) window.bar.refresh()
+    window.menusChanged = false
+    if (!window.changed) continue
+    window.changed = false
+    layGround(window)
+    showNotes(window)
+    settleBoard(window)
+    if (!strip.hidden) scaleWindows()
+  }
+}
+
+export function applyGuide (guide) {
+  const window = windowOf(guide.form)
+  if (!window) return
+  window.guideBefore = window.guide
+  window.guide = guide
+  window.changed = true
+  showPanels(window)
+}
+
+export const holdsFocus = window => Boolean(window.guide?.open && window.guide.spots.length)
+export const focusable = control => isNative(control.kind) && !control.element.hidden
+
+addEventListener('resize', scaleWindows)
