@@ -4,6 +4,7 @@ import { listenOnBoard, settleBoard } from './board.js'
 import { drawDial } from './dial.js'
 import { layGround } from './ground.js'
 import { layMenus, makeMenus } from './menus.js'
+import { showKeys } from './keys_window.js'
 import { showNotes } from './notes.js'
 import { send } from './events.js'
 import { view } from './view.js'
@@ -41,9 +42,22 @@ export function createWindow (told) {
   }
   // Whoever reads or tabs through meets the buttons that digits stand for before the others.
   for (const control of window.controls.values()) holderOf(window, control).append(control.element)
-  for (const control of window.controls.values()) applyControl(control, control)
+  for (const each of told.controls) if (window.controls.has(each.id)) applyControl(window.controls.get(each.id), each)
+  offerHelp(window)
   nameFields(window)
   windows.set(told.id, window)
+}
+
+// A window without a menu has a button for it.
+function offerHelp (window) {
+  if (!window.help) return
+  const button = make('button', 'control button help', window.surface)
+  button.type = 'button'
+  button.textContent = window.help.text
+  button.dataset.name = 'help'
+  for (const side of ['left', 'top', 'width', 'height']) button.style[side] = `${window.help[side]}px`
+  button.style.zIndex = 25000
+  button.addEventListener('click', () => showKeys(window))
 }
 
 function holderOf (window, control) {
