@@ -21,7 +21,10 @@ const deeds = {
   window: ({ window }) => createWindow(window),
   form: applyForm,
   set: ({ control }) => applyTold(control),
-  show: showWindow,
+  show: told => {
+    showWindow(told)
+    focus(controlOf(told.focus))
+  },
   hide: ({ id }) => hideWindow(id),
   gone: ({ id }) => forgetWindow(id),
   guide: ({ guide }) => applyGuide(guide),

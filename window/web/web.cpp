@@ -266,6 +266,7 @@ void WebFrontEnd::FormShown(Form& form) {
     player::Resize(form, breadth, form.Height);
   Json& json = Say("show").Member("id", id * ids::kPerForm).Member("modal", form.Modal());
   if (TextBox* const box = guide ? guide->OffersAgain() : nullptr) json.Member("offer", ids::Of(id, *box));
+  if (const Visual* const active = form.ActiveControl()) json.Member("focus", ids::Of(id, *active));
   json.Close('}');
 }
 

@@ -1,0 +1,75 @@
+// Whole games by real clicks, from the selector to the Hall of Fame.
+import assert from 'node:assert/strict'
+import { after, before, test } from 'node:test'
+import { answer, launch, look, open, press, serve, settle, until } from './page.mjs'
+
+const hostile = 'Ann <b>&amp; Bob'
+
+let browser, server
+before(async () => {
+  server = await serve()
+  browser = await launch()
+})
+after(async () => {
+  await browser?.close()
+  await server?.stop()
+})
+
+// Tables in which every score has a place.
+const openTables = () => {
+  const rows = 'Quillmark, -1000000\r\n'.repeat(10) + '\r\n'
+  for (const name of ['BlackrushHiScores', 'DuopickHighScores', 'HiScores', 'HiScores11', 'HandgridHighScores', 'SpireholdHiScores', 'TreyshiftHiScores']) {
+    localStorage.setItem(`card-haven:/card-haven/${name}.Txt`, rows)
+  }
+}
+
+// Anything that can be played, the same in each run.
+function chooser (seed) {
+  return list => {
+    seed = (seed * 1103515245 + 12345) % 2147483648
+    return list[Math.floor(seed / 2147483648 * list.length)]
+  }
+}
+
+async function playOn (page, choose) {
+  const now = await look(page)
+  if (now.box !== undefined) return answer(page, now.answers[0])
+  if (now.window === 'frmHiScoreName') {
+    await page.keyboard.type(hostile)
+    return press(page, 'cmdOK')
+  }
+  if (now.window === 'frmHighScores' || !now.buttons) return
+  const play = now.buttons.find(each => each.text === 'Play')
+  if (play) return page.mouse.click(...play.at)
+  const hits = now.buttons.filter(each => each.said && /^Hit/.test(each.text))
+  const moves = [...now.places.filter(each => each.playable), ...hits]
+  const move = choose(moves) ?? now.buttons.find(each => each.name === 'cmdTakeScore')
+  if (move?.at) await page.mouse.click(...move.at)
+}
+
+for (const game of ['Sumfall', 'Fivestack', 'Blackrush', 'Duopick', 'Spirehold', 'Handgrid', 'Treyshift']) {
+  test(`${game} is played to its end`, { timeout: 120000 }, async () => {
+    const page = await open(browser, server.address, { speed: 10, before: openTables })
+    await until(page, 'the selector', now => now.window === 'frmSelect')
+    await press(page, `cmd${game}`)
+    await until(page, 'the game', now => now.window === `frm${game}`)
+    assert.equal(new URL(page.url()).hash, `#${game.toLowerCase()}`)
+    const choose = chooser(7)
+    let moves = 0
+    for (; moves < 1500; ++moves) {
+      if ((await look(page)).window === 'frmHighScores') break
+      await playOn(page, choose)
+      await settle(page)
+    }
+    const fame = await until(page, 'the Hall of Fame', now => now.window === 'frmHighScores')
+    assert.ok(fame.text.includes(hostile), fame.text)
+    assert.equal(await page.$$eval('.window b', all => all.length), 0) // a name is text, never markup
+    await press(page, 'cmdDone')
+    await until(page, 'the game', now => now.window === `frm${game}`)
+    await press(page, 'Exit')
+    await until(page, 'the selector', now => now.window === 'frmSelect')
+    assert.equal(new URL(page.url()).hash, '')
+    assert.deepEqual(page.troubles, [])
+    await page.browserContext().close()
+  })
+}
