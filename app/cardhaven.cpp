@@ -6,6 +6,7 @@
 
 #include "app/options.h"
 #include "app/records.h"
+#include "app/watch.h"
 #include "games/games.h"
 #include "suite/catalogue.h"
 #include "suite/suite.h"
@@ -52,8 +53,8 @@ int main(int argc, char** argv) {
     else
       desktop.folders.view = ViewFile();
     desktop.keepsRecords = !options.console && !options.noRecords && options.record.empty();
-    int programAlone = 1;  // the toolkit gets no options of ours
-    return RunDesktop(programAlone, argv, desktop, Catalogue(), [&](DesktopFrontEnd& front) {
+    if (!options.watched.empty()) return Watch(argv, options, desktop);
+    return RunDesktop(argv, desktop, Catalogue(), [&](DesktopFrontEnd& front) {
       Platform& platform = front.platform;
       if (options.seed) platform.random.Seed(*options.seed);
       platform.CommandLine = options.savedGame;

@@ -131,6 +131,9 @@ void ApplyValue(const std::string& option, const std::string& value, Options& op
   } else if (option == "--record") {
     if (value.empty()) bad("a file");
     options.record = value;
+  } else if (option == "--watch") {
+    if (value.empty()) bad("a file");
+    options.watched = PathOf(value);
   } else if (!ParseScreen(value, options.screen)) {
     bad("a size in pixels written WIDTHxHEIGHT");
   }
@@ -140,7 +143,7 @@ bool TakesValue(Program program, const std::string& option) {
   constexpr std::string_view kCommon[] = {"--folder", "--seed",  "--start", "--deal",
                                           "--game",   "--today", "--record"};
   if (std::ranges::count(kCommon, option) > 0) return true;
-  return option == (program == Program::Desktop ? "--speed" : "--screen");
+  return program == Program::Desktop ? option == "--speed" || option == "--watch" : option == "--screen";
 }
 
 }  // namespace
@@ -207,7 +210,8 @@ std::string Usage(Program program) {
   if (program == Program::Desktop)
     usage +=
         " [--folder DIR] [--record FILE | --no-records] [--game GAME | --today GAME]\n"
-        "                 [--deal N] [--console [--speed N] [--seed N] [--start MOMENT]] [SAVED-GAME]\n\n"
+        "                 [--deal N] [--console [--speed N] [--seed N] [--start MOMENT]] [SAVED-GAME]\n"
+        "       cardhaven [--folder DIR] --watch FILE\n\n"
         "Seven timed card games in a window.\n\n";
   else
     usage +=
@@ -226,6 +230,7 @@ std::string Usage(Program program) {
       "  --deal N        play deal N, from 1 to 999999999; such games enter no table\n";
   if (program == Program::Desktop)
     usage +=
+        "  --watch FILE    play a record again before your eyes\n"
         "  --no-records    keep no records of games beside the tables\n"
         "  --console       take commands from standard input, under a clock of their own\n"
         "  --speed N       let that clock run N times as fast\n";

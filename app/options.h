@@ -26,6 +26,7 @@ struct Options {
   bool history = false;                  // --history
   bool statistics = false;               // --statistics, of `game` if that isn't ""
   std::string record;                    // --record, "" if it isn't given
+  std::string watched;                   // the desktop's --watch
   bool noRecords = false;                // the desktop's --no-records
   bool verify = false;                   // the console's --verify
   bool verifyTables = false;             // the console's --verify-tables

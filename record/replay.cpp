@@ -1,5 +1,7 @@
 #include "record/replay.h"
 
+#include <utility>
+
 #include "record/events.h"
 #include "suite/moments.h"
 #include "suite/suite.h"
@@ -21,15 +23,26 @@ struct Stop {
 };
 
 class Player : public FrontEnd {
+  std::unique_ptr<Platform> own_;
+
  public:
-  Player(LineReader lines, const Head& head)
-      : lines_(lines), head_(head), known_(head.folder.empty() ? kFolder : head.folder) {
+  Player(LineReader lines, const Head& head, Viewer* viewer, Platform* shown)
+      : own_(shown ? nullptr : std::make_unique<Platform>(*this)),
+        platform(shown ? *shown : *own_),
+        lines_(lines),
+        head_(head),
+        viewer_(viewer),
+        known_(head.folder.empty() ? kFolder : head.folder) {
+    platform.border = this;
+    platform.random = {};
     known_.shelf.files = {head.files.begin(), head.files.end()};
     known_.screen = head.screen;
     known_.texts = head.texts;
   }
 
-  Platform platform{*this};
+  ~Player() override { platform.border = &platform.front; }
+
+  Platform& platform;
 
   // Lets the window find what it found, and goes on until the last game has ended.
   void Run(std::vector<GameEntry> games) {
@@ -71,8 +84,10 @@ class Player : public FrontEnd {
     if (++waits_ > kMostWaits) Fail("it doesn't come to an end");
     if (wait.serving == Serving::All) return TakeEvent();
     while (kind_ != Event::Kind::None && at_ == known_.waits) platform.Enter(TakeEvent(known_.waits));
+    const long long before = known_.clock;
     known_.Passed(wait);
     TakeTime("waited", known_.waits);
+    Pass(known_.clock - before, false);
     return {};
   }
   void Entered(const Event&) override {
@@ -196,12 +211,27 @@ class Player : public FrontEnd {
     throw Stop{{Verdict::Kind::Fails, where + why, {}}};
   }
 
+  // Time passes as it did, before whoever looks on.
+  void Pass(long long milliseconds, bool isDeed) {
+    if (!viewer_) return;
+    if (!comment_.empty()) viewer_->Says(std::exchange(comment_, ""));
+    if (watch_.GameIsUnder() && !inGame_) ++game_;
+    inGame_ = watch_.GameIsUnder();
+    viewer_->Passes({milliseconds, passed_, step_++, game_, inGame_ ? common_->deal.Decks() : 0, isDeed});
+    passed_ += std::max(0ll, milliseconds);
+  }
+
   // On to the next line; what stands on this one must have been read.
   void Advance() {
     if (hasLine_) line_.End();
     known_.LineDone();
-    hasLine_ = lines_.Read(line_);
-    what_ = hasLine_ ? line_.Word() : "";
+    while ((hasLine_ = lines_.Read(line_))) {
+      what_ = line_.Word();
+      if (what_ != "say") break;
+      comment_ = line_.Word();
+      line_.End();
+    }
+    if (!hasLine_) what_ = "";
     kind_ = KindOf(what_);
     const bool counts = what_ == "told" || what_ == "waited" || what_ == "late";
     if (hasLine_ && kind_ == Event::Kind::None && !counts && what_ != "end" && what_ != "nextdeal" &&
@@ -253,8 +283,13 @@ class Player : public FrontEnd {
     current_ = ReadEvent(line_, kind_, platform, whyNot);
     current_.event.text = current_.text;
     if (!whyNot.empty()) Fail(whyNot);
+    const long long before = known_.clock;
     if (kind_ == Event::Kind::Tick) known_.clock = std::max(known_.clock, *platform.timers.NextDue());
     known_.clock += time_;
+    if (viewer_) {
+      viewer_->Comes(current_.event);
+      Pass(known_.clock - before, kind_ != Event::Kind::Tick && kind_ != Event::Kind::Foresee);
+    }
     Advance();
     if (what_ == "now") {
       known_.SetMoment(ReadMoment(line_));
@@ -284,7 +319,9 @@ class Player : public FrontEnd {
       Fail("the game ended with " + std::to_string(result->score) + " points after " +
            std::to_string(result->rounds) + " rounds, at place " + std::to_string(result->place));
     Advance();
-    if (!hasLine_) throw Stop{{Verdict::Kind::Holds, "", *result}};
+    if (hasLine_) return;
+    if (viewer_) viewer_->Ended();
+    throw Stop{{Verdict::Kind::Holds, "", *result}};
   }
 
   LineReader lines_;
@@ -296,6 +333,12 @@ class Player : public FrontEnd {
   long long time_ = 0;  // that has passed until the event
 
   const Head& head_;
+  Viewer* const viewer_;
+  std::string comment_;  // on what comes next
+  long long passed_ = 0;
+  int game_ = 0;  // the number of the one that began last
+  bool inGame_ = false;
+  int step_ = 0;
   Known known_;
   modCommon* common_ = nullptr;  // from the record's beginning on
   GameWatch watch_;
@@ -303,20 +346,43 @@ class Player : public FrontEnd {
   int waits_ = 0;
 };
 
+// How a record is to be played again.
+struct Asked {
+  Observer* trace = nullptr;
+  Viewer* viewer = nullptr;
+  Platform* platform = nullptr;
+};
+
 Verdict Judge(std::string_view text, const Head& head, LineReader lines, std::vector<GameEntry> games,
-              Observer* trace) {
+              const Asked& asked) {
   const size_t last = text.size() > 1 ? text.rfind('\n', text.size() - 2) : std::string_view::npos;
   const size_t word = last == std::string_view::npos ? last : text.find_first_not_of(' ', last + 1);
   if (word == std::string_view::npos || !text.substr(word).starts_with("end "))
     throw NoRecord{"it doesn't end with a game"};
   try {
-    Player player(lines, head);
-    player.platform.trace = trace;
+    Player player(lines, head, asked.viewer, asked.platform);
+    if (asked.trace) player.platform.trace = asked.trace;
     player.Run(std::move(games));
   } catch (const Stop& stop) {
     return stop.verdict;
   }
   return {};
+}
+
+Verdict Replay(std::string_view text, const std::string& program, std::vector<GameEntry> games,
+               const Asked& asked) {
+  try {
+    LineReader lines(text);
+    const Head head = ReadHead(lines);
+    Verdict verdict = Judge(text, head, lines, std::move(games), asked);
+    if (verdict.kind == Verdict::Kind::Fails && head.program != program)
+      return {Verdict::Kind::NoRecord,
+              "version " + head.program + " made it, which played differently (" + verdict.why + ")",
+              {}};
+    return verdict;
+  } catch (const NoRecord& why) {
+    return {Verdict::Kind::NoRecord, why.why, {}};
+  }
 }
 
 }  // namespace
@@ -330,25 +396,40 @@ std::string Verdict::Text() const {
 
 Verdict Replay(std::string_view text, const std::string& program, std::vector<GameEntry> games,
                Observer* trace) {
-  try {
-    LineReader lines(text);
-    const Head head = ReadHead(lines);
-    Verdict verdict = Judge(text, head, lines, std::move(games), trace);
-    if (verdict.kind == Verdict::Kind::Fails && head.program != program)
-      return {Verdict::Kind::NoRecord,
-              "version " + head.program + " made it, which played differently (" + verdict.why + ")",
-              {}};
-    return verdict;
-  } catch (const NoRecord& why) {
-    return {Verdict::Kind::NoRecord, why.why, {}};
-  }
+  return Replay(text, program, std::move(games), Asked{.trace = trace});
 }
 
-Verdict ReplayFile(const fs::path& path, const std::string& program, const std::vector<GameEntry>& games) {
-  std::string text;
+Verdict ReplayBefore(Viewer& viewer, std::string_view text, const std::string& program,
+                     std::vector<GameEntry> games, Platform* platform) {
+  return Replay(text, program, std::move(games), Asked{.viewer = &viewer, .platform = platform});
+}
+
+Verdict LookThrough(std::string_view text, const std::string& program, std::vector<GameEntry> games,
+                    Contents& contents) {
+  class Reader : public Viewer {
+   public:
+    explicit Reader(Contents& contents) : contents_(contents) {}
+    void Passes(const Moment& moment) override {
+      contents_.length = moment.at + std::max(0ll, moment.passes);
+      const bool isNew = contents_.rounds.empty() || contents_.rounds.back().game != moment.game ||
+                         contents_.rounds.back().number < moment.round;
+      if (moment.round > 0 && isNew)
+        contents_.rounds.push_back({moment.game, moment.round, moment.step, moment.at});
+    }
+
+    void Says(const std::string&) override { ++contents_.comments; }
+
+   private:
+    Contents& contents_;
+  } reader(contents);
+  contents = {};
+  return ReplayBefore(reader, text, program, std::move(games));
+}
+
+Verdict ReadRecord(const fs::path& path, std::string& text) {
   switch (Disk().Read(path, text)) {
     case ReadOutcome::Read:
-      return Replay(text, program, games);
+      return {};
     case ReadOutcome::Missing:
       return {Verdict::Kind::NoRecord, "there is no such file", {}};
     case ReadOutcome::Unusable:
@@ -356,6 +437,12 @@ Verdict ReplayFile(const fs::path& path, const std::string& program, const std::
     default:
       return {Verdict::Kind::NoRecord, "it can't be read", {}};
   }
+}
+
+Verdict ReplayFile(const fs::path& path, const std::string& program, const std::vector<GameEntry>& games) {
+  std::string text;
+  const Verdict unread = ReadRecord(path, text);
+  return unread.why.empty() ? Replay(text, program, games) : unread;
 }
 
 }  // namespace record

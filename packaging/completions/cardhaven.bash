@@ -13,7 +13,7 @@ _cardhaven() {
       COMPREPLY=($(compgen -W 'Sumfall Fivestack Blackrush Duopick Spirehold Handgrid Treyshift' -- "$cur"))
       return
       ;;
-    --record)
+    --record | --watch)
       compopt -o filenames
       COMPREPLY=($(compgen -f -- "$cur"))
       return
@@ -25,7 +25,7 @@ _cardhaven() {
       options='--folder --record --game --today --deal --seed --start --help --version'
       case $1 in
         *cardhaven-console) options="$options --screen --verify --verify-tables --history --statistics" ;;
-        *) options="$options --console --speed --no-records" ;;
+        *) options="$options --console --speed --no-records --watch" ;;
       esac
       COMPREPLY=($(compgen -W "$options" -- "$cur"))
       ;;

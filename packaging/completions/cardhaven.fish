@@ -1,5 +1,6 @@
 complete -c cardhaven -l folder -x -a '(__fish_complete_directories)' -d 'Where settings, high scores and saved games are kept'
 complete -c cardhaven -l record -r -d 'Write down what is played'
+complete -c cardhaven -l watch -r -d 'Play a record again before your eyes'
 complete -c cardhaven -l no-records -d 'Keep no records of games'
 complete -c cardhaven -l console -d 'Take commands from standard input'
 complete -c cardhaven -l speed -x -d 'Let the clock of --console run N times as fast'

@@ -2,6 +2,7 @@
 _arguments \
   '--folder[where settings, high scores and saved games are kept]:folder:_directories' \
   '--record[write down what is played]:file:_files' \
+  '--watch[play a record again before your eyes]:record:_files' \
   '--no-records[keep no records of games]' \
   '--console[take commands from standard input]' \
   '--speed[let the clock of --console run N times as fast]:factor:' \

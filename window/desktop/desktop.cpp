@@ -50,6 +50,12 @@ DesktopFrontEnd::DesktopFrontEnd(const DesktopFolders& folders, PictureFiles pic
 
 DesktopFrontEnd::~DesktopFrontEnd() { windows_.Clear(); }
 
+void DesktopFrontEnd::ForgetWindows() {
+  for (BoxWindow* box : boxes_) box->hide();
+  windows_.Clear();
+  paintbox.occasion.clicked = nullptr;
+}
+
 // Just after the next minute has begun.
 void DesktopFrontEnd::ShowClock() {
   constexpr int kMinute = 60'000, kJustAfter = 20;
@@ -335,6 +341,7 @@ void DesktopFrontEnd::BoxShown(const MessageBox& box) {
   auto* const window = new BoxWindow(box, guides != nullptr, windows_.Next(nullptr));
   window->answered = [this] { Wake(); };
   window->leaving = [this, window] { windows_.LeaveActive(*window); };
+  if (by_ == Operator::Recording) window->setWindowModality(Qt::NonModal);
   boxes_.push_back(window);
   windows_.PushModal(window);
   window->show();
@@ -360,7 +367,8 @@ void DesktopFrontEnd::FormLoaded(Form& form) {
                   access_,
                   [this] { Painted(); },
                   folders_.own / kHistoryFile,
-                  by_ == Operator::Player};
+                  by_ != Operator::Script,
+                  by_ == Operator::Recording};
   windows_.Add(form, *new FormWindow(form, guides ? guides(form) : nullptr, desk));
 }
 

@@ -29,7 +29,7 @@ struct DesktopFolders {
 
 class DesktopFrontEnd : public FrontEnd, public Deeds {
  public:
-  enum class Operator { Player, Script };
+  enum class Operator { Player, Script, Recording };
   DesktopFrontEnd(const DesktopFolders& folders, PictureFiles pictures, Operator by = Operator::Player);
   ~DesktopFrontEnd() override;
 
@@ -121,6 +121,13 @@ class DesktopFrontEnd : public FrontEnd, public Deeds {
   void Painted();
   bool HasPainted() const { return painted_; }
   QMessageBox* StandingBox() const;
+  // What the handler under way has changed so far is set in motion.
+  void SettleBoards();
+  // All windows and boxes go, and know nothing of their forms any more.
+  void ForgetWindows();
+  // The window in front; null if none is seen.
+  FormWindow* FrontWindow() const { return windows_.Front(); }
+  Access& Ears() { return access_; }
 
  private:
   void ApplyView();
@@ -130,8 +137,6 @@ class DesktopFrontEnd : public FrontEnd, public Deeds {
   void DeliverWaiting();
   // Whether a handler may begin. Not once what the innermost wait waits for has come: its handler goes first.
   bool MayRun() const { return !busy_ && (!waiting_ || (*waiting_)()); }
-  // What the handler under way has changed so far is set in motion.
-  void SettleBoards();
   void PlayWaveInAHurry();
   void ShowIcon();
   void ShowClock();

@@ -1,12 +1,14 @@
 #include "window/desktop/program.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
 
 #include "window/desktop/painting/style.h"
 #include "window/desktop/session.h"
+#include "window/desktop/watching.h"
 #include "window/system/leaving.h"
 
 namespace {
@@ -38,21 +40,45 @@ class NoTheme {
   QByteArray was_;
 };
 
+// The toolkit, with a screen open.
+class Screen {
+ public:
+  // It gets no options of ours.
+  explicit Screen(char** argv) : noTheme_(std::in_place), application_(one_, argv) {
+    noTheme_.reset();
+    screenIsOpen = true;
+    style::Apply(application_);
+  }
+
+  // Runs what serves the windows, and heeds signals meanwhile.
+  int Serve(DesktopFrontEnd& front, const std::function<void()>& start) {
+    leaving::SetKeeper(&front.platform.OnLeave);
+    if (heeds_) HeedSession(application_, front.platform);
+    const int status = front.Run(start);
+    leaving::SetKeeper(nullptr);
+    return status;
+  }
+
+ private:
+  struct Names {
+    Names() {
+      qInstallMessageHandler(Message);
+      QCoreApplication::setApplicationName("cardhaven");
+      QGuiApplication::setApplicationDisplayName("");
+      QGuiApplication::setDesktopFileName("card-haven");
+    }
+  } names_;
+  int one_ = 1;
+  std::optional<NoTheme> noTheme_;
+  QApplication application_;
+  const bool heeds_ = leaving::Heed();
+};
+
 }  // namespace
 
-int RunDesktop(int argc, char** argv, const DesktopOptions& options, const PictureFiles& pictures,
+int RunDesktop(char** argv, const DesktopOptions& options, const PictureFiles& pictures,
                const std::function<std::shared_ptr<void>(DesktopFrontEnd&)>& start) {
-  qInstallMessageHandler(Message);
-  QCoreApplication::setApplicationName("cardhaven");
-  QGuiApplication::setApplicationDisplayName("");
-  QGuiApplication::setDesktopFileName("card-haven");
-  std::optional<NoTheme> noTheme(std::in_place);
-  QApplication application(argc, argv);
-  noTheme.reset();
-  screenIsOpen = true;
-  style::Apply(application);
-  const bool heeds = leaving::Heed();
-
+  Screen screen(argv);
   std::unique_ptr<DesktopFrontEnd> front;
   if (options.script)
     front = std::make_unique<ScriptedDesktop>(options.folders, pictures, *options.script, std::cout);
@@ -61,9 +87,21 @@ int RunDesktop(int argc, char** argv, const DesktopOptions& options, const Pictu
   if (!options.script) front->guides = options.guides;
   front->looks.mayKeepRecords = options.keepsRecords;
   std::shared_ptr<void> kept;  // goes before the front end does
-  leaving::SetKeeper(&front->platform.OnLeave);
-  if (heeds) HeedSession(application, front->platform);
-  const int status = front->Run([&] { kept = start(*front); });
-  leaving::SetKeeper(nullptr);
-  return status;
+  return screen.Serve(*front, [&] { kept = start(*front); });
+}
+
+int RunWatching(char** argv, const DesktopOptions& options, const PictureFiles& pictures,
+                const Recording& recording, const std::function<void(WatchingDesktop&)>& once) {
+  Screen screen(argv);
+  WatchingDesktop front(options.folders, pictures, recording);
+  front.guides = options.guides;
+  return screen.Serve(front, [&] { front.Play([&] { once(front); }); });
+}
+
+void TellOfRecord(char** argv, const std::string& verdict) {
+  Screen screen(argv);
+  QMessageBox box(QMessageBox::Information, "Card Haven", "This can't be watched.");
+  box.setInformativeText(QString::fromStdString(verdict));
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
 }

@@ -15,5 +15,13 @@ struct DesktopOptions {
 
 // Opens the screen, lets `start` show the first window on its platform, and runs until the program ends. What
 // `start` returns is kept till then. The exit status; 1 with a line on standard error if there is no screen.
-int RunDesktop(int argc, char** argv, const DesktopOptions& options, const PictureFiles& pictures,
+int RunDesktop(char** argv, const DesktopOptions& options, const PictureFiles& pictures,
                const std::function<std::shared_ptr<void>(DesktopFrontEnd&)>& start);
+
+class WatchingDesktop;
+struct Recording;
+// The same for a recording, which `once` plays from its beginning.
+int RunWatching(char** argv, const DesktopOptions& options, const PictureFiles& pictures,
+                const Recording& recording, const std::function<void(WatchingDesktop&)>& once);
+// Tells whoever wanted to watch why that can't be.
+void TellOfRecord(char** argv, const std::string& verdict);

@@ -30,6 +30,10 @@ class Access : private QAccessible::ActivationObserver {
   void Refused(const Control& clicked);
   // The card that keys mean may be another one.
   void CursorMoved(Canvas& board);
+  // Says a sentence that stands elsewhere for eyes.
+  void Say(Canvas& board, const QString& text) {
+    if (QAccessible::isActive()) Announce(board, text);
+  }
   // How the game stands, for ears and eyes.
   void TellState(Canvas& board);
 

@@ -58,7 +58,7 @@ FormWindow::FormWindow(Form& form, std::unique_ptr<Guide> guide, const Desk& des
             [this] { desk_.ears.TellState(*canvas_); });
   }
   desk.ears.Opened(*canvas_);
-  setWindowTitle(QString::fromStdString(form.Caption));
+  ShowTitle();
   zoomKept_.setSingleShot(true);
   zoomKept_.setInterval(500);
   connect(&zoomKept_, &QTimer::timeout, this, [this] {
@@ -83,6 +83,11 @@ FormWindow::FormWindow(Form& form, std::unique_ptr<Guide> guide, const Desk& des
 }
 
 FormWindow::~FormWindow() { delete menus_; }
+
+void FormWindow::ShowTitle() {
+  const QString title = QString::fromStdString(form.Caption);
+  setWindowTitle(desk_.showsRecording ? title + " (recording)" : title);
+}
 
 void FormWindow::MakeCanvas() {
   canvas_ = new Canvas(form, guide_.get(), desk_.paintbox, this);
@@ -159,7 +164,7 @@ void FormWindow::ShowForm(QWidget* behind) {
                                       Qt::WindowCloseButtonHint
                                 : Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                       Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint | buttons);
-    setWindowModality(form.Modal() ? Qt::ApplicationModal : Qt::NonModal);
+    setWindowModality(form.Modal() && !desk_.showsRecording ? Qt::ApplicationModal : Qt::NonModal);
     behind_ = form.Modal() ? behind : nullptr;
     FollowOthers();
     ShowWholeBoard();
@@ -258,7 +263,7 @@ void FormWindow::RefreshWithin(const Control& container) {
 void FormWindow::ApplyForm(Prop prop) {
   switch (prop) {
     case Prop::Caption:
-      return setWindowTitle(QString::fromStdString(form.Caption));
+      return ShowTitle();
     case Prop::Left:
     case Prop::Top:
       if (isVisible() && !IsFilled() && !tellsPlace_) ApplyPlace();

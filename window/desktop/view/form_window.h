@@ -32,6 +32,8 @@ struct Desk {
   std::filesystem::path history;  // the file
   // Whether a player moves the windows, and the pointer over them; a script's stay as the games place them.
   bool hasPlayer = true;
+  // The windows show a recording: they say so, and lock no others out.
+  bool showsRecording = false;
 };
 
 class FormWindow : public QWidget, public SpokenWindow {
@@ -92,6 +94,7 @@ class FormWindow : public QWidget, public SpokenWindow {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void ShowTitle();
   void MakeCanvas();
   void MakeStatusBar(StatusBar& bar);
   void MakeViewMenu();

@@ -35,7 +35,7 @@ Looks::Looks(std::filesystem::path file, Paintbox& paintbox)
 }
 
 Looks::~Looks() {
-  if (kept_ != view_) WriteView(file_, view_, kept_, true);
+  if (keepsView && kept_ != view_) WriteView(file_, view_, kept_, true);
 }
 
 // What can't be written now goes with the next change.
@@ -46,7 +46,7 @@ void Looks::Keep() {
 void Looks::Set(const View& view) {
   if (view == view_) return;
   View before = std::exchange(view_, view);
-  if (!file_.empty() && !timer_.isActive()) timer_.start();
+  if (keepsView && !file_.empty() && !timer_.isActive()) timer_.start();
   // Where it was and what was done last changes nothing that is seen.
   before.maximised = view.maximised;
   before.selector = view.selector;

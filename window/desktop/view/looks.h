@@ -20,6 +20,8 @@ class Looks {
   std::function<void()> changed;
   // Whether this program keeps records of games at all. Set before the first window is loaded.
   bool mayKeepRecords = false;
+  // Whether the view is kept. Where a recording is shown nothing of that is the player's.
+  bool keepsView = true;
 
   const View& Now() const { return view_; }
   // Shows all windows in this way from now on, and keeps it.
