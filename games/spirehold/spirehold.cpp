@@ -134,7 +134,6 @@ void frmSpirehold::HighRunScore() {
     return;
   }
   const Long total = board.HighestRun * HighRunBonus;
-  board.NewHighRun = false;
   ShowAmount(*this, "Highest Run Bonus!", total, 1000);
   // Only what is counted has to fit the smaller type.
   if (common.CountDownScore)

@@ -46,6 +46,13 @@ QRect Canvas::ToWindow(const QRectF& area) const {
   return QRectF(area.topLeft() * zoom_, area.size() * zoom_).toAlignedRect();
 }
 
+void Canvas::Prepare() {
+  std::vector<std::pair<int, bool>> wanted;
+  for (const Placed& placed : Arrange(form, paintbox_.pictures))
+    if (placed.picture != 0) wanted.emplace_back(placed.picture, placed.framed);
+  paintbox_.pictures.Prepare(std::move(wanted), devicePixelRatioF() * zoom_);
+}
+
 void Canvas::Refresh(const Visual& control) {
   motion_.Changed(control);
   const auto known = reach_.find(&control);
@@ -137,9 +144,9 @@ void Canvas::paintEvent(QPaintEvent* event) {
   };
   paintNotes(NoteLayer::Beneath);
   for (size_t i = 0; i < scene.size(); ++i) {
-    const QRect reach = Reach(*scene[i].control, paintbox_.pictures);
-    reach_[scene[i].control] = reach;
-    if (event->region().intersects(ToWindow(reach)) && !motion_.PaintInstead(easel, scene[i]))
+    const auto [known, isNew] = reach_.try_emplace(scene[i].control);
+    if (isNew) known->second = Reach(*scene[i].control, paintbox_.pictures);
+    if (event->region().intersects(ToWindow(known->second)) && !motion_.PaintInstead(easel, scene[i]))
       PaintControl(easel, i);
   }
   paintNotes(NoteLayer::Above);

@@ -27,11 +27,24 @@ QRectF GapFor(const Easel& easel, const QRectF& rect) {
   return {};
 }
 
+// A line along the right or lower edge of a box that is let into the board: the box has an edge of its own.
+bool IsBevel(const Easel& easel, const QRectF& line) {
+  constexpr double kBeside = 2;
+  return std::ranges::any_of(easel.scene, [&](const Placed& each) {
+    if (each.control->kind != Control::Kind::Shape || !static_cast<const Shape&>(*each.control).Sunken)
+      return false;
+    const QRectF box(each.rect), around = box + QMarginsF(kBeside, kBeside, kBeside, kBeside);
+    return around.contains(line.topLeft()) && around.contains(line.bottomRight()) &&
+           (line.width() == 0 ? line.left() > box.center().x() : line.top() > box.center().y());
+  });
+}
+
 void PaintShape(const Easel& easel, const Placed& placed) {
   const auto& shape = static_cast<const Shape&>(*placed.control);
   QPainter& painter = easel.painter;
   const QColor told = ToColour(shape.BorderColor), border = easel.strong ? Strong(told) : told;
   if (shape.Width == 0 || shape.Height == 0) {
+    if (IsBevel(easel, placed.rect)) return;
     painter.setPen(QPen(border, shape.BorderWidth));
     const QPointF half(0.5, 0.5), start = placed.rect.topLeft() + half;
     painter.drawLine(start, start + QPointF(placed.rect.width(), placed.rect.height()));

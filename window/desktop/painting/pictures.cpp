@@ -5,9 +5,12 @@
 #include <QSvgRenderer>
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <system_error>
 
 #include "window/desktop/painting/screening.h"
 #include "window/desktop/painting/style.h"
+#include "window/system/folders.h"
 #include "window/system/foreign_files.h"
 #include "window/system/leaving.h"
 
@@ -18,13 +21,16 @@ namespace {
 constexpr char kFourColours[] = "four-colour";
 constexpr double kCorner = 4;  // radius of a framed card's corners
 
-// What is refused is told in one line; nothing is said of a file that isn't there.
-bool Render(const fs::path& path, QPainter& painter, const QRectF& rect) {
+enum class Origin { Player, Suite };
+
+// What is refused is told in one line; nothing is said of a file that isn't there. Ours need no screening.
+bool Render(const fs::path& path, Origin origin, QPainter& painter, const QRectF& rect) {
   std::string text, why;
   if (!ReadForeignFile(path, kLargestPicture, text, why)) return false;
-  const leaving::Held drawing;
+  std::optional<leaving::Held> drawing;
+  if (origin == Origin::Player) drawing.emplace();
   QSvgRenderer renderer;
-  if (why.empty()) why = WhyNotDraw(text);
+  if (why.empty() && origin == Origin::Player) why = WhyNotDraw(text);
   if (why.empty() && !renderer.load(QByteArray::fromStdString(text))) why = "it is no picture";
   if (why.empty()) {
     renderer.render(&painter, rect);
@@ -52,7 +58,7 @@ QImage DrawFile(const fs::path& file, QSize size) {
   image.fill(Qt::transparent);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  return Render(file, painter, QRectF(QPointF(0, 0), QSizeF(size))) ? image : QImage();
+  return Render(file, Origin::Player, painter, QRectF(QPointF(0, 0), QSizeF(size))) ? image : QImage();
 }
 
 Pictures::Pictures(PictureFiles files, fs::path own, fs::path installed)
@@ -72,7 +78,7 @@ PictureKind Pictures::KindOf(int index) const {
   return file ? file->kind : PictureKind::Other;
 }
 
-QPixmap Pictures::Get(int index, bool framed, double scale) {
+Pictures::Drawn& Pictures::DrawnAt(double scale) {
   constexpr size_t kScales = 3;  // of the selector, a game, and a pointer
   auto known = std::ranges::find(drawn_, scale, [](const auto& each) { return each.first; });
   if (known == drawn_.end()) {
@@ -81,10 +87,55 @@ QPixmap Pictures::Get(int index, bool framed, double scale) {
   } else if (known + 1 != drawn_.end()) {
     std::rotate(known, known + 1, drawn_.end());
   }
-  auto& drawn = drawn_.back().second;
-  auto found = drawn.find({index, framed});
-  if (found == drawn.end()) found = drawn.emplace(std::pair(index, framed), Draw(index, framed, scale)).first;
-  return found->second;
+  return drawn_.back().second;
+}
+
+QPixmap Pictures::Get(int index, bool framed, double scale) {
+  const auto find = [&] {
+    Drawn& drawn = DrawnAt(scale);
+    const auto found = drawn.find({index, framed});
+    return found == drawn.end() ? QPixmap() : found->second;
+  };
+  QPixmap picture = find();
+  if (picture.isNull() && prepared_.valid()) {
+    TakePrepared();
+    picture = find();
+  }
+  if (!picture.isNull()) return picture;
+  return Keep({index, framed}, scale, Draw(index, framed, scale));
+}
+
+QPixmap Pictures::Keep(std::pair<int, bool> which, double scale, QImage image) {
+  QPixmap pixmap = QPixmap::fromImage(std::move(image));
+  pixmap.setDevicePixelRatio(scale);
+  DrawnAt(scale).insert_or_assign(which, pixmap);
+  return pixmap;
+}
+
+void Pictures::Prepare(std::vector<std::pair<int, bool>> wanted, double scale) {
+  TakePrepared();
+  // A file of the player's own may be anything: it is met where the program can leave in the middle.
+  std::erase_if(wanted, [&](const auto& which) {
+    const PictureFile* file = Find(which.first);
+    return !file || DrawnAt(scale).contains(which) || folders::Exists(own_ / file->file) ||
+           folders::Exists(own_ / kFourColours / file->file);
+  });
+  if (wanted.empty()) return;
+  preparedScale_ = scale;
+  try {
+    prepared_ = std::async(std::launch::async, [this, wanted = std::move(wanted), scale] {
+      Images images;
+      for (const auto& which : wanted) images.emplace_back(which, Draw(which.first, which.second, scale));
+      return images;
+    });
+  } catch (const std::system_error&) {
+    // Then they are drawn when they are asked for.
+  }
+}
+
+void Pictures::TakePrepared() {
+  if (!prepared_.valid()) return;
+  for (auto& [which, image] : prepared_.get()) Keep(which, preparedScale_, std::move(image));
 }
 
 QImage Pictures::Other(const std::string& file, QSize size) const {
@@ -93,14 +144,16 @@ QImage Pictures::Other(const std::string& file, QSize size) const {
 }
 
 void Pictures::SetFourColours(bool four) {
+  TakePrepared();
   if (std::exchange(fourColours_, four) != four) drawn_.clear();
 }
 
 void Pictures::SetStrongEdges(bool strong) {
+  TakePrepared();
   if (std::exchange(strongEdges_, strong) != strong) drawn_.clear();
 }
 
-QPixmap Pictures::Draw(int index, bool framed, double scale) const {
+QImage Pictures::Draw(int index, bool framed, double scale) const {
   const QSize natural = Size(index);
   const QSize outer = natural + (framed ? QSize(2, 2) : QSize(0, 0));
   const QSize pixels(std::lround(outer.width() * scale), std::lround(outer.height() * scale));
@@ -114,10 +167,11 @@ QPixmap Pictures::Draw(int index, bool framed, double scale) const {
         framed ? QRectF(QPointF(1, 1), QSizeF(natural)) : QRectF(QPointF(0, 0), QSizeF(natural));
     const PictureFile* file = Find(index);
     bool drawn = false;
-    for (const fs::path& folder : {own_, installed_}) {
+    for (const Origin origin : {Origin::Player, Origin::Suite}) {
       if (!file || drawn) break;
-      if (fourColours_) drawn = Render(folder / kFourColours / file->file, painter, inner);
-      if (!drawn) drawn = Render(folder / file->file, painter, inner);
+      const fs::path& folder = origin == Origin::Player ? own_ : installed_;
+      if (fourColours_) drawn = Render(folder / kFourColours / file->file, origin, painter, inner);
+      if (!drawn) drawn = Render(folder / file->file, origin, painter, inner);
     }
     if (!drawn)
       DrawSubstitute(
@@ -141,7 +195,5 @@ QPixmap Pictures::Draw(int index, bool framed, double scale) const {
     painter.end();
     image = std::move(rounded);
   }
-  QPixmap pixmap = QPixmap::fromImage(std::move(image));
-  pixmap.setDevicePixelRatio(scale);
-  return pixmap;
+  return image;
 }
