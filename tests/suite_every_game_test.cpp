@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <map>
 #include <set>
 
 #include "suite/high_scores.h"
@@ -214,6 +215,16 @@ TEST_P(EveryGame, EndGameAsksAndNoGoesOn) {
   EXPECT_FALSE(driver.InGame() || Game().Timer1.Enabled);
   EXPECT_TRUE(Game().frmSplash.Visible && Game().Timer4.Enabled && Game().cmdPlay.Enabled);
   EXPECT_EQ(Game().cmdPlay.Caption, "&Play");
+  // Sumfall's entry replays now; Handgrid's pauses nothing.
+  static const std::map<std::string, std::string> kStay{{"frmSumfall", "mnuTakeScore"},
+                                                        {"frmHandgrid", "mnuPause"}};
+  std::string stays;
+  const auto add = [&](const auto& command) { stays += command.Enabled ? command.NameInForm() : ""; };
+  add(Game().cmdPause);
+  add(Game().mnuPause);
+  add(Game().mnuTakeScore);
+  const auto told = kStay.find(Window());
+  EXPECT_EQ(stays, told == kStay.end() ? "" : told->second);
   driver.Do(Play() + "advance 1000");
   EXPECT_TRUE(Game().standing.IsPlaying()) << "another game can be played";
   EXPECT_EQ(driver.common().CurrentScore, 0);

@@ -162,6 +162,11 @@ TEST_F(Sumfall, WithoutCountingDownTheSumsComeAtOnce) {
   EXPECT_LT(trace.find("lblCurrentElevens.Caption \"0\""), trace.find("Speed Bonus!"));
 }
 
+TEST_F(Sumfall, TheLastSecondIsPaid) {
+  driver.Do(kPlay + "advance 89000\n" + kTakeScore);
+  EXPECT_EQ(common().CurrentScore, 100);
+}
+
 TEST_F(Sumfall, TheBonusRoundIsTheLast) {
   driver.Do("click frmSumfall.mnuMusic\n" + kPlay);
   driver.clock().ElapsedSeconds = driver.clock().TimeLimit;

@@ -300,7 +300,6 @@ void frmSumfall::InitRound() {
     if (CurrentRound == kBonusRound) {
       lblCurrentRound.Caption = "Bonus";
       StartMusic();
-      ReplayPending = false;
     }
   }
   EndCount();
