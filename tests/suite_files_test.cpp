@@ -219,6 +219,25 @@ TEST(Files, WhatAKilledCopyLeftIsSwept) {
   EXPECT_TRUE(folder.Has("Busy.Ini.new-0123456789abcdef")) << "its writer lives";
 }
 
+// Folders that somebody else holds for good.
+class StuckDisk : public Disk {
+ public:
+  FolderLock Lock(const std::filesystem::path&, int patience, const std::function<bool()>&) override {
+    patiences.push_back(patience);
+    return {false, true};
+  }
+  std::vector<int> patiences;
+};
+
+TEST(Files, AStuckLockIsWaitedForAtLengthOnce) {
+  StuckDisk disk;
+  Files files("/nowhere", disk);
+  for (int i = 0; i < 2; ++i) EXPECT_FALSE(files.Append("/nowhere/History.csv", "a line", {"a head", 1000}));
+  files.Keep("/nowhere/x.Txt",
+             {[](const std::string& old) { return old; }, [](const std::string&) { return true; }});
+  EXPECT_EQ(disk.patiences, (std::vector<int>{files.patience, 100, 100}));
+}
+
 TEST(Files, AreOldOrNewAtAnyMoment) {
   TestFolder folder;
   const auto path = folder.Path() / "table.Txt";

@@ -49,6 +49,15 @@ void LeaveNotes(Disk& disk, const fs::path& path, const std::vector<FileChange>&
                    change.note, true);
 }
 
+// Who was waited for in vain isn't waited for that long again.
+FolderLock LockFolder(Disk& disk, const fs::path& folder, int patience,
+                      const std::function<bool()>& mustHurry, bool& stuck) {
+  constexpr int kShortWait = 100;
+  FolderLock lock = disk.Lock(folder, stuck ? std::min(patience, kShortWait) : patience, mustHurry);
+  if (lock.FolderIsThere()) stuck = !lock.Held();
+  return lock;
+}
+
 }  // namespace
 
 fs::path Files::PathOf(std::string_view name) const {
@@ -89,7 +98,7 @@ bool Files::Write(const fs::path& path, const std::string& text) {
 }
 
 bool Files::Append(const fs::path& path, const std::string& line, const Ledger& ledger) {
-  const FolderLock lock = disk_.Lock(disk_.TargetOf(path).parent_path(), patience, mustHurry);
+  const FolderLock lock = LockFolder(disk_, disk_.TargetOf(path).parent_path(), patience, mustHurry, stuck_);
   return (lock.Held() || Hurries()) && disk_.Append(path, line, ledger, Hurries());
 }
 
@@ -121,10 +130,8 @@ void Files::Settle(const fs::path& path) {
 std::optional<FileRefusal::What> Files::Change(const fs::path& path, std::vector<FileChange>& changes) {
   using What = FileRefusal::What;
   const fs::path folder = disk_.TargetOf(path).parent_path();
-  constexpr int kShortWait = 100;
-  const FolderLock lock = disk_.Lock(folder, stuck_ ? std::min(patience, kShortWait) : patience, mustHurry);
+  const FolderLock lock = LockFolder(disk_, folder, patience, mustHurry, stuck_);
   if (!lock.FolderIsThere()) return What::WriteFolder;
-  stuck_ = !lock.Held();
   if (stuck_ && !(Hurries() && changes.back().mayGoWithoutLock)) return What::Lock;
   if (!Hurries() && swept_.insert(folder).second) disk_.Sweep(folder);
   std::string old;
