@@ -225,7 +225,7 @@ TEST(Deals, TheFirstGameOfADayCounts) {
 }
 
 // Sumfall's Replay has the number of the game that it repeats, and its cards in rounds that weren't reached;
-// a saved game, and cards that were laid ready, have none.
+// a saved game, cards that were laid ready, and a replay with a goal that has another deck have none.
 TEST(Deals, AReplayKeepsItsNumber) {
   Dealt dealt("Sumfall", 12);
   dealt.driver.common().askedDeal = {};
@@ -244,4 +244,9 @@ TEST(Deals, AReplayKeepsItsNumber) {
   dealt.driver.common().nextDeal = DealName{12, false};
   dealt.Begin();
   EXPECT_EQ(dealt.driver.common().deal.Played().number, 0);
+  for (const auto& [entry, number] : {std::pair("mnu10", 12), std::pair("mnu13", 0)}) {
+    other.driver.Do("click frmSumfall.cmdPlay\nanswer \"Yes\"\nclick frmSumfall." + std::string(entry) +
+                    "\nclick frmSumfall.cmdTakeScore");
+    EXPECT_EQ(other.driver.common().deal.Played().number, number) << entry;
+  }
 }

@@ -410,7 +410,11 @@ void frmSumfall::mnuPlay_Click() {
 void frmSumfall::cmdTakeScore_Click(By by) {
   if (standing.CanStart()) {
     ReplayPending = true;
-    if (!common.nextDeal) common.nextDeal = common.deal.Played();
+    if (!common.nextDeal) {
+      common.nextDeal = common.deal.Played();
+      // Another goal may have another deck, of whose cards the number tells nothing.
+      if (DeckSize(DeckGoal) != DeckSize(static_cast<int>(CardGoal))) common.nextDeal->number = 0;
+    }
     cmdPlay_Click(By::Button);
   } else if (!standing.InputIsDead()) {
     TakeScore();
