@@ -9,8 +9,7 @@
 
 namespace {
 
-constexpr long long kMostElements = 50'000;  // with all repetitions
-
+constexpr long long kMostElements = 50'000;   // with all repetitions
 constexpr long long kMostPixels = 4'000'000;  // of all pictures within it
 
 // Why a picture written into the reference isn't drawn: what its bytes are counts, not what it is called, and
@@ -41,13 +40,14 @@ std::string WhyNotFollow(QStringView reference, long long& pixels) {
   return "it refers to another file";
 }
 
-// Every url(...) of a style or an attribute.
+// Every url(...) of a style or an attribute. However many end at the same place, it is looked for once.
 std::string WhyNotFollowUrls(QStringView value, long long& pixels) {
-  qsizetype at = 0;
+  qsizetype at = 0, end = 0;
   while ((at = value.indexOf(u"url(", at, Qt::CaseInsensitive)) >= 0) {
     at += 4;
-    const qsizetype end = value.indexOf(u')', at);
-    QStringView inside = value.mid(at, end < 0 ? -1 : end - at).trimmed();
+    if (end < at) end = value.indexOf(u')', at);
+    if (end < 0) end = value.size();
+    QStringView inside = value.sliced(at, end - at).trimmed();
     if (inside.startsWith(u'"') || inside.startsWith(u'\'')) inside = inside.mid(1);
     if (inside.endsWith(u'"') || inside.endsWith(u'\'')) inside.chop(1);
     if (std::string why = WhyNotFollow(inside, pixels); !why.empty()) return why;
