@@ -64,8 +64,7 @@ fs::path ProgramFolder() {
 
 bool IsKeptFile(const std::string& name) {
   const std::string known = name.substr(0, name.find(".bad"));
-  return known.ends_with(".Ini") || known.ends_with(".sfl") ||
-         (known.ends_with(".Txt") && known.find("Scores") != std::string::npos);
+  return known.ends_with(".Ini") || known.ends_with(".sfl") || IsTable(known);
 }
 
 // Earlier versions kept files beside the program. They move to where they are kept now; what is there already
@@ -270,6 +269,10 @@ std::optional<int> ReadCommandLine(Program program, int argc, char** argv, Optio
     return EXIT_SUCCESS;
   }
   return std::nullopt;
+}
+
+bool IsTable(std::string_view file) {
+  return file.ends_with(".Txt") && file.find("Scores") != std::string_view::npos;
 }
 
 fs::path FindAppPath(const Options& options) {

@@ -52,6 +52,8 @@ std::optional<int> ReadCommandLine(Program program, int argc, char** argv, Optio
 // a file named "portable"; else the player's data folder, to which files of earlier versions move. Throws
 // std::runtime_error if there is none to be had.
 std::filesystem::path FindAppPath(const Options& options);
+// Whether a file of that name in there is a table of high scores.
+bool IsTable(std::string_view file);
 // What is asked of the suite, which keeps its files in that folder.
 SuiteOptions SuiteFor(const Options& options, const std::filesystem::path& folder, Program program);
 // The folder with pictures, sounds and music; where it should be if there is none.

@@ -23,11 +23,11 @@ void RecordKeeper::Attach(modCommon& common, const SuiteOptions& suite) {
   const std::filesystem::path file = folders::Absolute(file_);
   const std::string name = file.filename().string();
   if (name.find_first_of(",\"\r\n") == std::string::npos) common.record = name;  // else a line can't tell it
-  recorder_->onGameEnd = [file](const std::string& record, const GameResult&) {
+  recorder_->onGameEnd = [file, &common](const std::string& record, const GameResult&) {
     if (record.empty())
-      std::cerr << "The game is too long for a record." << std::endl;
+      common.complain("the game is too long for a record");
     else if (Disk().Replace(file, record, true) != WriteOutcome::Written)
-      std::cerr << "The record " << file.string() << " can't be written." << std::endl;
+      common.complain("the record " + file.string() + " can't be written");
   };
 }
 
@@ -44,7 +44,7 @@ void RecordKeeper::KeepBeside(modCommon& common) {
     if (keeper_->Keep(common.record, record))
       kept_ = common.record;
     else if (!std::exchange(complained_, true))
-      std::cerr << "Records of games can't be written." << std::endl;
+      common.complain("records of games can't be written");
   };
   recorder_->onEntered = [this, &common](const TableEntry& entry) {
     if (!entry.place || kept_.empty()) return;
@@ -74,9 +74,7 @@ int VerifyTables(const std::filesystem::path& folder) {
   for (record::KeptEntry& entry : keeper.Entries()) kept[{entry.table, entry.place}] = std::move(entry);
   int status = EXIT_SUCCESS;
   std::vector<std::string> tables = Disk().Names(folder, Disk::Entries::Files);
-  std::erase_if(tables, [](const std::string& name) {
-    return !name.ends_with(".Txt") || name.find("Scores") == std::string::npos;
-  });
+  std::erase_if(tables, [](const std::string& name) { return !IsTable(name); });
   std::ranges::sort(tables);
   for (const std::string& table : tables) {
     std::string text;

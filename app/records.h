@@ -16,7 +16,6 @@ class RecordKeeper {
   void Attach(modCommon& common, const SuiteOptions& suite);
 
  private:
-  void KeepIn(const std::string& file);
   void KeepBeside(modCommon& common);
 
   std::unique_ptr<Recorder> recorder_;
