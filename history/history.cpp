@@ -4,6 +4,8 @@
 #include <array>
 #include <charconv>
 
+#include "history/deal_number.h"
+
 namespace {
 
 constexpr const char* kEnds[] = {"played", "time", "given-up", "closed"};
@@ -70,7 +72,7 @@ std::optional<PlayedGame> ParseGame(std::string_view line) {
   if (!IsMoment(ended) || name.empty() || !IsName(name, "") || !Read(limit, 0, kMost, game.limit) ||
       !Read(custom, 0, 1, marked) || !Read(rounds, 0, kMost, game.rounds) ||
       !Read(score, -kMost - 1, kMost, game.score) || !Read(place, 0, 10, game.place) ||
-      !Read(seconds, 0ll, 1ll << 40, game.seconds) || !Read(deal, 0, 999'999'999, game.deal) ||
+      !Read(seconds, 0ll, 1ll << 40, game.seconds) || !Read(deal, 0, kLastDeal, game.deal) ||
       known == std::end(kEnds) || !IsName(record, "0123456789.-_"))
     return std::nullopt;
   if (!goal.empty()) {

@@ -86,8 +86,7 @@ void PaintProgress(const Easel& easel, const Placed& placed) {
   painter.drawRoundedRect(filling, 1.5, 1.5);
 }
 
-// A group with its caption. On a board its labels stand on paper.
-// Texts have paper under them; cards and buttons alone lie on the baize itself.
+// Cards and buttons alone lie on the baize itself.
 bool HoldsTexts(const Frame& frame) {
   return std::ranges::any_of(frame.form.Controls(), [&](const Control* control) {
     return control->parent == &frame && control->kind != Control::Kind::CommandButton &&
@@ -95,10 +94,10 @@ bool HoldsTexts(const Frame& frame) {
   });
 }
 
+// A group with its caption. On a board its labels stand on paper.
 void PaintGroup(const Easel& easel, const QRectF& rect, const Frame& frame) {
-  const std::string& caption = frame.Caption;
   QPainter& painter = easel.painter;
-  const QString text = QString::fromStdString(caption);
+  const QString text = QString::fromStdString(frame.Caption);
   QFont font = style::Letters(9, easel.board);
   if (QFontMetricsF(font).horizontalAdvance(text) + 28 > rect.width()) font = style::Letters(9);
   const QFontMetricsF metrics(font);
