@@ -452,6 +452,8 @@ std::string Wave(int kind, int channels, int rate, int bits, size_t bytes) {
 
 TEST(OwnFiles, AreNoWavesThatGrowWhenTheyArePlayed) {
   TestFolder own;
+  std::string chunks;
+  for (int i = 0; i < 1000; ++i) chunks += std::string("junk\0\0\0\0", 8);
   const std::pair<const char*, std::string> cases[] = {
       {"", Wave(1, 1, 22050, 8, 100'000)},
       {"", Wave(1, 2, 44100, 16, 1'000'000)},
@@ -463,6 +465,7 @@ TEST(OwnFiles, AreNoWavesThatGrowWhenTheyArePlayed) {
       {"it is no wave", "OggS" + std::string(1000, 'x')},
       {"it is no wave", Wave(1, 1, 22050, 8, 0).insert(12, Wave(1, 1, 22050, 8, 0).substr(12, 24))},
       {"it is no wave", ""},
+      {"it is no wave", Wave(1, 1, 22050, 8, 1000).insert(12, chunks)},
       {"it is too large", Wave(1, 1, 4000, 8, 400'000)},
   };
   for (const auto& [why, text] : cases) {

@@ -23,7 +23,10 @@ std::string WhyNotPlay(const std::filesystem::path& path) {
   file.read(head, sizeof head);
   if (std::string_view(head, 4) != "RIFF" || std::string_view(head + 8, 4) != "WAVE") return kNoWave;
   unsigned rate = 0, frame = 0;
+  constexpr int kMostChunks = 1000;  // it is asked before each time the wave is played
+  int chunks = 0;
   for (char chunk[8]; file.read(chunk, sizeof chunk);) {
+    if (++chunks > kMostChunks) return kNoWave;
     const std::string_view name(chunk, 4);
     const unsigned length = Number({chunk + 4, 4});
     if (name == "data") break;
