@@ -87,6 +87,17 @@ export async function press (page, name) {
   await page.mouse.click(...button.at)
 }
 
+// An entry of a menu, both by clicks.
+export async function choose (page, menu, entry) {
+  await page.click(`.menubar [data-name=${menu}]`)
+  const at = await page.evaluate(entry => {
+    const found = [...document.querySelectorAll('.menu .entry:not(:disabled)')].find(each => each.querySelector('.caption').textContent === entry)
+    const { left, top, width, height } = found.getBoundingClientRect()
+    return [left + width / 2, top + height / 2]
+  }, entry)
+  await page.mouse.click(...at)
+}
+
 export async function answer (page, text) {
   await page.evaluate(text => [...document.querySelectorAll('dialog.box-window[open], dialog.keys-window[open]')].at(-1)
     .querySelectorAll('.answers button').forEach(each => { if (each.textContent === text) each.click() }), text)
