@@ -16,7 +16,7 @@ export function followWindows () {
   const game = shownGame()
   const name = game ? `#${nameOf(game)}` : ''
   if (name === location.hash) return
-  const url = name || location.pathname + location.search
+  const url = name || location.href.split('#')[0]
   if (name && location.hash === '') history.pushState({ game: true }, '', url)
   else if (!name && history.state?.game) history.back()
   else history.replaceState(null, '', url)

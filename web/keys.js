@@ -4,6 +4,7 @@ import { kinds } from './controls.js'
 import { isMenuOpen, takeMenuKey } from './menus.js'
 import { showKeys } from './keys_window.js'
 import { send, takeAsHurry } from './events.js'
+import { speak } from './speech.js'
 import { useKeys } from './board.js'
 import { front } from './windows.js'
 
@@ -35,9 +36,17 @@ function take (event) {
   if (takeMenuKey(event, window)) return true
   if (!window || isMenuOpen() || event.metaKey) return false
   if (event.altKey) return takeMnemonic(event, window.element)
+  if (key === 'F1' && event.shiftKey && window.guide) {
+    speak(window.guide.state)
+    return true
+  }
   const writes = target.matches?.('input:not([type=checkbox], [type=radio]), textarea, select')
   if (event.ctrlKey && !(key in arrows)) return false
   if (!writes && window.guide && takeOnBoard(event, window)) return true
+  if (key === 'F11') {
+    document.fullscreenElement ? document.exitFullscreen() : document.documentElement.requestFullscreen()
+    return true
+  }
   if (key === 'F1' && window.help) {
     showKeys(window)
     return true

@@ -215,9 +215,9 @@ export function scaleWindows () {
   for (const each of windows.values()) if (!each.modal && each.shown) each.element.hidden = each !== main
   if (main) {
     const natural = Math.min(room.width / main.width, room.height / main.height)
-    const small = hasBar(main) && (natural < 1.25 && matchMedia('(pointer: coarse)').matches || natural < 0.9)
+    const small = (hasBar(main) || main.choice) && ((natural < 1.5 && matchMedia('(pointer: coarse)').matches) || natural < 0.9)
     layStrip(main, small, room)
-    const bar = small && main.bar ? menuHeight : 0
+    const bar = small && hasBar(main) ? menuHeight : 0
     const free = { width: room.width - (small && strip.classList.contains('side') ? strip.offsetWidth : 0),
       height: room.height - (small && !strip.classList.contains('side') ? strip.offsetHeight : 0) }
     const fits = Math.min(free.width / main.width, free.height / (main.height - bar))
@@ -249,17 +249,20 @@ function setScale (window, scale, room) {
 
 // Menus and commands as large as a finger, in the room that the board leaves.
 function layStrip (window, small, room) {
-  window.element.classList.toggle('barless', small)
+  window.element.classList.toggle('barless', small && hasBar(window))
   strip.hidden = !small
   if (!small) return strip.replaceChildren()
   strip.classList.toggle('side', room.width > room.height)
   const buttons = [...window.controls.values()].filter(control =>
-    control.kind === kinds.button && control.within === window.id && control.name.startsWith('cmd') && !control.element.hidden)
+    control.kind === kinds.button && (window.choice || control.within === window.id) && !control.element.hidden)
+  // What is played with stands before what is done with the game.
+  buttons.sort((a, b) => Number(b.index !== undefined) - Number(a.index !== undefined))
   const key = [window.id, ...buttons.map(each => `${each.id}${each.text}${each.disabled}`), window.menus.map(each => each.text)].join()
   if (strip.dataset.key === key) return
   strip.dataset.key = key
   strip.replaceChildren()
-  layMenus(window, make('div', 'menubar', strip))
+  strip.classList.toggle('pairs', Boolean(window.choice))
+  if (hasBar(window)) layMenus(window, make('div', 'menubar', strip))
   const commands = make('div', 'commands', strip)
   for (const each of buttons) {
     const button = make('button', '', commands)

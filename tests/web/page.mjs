@@ -9,7 +9,7 @@ const site = process.env.CARDHAVEN_WEB_SITE ?? 'build/web/site'
 export async function serve (folder = site, port = 0) {
   const server = spawn('scripts/serve-web', [folder, String(port)], { stdio: ['ignore', 'pipe', 'inherit'] })
   const [line] = await once(server.stdout, 'data')
-  const address = /http:\S+/.exec(String(line))[0] + '/'
+  const address = /http:\S+/.exec(String(line))[0]
   return {
     address,
     stop: async () => {
@@ -96,6 +96,14 @@ export async function choose (page, menu, entry) {
     return [left + width / 2, top + height / 2]
   }, entry)
   await page.mouse.click(...at)
+}
+
+// From a game to the selector, whatever it asks.
+export async function leave (page) {
+  await press(page, 'Exit')
+  const now = await until(page, 'the selector or a question', each => each.box !== undefined || each.window === 'frmSelect')
+  if (now.box !== undefined) await answer(page, now.answers[0])
+  await until(page, 'the selector', each => each.window === 'frmSelect')
 }
 
 export async function answer (page, text) {

@@ -1,7 +1,7 @@
 // Whole games by real clicks, from the selector to the Hall of Fame.
 import assert from 'node:assert/strict'
 import { after, before, test } from 'node:test'
-import { answer, choose, launch, look, open, press, serve, settle, until } from './page.mjs'
+import { answer, choose, launch, leave, look, open, press, serve, settle, until } from './page.mjs'
 
 const hostile = 'Ann <b>&amp; Bob'
 
@@ -70,8 +70,7 @@ for (const game of games) {
     assert.equal(await page.$$eval('.window b', all => all.length), 0) // a name is text, never markup
     await press(page, 'cmdDone')
     await until(page, 'the game', now => now.window === `frm${game}`)
-    await press(page, 'Exit')
-    await until(page, 'the selector', now => now.window === 'frmSelect')
+    await leave(page)
     assert.equal(new URL(page.url()).hash, '')
     assert.deepEqual(page.troubles, [])
     await page.browserContext().close()

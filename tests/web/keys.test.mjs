@@ -1,0 +1,66 @@
+// A game of each kind by keys alone, from the selector to its end; and what axe finds wrong with what is shown.
+import assert from 'node:assert/strict'
+import { readFileSync } from 'node:fs'
+import { createRequire } from 'node:module'
+import { after, before, test } from 'node:test'
+import { launch, look, open, serve, settle, until } from './page.mjs'
+
+const axe = readFileSync(createRequire(import.meta.url).resolve('axe-core'), 'utf8')
+let browser, server
+before(async () => {
+  server = await serve()
+  browser = await launch()
+})
+after(async () => {
+  await browser?.close()
+  await server?.stop()
+})
+
+async function findings (page) {
+  await page.evaluate(axe)
+  const { violations } = await page.evaluate(() => axe.run(document, { resultTypes: ['violations'] }))
+  return violations.map(each => `${each.id}: ${each.nodes.map(node => node.html.slice(0, 200) + ' ' + node.failureSummary).slice(0, 3).join(' | ')}`)
+}
+
+const letters = { Sumfall: 'ArrowUp', Fivestack: '1', Blackrush: '2', Duopick: 'ArrowLeft', Spirehold: 'ArrowRight', Handgrid: 'ArrowDown', Treyshift: 'ArrowRight' }
+for (const [game, key] of Object.entries(letters)) {
+  test(`${game} by keys alone`, { timeout: 120000 }, async () => {
+    const page = await open(browser, server.address, { speed: 20 })
+    await until(page, 'the selector', now => now.window === 'frmSelect')
+    const said = await findings(page)
+    for (let i = 0; i < 12; ++i) {
+      if (await page.evaluate(game => document.activeElement.dataset.name === `cmd${game}`, game)) break
+      await page.keyboard.press('ArrowDown')
+    }
+    await page.keyboard.press('Enter')
+    await until(page, 'the game', now => now.window === `frm${game}`)
+    await page.keyboard.press('F2')
+    await until(page, 'the round', now => now.buttons?.some(each => each.name === 'cmdPause'))
+    said.push(...await findings(page))
+    let moves = 0
+    let ended = false
+    const boards = new Set()
+    for (; moves < 600 && !ended; ++moves) {
+      const now = await look(page)
+      if (now.box !== undefined) await page.keyboard.press('Enter')
+      else if (now.window === 'frmHiScoreName') {
+        await page.keyboard.type('Kay')
+        await page.keyboard.press('Enter')
+      } else if (moves > 30 && now.buttons?.some(each => each.text === 'Play')) {
+        ended = true
+      } else if (now.places) {
+        boards.add(JSON.stringify(now.places.map(each => each.text)))
+        await page.keyboard.press(key)
+        await page.keyboard.press(['ArrowRight', 'ArrowDown', 'ArrowLeft', 'ArrowUp'][moves % 4])
+        await page.keyboard.press('Space')
+        if (moves % 8 === 7) await page.keyboard.press('D')
+      }
+      await settle(page)
+    }
+    assert.ok(ended, `no end in ${moves} moves`)
+    assert.ok(boards.size > 3, 'the keys have played nothing')
+    assert.deepEqual(said, [])
+    assert.deepEqual(page.troubles, [])
+    await page.browserContext().close()
+  })
+}
