@@ -1,6 +1,7 @@
 // The board of a window: what lies under the pointer, what a press means, what a voice tells of the cards, and the gold cursor.
 import { kinds, make, plain } from './controls.js'
 import { sizeOf } from './pictures.js'
+import { beginDrag } from './drag.js'
 import { isBusy, send, takeAsHurry } from './events.js'
 
 const coarse = matchMedia('(pointer: coarse)')
@@ -59,6 +60,7 @@ export function listenOnBoard (window) {
     const control = tappedAt(window, event.clientX, event.clientY)
     if (!control) return
     event.preventDefault()
+    beginDrag(window, control, event)
     pressed(window, control, event)
   })
   board.addEventListener('pointermove', event => {

@@ -217,6 +217,7 @@ void Describe(Json& json, int id, const Form& form, const Guide& guide, const Vi
   json.Member("open", guide.InGame()).Member("paused", guide.Paused());
   if (const auto score = guide.Score()) json.Member("score", *score);
   if (cursor) json.Member("cursor", ids::Of(id, *cursor));
+  if (const Visual* const control = guide.LetsGo()) json.Member("letsGo", ids::Of(id, *control));
   if (const CommandButton* const button = guide.WayOut()) json.Member("wayOut", ids::Of(id, *button));
   json.Key("spots").Open('[');
   for (const Spot& spot : guide.Spots())

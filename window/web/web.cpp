@@ -142,6 +142,10 @@ void WebFrontEnd::Do(std::string_view what, Window& window, Control& control, st
   if (what == "click") {
     if (window.keyboard) window.keyboard->Press(control);
     player::Click(control);
+  } else if (what == "softly") {
+    softly_ = true;
+    player::Click(control);
+    softly_ = false;
   } else if (what == "twice") {
     player::DblClick(control);
   } else if (what == "over") {
@@ -219,6 +223,7 @@ bool WebFrontEnd::OpenPage(const std::string&, const std::string& url) {
 }
 
 void WebFrontEnd::PlayWave(const std::string& path) {
+  if (softly_) return;
   Say("wave").Member("path", path).Member("handler", handler_).Close('}');
 }
 
@@ -232,7 +237,7 @@ void WebFrontEnd::Clicked(Control& control) {
 }
 
 void WebFrontEnd::Refused() {
-  if (!clicked_) return;
+  if (!clicked_ || softly_) return;
   if (const int id = IdOf(clicked_->form)) Say("refused").Member("id", ids::Of(id, *clicked_)).Close('}');
 }
 

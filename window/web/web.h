@@ -84,4 +84,5 @@ class WebFrontEnd : public FrontEnd {
   int nextForm_ = 0;
   long long handler_ = 0;
   Control* clicked_ = nullptr;
+  bool softly_ = false;  // a click takes back what was begun: what is said to it is neither heard nor shown
 };
