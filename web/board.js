@@ -125,9 +125,9 @@ function showRing (window) {
   // The keyboard stays with the board, also while a card that had it goes.
   const active = document.activeElement
   const free = active === document.body || !active || (active.closest('.board') === window.board && active.closest('.image'))
-  if (free && control.kind === kinds.image && !document.querySelector('dialog[open]')) {
-    control.element.focus({ preventScroll: true })
-  }
+  if (document.querySelector('dialog[open]')) return
+  if (window.grabs || (free && control.kind === kinds.image)) control.element.focus({ preventScroll: true })
+  window.grabs = false
 }
 
 // In pixels of the board at 100 %.

@@ -76,7 +76,7 @@ export function layGround (window) {
     const told = fromTold(label.remark ? 0 : label.colour)
     const high = view.highContrast
     const classes = label.element.classList
-    classes.remove('announced', 'tagged', 'edged')
+    classes.remove('announced', 'tagged', 'edged', 'gapped')
     let ground = box
     if (label.back !== undefined) {
       ground = colourOf(label.back)
@@ -90,6 +90,9 @@ export function layGround (window) {
         if (!plated) classes.add('announced')
       } else if (found.kind === 'paper' || (found.kind === 'cloth' && (high || isNeutral(told)))) {
         ground = found.colour
+        // On the upper line of a field that is let in.
+        classes.toggle('gapped', found.kind === 'cloth' && below.some(({ control, rect }) => control.element.classList.contains('inlay') &&
+          letters.top < rect.top && letters.top + letters.height > rect.top && letters.left > rect.left && letters.left + letters.width < rect.left + rect.width))
       } else {
         classes.add('tagged')
         classes.toggle('edged', found.kind === 'picture')

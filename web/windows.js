@@ -256,12 +256,12 @@ function layStrip (window, small, room) {
   const buttons = [...window.controls.values()].filter(control =>
     control.kind === kinds.button && (window.choice || control.within === window.id) && !control.element.hidden)
   // What is played with stands before what is done with the game.
-  buttons.sort((a, b) => Number(b.index !== undefined) - Number(a.index !== undefined))
+  const rank = each => each.index !== undefined ? 0 : window.tips?.[each.id] ? 1 : 2
+  buttons.sort((a, b) => rank(a) - rank(b))
   const key = [window.id, ...buttons.map(each => `${each.id}${each.text}${each.disabled}`), window.menus.map(each => each.text)].join()
   if (strip.dataset.key === key) return
   strip.dataset.key = key
   strip.replaceChildren()
-  strip.classList.toggle('pairs', Boolean(window.choice))
   if (hasBar(window)) layMenus(window, make('div', 'menubar', strip))
   const commands = make('div', 'commands', strip)
   for (const each of buttons) {
@@ -293,7 +293,7 @@ export function settle () {
 export function applyGuide (guide) {
   const window = windowOf(guide.form)
   if (!window) return
-  window.guideBefore = window.guide
+  window.grabs = guide.open && !window.guide?.open // the board takes the keyboard when a game begins
   window.guide = guide
   window.changed = true
   showPanels(window)

@@ -87,15 +87,20 @@ export async function press (page, name) {
   await page.mouse.click(...button.at)
 }
 
-// An entry of a menu, both by clicks.
-export async function choose (page, menu, entry) {
-  await page.click(`.menubar [data-name=${menu}]`)
-  const at = await page.evaluate(entry => {
-    const found = [...document.querySelectorAll('.menu .entry:not(:disabled)')].find(each => each.querySelector('.caption').textContent === entry)
-    const { left, top, width, height } = found.getBoundingClientRect()
-    return [left + width / 2, top + height / 2]
-  }, entry)
-  await page.mouse.click(...at)
+// An entry of a menu, both by clicks, as soon as it can be chosen.
+export async function choose (page, menu, entry, patience = 20000) {
+  for (const end = Date.now() + patience; ;) {
+    await page.click(`.menubar [data-name=${menu}]`)
+    const seen = await page.evaluate(() => [...document.querySelectorAll('.menu .entry:not(:disabled)')].map(each => {
+      const { left, top, width, height } = each.getBoundingClientRect()
+      return [each.querySelector('.caption').textContent, left + width / 2, top + height / 2]
+    }))
+    const found = seen.find(([text]) => text === entry)
+    if (found) return page.mouse.click(found[1], found[2])
+    if (Date.now() > end) throw new Error(`${entry} can't be chosen of ${JSON.stringify(seen)}: ${JSON.stringify(await look(page))}`)
+    await page.keyboard.press('Escape')
+    await settle(page)
+  }
 }
 
 // From a game to the selector, whatever it asks.

@@ -18,7 +18,8 @@ after(async () => {
 // Tables in which every score has a place.
 const openTables = () => {
   const rows = 'Quillmark, -1000000\r\n'.repeat(10) + '\r\n'
-  for (const name of ['BlackrushHiScores', 'DuopickHighScores', 'HiScores', 'HiScores11', 'HandgridHighScores', 'SpireholdHiScores', 'TreyshiftHiScores']) {
+  for (const name of ['BlackrushHiScores90', 'DuopickHighScores45', 'HiScores60', 'HiScores90_11', 'HandgridHighScores75', 'SpireholdHiScores45',
+    'TreyshiftHiScores120']) {
     localStorage.setItem(`card-haven:/card-haven/${name}.Txt`, rows)
   }
 }
@@ -50,7 +51,7 @@ async function playOn (page, any) {
 const games = process.env.GAMES?.split(',') ?? ['Sumfall', 'Fivestack', 'Blackrush', 'Duopick', 'Spirehold', 'Handgrid', 'Treyshift']
 for (const game of games) {
   test(`${game} is played to its end`, { timeout: 120000 }, async () => {
-    const page = await open(browser, server.address, { speed: 10, before: openTables })
+    const page = await open(browser, server.address, { speed: 20, before: openTables })
     await until(page, 'the selector', now => now.window === 'frmSelect')
     await press(page, `cmd${game}`)
     await until(page, 'the game', now => now.window === `frm${game}`)
