@@ -9,6 +9,8 @@
 #include "app/watch.h"
 #include "games/games.h"
 #include "suite/catalogue.h"
+#include "suite/dialogs.h"
+#include "suite/high_scores.h"
 #include "suite/suite.h"
 #include "window/desktop/program.h"
 #include "window/system/folders.h"
@@ -30,6 +32,18 @@ struct Running {
   }
 };
 
+ProvedTable TableOf(Form& form, const std::filesystem::path& folder) {
+  auto* const fame = dynamic_cast<frmHighScores*>(&form);
+  if (!fame) return {};
+  ProvedTable table;
+  for (int place = 0; place < static_cast<int>(kTablePlaces); ++place)
+    table.rows.push_back(&fame->ScoreList(2 * place + 1));
+  table.find = [folder, name = fame->Table()](const std::atomic<bool>& stop) {
+    return FindProofs(folder, name, stop);
+  };
+  return table;
+}
+
 // A suite without its pictures can be played, but nobody should have to guess why it looks so bare.
 void TellOfMissingData(Platform& platform, const DesktopOptions& options) {
   const std::filesystem::path& data = options.folders.installed;
@@ -47,12 +61,17 @@ int main(int argc, char** argv) {
   Options options;
   if (const auto status = ReadCommandLine(Program::Desktop, argc, argv, options)) return *status;
   try {
-    DesktopOptions desktop{{FindAppPath(options), FindDataFolder(), {}}, {}, MakeGuide};
+    DesktopOptions desktop;
+    desktop.folders = {FindAppPath(options), FindDataFolder()};
+    desktop.guides = MakeGuide;
     if (options.console)
       desktop.script = ScriptOptions{options.start, options.speed};
     else
       desktop.folders.view = ViewFile();
     desktop.keepsRecords = !options.console && !options.noRecords && options.record.empty();
+    const std::filesystem::path& own = desktop.folders.own;
+    desktop.records = {own, desktop.folders.installed / "demonstrations",
+                       [&own](Form& form) { return TableOf(form, own); }, VerdictOn};
     if (!options.watched.empty()) return Watch(argv, options, desktop);
     return RunDesktop(argv, desktop, Catalogue(), [&](DesktopFrontEnd& front) {
       Platform& platform = front.platform;

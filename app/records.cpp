@@ -54,6 +54,24 @@ void RecordKeeper::KeepBeside(modCommon& common) {
   };
 }
 
+std::vector<std::string> FindProofs(const std::filesystem::path& folder, const std::string& table,
+                                    const std::atomic<bool>& stop) {
+  const auto games = AllGames();
+  record::Keeper keeper(folder);
+  std::vector<std::string> files(kTablePlaces);
+  for (const record::KeptEntry& entry : keeper.Entries(table)) {
+    if (stop) break;
+    const bool counts = entry.place < files.size();
+    if (counts && keeper.Check(entry, CARDHAVEN_VERSION, games).kind == record::Verdict::Kind::Holds)
+      files[entry.place] = keeper.PathOf(entry.record).string();
+  }
+  return files;
+}
+
+std::string VerdictOn(const std::string& file) {
+  return record::ReplayFile(file, CARDHAVEN_VERSION, AllGames()).Text();
+}
+
 int Verify(const std::vector<std::string>& files) {
   const auto games = AllGames();
   int status = EXIT_SUCCESS;

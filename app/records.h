@@ -1,6 +1,7 @@
 // What the two programs do with records of games.
 #pragma once
 
+#include <atomic>
 #include <memory>
 
 #include "app/options.h"
@@ -25,6 +26,13 @@ class RecordKeeper {
   std::string kept_;  // the record of the game that ended last
   bool complained_ = false;
 };
+
+// The records in `folder` that prove the entries of a table, by their places; "" for none. `stop` is looked
+// at now and then.
+std::vector<std::string> FindProofs(const std::filesystem::path& folder, const std::string& table,
+                                    const std::atomic<bool>& stop);
+// Whether a file holds, in a line.
+std::string VerdictOn(const std::string& file);
 
 // Plays records again and tells on standard output, in a line each, whether they hold; the exit status.
 int Verify(const std::vector<std::string>& files);

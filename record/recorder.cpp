@@ -184,6 +184,10 @@ void Recorder::Put(const std::string& line) {
   known_->LineDone();
 }
 
+void Recorder::Say(const std::string& comment) {
+  if (under_ && body_.size() <= kLargest) body_ += "say " + Quoted(comment) + "\n";
+}
+
 // --- What is asked -------------------------------------------------------------------------------
 
 // Whether a window asks, and not the front end for itself or the program that must go.

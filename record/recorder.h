@@ -25,6 +25,9 @@ class Recorder : public Border {
   // A score stands in its table, under its name. Told when the program waits.
   std::function<void(const TableEntry& entry)> onEntered;
 
+  // A comment on what comes next, for those who watch it.
+  void Say(const std::string& comment);
+
   Event Next(const Wait& wait) override;
   void Entered(const Event& event) override;
   long long Milliseconds() override;

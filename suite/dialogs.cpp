@@ -88,6 +88,10 @@ std::optional<size_t> frmHighScores::PlaceJustTaken() const {
   return std::nullopt;
 }
 
+std::string frmHighScores::Table() const {
+  return common_.files.PathOf(game_.TableFile(game_.plan.tables.shown.name)).filename().string();
+}
+
 frmHiScoreName::frmHiScoreName(modCommon& common) : Form(common.platform, "frmHiScoreName"), common(common) {
   Form::Move(0, 0, 5400, 2160);
   ApplyDesign(*this, kHiScoreNameDesign);

@@ -14,6 +14,8 @@ class frmHighScores : public Form {
   void ReadHighScoreTable();
   // The place, from 0, of the entry made last, if it stands in this table.
   std::optional<size_t> PlaceJustTaken() const;
+  // The name of the table's file.
+  std::string Table() const;
 
   ControlArray<Label, 20> ScoreList{*this, "ScoreList"};  // even index name, odd index score
   Label lblHiScoreInfo{*this, "lblHiScoreInfo"};

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QToolButton>
 
 #include "games/games.h"
@@ -9,7 +11,9 @@
 #include "record/replay.h"
 #include "tests/desktop_screen.h"
 #include "tests/harness.h"
+#include "window/desktop/view/proofs.h"
 #include "window/desktop/watching.h"
+#include "window/player.h"
 
 namespace {
 
@@ -147,4 +151,78 @@ TEST_F(WatchTest, StopsAndGoesDeedByDeed) {
   Watch();
   EXPECT_EQ(begun_, 1);
   EXPECT_FALSE(ended_);
+}
+
+// The marks in the Hall of Fame, and a file that is dropped on the selector; what a record is is told.
+TEST(Proofs, AreMarkedWhileTheTableStands) {
+  OpenScreen();
+  TestFolder folder;
+  QuickDesktop front({folder.Path(), CARDHAVEN_TEST_DATA}, Catalogue());
+  RecordDesk desk;
+  std::atomic<int> searches = 0;
+  desk.table = [&](Form& form) -> ProvedTable {
+    if (form.name != "frmHighScores") return {};
+    ProvedTable table;
+    for (int place = 0; place < 10; ++place)
+      table.rows.push_back(static_cast<Label*>(form.find("ScoreList", 2 * place + 1)));
+    table.find = [&](const std::atomic<bool>&) {
+      return searches++ == 0 ? std::vector<std::string>{"", "", "a.record"} : std::vector<std::string>{};
+    };
+    return table;
+  };
+  desk.check = [](const std::string& file) { return "holds " + file; };
+  front.guides = MakeGuide;
+  front.records = &desk;
+  folder.Write("HiScores90_11.Txt", "Ada, 500\r\nBob, 400\r\nCy, 300\r\n");
+  Suite suite(front.platform, {folder.Path()}, AllGames());
+  suite.Start();
+  Form& selector = *front.platform.FindForm("frmSelect");
+  front.Deliver(selector, [&] { player::Click(*selector.find("cmdSumfall")); });
+  input::Settle();
+  const auto mark = [&]() -> QPushButton* {
+    Form* const fame = front.platform.FindForm("frmHighScores");
+    return fame ? front.WindowOf(*fame)->findChild<QPushButton*>("proof3") : nullptr;
+  };
+  bool marked = false;
+  input::When(mark, [&] {
+    marked = true;
+    EXPECT_TRUE(mark()->isVisible());
+    EXPECT_EQ(front.WindowOf(*front.platform.FindForm("frmHighScores"))->findChildren<QPushButton*>().size(),
+              3);
+    Form& fame = *front.platform.FindForm("frmHighScores");
+    input::When(
+        [] {
+          return QApplication::activeModalWidget() &&
+                 qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        },
+        [&] {
+          static_cast<QMessageBox*>(QApplication::activeModalWidget())->button(QMessageBox::Yes)->click();
+          input::When([&] { return searches == 2 && !mark(); },
+                      [&] {
+                        Form& there = *front.platform.FindForm("frmHighScores");
+                        front.Deliver(there, [&] { player::Close(there); });
+                      });
+        });
+    front.Deliver(fame, [&] { player::Click(*fame.find("cmdClear")); });
+  });
+  Form& game = *front.platform.FindForm("frmSumfall");
+  front.Deliver(game, [&] { player::Click(*game.find("mnuViewHiScore")); });
+  EXPECT_TRUE(marked);
+}
+
+TEST(Proofs, ADroppedFileIsChecked) {
+  OpenScreen();
+  QWidget window;
+  window.show();
+  RecordDesk desk;
+  desk.check = [](const std::string& file) { return "holds " + file; };
+  OfferRecord(window, desk, "/there/a.record");
+  auto* box = window.findChild<QMessageBox*>("dropped");
+  ASSERT_TRUE(box);
+  EXPECT_EQ(box->text(), "a.record");
+  for (QAbstractButton* button : box->buttons())
+    if (button->text() == "Chec&k") button->click();
+  auto* answer = window.findChild<QMessageBox*>("checked");
+  ASSERT_TRUE(answer);
+  EXPECT_EQ(answer->text(), "holds /there/a.record");
 }

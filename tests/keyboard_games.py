@@ -163,6 +163,7 @@ def play(player, key, title, table, moves, seconds, ends):
     time.sleep(4)  # "Game Over" stands for a while
     player.press("alt+o v", 300)
     player.await_window("the Hall of Fame", lambda name, size: "Hall of Fame" in name)
+    time.sleep(0.5)
     player.picture(f"{key}-fame")
     player.press("Escape")
     player.await_game(title)

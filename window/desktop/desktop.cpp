@@ -368,7 +368,8 @@ void DesktopFrontEnd::FormLoaded(Form& form) {
                   [this] { Painted(); },
                   folders_.own / kHistoryFile,
                   by_ != Operator::Script,
-                  by_ == Operator::Recording};
+                  by_ == Operator::Recording,
+                  records};
   windows_.Add(form, *new FormWindow(form, guides ? guides(form) : nullptr, desk));
 }
 

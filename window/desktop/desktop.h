@@ -20,6 +20,7 @@
 class BoxWindow;
 class QEventLoop;
 class QMessageBox;
+struct RecordDesk;
 
 struct DesktopFolders {
   std::filesystem::path own;        // `AppPath`; what lies here goes before what is installed
@@ -36,6 +37,7 @@ class DesktopFrontEnd : public FrontEnd, public Deeds {
   Platform platform{*this};
   Paintbox paintbox;
   Looks looks;
+  const RecordDesk* records = nullptr;  // what is known of records; set before the first window is loaded
   Guides guides;  // set before the first window is loaded; none where a script drives the windows
 
   // Runs `start`, which shows the first window, then serves events until the program ends. The exit status.

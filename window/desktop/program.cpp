@@ -84,7 +84,10 @@ int RunDesktop(char** argv, const DesktopOptions& options, const PictureFiles& p
     front = std::make_unique<ScriptedDesktop>(options.folders, pictures, *options.script, std::cout);
   else
     front = std::make_unique<DesktopFrontEnd>(options.folders, pictures);
-  if (!options.script) front->guides = options.guides;
+  if (!options.script) {
+    front->guides = options.guides;
+    front->records = &options.records;
+  }
   front->looks.mayKeepRecords = options.keepsRecords;
   std::shared_ptr<void> kept;  // goes before the front end does
   return screen.Serve(*front, [&] { kept = start(*front); });

@@ -5,11 +5,13 @@
 #include <optional>
 
 #include "window/desktop/scripted.h"
+#include "window/desktop/view/proofs.h"
 
 struct DesktopOptions {
   DesktopFolders folders;
   std::optional<ScriptOptions> script;  // commands come from standard input
   Guides guides;                        // for a player; a script needs none
+  RecordDesk records;                   // for a player
   bool keepsRecords = false;            // unless the player's view says otherwise
 };
 

@@ -1,11 +1,15 @@
 #include "window/desktop/view/form_window.h"
 
+#include <QAction>
+#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QShortcut>
 #include <QTimer>
+#include <QUrl>
 #include <QWindow>
 #include <cmath>
 #include <utility>
@@ -21,6 +25,7 @@
 #include "window/desktop/view/managed.h"
 #include "window/desktop/view/menus.h"
 #include "window/desktop/view/native.h"
+#include "window/desktop/view/proofs.h"
 #include "window/desktop/view/view_menu.h"
 
 namespace {
@@ -57,6 +62,7 @@ FormWindow::FormWindow(Form& form, std::unique_ptr<Guide> guide, const Desk& des
     connect(new QShortcut(Qt::SHIFT | Qt::Key_F1, this), &QShortcut::activated, this,
             [this] { desk_.ears.TellState(*canvas_); });
   }
+  if (desk.records) OfferRecords();
   desk.ears.Opened(*canvas_);
   ShowTitle();
   zoomKept_.setSingleShot(true);
@@ -109,6 +115,29 @@ void FormWindow::MakeViewMenu() {
     return ViewMenu::Size{zoom_, leader.zoom_, leader.form.Sizable ? fit : nullptr, leader.IsFilled()};
   };
   viewMenu_ = new ViewMenu(*this, desk_.looks, size, menus_->Bar());
+}
+
+// What there is to watch, and what may be dropped: a record, on the window from which games are opened.
+void FormWindow::OfferRecords() {
+  if (!desk_.records->table(form).rows.empty())
+    proofs_ = std::make_unique<ProofMarks>(*canvas_, *desk_.records);
+  if (!guide_) return;
+  setAcceptDrops(guide_->IsChoice());
+  const Menu* const help = guide_->KeysMenu();
+  const auto facts = guide_->Game();
+  if (QAction* action = help ? menus_->ActionOf(*help) : nullptr; action && action->menu() && facts)
+    AddDemonstration(*desk_.records, facts->name, *action->menu());
+}
+
+void FormWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void FormWindow::dropEvent(QDropEvent* event) {
+  const QList<QUrl> urls = event->mimeData()->urls();
+  if (left_ || urls.isEmpty() || !urls.front().isLocalFile()) return;
+  event->acceptProposedAction();
+  OfferRecord(*this, *desk_.records, urls.front().toLocalFile().toStdString());
 }
 
 void FormWindow::MakeStatusBar(StatusBar& bar) {
@@ -205,6 +234,7 @@ void FormWindow::Leave() {
   Forget();
   if (comfort_) comfort_->Leave();
   comfort_.reset();
+  proofs_.reset();
   left_ = true;
   if (keyboard_) keyboard_->Leave();
   if (drag_) drag_->Leave();
@@ -329,6 +359,7 @@ void FormWindow::Settle() {
   if (left_) return;
   if (untold_ && player::WhyNot(form).empty()) TellSizeSoon();
   if (comfort_) comfort_->Settle();
+  if (proofs_) proofs_->Settle();
   if (drag_) drag_->Settle();
   if (qobject_cast<QMenuBar*>(focusWidget())) return;  // which gives the focus back by itself
   if (keyboard_) {

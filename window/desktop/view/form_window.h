@@ -18,9 +18,11 @@ class Comfort;
 class Drag;
 class Looks;
 class Menus;
+class ProofMarks;
 class QLabel;
 class ViewMenu;
 struct Paintbox;
+struct RecordDesk;
 
 // What all windows have in common.
 struct Desk {
@@ -34,6 +36,7 @@ struct Desk {
   bool hasPlayer = true;
   // The windows show a recording: they say so, and lock no others out.
   bool showsRecording = false;
+  const RecordDesk* records = nullptr;  // null where nobody knows of any
 };
 
 class FormWindow : public QWidget, public SpokenWindow {
@@ -92,11 +95,14 @@ class FormWindow : public QWidget, public SpokenWindow {
   void hideEvent(QHideEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void ShowTitle();
   void MakeCanvas();
   void MakeStatusBar(StatusBar& bar);
+  void OfferRecords();
   void MakeViewMenu();
   void LayOutParts();
   void ApplyForm(Prop prop);
@@ -146,7 +152,8 @@ class FormWindow : public QWidget, public SpokenWindow {
   std::unique_ptr<Comfort> comfort_;  // null if no guide tells what the player might want
   Canvas* canvas_ = nullptr;
   Menus* menus_ = nullptr;
-  ViewMenu* viewMenu_ = nullptr;  // a script's windows have none
+  std::unique_ptr<ProofMarks> proofs_;  // null where no table of scores is shown
+  ViewMenu* viewMenu_ = nullptr;        // a script's windows have none
   QWidget* statusBar_ = nullptr;
   std::vector<QLabel*> panels_;
   QPointer<QWidget> behind_;  // what a dialog stands before

@@ -14,6 +14,7 @@
 #include "window/desktop/view/managed.h"
 #include "window/desktop/view/menus.h"
 #include "window/desktop/view/native.h"
+#include "window/desktop/view/proofs.h"
 
 namespace {
 
@@ -88,6 +89,7 @@ void FormWindow::SetZoom(double zoom) {
   for (const auto& [control, widget] : canvas_->widgets)
     ZoomNative(*widget, static_cast<const Visual&>(*control));
   if (comfort_) comfort_->Zoom();
+  if (proofs_) proofs_->Zoom();
   if (!IsFilled() && !zooming_) {
     ApplySize();
     KeepOnScreen();
