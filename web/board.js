@@ -1,6 +1,7 @@
 // The board of a window: what lies under the pointer, what a press means, what a voice tells of the cards, and the gold cursor.
 import { kinds, make, plain } from './controls.js'
 import { sizeOf } from './pictures.js'
+import { speak } from './speech.js'
 import { beginDrag } from './drag.js'
 import { isBusy, send, takeAsHurry } from './events.js'
 
@@ -71,6 +72,11 @@ export function listenOnBoard (window) {
     }
     board.style.cursor = pointerOf(window, control)
   })
+  // A press that came by no pointer: a screen reader's.
+  board.addEventListener('click', event => {
+    const control = event.detail === 0 && event.target.closest('.image[role=button]')?.control
+    if (control && !takeAsHurry()) send(`click ${control.id}`)
+  })
   board.addEventListener('contextmenu', event => { if (coarse.matches) event.preventDefault() })
 }
 
@@ -112,7 +118,26 @@ export function settleBoard (window) {
     if (known.has(element)) continue
     for (const name of ['role', 'aria-label', 'aria-pressed', 'aria-disabled', 'tabindex']) element.removeAttribute(name)
   }
+  for (const control of window.controls.values()) if (control.kind === kinds.label) sayLabel(control, guide.says[control.id])
+  announce(window)
   showRing(window)
+}
+
+// What a label says to who doesn't see where it stands.
+function sayLabel (control, said) {
+  if (!said && !control.spoken) return
+  control.spoken ??= make('span', 'spoken', control.element)
+  if (control.spoken.textContent !== (said ?? '')) control.spoken.textContent = said ?? ''
+  if (said) control.letters.setAttribute('aria-hidden', 'true')
+  else control.letters.removeAttribute('aria-hidden')
+}
+
+// Messages are said as they come.
+function announce (window) {
+  const said = [...window.controls.values()].filter(({ id, kind, element, text }) => kind === kinds.label && !element.hidden && text.trim() &&
+    (window.guide.messages.includes(id) || element.classList.contains('announced'))).map(each => each.text.trim()).join(' ')
+  if (said && said !== window.announced) speak(said)
+  window.announced = said
 }
 
 function showRing (window) {
@@ -123,10 +148,15 @@ function showRing (window) {
   const place = placeOf(window, control)
   Object.assign(window.ring.style, { left: `${place.left}px`, top: `${place.top}px`, width: `${place.width}px`, height: `${place.height}px` })
   // The keyboard stays with the board, also while a card that had it goes.
-  const active = document.activeElement
-  const free = active === document.body || !active || (active.closest('.board') === window.board && active.closest('.image'))
   if (document.querySelector('dialog[open]')) return
-  if (window.grabs || (free && control.kind === kinds.image)) control.element.focus({ preventScroll: true })
+  const active = document.activeElement
+  const free = active === document.body || !active || active.closest('.board .image')
+  const onBoard = window.guide.spots.some(([id]) => window.controls.get(id).element === active)
+  if ((window.grabs || free || onBoard) && active !== control.element) {
+    window.quiet = true
+    control.element.focus({ preventScroll: true })
+    window.quiet = false
+  }
   window.grabs = false
 }
 

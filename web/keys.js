@@ -53,7 +53,7 @@ function take (event) {
   }
   if (key === 'Enter' || key === 'Escape') {
     if (target.matches?.('textarea:not([readonly])') && key === 'Enter') return false
-    if (key === 'Enter' && target.matches?.('.menubar *, .closebox, #strip *')) return false
+    if (key === 'Enter' && target.matches?.('button')) return false // the browser presses it
     if (!event.repeat) send(`press ${window.id} ${key === 'Enter' ? 0 : 1}`)
     return true
   }
@@ -84,7 +84,7 @@ function takeOnBoard (event, window) {
 
 function toBoard (window) {
   const cursor = window.controls.get(window.guide.cursor)
-  if (cursor?.kind === kinds.image) cursor.element.focus({ preventScroll: true })
+  cursor?.element.focus({ preventScroll: true })
 }
 
 // The buttons of a choice stand one below the other.

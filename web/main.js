@@ -3,7 +3,7 @@ import { followWindows, asked } from './address.js'
 import { hideBox, showBox, openBox } from './boxes.js'
 import { imports, leaveWords, use } from './host.js'
 import { load, setCatalogue, setFourColours, warm } from './pictures.js'
-import { applyForm, applyGuide, applyTold, controlOf, createWindow, forgetWindow, front, hideWindow, holdsFocus, scaleWindows,
+import { applyForm, applyGuide, applyTold, controlOf, createWindow, firstOf, forgetWindow, front, hideWindow, holdsFocus, scaleWindows,
   settle, showWindow, windowOf, windows } from './windows.js'
 import { onOffer, send } from './events.js'
 import { make, applyControl, kinds } from './controls.js'
@@ -11,7 +11,7 @@ import { celebrate, flash, remember, move } from './motion.js'
 import { speak } from './speech.js'
 import { playWave } from './sound.js'
 import { commandTune } from './tune.js'
-import { onView, show, view } from './view.js'
+import { alter, onView, show, view } from './view.js'
 import './keys.js'
 
 const games = ['Sumfall', 'Treyshift', 'Spirehold', 'Fivestack', 'Handgrid', 'Duopick', 'Blackrush']
@@ -23,7 +23,9 @@ const deeds = {
   set: ({ control }) => applyTold(control),
   show: told => {
     showWindow(told)
-    focus(controlOf(told.focus))
+    const shown = windowOf(told.id)
+    if (shown?.choice) firstOf(shown)?.element.focus() // of which the program hears
+    else focus(controlOf(told.focus))
   },
   hide: ({ id }) => hideWindow(id),
   gone: ({ id }) => forgetWindow(id),
@@ -34,7 +36,10 @@ const deeds = {
   unbox: hideBox,
   wave: playWave,
   tune: ({ command }) => commandTune(command),
-  clicked: () => {},
+  clicked: ({ id }) => {
+    const control = controlOf(id)
+    if (control?.window.choice && control.window.tips?.[id] && view.lastGame !== control.name) alter({ lastGame: control.name })
+  },
   refused: ({ id }) => {
     const control = controlOf(id)
     const spot = windowOf(id)?.guide?.spots.find(each => each[0] === id)
@@ -108,6 +113,7 @@ async function start () {
   use(instance)
   instance.exports._initialize()
   addEventListener('pagehide', () => instance.exports.leaving())
+  addEventListener('pageshow', event => { if (event.persisted) location.reload() }) // its program has left
   document.addEventListener('visibilitychange', () => {
     if (document.visibilityState !== 'hidden') return
     const window = front()

@@ -1,5 +1,5 @@
 // The windows of the suite: an element for each, as large as its form says at 100 %, and drawn larger or smaller as a whole.
-import { applyControl, createControl, fit, isNative, kinds, make, plain } from './controls.js'
+import { applyControl, createControl, fit, kinds, make, plain } from './controls.js'
 import { listenOnBoard, settleBoard } from './board.js'
 import { drawDial } from './dial.js'
 import { layGround } from './ground.js'
@@ -7,7 +7,7 @@ import { layMenus, makeMenus } from './menus.js'
 import { showKeys } from './keys_window.js'
 import { showNotes } from './notes.js'
 import { send } from './events.js'
-import { view } from './view.js'
+import { alter, calm, view } from './view.js'
 
 const perForm = 4096 // numbers of a window's controls
 const menuHeight = 26
@@ -106,6 +106,7 @@ export function applyTold (told) {
     window.status = told
     showPanels(window)
   } else {
+    if (calm() && window.ornaments?.includes(told.id)) return // what only pleases the eye stands still
     applyControl(window.controls.get(told.id), told)
     window.changed = true
   }
@@ -160,7 +161,7 @@ export function showWindow (told) {
   }
   listenOnBoard(window)
   dress(window)
-  if (told.offer && view.lastName) offer(window.controls.get(told.offer))
+  if (told.offer) offer(window.controls.get(told.offer))
   window.changed = true
   scaleWindows()
   for (const control of window.controls.values()) if (control.kind === kinds.button) fit(control)
@@ -168,7 +169,8 @@ export function showWindow (told) {
 
 // What the box held last is in it, selected: a player who is somebody else just writes.
 function offer (control) {
-  if (control.text !== '') return
+  control.window.offered = control
+  if (control.text !== '' || view.lastName === '') return
   control.element.value = view.lastName
   send(`type ${control.id} ${view.lastName}`)
   setTimeout(() => control.element.select(), 0)
@@ -186,6 +188,8 @@ export function hideWindow (id) {
 }
 
 export function forgetWindow (id) {
+  const name = windows.get(id)?.offered?.element.value.trim()
+  if (name && name !== view.lastName) alter({ lastName: name })
   hideWindow(id)
   windows.delete(id)
 }
@@ -299,7 +303,12 @@ export function applyGuide (guide) {
   showPanels(window)
 }
 
-export const holdsFocus = window => Boolean(window.guide?.open && window.guide.spots.length)
-export const focusable = control => isNative(control.kind) && !control.element.hidden
+// A choice begins with what was chosen last.
+export function firstOf (window) {
+  const choices = [...window.controls.values()].filter(each => window.tips?.[each.id] && each.kind === kinds.button)
+  return choices.find(each => each.name === view.lastGame) ?? choices[0]
+}
+
+export const holdsFocus = window => Boolean(window.guide?.open)
 
 addEventListener('resize', scaleWindows)

@@ -200,7 +200,10 @@ void Describe(Json& json, int id, const Form& form, const Guide* guide) {
     for (const Control* control : form.Controls())
       if (const std::string file = guide->Picture(*control); !file.empty())
         json.Member(std::to_string(ids::Of(id, *control)), file);
-    json.Close('}').Key("tips").Open('{');
+    json.Close('}').Key("ornaments").Open('[');
+    for (const Control* control : form.Controls())
+      if (guide->IsOrnament(*control)) json.Write(ids::Of(id, *control));
+    json.Close(']').Key("tips").Open('{');
     for (const Control* control : form.Controls())
       if (const std::string tip = guide->ToolTip(*control); !tip.empty())
         json.Member(std::to_string(ids::Of(id, *control)), tip);
