@@ -24,7 +24,7 @@ async function findings (page) {
 
 const letters = { Sumfall: 'ArrowUp', Fivestack: '1', Blackrush: '2', Duopick: 'ArrowLeft', Spirehold: 'ArrowRight', Handgrid: 'ArrowDown', Treyshift: 'ArrowRight' }
 for (const [game, key] of Object.entries(letters)) {
-  test(`${game} by keys alone`, { timeout: 120000 }, async () => {
+  test(`${game} by keys alone`, { timeout: 240000 }, async () => {
     const page = await open(browser, server.address, { speed: 20 })
     await until(page, 'the selector', now => now.window === 'frmSelect')
     const said = await findings(page)
@@ -40,7 +40,7 @@ for (const [game, key] of Object.entries(letters)) {
     let moves = 0
     let ended = false
     const boards = new Set()
-    for (; moves < 600 && !ended; ++moves) {
+    for (; moves < 1500 && !ended; ++moves) {
       const now = await look(page)
       if (now.box !== undefined) await page.keyboard.press('Enter')
       else if (now.window === 'frmHiScoreName') {
