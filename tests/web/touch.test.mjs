@@ -1,0 +1,65 @@
+// A phone held either way: what is tapped is large enough, cards are played by taps and by dragging, and nothing scrolls.
+import assert from 'node:assert/strict'
+import { after, before, test } from 'node:test'
+import { launch, look, open, press, serve, settle, until } from './page.mjs'
+
+let browser, server
+before(async () => {
+  server = await serve()
+  browser = await launch()
+})
+after(async () => {
+  await browser?.close()
+  await server?.stop()
+})
+
+async function tap (page, text) {
+  const at = await page.evaluate(text => {
+    const button = [...document.querySelectorAll('#strip button')].find(each => each.textContent === text)
+    const { left, top, width, height } = button.getBoundingClientRect()
+    return { at: [left + width / 2, top + height / 2], width, height }
+  }, text)
+  assert.ok(at.width >= 44 && at.height >= 44, `${text} is ${at.width} by ${at.height}`)
+  await page.touchscreen.tap(...at.at)
+}
+
+for (const [width, height] of [[390, 844], [844, 390]]) {
+  test(`a phone of ${width} by ${height}`, { timeout: 120000 }, async () => {
+    const page = await open(browser, server.address, { viewport: { width, height, deviceScaleFactor: 2, hasTouch: true, isMobile: true } })
+    await until(page, 'the selector', now => now.window === 'frmSelect')
+    await tap(page, 'Spirehold')
+    await until(page, 'the game', now => now.window === 'frmSpirehold')
+    await tap(page, 'Play')
+    const { places } = await until(page, 'the round', now => now.places?.some(each => each.playable))
+    const card = places.find(each => each.playable)
+    await page.touchscreen.tap(card.at[0], card.at[1])
+    await until(page, 'another board', now => now.places && JSON.stringify(now.places.map(each => each.text)) !== JSON.stringify(places.map(each => each.text)))
+    await tap(page, 'Options')
+    assert.ok(await page.$('.menu .entry'))
+    await page.keyboard.press('Escape')
+    assert.deepEqual(await page.evaluate(() => [document.documentElement.scrollWidth, scrollX, scrollY, visualViewport.scale]), [width, 0, 0, 1])
+    assert.deepEqual(page.troubles, [])
+    await page.browserContext().close()
+  })
+}
+
+test('a card is dragged to where it is to lie', { timeout: 60000 }, async () => {
+  const page = await open(browser, `${server.address}#treyshift`)
+  await until(page, 'the game', now => now.window === 'frmTreyshift')
+  await press(page, 'Play')
+  const { places } = await until(page, 'the round', now => now.places?.some(each => each.playable))
+  const card = places.find(each => each.playable)
+  const to = places.find(each => each.name === 'TempCard(1)')
+  await page.mouse.move(...card.at)
+  await page.mouse.down()
+  await until(page, 'the selection', now => now.places?.some(each => each.selected))
+  await page.evaluate(() => new Promise(resolve => setTimeout(resolve, 150))) // a hand that is quicker has only clicked
+  await page.mouse.move(card.at[0] - 30, card.at[1] - 30, { steps: 3 })
+  await page.mouse.move(...to.at, { steps: 4 })
+  await settle(page)
+  await page.mouse.up()
+  const laid = await until(page, 'the card there', now => now.places?.some(each => each.name === 'TempCard(1)' && !/^Empty/.test(each.text)))
+  assert.equal(laid.places.find(each => each.name === 'TempCard(1)').text.split(',')[0], card.text.split(',')[0])
+  assert.deepEqual(page.troubles, [])
+  await page.browserContext().close()
+})
