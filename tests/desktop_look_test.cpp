@@ -499,6 +499,40 @@ TEST_F(Look, GamesStandAtEverySize) {
   EXPECT_GT(looks, 500);
 }
 
+// But for the roundings of shades.
+bool LookAlike(const QImage& a, const QImage& b) {
+  constexpr int kShade = 8;
+  for (int y = 0; y < a.height(); ++y)
+    for (int x = 0; x < a.width(); ++x) {
+      const QColor one = a.pixelColor(x, y), other = b.pixelColor(x, y);
+      if (std::abs(one.red() - other.red()) > kShade || std::abs(one.green() - other.green()) > kShade ||
+          std::abs(one.blue() - other.blue()) > kShade)
+        return false;
+    }
+  return a.size() == b.size();
+}
+
+// Whatever has moved since it was painted last.
+TEST_F(Look, APartOfABoardIsPaintedAsTheWholeIs) {
+  for (const GameEntry& entry : AllGames()) {
+    GameWindow& game = Open(entry);
+    game.standing.InputLives();
+    player::Click(game.cmdPlay);
+    Canvas& board = front.WindowOf(game)->Board();
+    for (const QSize size : kSizes) {
+      board.grab();
+      Resize(game, size);
+      const QImage whole = board.grab().toImage();
+      for (const Control* control : game.Controls()) {
+        if (control->kind != Control::Kind::Label || !IsShown(static_cast<const Label&>(*control))) continue;
+        const QRect area = board.ToWindow(board.PlaceOf(static_cast<const Label&>(*control))) & board.rect();
+        EXPECT_TRUE(LookAlike(board.grab(area).toImage(), whole.copy(area))) << control->FullName();
+      }
+    }
+    Close(game);
+  }
+}
+
 // A flush, a deck that is used up, what is left over, a board that is stuck.
 TEST_F(Look, TreyshiftTellsWhatColumnsAndDecksBring) {
   using namespace modTreyshift;

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "window/desktop/painting/baize.h"
+#include "window/desktop/painting/labels.h"
 #include "window/desktop/painting/notes.h"
 #include "window/desktop/painting/paint.h"
 #include "window/desktop/painting/plates.h"
@@ -55,15 +56,15 @@ void Canvas::Prepare() {
 
 void Canvas::Refresh(const Visual& control) {
   motion_.Changed(control);
-  const auto known = reach_.find(&control);
-  if (known != reach_.end()) {
-    Repaint(known->second);
-    if (!IsShown(control)) reach_.erase(known);
+  const auto known = drawn_.find(&control);
+  if (known != drawn_.end()) {
+    Repaint(known->second.reach);
+    if (!IsShown(control)) drawn_.erase(known);
   }
   if (!IsShown(control)) return;
-  const QRect reach = Reach(control, paintbox_.pictures);
-  reach_[&control] = reach;
-  Repaint(reach);
+  const Drawn now{PlaceOf(control), ReachOf(control)};
+  drawn_[&control] = now;
+  Repaint(now.reach);
 }
 
 void Canvas::SetNotes(std::vector<Note> notes) {
@@ -144,9 +145,11 @@ void Canvas::paintEvent(QPaintEvent* event) {
   };
   paintNotes(NoteLayer::Beneath);
   for (size_t i = 0; i < scene.size(); ++i) {
-    const auto [known, isNew] = reach_.try_emplace(scene[i].control);
-    if (isNew) known->second = Reach(*scene[i].control, paintbox_.pictures);
-    if (event->region().intersects(ToWindow(known->second)) && !motion_.PaintInstead(easel, scene[i]))
+    // What a box holds moves with it; the plate of an announcement hangs on others beside it.
+    Drawn& drawn = drawn_[scene[i].control];
+    if (drawn.rect != scene[i].rect || IsAnnounced(*scene[i].control))
+      drawn = {scene[i].rect, ReachOf(*scene[i].control)};
+    if (event->region().intersects(ToWindow(drawn.reach)) && !motion_.PaintInstead(easel, scene[i]))
       PaintControl(easel, i);
   }
   paintNotes(NoteLayer::Above);

@@ -104,6 +104,10 @@ class Canvas : public QWidget {
   QPixmap baize_;
   Motion motion_;
   Celebration celebration_;
-  std::unique_ptr<Calm> calm_;                      // where less is to move
-  std::unordered_map<const Visual*, QRect> reach_;  // where each control was drawn last
+  std::unique_ptr<Calm> calm_;  // where less is to move
+  // Where each control was drawn last, and all that was painted for it.
+  struct Drawn {
+    QRect rect, reach;
+  };
+  std::unordered_map<const Visual*, Drawn> drawn_;
 };

@@ -24,12 +24,6 @@ QColor BackOf(const Label& label) {
 
 QRectF LettersOf(const Label& label) { return LayOut(label, ModelRect(label)).bounds; }
 
-bool IsAnnounced(const Control& control) {
-  if (control.kind != Control::Kind::Label) return false;
-  const auto& label = static_cast<const Label&>(control);
-  return Announces(label) && IsShown(label);
-}
-
 // Whether something raised lies beneath the letters already.
 bool HasPlate(const Easel& easel, size_t place, const QPointF& middle) {
   return std::any_of(
@@ -105,6 +99,12 @@ QColor PaintGround(const Easel& easel, size_t place, const QRectF& letters, cons
 
 bool Announces(const Label& label) {
   return label.FontSize >= kLargeType && !IsOpaque(label) && IsOnBaize(label);
+}
+
+bool IsAnnounced(const Control& control) {
+  if (control.kind != Control::Kind::Label) return false;
+  const auto& label = static_cast<const Label&>(control);
+  return Announces(label) && IsShown(label);
 }
 
 QRectF PlateOf(const Label& label) {

@@ -5,6 +5,8 @@
 
 // Whether the label tells in large type what has just happened.
 bool Announces(const Label& label);
+// Whether it is one that does so just now.
+bool IsAnnounced(const Control& control);
 // The plate of an announcement, around all that is announced beside it; pixels at 100 %.
 QRectF PlateOf(const Label& label);
 
