@@ -12,18 +12,27 @@ export function asked (games) {
   return games.find(each => each.toLowerCase() === name) ?? ''
 }
 
+let going = false // back, by ourselves: that comes about a moment later
+
 export function followWindows () {
+  if (going) return
   const game = shownGame()
   const name = game ? `#${nameOf(game)}` : ''
   if (name === location.hash) return
   const url = name || location.href.split('#')[0]
   if (name && location.hash === '') history.pushState({ game: true }, '', url)
-  else if (!name && history.state?.game) history.back()
-  else history.replaceState(null, '', url)
+  else if (!name && history.state?.game) {
+    going = true
+    history.back()
+  } else history.replaceState(null, '', url)
 }
 
 // Back: the window is closed as by its close box, which may ask; where the player stays, so does the address.
 addEventListener('popstate', () => {
+  if (going) {
+    going = false
+    return followWindows()
+  }
   const game = shownGame()
   if (game && location.hash === '') {
     history.pushState({ game: true }, '', `#${nameOf(game)}`)

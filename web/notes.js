@@ -34,6 +34,20 @@ function show (window, note) {
   element.style.top = `${holder.top + note.top}px`
   element.style.width = `${note.width}px`
   if (note.look < 2) element.style.height = `${note.height}px`
+  if (note.panel) placeSheet(window, element, note)
+}
+
+// Below the place that was told, or above it; where nothing else has room, over the place itself.
+function placeSheet (window, element, note) {
+  const [width, height] = [element.offsetWidth, element.offsetHeight]
+  const left = Math.max(0, Math.round(note.left + (note.width - width) / 2))
+  const taken = [...window.controls.values()].filter(each => each.within === window.id && !each.hidden && each.width > 0 &&
+    each.left < left + width && left < each.left + each.width && each.text !== '').map(each => [each.top, each.top + each.height])
+  const end = note.top + note.height
+  const fits = top => top >= 0 && taken.every(([from, to]) => to <= top || from >= top + height)
+  const top = [end + 12, end + 3, note.top - 12 - height, note.top - 3 - height].find(fits) ?? end - height - 4
+  element.style.left = `${left}px`
+  element.style.top = `${top}px`
 }
 
 // Read once a game has been played behind them.
@@ -42,7 +56,7 @@ function addFirstSteps (window, notes) {
   const { steps } = window.guide
   if (steps) {
     const [place, ...lines] = steps
-    notes.push({ ...place, text: lines.join('\n'), look: 2, align: 2, top: place.top + place.height + 12 })
+    notes.push({ ...place, text: lines.join('\n'), look: 2, align: 2, panel: true })
     window.showsSteps = true
   } else if (window.showsSteps) {
     window.showsSteps = false
