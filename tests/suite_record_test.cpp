@@ -279,3 +279,22 @@ TEST(Records, WhatAFrontEndHasAskedForIsPlayedAgain) {
   EXPECT_EQ(played.results[1].deal, 4711);
   for (const std::string& text : played.records) EXPECT_EQ(VerdictOn(text).substr(0, 6), "holds ");
 }
+
+// They are shown to players, and must go on as they were played.
+TEST(Record, DemonstrationsComeIntoTheBonusRound) {
+  for (const GameEntry& game : AllGames()) {
+    SCOPED_TRACE(game.Name());
+    std::string text;
+    const auto file = std::filesystem::path(CARDHAVEN_SOURCE "/data/demonstrations") /
+                      (std::string(game.Name()) + ".record");
+    EXPECT_EQ(record::ReadRecord(file, text).why, "");
+    record::Contents contents;
+    const Verdict verdict = LookThrough(text, kProgram, AllGames(), contents);
+    ASSERT_EQ(verdict.kind, Verdict::Kind::Holds) << verdict.Text();
+    EXPECT_EQ(verdict.result.game, game.Name());
+    EXPECT_GT(verdict.result.rounds, game.rounds);
+    EXPECT_EQ(static_cast<int>(contents.rounds.size()), verdict.result.rounds);
+    EXPECT_GT(contents.comments, 4);
+    EXPECT_FALSE(verdict.result.custom);
+  }
+}
