@@ -18,7 +18,7 @@ mkdir "$made/music"
 "$tools/make-tune/make-tune" --check "$data/music/quillmark.score"
 cp "$data/music/quillmark.score" "$made/music"
 
-diff -rq "$made" "$data" -x '*.wav' -x '[0-9]*x[0-9]*'
+diff -rq "$made" "$data" -x '*.wav' -x '[0-9]*x[0-9]*' -x demonstrations
 "$tools/render-icons/render-icons" --check "$data/icons"
 [ "$(ls "$made/sounds")" = "$(ls "$data/sounds")" ] || {
   echo "There are other waves in $data/sounds than those made" >&2

@@ -93,8 +93,7 @@ void DesktopFrontEnd::Run(Form* form, const std::function<void()>& handler) {
   busy_ = false;
   PlayWaveInAHurry();
   if (platform.HasEnded()) return Quit();
-  for (const auto& [each, window] : windows_)
-    if (each->Visible) window->Settle();
+  SettleWindows();
   ArmTimer();
   if (!deeds_.empty() || hurry_.Keeps()) QTimer::singleShot(0, &timer_, [this] { DeliverWaiting(); });
   Wake();
@@ -309,6 +308,11 @@ void DesktopFrontEnd::Quit() {
 
 void DesktopFrontEnd::SettleBoards() {
   for (const auto& [form, window] : windows_) window->Board().Settle();
+}
+
+void DesktopFrontEnd::SettleWindows() {
+  for (const auto& [form, window] : windows_)
+    if (form->Visible) window->Settle();
 }
 
 // A dialog follows the window behind it.

@@ -125,6 +125,8 @@ class DesktopFrontEnd : public FrontEnd, public Deeds {
   QMessageBox* StandingBox() const;
   // What the handler under way has changed so far is set in motion.
   void SettleBoards();
+  // No handler runs: the windows show what Qt or their guides may have changed.
+  void SettleWindows();
   // All windows and boxes go, and know nothing of their forms any more.
   void ForgetWindows();
   // The window in front; null if none is seen.

@@ -160,6 +160,7 @@ void WatchingDesktop::Pass(long long milliseconds, long long at, int step, bool 
     looks.HoldCards(false);
     milliseconds = 0;
   }
+  if (next_.kind != Event::Kind::None) SettleWindows();  // no handler is in the middle of something
   Wait(static_cast<double>(std::clamp(milliseconds, 0ll, 3'600'000ll)));
   delete hand_;
   next_ = {};
