@@ -61,6 +61,7 @@ int main(int argc, char** argv) {
   Options options;
   if (const auto status = ReadCommandLine(Program::Desktop, argc, argv, options)) return *status;
   try {
+    TakeRecord(options);
     DesktopOptions desktop;
     desktop.folders = {FindAppPath(options), FindDataFolder()};
     desktop.guides = MakeGuide;

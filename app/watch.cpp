@@ -43,6 +43,13 @@ Recording Describe(const record::Contents& contents, const GameResult& result) {
 
 }  // namespace
 
+void TakeRecord(Options& options) {
+  std::string text;
+  if (options.console || options.savedGame.empty()) return;
+  if (Disk().Read(options.savedGame, text) == ReadOutcome::Read && record::BeginsAsRecord(text))
+    options.watched = options.savedGame;
+}
+
 int Watch(char** argv, const Options& options, const DesktopOptions& desktop) {
   std::string text;
   record::Contents contents;

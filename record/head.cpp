@@ -147,6 +147,8 @@ Extent ReadExtent(Line& line) {
   return {width, height};
 }
 
+bool BeginsAsRecord(std::string_view text) { return text.starts_with(std::string(kTitle) + " "); }
+
 Head ReadHead(LineReader& lines) {
   Head head;
   Line line;

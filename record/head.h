@@ -49,6 +49,8 @@ struct Head {
   std::string Text(const Shelf& shelf, bool withMemory) const;
 };
 
+// Whether a text begins as records do.
+bool BeginsAsRecord(std::string_view text);
 // Reads a head, up to the line "begin". Throws `NoRecord`.
 Head ReadHead(LineReader& lines);
 
