@@ -6,6 +6,7 @@
 
 #include "app/options.h"
 #include "app/records.h"
+#include "app/reports.h"
 #include "app/watch.h"
 #include "games/games.h"
 #include "suite/catalogue.h"
@@ -65,6 +66,7 @@ int main(int argc, char** argv) {
     DesktopOptions desktop;
     desktop.folders = {FindAppPath(options), FindDataFolder()};
     desktop.guides = MakeGuide;
+    desktop.games = KnownGames();
     if (options.console)
       desktop.script = ScriptOptions{options.start, options.speed};
     else

@@ -22,6 +22,12 @@ int Print(const std::string& text) { return std::cout << text << std::flush ? EX
 
 }  // namespace
 
+std::vector<KnownGame> KnownGames() {
+  std::vector<KnownGame> known;
+  for (const GameEntry& entry : AllGames()) known.push_back({std::string(entry.Name()), entry.rounds});
+  return known;
+}
+
 int PrintHistory(const std::filesystem::path& folder) {
   std::string text;
   if (!ReadHistory(folder, text)) return EXIT_FAILURE;
@@ -37,7 +43,5 @@ int PrintStatistics(const std::filesystem::path& folder, const std::string& game
   EachGame(text, [&](std::string_view, const PlayedGame& played) {
     if (game.empty() || played.game == game) games.push_back(played);
   });
-  std::vector<KnownGame> known;
-  for (const GameEntry& entry : AllGames()) known.push_back({std::string(entry.Name()), entry.rounds});
-  return Print(FormatStatistics(Summarise(games, known)));
+  return Print(FormatStatistics(Summarise(games, KnownGames())));
 }

@@ -84,18 +84,33 @@ std::optional<PlayedGame> ParseGame(std::string_view line) {
   return game;
 }
 
-void EachGame(std::string_view text, const std::function<void(std::string_view, const PlayedGame&)>& take) {
+namespace {
+
+// Calls with each line, without its end.
+template <class Take>
+void EachLine(std::string_view text, Take take) {
   while (!text.empty()) {
     const size_t length = std::min(text.find('\n'), text.size());
     std::string_view line = text.substr(0, length);
     text.remove_prefix(std::min(length + 1, text.size()));
     if (line.ends_with('\r')) line.remove_suffix(1);
-    if (const auto game = ParseGame(line)) take(line, *game);
+    take(line);
   }
+}
+
+}  // namespace
+
+void EachGame(std::string_view text, const std::function<void(std::string_view, const PlayedGame&)>& take) {
+  EachLine(text, [&](std::string_view line) {
+    if (const auto game = ParseGame(line)) take(line, *game);
+  });
 }
 
 std::vector<PlayedGame> ParseHistory(std::string_view text) {
   std::vector<PlayedGame> games;
-  EachGame(text, [&](std::string_view, const PlayedGame& game) { games.push_back(game); });
+  games.reserve(static_cast<size_t>(std::ranges::count(text, '\n')) + 1);
+  EachLine(text, [&](std::string_view line) {
+    if (auto game = ParseGame(line)) games.push_back(std::move(*game));
+  });
   return games;
 }

@@ -144,7 +144,7 @@ class SelectGuide : public Guide {
   }
 
   std::optional<Note> HelpPlace() const override {
-    const int left = window_.cmdLaunchBrowser.Left + window_.cmdLaunchBrowser.Width, gap = 330;
+    const int left = window_.cmdLaunchBrowser.Left + window_.cmdLaunchBrowser.Width, gap = 120;
     return Note{&window_,
                 left + gap,
                 window_.cmdClose.Top,

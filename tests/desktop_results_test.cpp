@@ -1,11 +1,18 @@
 // What the desktop tells of games that have ended, and the entries for deals.
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QSvgRenderer>
+#include <QTableWidget>
+#include <set>
 
 #include "history/deal_number.h"
 #include "tests/desktop_start.h"
+#include "window/desktop/results/charts.h"
+#include "window/desktop/results/remarks.h"
+#include "window/desktop/results/statistics_window.h"
 
 namespace {
 
@@ -91,4 +98,102 @@ TEST_F(Outcomes, ADealIsPlayedByItsNumber) {
     static_cast<GameWindow&>(start.Window("frmSpirehold")).mnuAbout.OnClick();
   });
   input::Settle();
+}
+
+TEST_F(Outcomes, TheDealOfTheDayIsOpenedFromTheSelectorAndItsResultCopied) {
+  folder.Write("desktop.ini", "[last]\nseen=frmSpirehold\n");
+  Start start(folder);
+  auto* days = start.Shown("frmSelect").findChild<QMenu*>("dealOfTheDay");
+  ASSERT_TRUE(days);
+  emit days->aboutToShow();
+  days->findChild<QAction*>("todaySpirehold")->trigger();
+  input::Settle();
+  EXPECT_NE(Notes(start, "frmSpirehold").find("the first game counts"), std::string::npos);
+  EXPECT_FALSE(Entry(start, "dealNumber").isEnabled());
+  EXPECT_FALSE(Entry(start, "copyResult").isEnabled());
+  PlayOut(start);
+  const std::string day = start.GuideTo("frmSpirehold").Game()->day;
+  EXPECT_EQ(Deal(start), DealOfTheDay(day, "Spirehold"));
+  EXPECT_EQ(Notes(start, "frmSpirehold").find("practice"), std::string::npos);
+  Entry(start, "copyResult").trigger();
+  input::Settle();
+  const QString copied = QGuiApplication::clipboard()->text();
+  EXPECT_TRUE(copied.startsWith("Card Haven, Spirehold, deal of the day, ")) << copied.toStdString();
+  EXPECT_TRUE(copied.endsWith("\n0 points  \u00b7\u00b7\n")) << copied.toStdString();
+  PlayOut(start);
+  EXPECT_NE(Notes(start, "frmSpirehold").find("practice"), std::string::npos);
+  emit days->aboutToShow();
+  EXPECT_EQ(days->actions().at(4)->text(), "Spirehold\t0");
+}
+
+TEST(Results, SignsTellWhatTheRoundsHavePaid) {
+  GameFacts facts;
+  facts.name = "Spirehold";
+  facts.deal = 77;
+  facts.payments = {500, 1000, 0, 250};
+  facts.last = "2026-11-21T12:00:00+01:00,Spirehold,45,,0,3,1750,0,9,77,played,";
+  EXPECT_EQ(
+      ResultToCopy(facts, {{"Spirehold", 3}}),
+      "Card Haven, Spirehold, deal 77, 21 November 2026\n1,750 points  \u2585\u2588\u00b7\u2605\u2583\n");
+  facts.last = "2026-11-21T12:00:00+01:00,Spirehold,45,,0,3,1750,0,9,77,given-up,";
+  EXPECT_EQ(ResultToCopy(facts, {}), "");
+}
+
+TEST_F(Outcomes, StatisticsAreATableWithPictures) {
+  {
+    Start start(folder);
+    StatisticsWindow none(folder.Path() / "History.csv", start.front.games, "", &start.Shown("frmSelect"));
+    EXPECT_FALSE(none.findChild<QPushButton*>("saveTable")->isEnabled());
+    EXPECT_TRUE(none.findChild<QWidget*>("page")->accessibleName().startsWith("Nothing has been played"));
+  }
+  std::string text = kLine;
+  for (int i = 0; i < 40; ++i)
+    text +=
+        "2026-11-21T12:00:00+01:00,Duopick,45,,0,2," + std::to_string(i % 7 * 100) + ",0,60,5,played,\r\n";
+  folder.Write("History.csv", text + "rubbish\r\n" + kLine);
+  Start start(folder);
+  start.Shown("frmSelect").findChild<QAction*>("statistics")->trigger();
+  ASSERT_TRUE(input::Await([] { return QApplication::activeModalWidget(); }));
+  auto& window = static_cast<StatisticsWindow&>(*QApplication::activeModalWidget());
+  auto& table = *window.findChild<QTableWidget*>("table");
+  ASSERT_EQ(table.rowCount(), 2);
+  EXPECT_EQ(table.item(0, 0)->text() + table.item(0, 2)->text() + table.item(0, 4)->text(), "Duopick40600");
+  EXPECT_EQ(table.currentRow(), 1) << "the newest game's";
+  auto& page = *window.findChild<QWidget*>("page");
+  input::Key(table, Qt::Key_Up);
+  input::Settle();
+  EXPECT_TRUE(page.accessibleName().startsWith("Duopick, 45 seconds. 40 games"))
+      << page.accessibleName().toStdString();
+  for (const bool strong : {false, true}) {
+    start.front.looks.Alter([&](View& view) { view.highContrast = strong; });
+    for (const QSize size : {window.minimumSize(), QSize(1200, 900)}) {
+      window.resize(size);
+      std::set<QRgb> colours;
+      const QImage picture = page.grab().toImage();
+      for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x) colours.insert(picture.pixel(x, y));
+      EXPECT_GT(colours.size(), 20u);
+      EXPECT_EQ(colours.contains(style::kStrongMark.rgb()), strong);
+    }
+  }
+  start.front.looks.Alter([](View& view) { view.highContrast = false; });
+  EXPECT_TRUE(window.SavePicture(folder.Path() / "a.png") && window.SavePicture(folder.Path() / "a.svg") &&
+              window.SaveTable(folder.Path() / "a.csv"));
+  EXPECT_FALSE(window.SaveTable(folder.Path() / "none" / "a.csv"));
+  EXPECT_FALSE(QImage(QString::fromStdString((folder.Path() / "a.png").string())).isNull());
+  EXPECT_TRUE(QSvgRenderer(QString::fromStdString((folder.Path() / "a.svg").string())).isValid());
+  EXPECT_NE(folder.Read("a.csv").find("\r\nDuopick,45,,0,0,40,40,600,"), std::string::npos);
+  window.close();
+  input::Settle();
+}
+
+TEST(Results, ScalesAreOfRoundNumbersAndRecordsOnlyRise) {
+  using results::Page;
+  std::vector<Page::Score> scores;
+  for (const int score : {-250, 300, 300, 120, 999, 5}) scores.push_back({score, {}});
+  const results::Bins bins = results::BinsOf(scores, 10);
+  EXPECT_EQ(std::tuple(bins.from, bins.step, bins.counts.size()), std::tuple(-400, 200, 7u));
+  EXPECT_EQ(bins.counts, (std::vector<int>{1, 0, 2, 2, 0, 0, 1}));
+  EXPECT_EQ(results::RecordsOf(scores), (std::vector<size_t>{1, 4}));
+  EXPECT_EQ(results::RunningMeans(scores, 2), (std::vector<double>{-250, 25, 300, 210, 559.5, 502}));
 }

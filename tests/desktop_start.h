@@ -12,6 +12,7 @@ struct Start {
   explicit Start(const TestFolder& folder)
       : front({folder.Path(), CARDHAVEN_TEST_DATA, folder.Path() / "desktop.ini"}, Catalogue()) {
     front.guides = MakeGuide;
+    for (const GameEntry& game : AllGames()) front.games.push_back({std::string(game.Name()), game.rounds});
     suite = std::make_unique<Suite>(front.platform, SuiteOptions{folder.Path()}, AllGames());
     suite->Start();
     input::Settle();

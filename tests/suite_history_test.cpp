@@ -3,10 +3,13 @@
 
 #include <fstream>
 #include <map>
+#include <numeric>
 #include <random>
+#include <set>
 
 #include "history/comparison.h"
-#include "history/statistics.h"
+#include "history/deal_number.h"
+#include "history/overview.h"
 #include "tests/driver.h"
 
 namespace {
@@ -139,6 +142,105 @@ TEST(History, AGameIsComparedWithThoseBeforeIt) {
   EXPECT_NE(FormatGame(game).find(SettingsField(game)), std::string::npos);
   game.end = GameEnd::GivenUp;
   EXPECT_EQ(HowItCompares(game, {}), "");
+}
+
+namespace {
+
+using std::chrono::days;
+using std::chrono::sys_days;
+
+std::string Written(sys_days day) {
+  const std::chrono::year_month_day date(day);
+  char text[32];
+  std::snprintf(text, sizeof text, "%04d-%02u-%02u", int(date.year()), unsigned(date.month()),
+                unsigned(date.day()));
+  return text;
+}
+
+}  // namespace
+
+// The rows that a player sees against a second reckoning, day by day and game by game.
+TEST(Overview, AgreesWithASecondReckoning) {
+  std::mt19937 chance(23);
+  const auto upTo = [&](int most) { return static_cast<int>(chance() % (most + 1)); };
+  const std::vector<KnownGame> known = {{"Sumfall", 2}, {"Duopick", 2}};
+  const sys_days first = std::chrono::year(2026) / 2 / 20;
+  for (int run = 0; run < 5000; ++run) {
+    std::vector<PlayedGame> history(upTo(25));
+    int minutes = 0;
+    for (PlayedGame& game : history) {
+      minutes += upTo(1500);
+      const sys_days day = first + days(minutes / 1440);
+      const int minute = minutes % 1440, offset = upTo(2) * 60 - 60;
+      // Local time; its day may be another one than that of UTC.
+      const auto local = std::chrono::sys_seconds(day) + std::chrono::minutes(minute + offset);
+      const sys_days there = std::chrono::floor<days>(local);
+      const int at = (minute + offset + 1440) % 1440;
+      char time[48];
+      std::snprintf(time, sizeof time, "T%02d:%02d:00%c%02d:00", at / 60, at % 60, offset < 0 ? '-' : '+',
+                    std::abs(offset) / 60);
+      game = {.ended = Written(there) + time,
+              .game = known[upTo(1)].name,
+              .limit = 45 + 15 * upTo(1),
+              .score = upTo(999),
+              .deal = upTo(99),
+              .end = static_cast<GameEnd>(upTo(3))};
+      if (upTo(2) == 0) game.deal = DealOfTheDay(Written(day - days(upTo(1))), game.game);
+    }
+    const sys_days today = first + days(minutes / 1440 + upTo(2));
+    size_t games = 0;
+    std::set<std::string> seen;
+    for (const HistoryRow& row : OverviewOf(history, known, today)) {
+      EXPECT_EQ(row.games.size(), static_cast<size_t>(row.figures.games));
+      std::vector<int> played;
+      for (const size_t game : row.games)
+        if (history[game].PlayedOut()) played.push_back(history[game].score);
+      if (played.size() > 10) played.erase(played.begin(), played.end() - 10);
+      EXPECT_EQ(row.lastTen, played);
+      if (!played.empty()) {
+        EXPECT_EQ(*row.lastTenAverage, std::lrint(std::accumulate(played.begin(), played.end(), 0.0) /
+                                                  static_cast<double>(played.size())));
+      }
+      if (!row.daily) {
+        games += row.games.size();
+        EXPECT_FALSE(seen.contains(row.figures.game)) << "the deals of the day stand behind all others";
+        continue;
+      }
+      seen.insert(row.figures.game);
+      // Each day's first game, looked for day by day.
+      std::vector<size_t> firsts;
+      int run_ = 0, longest = 0, streak = 0;
+      for (sys_days day = first - days(2); day <= today + days(1); day += days(1)) {
+        const auto found = std::ranges::find_if(history, [&](const PlayedGame& game) {
+          return game.game == row.figures.game && game.deal == DealOfTheDay(Written(day), game.game);
+        });
+        run_ = found == history.end() ? 0 : run_ + 1;
+        longest = std::max(longest, run_);
+        if (run_ > 0) firsts.push_back(static_cast<size_t>(found - history.begin()));
+        if (day == today - days(1) || (day == today && run_ > 0)) streak = run_;
+      }
+      EXPECT_EQ(row.games, firsts);
+      EXPECT_EQ(row.longest, longest);
+      EXPECT_EQ(row.streak, streak);
+    }
+    EXPECT_EQ(games, history.size());
+  }
+}
+
+TEST(Overview, TextsAndTable) {
+  HistoryRow row;
+  row.figures =
+      Summarise(
+          {{.game = "Sumfall", .limit = 90, .goal = 11, .custom = true, .rounds = 3, .end = GameEnd::Closed}},
+          {{"Sumfall", 2}})
+          .front();
+  EXPECT_EQ(SettingsOf(row), "90 seconds, goal 11, own scoring");
+  const std::string table = TableOf({row});
+  EXPECT_NE(table.find("\r\nSumfall,90,11,1,0,1,0,,,,,1,0,,\r\n"), std::string::npos) << table;
+  row.daily = true;
+  row.longest = 9;
+  EXPECT_EQ(SettingsOf(row), "deal of the day, run 0, longest 9");
+  EXPECT_EQ(DurationText(59) + "|" + DurationText(3599) + "|" + DurationText(7260), "59 s|59 min|2 h 1 min");
 }
 
 // Each way in which a game ends, in every game.

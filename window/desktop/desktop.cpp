@@ -370,7 +370,8 @@ void DesktopFrontEnd::FormLoaded(Form& form) {
                   paintbox,
                   access_,
                   [this] { Painted(); },
-                  folders_.own / kHistoryFile,
+                  by_ == Operator::Recording ? fs::path() : folders_.own / kHistoryFile,
+                  games,
                   by_ != Operator::Script,
                   by_ == Operator::Recording,
                   records};

@@ -6,6 +6,7 @@
 #include <deque>
 #include <filesystem>
 
+#include "history/statistics.h"
 #include "window/desktop/input/deeds.h"
 #include "window/desktop/input/hurry.h"
 #include "window/desktop/input/latin.h"
@@ -38,6 +39,7 @@ class DesktopFrontEnd : public FrontEnd, public Deeds {
   Paintbox paintbox;
   Looks looks;
   const RecordDesk* records = nullptr;  // what is known of records; set before the first window is loaded
+  std::vector<KnownGame> games;         // for statistics
   Guides guides;  // set before the first window is loaded; none where a script drives the windows
 
   // Runs `start`, which shows the first window, then serves events until the program ends. The exit status.

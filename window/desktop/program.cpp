@@ -88,6 +88,7 @@ int RunDesktop(char** argv, const DesktopOptions& options, const PictureFiles& p
     front->guides = options.guides;
     front->records = &options.records;
   }
+  front->games = options.games;
   front->looks.mayKeepRecords = options.keepsRecords;
   std::shared_ptr<void> kept;  // goes before the front end does
   return screen.Serve(*front, [&] { kept = start(*front); });

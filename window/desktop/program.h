@@ -13,6 +13,7 @@ struct DesktopOptions {
   Guides guides;                        // for a player; a script needs none
   RecordDesk records;                   // for a player
   bool keepsRecords = false;            // unless the player's view says otherwise
+  std::vector<KnownGame> games = {};    // for statistics
 };
 
 // Opens the screen, lets `start` show the first window on its platform, and runs until the program ends. What

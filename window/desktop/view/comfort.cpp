@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QIconEngine>
+#include <QMenu>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
@@ -16,6 +17,7 @@
 #include "window/desktop/painting/room.h"
 #include "window/desktop/painting/style.h"
 #include "window/desktop/results/remarks.h"
+#include "window/desktop/view/choice_menu.h"
 #include "window/desktop/view/keys_window.h"
 #include "window/desktop/view/looks.h"
 #include "window/desktop/view/native.h"
@@ -55,6 +57,8 @@ Comfort::Comfort(Canvas& canvas, Deeds& deeds, Looks& looks, Guide& guide, std::
     ApplyToolTip(*widget, static_cast<const Visual&>(*control)),
         ApplyPicture(*widget, static_cast<const Visual&>(*control));
   OfferHelp();
+  OfferMenu();
+  Zoom();
 }
 
 void Comfort::ApplyPicture(QWidget& widget, const Visual& control) const {
@@ -74,14 +78,35 @@ void Comfort::OfferHelp() {
   const auto show = [this] { deeds_.Do(form_, [this] { ShowKeys(form_, guide_, deeds_, window_); }); };
   QObject::connect(help_, &QPushButton::clicked, help_, show);
   QObject::connect(new QShortcut(Qt::Key_F1, help_), &QShortcut::activated, help_, show);
-  Zoom();
+}
+
+// Beside it; Alt and M, or F10.
+void Comfort::OfferMenu() {
+  if (!help_ || guide_.Doors().empty()) return;
+  menuButton_ = new QPushButton("&Menu", &canvas_);
+  menuButton_->setObjectName("menu");
+  menuButton_->setFocusPolicy(Qt::NoFocus);
+  menu_ = new ChoiceMenu(form_, guide_, deeds_, history_, window_);
+  const auto show = [this] {
+    menu_->SetFont(menuButton_->font());
+    menu_->Shown().popup(menuButton_->mapToGlobal(QPoint(0, menuButton_->height())));
+  };
+  QObject::connect(menuButton_, &QPushButton::clicked, menuButton_, show);
+  QObject::connect(new QShortcut(Qt::Key_F10, menuButton_), &QShortcut::activated, menuButton_, show);
 }
 
 void Comfort::Zoom() {
   if (!help_) return;
-  const Note place = *guide_.HelpPlace();
+  constexpr int kGap = 8;
+  QRect place = NoteRect(*guide_.HelpPlace());
+  if (menuButton_) {
+    const int breadth = (place.width() - kGap) / 2;
+    menuButton_->setFont(style::Letters(canvas_.Zoom()));
+    menuButton_->setGeometry(canvas_.ToWindow(QRect(place.topLeft(), QSize(breadth, place.height()))));
+    place.setLeft(place.right() + 1 - breadth);
+  }
   help_->setFont(style::Letters(canvas_.Zoom()));
-  help_->setGeometry(canvas_.ToWindow(NoteRect(place)));
+  help_->setGeometry(canvas_.ToWindow(place));
 }
 
 void Comfort::BeforeShow() {
@@ -201,7 +226,7 @@ void Comfort::PlaceSheet(Note& sheet, const std::vector<Note>& others) const {
 
 std::string Comfort::Remark() {
   const auto facts = guide_.Game();
-  if (!facts) return "";
+  if (!facts || history_.empty()) return "";
   if (facts_ != *facts) remark_ = RemarkOn(*facts, history_);
   facts_ = *facts;
   return remark_;

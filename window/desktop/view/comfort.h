@@ -8,6 +8,7 @@
 #include "window/guide.h"
 
 class Canvas;
+class ChoiceMenu;
 class Deeds;
 class Keyboard;
 class Looks;
@@ -18,6 +19,9 @@ class Comfort {
  public:
   // `history` is the file of the games played so far.
   Comfort(Canvas& canvas, Deeds& deeds, Looks& looks, Guide& guide, std::filesystem::path history);
+
+  // The menu of what the window has no buttons for; null if it has them all.
+  ChoiceMenu* GetMenu() const { return menu_; }
 
   // The window is about to be shown, has been shown, or is no longer seen.
   void BeforeShow();
@@ -36,6 +40,7 @@ class Comfort {
   void ApplyToolTip(QWidget& widget, const Visual& control) const;
   void ApplyPicture(QWidget& widget, const Visual& control) const;
   void OfferHelp();
+  void OfferMenu();
   void ShowNotes();
   static std::string InTwoLines(std::string text);
   void PlaceSheet(Note& sheet, const std::vector<Note>& others) const;
@@ -53,7 +58,8 @@ class Comfort {
   Deeds& deeds_;
   Looks& looks_;
   Guide& guide_;
-  QPushButton* help_ = nullptr;
+  QPushButton *help_ = nullptr, *menuButton_ = nullptr;
+  ChoiceMenu* menu_ = nullptr;
   std::string written_;  // in the box that is offered again
   const std::filesystem::path history_;
   GameFacts facts_;  // when the remark was made

@@ -1,8 +1,10 @@
 #include "window/desktop/view/deals.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QGuiApplication>
 #include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,11 +16,13 @@
 #include "history/deal_number.h"
 #include "window/desktop/input/deeds.h"
 #include "window/desktop/painting/style.h"
+#include "window/desktop/results/remarks.h"
 #include "window/desktop/view/aside.h"
 #include "window/desktop/view/menus.h"
 
-DealEntries::DealEntries(Form& form, Guide& guide, Deeds& deeds, const Menus& menus, QWidget& window)
-    : QObject(&window), form_(form), guide_(guide), deeds_(deeds), window_(window) {
+DealEntries::DealEntries(Form& form, Guide& guide, Deeds& deeds, const Menus& menus,
+                         const std::vector<KnownGame>& games, QWidget& window)
+    : QObject(&window), form_(form), guide_(guide), deeds_(deeds), window_(window), games_(games) {
   const Menu* const told = guide.PlayMenu();
   QMenu* const menu = told ? menus.ActionOf(*told)->menu() : nullptr;
   if (!menu) return;
@@ -36,6 +40,7 @@ DealEntries::DealEntries(Form& form, Guide& guide, Deeds& deeds, const Menus& me
   };
   number_ = add("dealNumber", "Deal &Number...", &DealEntries::AskForNumber);
   again_ = add("dealAgain", "Same &Deal Again", &DealEntries::PlayAgain);
+  copy_ = add("copyResult", "&Copy Result", &DealEntries::Copy);
   connect(menu, &QMenu::aboutToShow, this, &DealEntries::Apply);
 }
 
@@ -45,6 +50,7 @@ void DealEntries::Apply() {
   const bool plays = facts && player::WhyNot(*guide_.Play()).empty();
   number_->setEnabled(plays && facts->day.empty());
   again_->setEnabled(plays && facts->deal != 0);
+  copy_->setEnabled(facts && !ResultToCopy(*facts, games_).empty());
 }
 
 void DealEntries::AskForNumber() {
@@ -85,6 +91,10 @@ void DealEntries::AskForNumber() {
   });
   field->selectAll();
   field->setFocus();
+}
+
+void DealEntries::Copy() {
+  QGuiApplication::clipboard()->setText(QString::fromStdString(ResultToCopy(*guide_.Game(), games_)));
 }
 
 void DealEntries::PlayAgain() { Play(guide_.Game()->deal); }

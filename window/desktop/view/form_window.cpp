@@ -4,6 +4,7 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -18,7 +19,10 @@
 #include "window/desktop/input/drag.h"
 #include "window/desktop/input/keyboard.h"
 #include "window/desktop/painting/canvas.h"
+#include "window/desktop/results/statistics_window.h"
 #include "window/desktop/speech/access.h"
+#include "window/desktop/view/aside.h"
+#include "window/desktop/view/choice_menu.h"
 #include "window/desktop/view/comfort.h"
 #include "window/desktop/view/deals.h"
 #include "window/desktop/view/looks.h"
@@ -43,7 +47,8 @@ FormWindow::FormWindow(Form& form, std::unique_ptr<Guide> guide, const Desk& des
   MakeCanvas();
   menus_ = new Menus(form, guide_.get(), desk.deeds, *this);
   if (desk.hasPlayer) MakeViewMenu();
-  if (desk.hasPlayer && guide_) new DealEntries(form, *guide_, desk.deeds, *menus_, *this);
+  if (desk.hasPlayer && !desk.showsRecording && guide_)
+    new DealEntries(form, *guide_, desk.deeds, *menus_, desk.games, *this);
   for (Control* control : form.Controls()) {
     if (control->kind == Control::Kind::StatusBar) MakeStatusBar(static_cast<StatusBar&>(*control));
     if (!IsNative(control->kind)) continue;
@@ -54,6 +59,7 @@ FormWindow::FormWindow(Form& form, std::unique_ptr<Guide> guide, const Desk& des
   }
   if (guide_) {
     comfort_ = std::make_unique<Comfort>(*canvas_, desk.deeds, desk.looks, *guide_, desk.history);
+    if (ChoiceMenu* menu = comfort_->GetMenu()) menu->statistics = [this] { ShowStatistics(); };
     if (!guide_->Keys().empty()) {
       keyboard_ = new Keyboard(*canvas_, desk.deeds, *guide_);
       drag_ = new Drag(*canvas_, desk.deeds, *guide_);
@@ -115,6 +121,20 @@ void FormWindow::MakeViewMenu() {
     return ViewMenu::Size{zoom_, leader.zoom_, leader.form.Sizable ? fit : nullptr, leader.IsFilled()};
   };
   viewMenu_ = new ViewMenu(*this, desk_.looks, size, menus_->Bar());
+  QMenu* const menu =
+      guide_ && guide_->Game() && !desk_.showsRecording ? findChild<QMenu*>("viewMenu") : nullptr;
+  if (!menu) return;
+  menu->addSeparator();
+  QAction* const statistics = menu->addAction("S&tatistics...");
+  statistics->setObjectName("statistics");
+  connect(statistics, &QAction::triggered, this,
+          [this] { desk_.deeds.Do(form, [this] { ShowStatistics(); }); });
+}
+
+void FormWindow::ShowStatistics() {
+  const auto game = guide_->Game();
+  ShowAside(*new StatisticsWindow(desk_.history, desk_.games, game ? game->name : "", this), form, *guide_,
+            desk_.deeds, *this);
 }
 
 // What there is to watch, and what may be dropped: a record, on the window from which games are opened.

@@ -9,6 +9,7 @@
 #include <memory>
 #include <vector>
 
+#include "history/statistics.h"
 #include "window/desktop/speech/spoken_window.h"
 #include "window/guide.h"
 
@@ -30,8 +31,9 @@ struct Desk {
   Looks& looks;
   Paintbox& paintbox;
   Access& ears;
-  std::function<void()> painted;  // a board has been
-  std::filesystem::path history;  // the file
+  std::function<void()> painted;        // a board has been
+  std::filesystem::path history;        // the file; none where none is looked at
+  const std::vector<KnownGame>& games;  // that there are
   // Whether a player moves the windows, and the pointer over them; a script's stay as the games place them.
   bool hasPlayer = true;
   // The windows show a recording: they say so, and lock no others out.
@@ -104,6 +106,7 @@ class FormWindow : public QWidget, public SpokenWindow {
   void MakeStatusBar(StatusBar& bar);
   void OfferRecords();
   void MakeViewMenu();
+  void ShowStatistics();
   void LayOutParts();
   void ApplyForm(Prop prop);
   void ApplySize();
