@@ -61,7 +61,7 @@ std::map<std::string, Change> Changes() {
       {"viewLessMotion", [](View& view) { view.lessMotion = true; }},
       {"viewKeepRecords", [](View& view) { view.keepsRecords = false; }},
   };
-  for (const int zoom : {100, 125, 150, 175, 200, 250, 300})
+  for (const int zoom : {100, 125, 150, 175, 200, 225, 250, 275, 300})
     changes["viewZoom" + std::to_string(zoom)] = [zoom](View& view) { view.zoom = zoom; };
   for (const int volume : {100, 75, 50, 25, 0}) {
     changes["viewWaves" + std::to_string(volume)] = [volume](View& view) { view.waveVolume = volume; };

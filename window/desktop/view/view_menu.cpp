@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int kZooms[] = {100, 125, 150, 175, 200, 250, 300};
+constexpr int kZooms[] = {100, 125, 150, 175, 200, 225, 250, 275, 300};
 constexpr int kVolumes[] = {100, 75, 50, 25, 0};
 
 bool Fits(const ViewMenu::Size& size, const View& view) { return size.fit && view.*size.fit; }
