@@ -56,6 +56,19 @@ TEST(SumfallSaved, TheFileHoldsTheDecksOfTheLastGame) {
                 round + "[Round 2 Deck]\r\n" + round);
 }
 
+// Its cards are its own, also in a window that plays the deal of the day.
+TEST(SumfallSaved, ASavedGameHasNoNumber) {
+  TestFolder folder;
+  folder.Write("g.sfl", SavedText());
+  Driver driver(folder.Path(), {.suite = {.game = "Sumfall", .today = true}});
+  driver.Do(kPlay + kEndGame);
+  EXPECT_NE(driver.common().deal.Played().number, 0);
+  driver.Do(OpenFile("g.sfl") + "answer \"OK\"");
+  EXPECT_TRUE(driver.InGame());
+  EXPECT_EQ(driver.common().Deck[17], "2S");
+  EXPECT_EQ(driver.common().deal.Played().number, 0);
+}
+
 TEST(SumfallSaved, OpeningTellsTheStoryAndReplays) {
   const std::pair<const char*, const char*> verdicts[] = {
       {"-500", "amassed a pitiful score of -500"},
