@@ -111,6 +111,11 @@ QRect Canvas::PlaceOf(const Visual& control) const {
   return IsDrawn(control.kind) ? DrawnRect(control, paintbox_.pictures) : ModelRect(control);
 }
 
+bool Canvas::ShowsBack(const Visual& control) const {
+  return control.kind == Control::Kind::Image &&
+         paintbox_.pictures.KindOf(static_cast<const Image&>(control).Picture) == PictureKind::Back;
+}
+
 QRect Canvas::ReachOf(const Visual& control) const {
   return IsDrawn(control.kind) ? Reach(control, paintbox_.pictures) : ModelRect(control);
 }
@@ -153,8 +158,21 @@ void Canvas::paintEvent(QPaintEvent* event) {
       PaintControl(easel, i);
   }
   paintNotes(NoteLayer::Above);
+  // Cards that leave the board leave it beneath what is announced.
+  QRegion open(QRectF(QPointF(0, 0), QSizeF(size()) / zoom_).toAlignedRect());
+  for (const Placed& placed : scene)
+    if (IsAnnounced(*placed.control))
+      open -= PlateOf(static_cast<const Label&>(*placed.control)).toAlignedRect();
+  painter.save();
+  painter.setClipRegion(open);
   motion_.PaintAbove(easel);
+  painter.restore();
   celebration_.Paint(painter);
+  if (strong && form.Modal()) {  // else nothing tells where it ends
+    painter.setPen(QPen(Qt::white, 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(QPointF(1, 1), QSizeF(size()) / zoom_ - QSizeF(2, 2)));
+  }
   if (paintOver) paintOver(painter);
   if (painted) painted();
 }

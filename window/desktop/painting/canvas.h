@@ -39,6 +39,8 @@ class Canvas : public QWidget {
   // Paints that part of the board anew; pixels at 100 %.
   void Repaint(const QRect& area) { update(ToWindow(area)); }
 
+  // A card that lies face down.
+  bool ShowsBack(const Visual& control) const;
   // The control looks different from now on, or lies elsewhere.
   void Refresh(const Visual& control);
   // What has changed since the last time is set in motion.

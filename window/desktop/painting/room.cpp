@@ -4,13 +4,14 @@
 
 #include "window/desktop/painting/canvas.h"
 
-std::vector<QRect> Taken(const Canvas& board, bool byCards) {
+std::vector<QRect> Taken(const Canvas& board, Over over) {
   std::vector<QRect> taken;
   for (const Control* control : board.form.Controls()) {
     if (control->parent != &board.form || !(IsDrawn(control->kind) || board.WidgetOf(*control))) continue;
     const auto& visual = static_cast<const Visual&>(*control);
-    if (visual.Visible && (byCards || visual.kind != Control::Kind::Image))
-      taken.push_back(board.ReachOf(visual));
+    const bool isCard = visual.kind == Control::Kind::Image;
+    const bool yields = isCard && (over == Over::Cards || (over == Over::Backs && board.ShowsBack(visual)));
+    if (visual.Visible && !yields) taken.push_back(board.ReachOf(visual));
   }
   return taken;
 }
@@ -32,7 +33,7 @@ QRect FindRoom(const Canvas& board, QSize size, QPoint near, const std::vector<Q
 
 QRect RoomForHint(const Canvas& board, QSize size) {
   const QPoint end = board.ToBoard(board.rect().bottomRight()), low(end.x() / 2, end.y());
-  for (const bool byCards : {true, false})
-    if (const QRect room = FindRoom(board, size, low, Taken(board, byCards)); !room.isNull()) return room;
+  for (const Over over : {Over::Nothing, Over::Backs, Over::Cards})
+    if (const QRect room = FindRoom(board, size, low, Taken(board, over)); !room.isNull()) return room;
   return {low - QPoint(size.width() / 2, size.height()), size};
 }

@@ -179,8 +179,8 @@ void Comfort::CallFor(const CommandButton& button, std::vector<Note>& notes) con
             Note::Look::Call};
   const QSize size = NoteRect(call).size();
   QRect best;
-  for (const bool byCards : {true, false})
-    if (best.isNull()) best = FindRoom(canvas_, size, marked.center(), Taken(canvas_, byCards));
+  for (const Over over : {Over::Nothing, Over::Backs, Over::Cards})
+    if (best.isNull()) best = FindRoom(canvas_, size, marked.center(), Taken(canvas_, over));
   call.left = best.center().x() * 15;
   call.top = best.top() * 15;
   notes.push_back(std::move(call));
@@ -199,7 +199,7 @@ std::string Comfort::InTwoLines(std::string text) {
 
 // Below the place that was told, or above it; where there is less room, in two lines, or anywhere near.
 void Comfort::PlaceSheet(Note& sheet, const std::vector<Note>& others) const {
-  std::vector<QRect> taken = Taken(canvas_, true);
+  std::vector<QRect> taken = Taken(canvas_, Over::Nothing);
   for (const Note& other : others) taken.push_back(NoteRect(other));
   const int top = sheet.top;
   for (int lines = 3; lines > 1; --lines) {
