@@ -107,8 +107,11 @@ void DesktopFrontEnd::Deliver(Form& form, std::function<void()> deed) {
 void DesktopFrontEnd::ClickSoftly(Control& control) {
   Do(control, [this, &control] {
     softly_ = true;
+    const struct Loud {
+      bool& softly;
+      ~Loud() { softly = false; }
+    } loud{softly_};
     player::Click(control);
-    softly_ = false;
   });
 }
 

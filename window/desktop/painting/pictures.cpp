@@ -125,7 +125,8 @@ void Pictures::Prepare(std::vector<std::pair<int, bool>> wanted, double scale) {
   try {
     prepared_ = std::async(std::launch::async, [this, wanted = std::move(wanted), scale] {
       Images images;
-      for (const auto& which : wanted) images.emplace_back(which, Draw(which.first, which.second, scale));
+      for (const auto& which : wanted)
+        images.emplace_back(which, Draw(which.first, which.second, scale, true));
       return images;
     });
   } catch (const std::system_error&) {
@@ -135,7 +136,8 @@ void Pictures::Prepare(std::vector<std::pair<int, bool>> wanted, double scale) {
 
 void Pictures::TakePrepared() {
   if (!prepared_.valid()) return;
-  for (auto& [which, image] : prepared_.get()) Keep(which, preparedScale_, std::move(image));
+  for (auto& [which, image] : prepared_.get())
+    if (!image.isNull()) Keep(which, preparedScale_, std::move(image));
 }
 
 QImage Pictures::Other(const std::string& file, QSize size) const {
@@ -153,7 +155,7 @@ void Pictures::SetStrongEdges(bool strong) {
   if (std::exchange(strongEdges_, strong) != strong) drawn_.clear();
 }
 
-QImage Pictures::Draw(int index, bool framed, double scale) const {
+QImage Pictures::Draw(int index, bool framed, double scale, bool suiteAlone) const {
   const QSize natural = Size(index);
   const QSize outer = natural + (framed ? QSize(2, 2) : QSize(0, 0));
   const QSize pixels(std::lround(outer.width() * scale), std::lround(outer.height() * scale));
@@ -169,10 +171,12 @@ QImage Pictures::Draw(int index, bool framed, double scale) const {
     bool drawn = false;
     for (const Origin origin : {Origin::Player, Origin::Suite}) {
       if (!file || drawn) break;
+      if (suiteAlone && origin == Origin::Player) continue;
       const fs::path& folder = origin == Origin::Player ? own_ : installed_;
       if (fourColours_) drawn = Render(folder / kFourColours / file->file, origin, painter, inner);
       if (!drawn) drawn = Render(folder / file->file, origin, painter, inner);
     }
+    if (!drawn && suiteAlone) return {};
     if (!drawn)
       DrawSubstitute(
           painter, inner,

@@ -40,7 +40,8 @@ class Pictures {
   using Drawn = std::map<std::pair<int, bool>, QPixmap>;
   using Images = std::vector<std::pair<std::pair<int, bool>, QImage>>;
 
-  QImage Draw(int index, bool framed, double scale) const;
+  // Of the suite's files alone it is null where there is none.
+  QImage Draw(int index, bool framed, double scale, bool suiteAlone = false) const;
   Drawn& DrawnAt(double scale);
   QPixmap Keep(std::pair<int, bool> which, double scale, QImage image);
   void TakePrepared();
