@@ -47,13 +47,6 @@ QRect Canvas::ToWindow(const QRectF& area) const {
   return QRectF(area.topLeft() * zoom_, area.size() * zoom_).toAlignedRect();
 }
 
-void Canvas::Prepare() {
-  std::vector<std::pair<int, bool>> wanted;
-  for (const Placed& placed : Arrange(form, paintbox_.pictures))
-    if (placed.picture != 0) wanted.emplace_back(placed.picture, placed.framed);
-  paintbox_.pictures.Prepare(std::move(wanted), devicePixelRatioF() * zoom_);
-}
-
 void Canvas::Refresh(const Visual& control) {
   motion_.Changed(control);
   const auto known = drawn_.find(&control);

@@ -32,8 +32,6 @@ class Canvas : public QWidget {
   // mouse and widgets in pixels of the window.
   double Zoom() const { return zoom_; }
   void SetZoom(double zoom);
-  // The pictures that are shown begin to be drawn, beside whatever comes before the first painting.
-  void Prepare();
   QPoint ToBoard(QPointF point) const { return (point / zoom_).toPoint(); }
   QRect ToWindow(const QRectF& area) const;
   // Paints that part of the board anew; pixels at 100 %.

@@ -5,12 +5,9 @@
 #include <QSvgRenderer>
 #include <algorithm>
 #include <cmath>
-#include <optional>
-#include <system_error>
 
 #include "window/desktop/painting/screening.h"
 #include "window/desktop/painting/style.h"
-#include "window/system/folders.h"
 #include "window/system/foreign_files.h"
 #include "window/system/leaving.h"
 
@@ -27,8 +24,7 @@ enum class Origin { Player, Suite };
 bool Render(const fs::path& path, Origin origin, QPainter& painter, const QRectF& rect) {
   std::string text, why;
   if (!ReadForeignFile(path, kLargestPicture, text, why)) return false;
-  std::optional<leaving::Held> drawing;
-  if (origin == Origin::Player) drawing.emplace();
+  const leaving::Held drawing;
   QSvgRenderer renderer;
   if (why.empty() && origin == Origin::Player) why = WhyNotDraw(text);
   if (why.empty() && !renderer.load(QByteArray::fromStdString(text))) why = "it is no picture";
@@ -51,15 +47,17 @@ void DrawSubstitute(QPainter& painter, const QRectF& rect, const QString& name) 
   painter.drawText(rect, Qt::AlignCenter | Qt::TextWrapAnywhere, name);
 }
 
-}  // namespace
-
-QImage DrawFile(const fs::path& file, QSize size) {
+QImage DrawFrom(Origin origin, const fs::path& file, QSize size) {
   QImage image(size, QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  return Render(file, Origin::Player, painter, QRectF(QPointF(0, 0), QSizeF(size))) ? image : QImage();
+  return Render(file, origin, painter, QRectF(QPointF(0, 0), QSizeF(size))) ? image : QImage();
 }
+
+}  // namespace
+
+QImage DrawFile(const fs::path& file, QSize size) { return DrawFrom(Origin::Player, file, size); }
 
 Pictures::Pictures(PictureFiles files, fs::path own, fs::path installed)
     : files_(std::move(files)), own_(std::move(own)), installed_(std::move(installed)) {}
@@ -78,7 +76,7 @@ PictureKind Pictures::KindOf(int index) const {
   return file ? file->kind : PictureKind::Other;
 }
 
-Pictures::Drawn& Pictures::DrawnAt(double scale) {
+QPixmap Pictures::Get(int index, bool framed, double scale) {
   constexpr size_t kScales = 3;  // of the selector, a game, and a pointer
   auto known = std::ranges::find(drawn_, scale, [](const auto& each) { return each.first; });
   if (known == drawn_.end()) {
@@ -87,75 +85,26 @@ Pictures::Drawn& Pictures::DrawnAt(double scale) {
   } else if (known + 1 != drawn_.end()) {
     std::rotate(known, known + 1, drawn_.end());
   }
-  return drawn_.back().second;
-}
-
-QPixmap Pictures::Get(int index, bool framed, double scale) {
-  const auto find = [&] {
-    Drawn& drawn = DrawnAt(scale);
-    const auto found = drawn.find({index, framed});
-    return found == drawn.end() ? QPixmap() : found->second;
-  };
-  QPixmap picture = find();
-  if (picture.isNull() && prepared_.valid()) {
-    TakePrepared();
-    picture = find();
-  }
-  if (!picture.isNull()) return picture;
-  return Keep({index, framed}, scale, Draw(index, framed, scale));
-}
-
-QPixmap Pictures::Keep(std::pair<int, bool> which, double scale, QImage image) {
-  QPixmap pixmap = QPixmap::fromImage(std::move(image));
-  pixmap.setDevicePixelRatio(scale);
-  DrawnAt(scale).insert_or_assign(which, pixmap);
-  return pixmap;
-}
-
-void Pictures::Prepare(std::vector<std::pair<int, bool>> wanted, double scale) {
-  TakePrepared();
-  // A file of the player's own may be anything: it is met where the program can leave in the middle.
-  std::erase_if(wanted, [&](const auto& which) {
-    const PictureFile* file = Find(which.first);
-    return !file || DrawnAt(scale).contains(which) || folders::Exists(own_ / file->file) ||
-           folders::Exists(own_ / kFourColours / file->file);
-  });
-  if (wanted.empty()) return;
-  preparedScale_ = scale;
-  try {
-    prepared_ = std::async(std::launch::async, [this, wanted = std::move(wanted), scale] {
-      Images images;
-      for (const auto& which : wanted)
-        images.emplace_back(which, Draw(which.first, which.second, scale, true));
-      return images;
-    });
-  } catch (const std::system_error&) {
-    // Then they are drawn when they are asked for.
-  }
-}
-
-void Pictures::TakePrepared() {
-  if (!prepared_.valid()) return;
-  for (auto& [which, image] : prepared_.get())
-    if (!image.isNull()) Keep(which, preparedScale_, std::move(image));
+  auto& drawn = drawn_.back().second;
+  auto found = drawn.find({index, framed});
+  if (found == drawn.end()) found = drawn.emplace(std::pair(index, framed), Draw(index, framed, scale)).first;
+  return found->second;
 }
 
 QImage Pictures::Other(const std::string& file, QSize size) const {
   const QImage own = DrawFile(own_ / file, size);
-  return own.isNull() ? DrawFile(installed_ / file, size) : own;
+  return own.isNull() ? DrawFrom(Origin::Suite, installed_ / file, size) : own;
 }
 
 void Pictures::SetFourColours(bool four) {
-  TakePrepared();
   if (std::exchange(fourColours_, four) != four) drawn_.clear();
 }
 
 void Pictures::SetStrongEdges(bool strong) {
-  TakePrepared();
   if (std::exchange(strongEdges_, strong) != strong) drawn_.clear();
 }
 
-QImage Pictures::Draw(int index, bool framed, double scale, bool suiteAlone) const {
+QPixmap Pictures::Draw(int index, bool framed, double scale) const {
   const QSize natural = Size(index);
   const QSize outer = natural + (framed ? QSize(2, 2) : QSize(0, 0));
   const QSize pixels(std::lround(outer.width() * scale), std::lround(outer.height() * scale));
@@ -171,12 +120,10 @@ QImage Pictures::Draw(int index, bool framed, double scale, bool suiteAlone) con
     bool drawn = false;
     for (const Origin origin : {Origin::Player, Origin::Suite}) {
       if (!file || drawn) break;
-      if (suiteAlone && origin == Origin::Player) continue;
       const fs::path& folder = origin == Origin::Player ? own_ : installed_;
       if (fourColours_) drawn = Render(folder / kFourColours / file->file, origin, painter, inner);
       if (!drawn) drawn = Render(folder / file->file, origin, painter, inner);
     }
-    if (!drawn && suiteAlone) return {};
     if (!drawn)
       DrawSubstitute(
           painter, inner,
@@ -199,5 +146,7 @@ QImage Pictures::Draw(int index, bool framed, double scale, bool suiteAlone) con
     painter.end();
     image = std::move(rounded);
   }
-  return image;
+  QPixmap pixmap = QPixmap::fromImage(std::move(image));
+  pixmap.setDevicePixelRatio(scale);
+  return pixmap;
 }

@@ -5,7 +5,6 @@
 #include <QPixmap>
 #include <QSize>
 #include <filesystem>
-#include <future>
 #include <map>
 #include <utility>
 #include <vector>
@@ -27,8 +26,6 @@ class Pictures {
   // The picture for a screen of that scale; with a thin frame around it, which makes it 2 pixels larger
   // either way. A picture without a usable file is an outlined card that names it.
   QPixmap Get(int index, bool framed, double scale);
-  // Begins to draw those of the suite's own that a window is about to show, beside whatever else goes on.
-  void Prepare(std::vector<std::pair<int, bool>> wanted, double scale);
   // One that isn't in the catalogue; null without a usable file.
   QImage Other(const std::string& file, QSize size) const;
   // Whether each suit has a colour of its own from now on.
@@ -37,21 +34,12 @@ class Pictures {
   void SetStrongEdges(bool strong);
 
  private:
-  using Drawn = std::map<std::pair<int, bool>, QPixmap>;
-  using Images = std::vector<std::pair<std::pair<int, bool>, QImage>>;
-
-  // Of the suite's files alone it is null where there is none.
-  QImage Draw(int index, bool framed, double scale, bool suiteAlone = false) const;
-  Drawn& DrawnAt(double scale);
-  QPixmap Keep(std::pair<int, bool> which, double scale, QImage image);
-  void TakePrepared();
+  QPixmap Draw(int index, bool framed, double scale) const;
   const PictureFile* Find(int index) const;
 
   PictureFiles files_;
   std::filesystem::path own_, installed_;
   bool fourColours_ = false, strongEdges_ = false;
   // By scale; the one used last comes last. A window that is dragged larger passes through many.
-  std::vector<std::pair<double, Drawn>> drawn_;
-  double preparedScale_ = 1;
-  std::future<Images> prepared_;
+  std::vector<std::pair<double, std::map<std::pair<int, bool>, QPixmap>>> drawn_;
 };

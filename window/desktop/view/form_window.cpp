@@ -220,7 +220,6 @@ void FormWindow::ShowForm(QWidget* behind) {
     Rezoom();
     ApplySize();
     KeepOnScreen();
-    canvas_->Prepare();
     if (comfort_) comfort_->BeforeShow();
     // Before the window is there: the place is that of its frame, whose size isn't known yet.
     if (form.Left != 0 || form.Top != 0) ApplyPlace();
