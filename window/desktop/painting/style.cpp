@@ -63,7 +63,10 @@ class Zoomed : public QProxyStyle {
     switch (element) {
       case PE_PanelButtonCommand: {
         const bool lit = option->state & (State_MouseOver | State_Sunken) && option->state & State_Enabled;
-        painter->fillRect(option->rect, lit ? QColor(0x40, 0x40, 0x40) : style::kStrongGround);
+        const bool chosen = option->state & State_On;
+        painter->fillRect(option->rect, chosen ? QColor(0x60, 0x60, 0x60)
+                                        : lit  ? QColor(0x40, 0x40, 0x40)
+                                               : style::kStrongGround);
         return Outline(*option, painter, option->rect);
       }
       case PE_IndicatorCheckBox:

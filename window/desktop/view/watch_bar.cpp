@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "window/desktop/painting/style.h"
@@ -40,7 +41,6 @@ WatchBar::WatchBar(const Recording& recording)
   comment_->setTextFormat(Qt::PlainText);
   comment_->setWordWrap(true);
   comment_->setAlignment(Qt::AlignCenter);
-  comment_->setMinimumHeight(2 * comment_->fontMetrics().height());
   comment_->setVisible(recording.hasComments);
   pause_ = Button(this, "pause", "Pause", "Space");
   pause_->setCheckable(true);
@@ -84,7 +84,10 @@ WatchBar::WatchBar(const Recording& recording)
 }
 
 void WatchBar::Fit() {
-  comment_->setFont(style::Letters(11, true));
+  QFont letters = style::Letters(11, true);
+  letters.setPixelSize(static_cast<int>(std::lround(letters.pixelSize() * style::ZoomOf(this))));
+  comment_->setFont(letters);
+  comment_->setMinimumHeight(2 * comment_->fontMetrics().height());
   ShowPlace(recording_.length);  // the longest text
   place_->setMinimumWidth(place_->sizeHint().width() + place_->fontMetrics().horizontalAdvance("00"));
   ShowPlace(0);
