@@ -27,12 +27,6 @@ constexpr const char* kKept[] = {"DeckDesign", "CurrentScore", "PreviousScore",
                                  "TimeBonus",  "DialSeconds",  "DialLastColor"};
 constexpr const char* kBacks[] = {"FULL", "BACK", "HALF"};
 
-std::string Numbers(std::initializer_list<long long> numbers) {
-  std::string text;
-  for (long long number : numbers) text += " " + std::to_string(number);
-  return text;
-}
-
 int Int(Line& line, long long lowest = INT_MIN, long long highest = INT_MAX) {
   return static_cast<int>(line.Number(lowest, highest));
 }

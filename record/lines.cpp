@@ -37,6 +37,12 @@ std::string Quoted(std::string_view text) {
   return quoted + '"';
 }
 
+std::string Numbers(std::initializer_list<long long> numbers) {
+  std::string text;
+  for (long long number : numbers) text += " " + std::to_string(number);
+  return text;
+}
+
 std::string Line::Word() {
   if (AtEnd()) Wrong("a word is missing");
   return words_[next_++];

@@ -2,6 +2,7 @@
 // that may hold blanks stands in quotes.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,8 @@ struct NoRecord {
 };
 
 std::string Quoted(std::string_view text);
+// Each number with a blank before it.
+std::string Numbers(std::initializer_list<long long> numbers);
 
 // Its words one after the other. What isn't as asked for is a `NoRecord` that names the line.
 class Line {

@@ -13,12 +13,6 @@ namespace {
 
 constexpr long long kSlow = 50;  // milliseconds that a question may take, and the clock stands still
 
-std::string Numbers(std::initializer_list<long long> numbers) {
-  std::string text;
-  for (long long number : numbers) text += " " + std::to_string(number);
-  return text;
-}
-
 std::string List(const std::vector<std::string>& texts) {
   std::string list;
   for (const std::string& text : texts) list += " " + Quoted(text);

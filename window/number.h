@@ -19,15 +19,6 @@ class RuntimeError : public std::runtime_error {
 [[noreturn]] void RaiseDivisionByZero();   // "Division by zero"
 [[noreturn]] void RaiseElementNotFound();  // "Element not found"
 
-// One statement of a handler that goes on whatever fails.
-template <class Statement>
-void GoOnAfterError(Statement statement) {
-  try {
-    statement();
-  } catch (const std::exception&) {
-  }
-}
-
 // Does it, and says what failed, if something did: what is done about it then, a box or a wait, comes outside
 // of the `catch`.
 template <class Failure = RuntimeError, class Deed>
