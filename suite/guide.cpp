@@ -70,6 +70,12 @@ std::optional<GameFacts> GameGuide::Game() const {
   return facts;
 }
 
+bool GameGuide::AskForDeal(int number) {
+  if (window_.standing.InputIsDead()) return false;
+  window_.common.nextDeal = DealName{number, true};
+  return true;
+}
+
 std::string GameGuide::State() const {
   std::string state;
   const auto tell = [&](const std::string& text) {

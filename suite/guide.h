@@ -27,7 +27,7 @@ class GameGuide : public Guide {
   std::optional<GameFacts> Game() const override;
   Control* Play() const override { return &window_.cmdPlay; }
   const Menu* PlayMenu() const override { return &window_.mnuFile; }
-  void AskForDeal(int number) override { window_.common.nextDeal = DealName{number, true}; }
+  bool AskForDeal(int number) override;
   bool IsMessage(const Label& label) const override { return &label == &window_.lblMessage; }
   const CommandButton* WayOut() const override {
     return Plays() && IsStuck() ? &window_.cmdTakeScore : nullptr;

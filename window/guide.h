@@ -135,8 +135,8 @@ class Guide {
   virtual Control* Play() const { return nullptr; }
   // The menu in which a player looks for that; null for none.
   virtual const Menu* PlayMenu() const { return nullptr; }
-  // The next game that is begun plays that deal.
-  virtual void AskForDeal(int /*number*/) {}
+  // The next game that is begun plays that deal; false if none can be begun now.
+  virtual bool AskForDeal(int /*number*/) { return false; }
   // What opens games from here; and the next one plays the deal of the day.
   virtual std::vector<GameDoor> Doors() const { return {}; }
   virtual void AskForToday() {}

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "window/desktop/input/events.h"
 #include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/style.h"
 #include "window/desktop/view/boxes.h"
@@ -18,30 +19,6 @@ namespace {
 constexpr int kSlice = 15;          // milliseconds
 constexpr double kHandShows = 700;  // before the deed
 
-bool IsFromViewer(QEvent::Type type) {
-  switch (type) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseMove:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::ShortcutOverride:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::TabletPress:
-    case QEvent::TabletMove:
-    case QEvent::TabletRelease:
-    case QEvent::ContextMenu:
-    case QEvent::Close:
-      return true;
-    default:
-      return false;
-  }
-}
-
 }  // namespace
 
 // What the viewer does to the game's windows doesn't get there; keys steer the bar.
@@ -50,7 +27,7 @@ class WatchingDesktop::Guard : public QObject {
   explicit Guard(WatchBar& bar) : bar_(bar) { qApp->installEventFilter(this); }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (!watched->isWindowType() || !event->spontaneous() || !IsFromViewer(event->type())) return false;
+    if (!watched->isWindowType() || !event->spontaneous() || !input::IsInput(event->type())) return false;
     if (watched == static_cast<QObject*>(bar_.windowHandle())) return false;
     if (event->type() == QEvent::KeyPress) bar_.Take(*static_cast<QKeyEvent*>(event));
     if (event->type() == QEvent::Close) bar_.close();

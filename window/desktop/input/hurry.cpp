@@ -12,6 +12,7 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "window/desktop/input/events.h"
 #include "window/desktop/input/key_again.h"
 #include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/room.h"
@@ -23,32 +24,6 @@ namespace {
 constexpr int kPatience = 1000;    // milliseconds that pass before the player is offered to go on
 constexpr size_t kMostKept = 500;  // more than hands can do in a wait
 constexpr int kMostRounds = 100;
-
-// The input that Qt keeps back when it is told to.
-bool IsInput(QEvent::Type type) {
-  switch (type) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseMove:
-    case QEvent::Wheel:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::ShortcutOverride:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::TouchCancel:
-    case QEvent::TabletPress:
-    case QEvent::TabletMove:
-    case QEvent::TabletRelease:
-    case QEvent::ContextMenu:
-    case QEvent::Close:
-      return true;
-    default:
-      return false;
-  }
-}
 
 bool IsPress(QEvent::Type type) {
   return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
@@ -229,7 +204,7 @@ bool Hurry::Swallow(QEvent& event) {
 }
 
 bool Hurry::eventFilter(QObject* watched, QEvent* event) {
-  if (!watched->isWindowType() || !event->spontaneous() || !IsInput(event->type())) return false;
+  if (!watched->isWindowType() || !event->spontaneous() || !input::IsInput(event->type())) return false;
   if (Swallow(*event)) return true;
   const bool own =
       !looking_ && sent_ && IsKey(event->type()) && static_cast<QKeyEvent*>(event)->key() == sent_->key();

@@ -104,6 +104,5 @@ void DealEntries::Play(int number) {
   const auto canPlay = [&] { return deeds_.Knows(form_) && player::WhyNot(play).empty(); };
   if (guide_.Game()->inProgress && canPlay()) player::Click(play);
   if (!canPlay() || guide_.Game()->inProgress) return;
-  guide_.AskForDeal(number);
-  player::Click(play);
+  if (guide_.AskForDeal(number)) player::Click(play);
 }
