@@ -474,17 +474,17 @@ TEST(OwnFiles, AreNoWavesThatGrowWhenTheyArePlayed) {
   }
 }
 
+static std::string Square(const std::string& colour) {
+  return "<svg xmlns='http://www.w3.org/2000/svg' width='10' height='10'><rect width='10' height='10' fill='" +
+         colour + "'/></svg>";
+}
+
 TEST(OwnFiles, GoBeforeTheSuites) {
   OpenScreen();
   TestFolder own, installed;
   std::filesystem::create_directories(installed.Path() / "pictures");
-  const auto square = [](const std::string& colour) {
-    return "<svg xmlns='http://www.w3.org/2000/svg' width='10' height='10'><rect width='10' height='10' "
-           "fill='" +
-           colour + "'/></svg>";
-  };
-  own.Write("A.svg", square("red"));
-  for (const char* name : {"pictures/A.svg", "pictures/B.svg"}) installed.Write(name, square("blue"));
+  own.Write("A.svg", Square("red"));
+  for (const char* name : {"pictures/A.svg", "pictures/B.svg"}) installed.Write(name, Square("blue"));
   Pictures pictures({{"A.svg", 10, 10}, {"B.svg", 10, 10}}, own.Path(), installed.Path() / "pictures");
   EXPECT_EQ(pictures.Get(1, false, 1).toImage().pixelColor(5, 5), QColor(Qt::red));
   EXPECT_EQ(pictures.Get(2, false, 1).toImage().pixelColor(5, 5), QColor(Qt::blue));
@@ -502,6 +502,35 @@ TEST(OwnFiles, GoBeforeTheSuites) {
   EXPECT_EQ(media.Find("\\Chord.wav", "sounds"), own.Path() / "Chord.wav");
   EXPECT_EQ(media.Find("\\Snap.wav", "sounds"), installed.Path() / "sounds/Snap.wav");
   EXPECT_EQ(media.Find("\\Tune.MID", "music"), installed.Path() / "music/Tune.MID");
+}
+
+TEST(OwnFiles, AreTheSameWhereTheRestIsDrawnAhead) {
+  OpenScreen();
+  TestFolder own, suite;
+  std::filesystem::create_directories(suite.Path() / "four-colour");
+  own.Write("Mine.svg", Square("red"));
+  for (const char* name : {"Mine.svg", "Suite.svg"}) suite.Write(name, Square("blue"));
+  suite.Write("four-colour/Suite.svg", Square("lime"));
+  suite.Write("Broken.svg", "no picture");
+  const PictureFiles files = {
+      {"Mine.svg", 10, 10}, {"Suite.svg", 10, 10}, {"Broken.svg", 10, 10}, {"Missing.svg", 10, 10}};
+  std::vector<Pictures::Which> all;
+  for (int index = 1; index <= 5; ++index)  // the last one is in no catalogue
+    for (const bool framed : {false, true}) all.emplace_back(index, framed);
+  testing::internal::CaptureStderr();
+  for (const double scale : {1.0, 2.5}) {
+    Pictures ahead(files, own.Path(), suite.Path()), asked(files, own.Path(), suite.Path());
+    ahead.Prepare(all, scale);
+    for (const auto& [index, framed] : all)
+      EXPECT_EQ(ahead.Get(index, framed, scale).toImage(), asked.Get(index, framed, scale).toImage())
+          << index << (framed ? " framed" : "") << " at " << scale;
+    ahead.Prepare(all, 3);
+    ahead.SetFourColours(true);
+    EXPECT_EQ(ahead.Get(2, false, 3).toImage().pixelColor(5, 5), QColor(Qt::green));
+    ahead.Prepare(all, 4);  // and nobody asks
+  }
+  const std::string told = testing::internal::GetCapturedStderr();
+  EXPECT_EQ(std::ranges::count(told, '\n'), 1) << told;
 }
 
 TEST(OwnFiles, AreRefusedWhereTheyMightDoHarm) {

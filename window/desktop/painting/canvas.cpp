@@ -47,6 +47,13 @@ QRect Canvas::ToWindow(const QRectF& area) const {
   return QRectF(area.topLeft() * zoom_, area.size() * zoom_).toAlignedRect();
 }
 
+void Canvas::Prepare(double zoom) {
+  std::vector<Pictures::Which> wanted;
+  for (const Placed& placed : Arrange(form, paintbox_.pictures))
+    if (placed.picture != 0) wanted.emplace_back(placed.picture, placed.framed);
+  paintbox_.pictures.Prepare(std::move(wanted), devicePixelRatioF() * zoom);
+}
+
 void Canvas::Refresh(const Visual& control) {
   motion_.Changed(control);
   const auto known = drawn_.find(&control);

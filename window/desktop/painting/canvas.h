@@ -32,6 +32,8 @@ class Canvas : public QWidget {
   // mouse and widgets in pixels of the window.
   double Zoom() const { return zoom_; }
   void SetZoom(double zoom);
+  // What is shown begins to be drawn in that size, before the first painting asks for it.
+  void Prepare(double zoom);
   QPoint ToBoard(QPointF point) const { return (point / zoom_).toPoint(); }
   QRect ToWindow(const QRectF& area) const;
   // Paints that part of the board anew; pixels at 100 %.

@@ -5,9 +5,12 @@
 #include <QSvgRenderer>
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <system_error>
 
 #include "window/desktop/painting/screening.h"
 #include "window/desktop/painting/style.h"
+#include "window/system/folders.h"
 #include "window/system/foreign_files.h"
 #include "window/system/leaving.h"
 
@@ -24,7 +27,8 @@ enum class Origin { Player, Suite };
 bool Render(const fs::path& path, Origin origin, QPainter& painter, const QRectF& rect) {
   std::string text, why;
   if (!ReadForeignFile(path, kLargestPicture, text, why)) return false;
-  const leaving::Held drawing;
+  std::optional<leaving::Held> drawing;
+  if (origin == Origin::Player) drawing.emplace();
   QSvgRenderer renderer;
   if (why.empty() && origin == Origin::Player) why = WhyNotDraw(text);
   if (why.empty() && !renderer.load(QByteArray::fromStdString(text))) why = "it is no picture";
@@ -76,7 +80,7 @@ PictureKind Pictures::KindOf(int index) const {
   return file ? file->kind : PictureKind::Other;
 }
 
-QPixmap Pictures::Get(int index, bool framed, double scale) {
+Pictures::Drawn& Pictures::DrawnAt(double scale) {
   constexpr size_t kScales = 3;  // of the selector, a game, and a pointer
   auto known = std::ranges::find(drawn_, scale, [](const auto& each) { return each.first; });
   if (known == drawn_.end()) {
@@ -85,10 +89,65 @@ QPixmap Pictures::Get(int index, bool framed, double scale) {
   } else if (known + 1 != drawn_.end()) {
     std::rotate(known, known + 1, drawn_.end());
   }
-  auto& drawn = drawn_.back().second;
-  auto found = drawn.find({index, framed});
-  if (found == drawn.end()) found = drawn.emplace(std::pair(index, framed), Draw(index, framed, scale)).first;
-  return found->second;
+  return drawn_.back().second;
+}
+
+QPixmap Pictures::Get(int index, bool framed, double scale) {
+  const Which which(index, framed);
+  const auto find = [&] {
+    const Drawn& drawn = DrawnAt(scale);
+    const auto found = drawn.find(which);
+    return found == drawn.end() ? QPixmap() : found->second;
+  };
+  QPixmap picture = find();
+  if (picture.isNull() && ahead_) {
+    Finish();
+    picture = find();
+  }
+  return picture.isNull() ? Keep(which, scale, Draw(which, scale, Sources::All)) : picture;
+}
+
+QPixmap Pictures::Keep(Which which, double scale, QImage image) {
+  QPixmap picture = QPixmap::fromImage(std::move(image));
+  picture.setDevicePixelRatio(scale);
+  DrawnAt(scale).insert_or_assign(which, picture);
+  return picture;
+}
+
+bool Pictures::HasOwn(int index) const {
+  const PictureFile* file = Find(index);
+  return file && (folders::Exists(own_ / file->file) || folders::Exists(own_ / kFourColours / file->file));
+}
+
+void Pictures::Prepare(std::vector<Which> wanted, double scale) {
+  Finish();
+  // A file of the player's own may be anything: it is met where the program can leave in the middle.
+  const Drawn& drawn = DrawnAt(scale);
+  std::erase_if(wanted, [&](const Which& which) { return drawn.contains(which) || HasOwn(which.first); });
+  const size_t processors = std::thread::hardware_concurrency();
+  if (wanted.empty() || processors < 2) return;
+  ahead_ = std::make_unique<Ahead>(scale, std::move(wanted));
+  ahead_->images.resize(ahead_->wanted.size());
+  try {
+    while (ahead_->helpers.size() < std::min(processors - 1, ahead_->wanted.size()))
+      ahead_->helpers.emplace_back([this, &ahead = *ahead_] { DrawAhead(ahead); });
+  } catch (const std::system_error&) {
+    // Those that are there do it, and whoever asks for a picture.
+  }
+}
+
+void Pictures::DrawAhead(Ahead& ahead) const {
+  for (size_t i = ahead.next++; i < ahead.wanted.size(); i = ahead.next++)
+    ahead.images[i] = Draw(ahead.wanted[i], ahead.scale, Sources::SuiteAlone);
+}
+
+void Pictures::Finish() {
+  if (!ahead_) return;
+  DrawAhead(*ahead_);
+  const std::unique_ptr<Ahead> done = std::move(ahead_);
+  done->helpers.clear();
+  for (size_t i = 0; i < done->wanted.size(); ++i)
+    if (!done->images[i].isNull()) Keep(done->wanted[i], done->scale, std::move(done->images[i]));
 }
 
 QImage Pictures::Other(const std::string& file, QSize size) const {
@@ -97,14 +156,17 @@ QImage Pictures::Other(const std::string& file, QSize size) const {
 }
 
 void Pictures::SetFourColours(bool four) {
+  Finish();
   if (std::exchange(fourColours_, four) != four) drawn_.clear();
 }
 
 void Pictures::SetStrongEdges(bool strong) {
+  Finish();
   if (std::exchange(strongEdges_, strong) != strong) drawn_.clear();
 }
 
-QPixmap Pictures::Draw(int index, bool framed, double scale) const {
+QImage Pictures::Draw(Which which, double scale, Sources sources) const {
+  const auto& [index, framed] = which;
   const QSize natural = Size(index);
   const QSize outer = natural + (framed ? QSize(2, 2) : QSize(0, 0));
   const QSize pixels(std::lround(outer.width() * scale), std::lround(outer.height() * scale));
@@ -120,10 +182,12 @@ QPixmap Pictures::Draw(int index, bool framed, double scale) const {
     bool drawn = false;
     for (const Origin origin : {Origin::Player, Origin::Suite}) {
       if (!file || drawn) break;
+      if (origin == Origin::Player && sources == Sources::SuiteAlone) continue;
       const fs::path& folder = origin == Origin::Player ? own_ : installed_;
       if (fourColours_) drawn = Render(folder / kFourColours / file->file, origin, painter, inner);
       if (!drawn) drawn = Render(folder / file->file, origin, painter, inner);
     }
+    if (!drawn && sources == Sources::SuiteAlone) return {};
     if (!drawn)
       DrawSubstitute(
           painter, inner,
@@ -146,7 +210,5 @@ QPixmap Pictures::Draw(int index, bool framed, double scale) const {
     painter.end();
     image = std::move(rounded);
   }
-  QPixmap pixmap = QPixmap::fromImage(std::move(image));
-  pixmap.setDevicePixelRatio(scale);
-  return pixmap;
+  return image;
 }

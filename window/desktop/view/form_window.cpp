@@ -45,6 +45,7 @@ FormWindow::FormWindow(Form& form, std::unique_ptr<Guide> guide, const Desk& des
     : form(form), desk_(desk), guide_(std::move(guide)) {
   setObjectName(QString::fromUtf8(form.name.data(), static_cast<qsizetype>(form.name.size())));
   MakeCanvas();
+  canvas_->Prepare(WantedZoom());
   menus_ = new Menus(form, guide_.get(), desk.deeds, *this);
   if (desk.hasPlayer) MakeViewMenu();
   if (desk.hasPlayer && !desk.showsRecording && guide_)
