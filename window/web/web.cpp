@@ -19,6 +19,25 @@ std::string_view Word(std::string_view& rest) {
 
 int Number(std::string_view& rest) { return std::atoi(std::string(Word(rest)).c_str()); }
 
+BoardKeys::Point MiddleOf(const Visual& control) {
+  BoardKeys::Point middle{control.Left + control.Width / 2, control.Top + control.Height / 2};
+  for (const Control* holder = control.parent; holder->kind != Control::Kind::Form; holder = holder->parent) {
+    middle.x += static_cast<const Visual*>(holder)->Left;
+    middle.y += static_cast<const Visual*>(holder)->Top;
+  }
+  return middle;
+}
+
+// What a key clicks on; null for nothing. With `far` an arrow goes to places that can't be played as well.
+Control* ClickOf(BoardKeys& keys, const std::string& key, bool far, long long now) {
+  keys.Settle();
+  const int x = (key == "Right") - (key == "Left"), y = (key == "Down") - (key == "Up");
+  if (x != 0 || y != 0) return keys.Walk(x, y, far), nullptr;
+  if (key == "Space") return keys.ClickHere();
+  const std::string clicks = keys.Hear(key, false, now).clicks;
+  return clicks.empty() ? nullptr : keys.ClickFor(clicks);
+}
+
 }  // namespace
 
 WebFrontEnd::WebFrontEnd(const PictureFiles& pictures, Guides guides) : guides_(std::move(guides)) {
@@ -83,9 +102,9 @@ void WebFrontEnd::TellChanges() {
 
 void WebFrontEnd::TellGuide(int id, Window& window) {
   if (!window.guide || !window.form->Loaded() || !window.form->Visible) return;
-  if (window.keyboard) window.keyboard->Settle();
+  if (window.keys) window.keys->Settle();
   Json json;
-  Describe(json, id, *window.form, *window.guide, window.keyboard ? window.keyboard->Cursor() : nullptr);
+  Describe(json, id, *window.form, *window.guide, window.keys ? window.keys->Cursor() : nullptr);
   if (json.Text() == window.guided) return;
   window.guided = json.Text();
   Say("guide").Key("guide").Plain(window.guided).Close('}');
@@ -140,7 +159,7 @@ Event WebFrontEnd::Take(std::string_view line, const Wait& wait) {
 void WebFrontEnd::Do(std::string_view what, Window& window, Control& control, std::string_view rest) {
   Form& form = *window.form;
   if (what == "click") {
-    if (window.keyboard) window.keyboard->Press(control);
+    if (window.keys) window.keys->Press(&control);
     player::Click(control);
   } else if (what == "softly") {
     softly_ = true;
@@ -163,9 +182,9 @@ void WebFrontEnd::Do(std::string_view what, Window& window, Control& control, st
   } else if (what == "resize") {
     const int width = Number(rest), height = Number(rest);
     player::Resize(form, width * 15, height * 15);
-  } else if (what == "key" && window.keyboard) {
+  } else if (what == "key" && window.keys) {
     const bool far = Number(rest) != 0;
-    if (Control* const meant = window.keyboard->Take(std::string(rest), far, Milliseconds()))
+    if (Control* const meant = ClickOf(*window.keys, std::string(rest), far, Milliseconds()))
       player::Click(*meant);
   } else if (what == "pause" && window.guide) {
     // Puts the game on one side of the button: "1" pauses it.
@@ -257,7 +276,7 @@ void WebFrontEnd::Triumph(Visual& where, bool goes) {
 void WebFrontEnd::FormLoaded(Form& form) {
   Window window{&form, guides_ ? guides_(form) : nullptr, nullptr, false, ""};
   if (window.guide && !window.guide->Keys().empty())
-    window.keyboard = std::make_unique<Keyboard>(form, *window.guide);
+    window.keys = std::make_unique<BoardKeys>(form, *window.guide, MiddleOf);
   windows_.emplace(++nextForm_, std::move(window));
 }
 

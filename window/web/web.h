@@ -9,11 +9,11 @@
 #include <set>
 #include <string_view>
 
+#include "window/board_keys.h"
 #include "window/guide.h"
 #include "window/pictures.h"
 #include "window/platform.h"
 #include "window/web/json.h"
-#include "window/web/keyboard.h"
 
 class WebFrontEnd : public FrontEnd {
  public:
@@ -60,7 +60,7 @@ class WebFrontEnd : public FrontEnd {
   struct Window {
     Form* form;
     std::unique_ptr<Guide> guide;
-    std::unique_ptr<Keyboard> keyboard;
+    std::unique_ptr<BoardKeys> keys;
     bool told = false;   // to the page
     std::string guided;  // what the page was told last of what the guide says
   };

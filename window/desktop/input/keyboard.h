@@ -6,10 +6,8 @@
 #include <QObject>
 #include <QRect>
 #include <functional>
-#include <map>
-#include <vector>
 
-#include "window/guide.h"
+#include "window/board_keys.h"
 
 class Canvas;
 class Deeds;
@@ -26,7 +24,7 @@ class Keyboard : public QObject {
   std::function<void()> moved;
 
   // The buttons that digits stand for.
-  std::vector<Visual*> Choices() const;
+  std::vector<Visual*> Choices() const { return keys_.Choices(); }
   // A handler has ended: the cursor stays with the places that there are, and the board takes the keyboard
   // when a game begins.
   void Settle();
@@ -36,7 +34,7 @@ class Keyboard : public QObject {
   void Leave();
 
   // Where the next click by a key would go; null if the keyboard belongs to another control.
-  const Visual* Stands() const { return HoldsFocus() ? cursor_ : nullptr; }
+  const Visual* Stands() const { return HoldsFocus() ? keys_.Cursor() : nullptr; }
   // The cursor goes to this place, and the keyboard to the board.
   void GoTo(const Visual& control);
   // Where the cursor stands; null if it doesn't show.
@@ -54,12 +52,8 @@ class Keyboard : public QObject {
   std::string WordFor(const QKeyEvent& key) const;
   bool TakeWord(const std::string& word, bool again);
   bool TakeShared(QObject* watched, QEvent* event);
-  void Do(const std::string& keys);
-  Control* Meant(const KeyClick& click) const;
-  Visual* NextOfRank(char key) const;
-  Visual* LastSelected() const;
-  void ClickCursor();
-  void MoveTo(const Visual* control);
+  // Clicks on what that comes to once the board is as its turn finds it.
+  void Click(std::function<Control*()> meant);
   void FocusBoard();
   void ShowRing();
   void Paint(QPainter& painter);
@@ -69,15 +63,10 @@ class Keyboard : public QObject {
   QWidget& window_;
   Deeds& deeds_;
   Guide* guide_;
-  const std::vector<KeyRow> rows_;
-  std::vector<Spot> spots_;              // as the last handler left them
-  std::vector<const Visual*> selected_;  // in the order in which they were
-  std::map<char, const Visual*> ranks_;  // clicked last by their rank
-  const Visual* cursor_ = nullptr;
-  QRect cursorPlace_, ring_;    // the latter as it was painted last
+  BoardKeys keys_;
+  QRect ring_;                  // as it was painted last
   bool open_ = false;           // a game goes on
   bool boardHasFocus_ = false;  // or had it when a menu was opened
   bool keysUsed_ = false;       // last, and not the mouse
-  std::string begun_;           // keys of a click that takes several
-  QElapsedTimer sinceBegun_;
+  QElapsedTimer clock_;
 };
