@@ -54,6 +54,21 @@ TEST_P(Guided, KeysNameControlsOfTheWindow) {
   EXPECT_EQ(Contains(guide->State(), " seconds left. "), Game().plan.HasClock()) << guide->State();
 }
 
+// A wish that no game takes must not be left for the next one, which would count as a repeated deal.
+TEST_P(Guided, ADealIsAskedForOnlyWhereAGameCanBegin) {
+  Open(1);
+  Game().standing.InputDies();
+  EXPECT_FALSE(guide->AskForDeal(4711));
+  Game().standing.InputLives();
+  driver->Do("click " + Game().cmdPlay.FullName() + "\nclick " + Game().cmdPlay.FullName() +
+             "\nanswer \"Yes\"");
+  EXPECT_FALSE(guide->Game()->repeated);
+  EXPECT_TRUE(guide->AskForDeal(4711));
+  driver->Do("click " + Game().cmdPlay.FullName());
+  EXPECT_EQ(guide->Game()->deal, 4711);
+  EXPECT_TRUE(guide->Game()->repeated);
+}
+
 // Clicks at random places, many of which are refused.
 TEST_P(Guided, WhatCanBePlayedIsTakenAndTheRestIsRefused) {
   int taken = 0, refused = 0;
