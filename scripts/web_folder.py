@@ -42,11 +42,19 @@ def make_sounds(site):
     shutil.copy(ROOT / "data/music/Quillmark.MID", site / "sounds/quillmark.mid")
 
 
+def name_modules(page):
+    """The page asks for all modules at once, rather than for each as another one names it."""
+    names = sorted(path.name for path in (ROOT / "web").glob("*.js") if path.name != "worker.js")
+    links = [f'<link rel="modulepreload" href="{name}">' for name in names]
+    page.write_text(page.read_text().replace("<!-- modules -->", "\n".join(links)))
+
+
 def main(program, site):
     shutil.rmtree(site, ignore_errors=True)
     site.mkdir(parents=True)
     for path in sorted((ROOT / "web").iterdir()):
         shutil.copy(path, site)
+    name_modules(site / "index.html")
     shutil.copy(program, site / "card-haven.wasm")
     (site / "pictures.json").write_text(pictures())
     (site / "icons").mkdir()

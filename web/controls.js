@@ -1,7 +1,7 @@
 // An element for each control, and how it shows what the program tells of it.
 import { css, fromTold } from './colours.js'
 import { pictureUrl, sizeOf, urlOf } from './pictures.js'
-import { drawDial } from './dial.js'
+import { createDial, drawDial } from './dial.js'
 import { send } from './events.js'
 
 // As window/control.h counts them.
@@ -93,7 +93,7 @@ const appliers = {
   [kinds.text]: applyText,
   [kinds.check]: applyTick,
   [kinds.option]: applyTick,
-  [kinds.surface]: control => drawDial(control),
+  [kinds.surface]: drawDial,
   [kinds.frame]: applyFrame,
   [kinds.progress]: applyProgress,
   [kinds.drives]: applyList,
@@ -184,7 +184,7 @@ function applyFrame (control) {
 
 function createSurface (control) {
   const element = make('div')
-  control.canvas = make('canvas', '', element)
+  Object.assign(control, createDial(element))
   return element
 }
 

@@ -1,59 +1,47 @@
 // The surface on which a game draws its clock: pies, lines and circles, as often as it likes.
 import { css, fromTold } from './colours.js'
+import { make } from './controls.js'
 
 const twips = 15
 const [pie, line] = [0, 1]
 
-export function drawDial (control) {
-  const { canvas, width, height } = control
-  const scale = Math.max(1, (control.window.scale ?? 1) * devicePixelRatio)
-  canvas.width = Math.round(width * scale)
-  canvas.height = Math.round(height * scale)
-  const pen = canvas.getContext('2d')
-  pen.setTransform(scale, 0, 0, scale, 0, 0)
-  if (!control.strokes.length) return
-  const round = control.strokes.findLast(stroke => stroke[0] > line)
-  const [x, y, radius] = round
-    ? [round[2] / twips, round[3] / twips, round[4] / twips]
-    : [width / 2, height / 2, Math.min(width, height) / 2 - 1]
-  const disc = pen.createRadialGradient(x - radius * 0.3, y - radius * 0.3, 0, x - radius * 0.3, y - radius * 0.3, radius * 1.5)
-  disc.addColorStop(0, '#fffffb')
-  disc.addColorStop(1, '#d9d2be')
-  pen.fillStyle = disc
-  circle(pen, x, y, radius)
-  pen.fill()
-  for (const stroke of control.strokes) draw(pen, stroke)
+function draw (name, attributes, parent) {
+  const element = document.createElementNS('http://www.w3.org/2000/svg', name)
+  for (const [key, value] of Object.entries(attributes)) element.setAttribute(key, value)
+  parent.append(element)
+  return element
 }
 
-function circle (pen, x, y, radius) {
-  pen.beginPath()
-  pen.arc(x, y, Math.max(0, radius), 0, 2 * Math.PI)
+export function createDial (element) {
+  const disc = make('div', 'disc', element)
+  return { disc, face: draw('svg', {}, element) }
 }
 
-function draw (pen, [kind, told, x, y, ...rest]) {
+export function drawDial ({ disc, face, strokes }) {
+  face.replaceChildren()
+  const round = strokes.findLast(stroke => stroke[0] > line)
+  disc.hidden = !round
+  if (!round) return
+  const [x, y, radius] = round.slice(2, 5).map(each => each / twips)
+  Object.assign(disc.style, { left: `${x - radius}px`, top: `${y - radius}px`, width: `${2 * radius}px`, height: `${2 * radius}px` })
+  for (const stroke of strokes) show(face, stroke)
+}
+
+function show (face, [kind, told, left, top, ...rest]) {
   const colour = css(fromTold(told))
-  const place = [x / twips, y / twips]
+  const [x, y, first] = [left, top, rest[0]].map(each => each / twips)
   if (kind === line) {
-    pen.strokeStyle = colour
-    pen.lineWidth = 1
-    pen.beginPath()
-    pen.moveTo(...place)
-    pen.lineTo(rest[0] / twips, rest[1] / twips)
-    pen.stroke()
-    return
+    draw('line', { x1: x, y1: y, x2: first, y2: rest[1] / twips, stroke: colour }, face)
+  } else if (kind === pie) {
+    const [start, end] = [rest[1], Math.min(rest[2], rest[1] + 359.99)]
+    const at = degrees => { // clockwise from the top
+      const angle = (degrees - 90) * Math.PI / 180
+      return `${x + first * Math.cos(angle)} ${y + first * Math.sin(angle)}`
+    }
+    const far = end - start > 180 ? 1 : 0
+    draw('path', { d: `M${x} ${y}L${at(start)}A${first} ${first} 0 ${far} 1 ${at(end)}Z`, fill: colour }, face)
+  } else {
+    const rim = css(fromTold(told).map(part => part * 0.62))
+    draw('circle', { cx: x, cy: y, r: Math.max(0, first - 0.5), fill: 'none', stroke: rim, 'stroke-width': 1.5 }, face)
   }
-  const radius = rest[0] / twips
-  if (kind === pie) {
-    const angle = degrees => (degrees - 90) * Math.PI / 180 // clockwise from the top
-    pen.fillStyle = colour
-    pen.beginPath()
-    pen.moveTo(...place)
-    pen.arc(...place, radius, angle(rest[1]), angle(rest[2]))
-    pen.fill()
-    return
-  }
-  pen.strokeStyle = css(fromTold(told).map(part => part * 0.62))
-  pen.lineWidth = 1.5
-  circle(pen, ...place, radius - 0.5)
-  pen.stroke()
 }

@@ -2,9 +2,10 @@
 import { followWindows, asked } from './address.js'
 import { hideBox, showBox, openBox } from './boxes.js'
 import { imports, leaveWords, use } from './host.js'
-import { load, setCatalogue, setFourColours, warm } from './pictures.js'
-import { applyForm, applyGuide, applyTold, controlOf, createWindow, firstOf, forgetWindow, front, hideWindow, holdsFocus, scaleWindows,
-  settle, showWindow, windowOf, windows } from './windows.js'
+import { program } from './program.js'
+import { load, setCatalogue, setFourColours } from './pictures.js'
+import { applyForm, applyGuide, applyTold, controlOf, createWindow, firstOf, forgetWindow, front, hideWindow, holdsFocus, isOrnament,
+  scaleWindows, settle, showWindow, windowOf, windows } from './windows.js'
 import { onOffer, send } from './events.js'
 import { make, applyControl, kinds } from './controls.js'
 import { celebrate, flash, remember, move } from './motion.js'
@@ -51,8 +52,9 @@ const deeds = {
   end: ({ failure }) => end(failure)
 }
 
-// One turn of the program: all that it has changed, then what follows of it.
+// One turn of the program: all that it has changed, then what follows of it. Nothing follows of ornaments, which change all the time.
 function tell (batch) {
+  if (batch.every(each => each.do === 'set' && isOrnament(each.control))) return batch.forEach(each => applyTold(each.control))
   const occasion = remember(windows, batch)
   for (const each of batch) deeds[each.do](each)
   settle()
@@ -108,7 +110,7 @@ async function start () {
   }
   show()
   const fonts = Promise.all([400, 600].map(weight => document.fonts.load(`${weight} 12px "Card Haven"`))).catch(() => {})
-  const [module] = await Promise.all([WebAssembly.compileStreaming(fetch('card-haven.wasm')), load(), fonts])
+  const [module] = await Promise.all([program, load(), fonts])
   const instance = await WebAssembly.instantiate(module, imports(module, tell))
   use(instance)
   instance.exports._initialize()
@@ -121,7 +123,6 @@ async function start () {
     instance.exports.hidden()
   })
   const playing = WebAssembly.promising(instance.exports.play)(leaveWords(asked(games)))
-  setTimeout(warm, 300)
   navigator.serviceWorker?.register('worker.js').catch(() => {})
   await playing
 }

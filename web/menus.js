@@ -35,9 +35,13 @@ function entryOf (window, told) {
 export function layMenus (window, bar) {
   bar.setAttribute('role', 'menubar')
   bar.setAttribute('aria-label', 'Menus')
-  bar.replaceChildren()
   const titles = entriesOf(window, window.id).map(each => ({ id: each.id, ...entryOf(window, each) }))
   titles.splice(Math.max(0, titles.length - 1), 0, { name: 'view', text: '&View', visible: true, enabled: true, entries: [] })
+  // A title that is being pressed stays: what stands in its menu is asked for when it opens.
+  const key = JSON.stringify(titles.map(({ id, text, visible, enabled }) => [id, text, visible, enabled]))
+  if (bar.dataset.key === key) return
+  bar.dataset.key = key
+  bar.replaceChildren()
   titles.forEach((title, i) => {
     if (!title.visible) return
     const button = make('button', 'title', bar)

@@ -1,7 +1,6 @@
 // The windows of the suite: an element for each, as large as its form says at 100 %, and drawn larger or smaller as a whole.
 import { applyControl, createControl, fit, kinds, make, plain } from './controls.js'
 import { listenOnBoard, settleBoard } from './board.js'
-import { drawDial } from './dial.js'
 import { layGround } from './ground.js'
 import { layMenus, makeMenus } from './menus.js'
 import { showKeys } from './keys_window.js'
@@ -20,6 +19,8 @@ const strip = document.getElementById('strip')
 
 export const windowOf = id => windows.get(id - id % perForm)
 export const controlOf = id => windowOf(id)?.controls.get(id)
+
+export const isOrnament = told => Boolean(windowOf(told.id)?.ornaments?.includes(told.id))
 
 // The window in front, of those that show.
 export function front () {
@@ -43,6 +44,7 @@ export function createWindow (told) {
   // Whoever reads or tabs through meets the buttons that digits stand for before the others.
   for (const control of window.controls.values()) holderOf(window, control).append(control.element)
   for (const each of told.controls) if (window.controls.has(each.id)) applyControl(window.controls.get(each.id), each)
+  for (const id of window.ornaments ?? []) window.controls.get(id).element.classList.add('ornament')
   offerHelp(window)
   nameFields(window)
   windows.set(told.id, window)
@@ -106,9 +108,10 @@ export function applyTold (told) {
     window.status = told
     showPanels(window)
   } else {
-    if (calm() && window.ornaments?.includes(told.id)) return // what only pleases the eye stands still
+    const ornament = isOrnament(told)
+    if (ornament && calm()) return // what only pleases the eye stands still
     applyControl(window.controls.get(told.id), told)
-    window.changed = true
+    window.changed ||= !ornament
   }
 }
 
@@ -241,14 +244,12 @@ export function scaleWindows () {
 
 function setScale (window, scale, room) {
   const height = window.height + (window.modal ? titleHeight : 0) - (window.element.classList.contains('barless') ? menuHeight : 0)
-  const before = window.scale
   window.scale = scale
   const { style } = window.element
   style.width = `${window.width}px`
   style.height = `${height}px`
   style.transform = `translate(${Math.max(0, Math.round((room.width - window.width * scale) / 2))}px, ` +
     `${Math.max(0, Math.round((room.height - height * scale) / 2))}px) scale(${scale})`
-  if (before !== scale) for (const control of window.controls.values()) if (control.kind === kinds.surface) drawDial(control)
 }
 
 // Menus and commands as large as a finger, in the room that the board leaves.

@@ -5,7 +5,13 @@ const files = []
 const prefix = 'card-haven '
 const mine = prefix + version
 
-self.addEventListener('install', event => event.waitUntil((async () => {
+self.addEventListener('install', event => {
+  event.waitUntil(keep())
+  // Where the browser can take files from there by itself, no start waits for this script.
+  event.addRoutes?.({ condition: { urlPattern: new URLPattern({ search: '' }), requestMethod: 'get' }, source: { cacheName: mine } })
+})
+
+async function keep () {
   const cache = await caches.open(mine)
   try {
     await cache.addAll(files.map(file => new Request(file, { cache: 'reload' })))
@@ -13,7 +19,7 @@ self.addEventListener('install', event => event.waitUntil((async () => {
     await caches.delete(mine)
     throw error
   }
-})()))
+}
 
 self.addEventListener('activate', event => event.waitUntil((async () => {
   for (const name of await caches.keys()) if (name.startsWith(prefix) && name !== mine) await caches.delete(name)
