@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Lays out the folder that a host serves: web_folder.py PROGRAM.wasm FOLDER"""
+"""Lays out the folder that a host serves: web_folder.py FOLDER PROGRAM.wasm [SECOND-BUILD.wasm]"""
 import gzip
 import hashlib
 import json
@@ -49,13 +49,14 @@ def name_modules(page):
     page.write_text(page.read_text().replace("<!-- modules -->", "\n".join(links)))
 
 
-def main(program, site):
+def main(site, *programs):
     shutil.rmtree(site, ignore_errors=True)
     site.mkdir(parents=True)
     for path in sorted((ROOT / "web").iterdir()):
         shutil.copy(path, site)
     name_modules(site / "index.html")
-    shutil.copy(program, site / "card-haven.wasm")
+    for program, name in zip(programs, ("card-haven.wasm", "card-haven-asyncify.wasm")):
+        shutil.copy(program, site / name)
     (site / "pictures.json").write_text(pictures())
     (site / "icons").mkdir()
     shutil.copy(ROOT / "data/icons/card-haven.svg", site / "icons")
@@ -79,4 +80,4 @@ def main(program, site):
             path.with_name(path.name + ".br").write_bytes(brotli.compress(text))
 
 
-main(pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2]))
+main(*map(pathlib.Path, sys.argv[1:]))

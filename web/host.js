@@ -1,6 +1,7 @@
 // The other side of window/web/page.h and window/system/web/host.h: every call that leaves WebAssembly.
 import * as storage from './storage.js'
 import { wait } from './events.js'
+import { waiting } from './suspend.js'
 
 const decoder = new TextDecoder()
 const encoder = new TextEncoder()
@@ -48,7 +49,7 @@ export function imports (module, tell) {
     input: () => 0,
     output: () => {},
     tell: (text, length) => { tell(JSON.parse(words(text, length))) },
-    wait: new WebAssembly.Suspending(suspends),
+    wait: waiting(module, suspends),
     now: () => performance.now(),
     date: at => {
       const now = new Date()

@@ -11,6 +11,7 @@ import { make, applyControl, kinds } from './controls.js'
 import { celebrate, flash, remember, move } from './motion.js'
 import { speak } from './speech.js'
 import { playWave } from './sound.js'
+import { run } from './suspend.js'
 import { commandTune } from './tune.js'
 import { alter, onView, show, view } from './view.js'
 import './keys.js'
@@ -101,13 +102,7 @@ onView(() => {
 })
 
 async function start () {
-  const word = document.getElementById('word')
-  word.textContent = ''
-  if (!('Suspending' in WebAssembly)) {
-    word.textContent = 'This browser is too old for Card Haven: it needs one that can wait within WebAssembly, as Chromium from 137 ' +
-      'and Firefox from 153 on can.'
-    return
-  }
+  document.getElementById('word').textContent = ''
   show()
   const fonts = Promise.all([400, 600].map(weight => document.fonts.load(`${weight} 12px "Card Haven"`))).catch(() => {})
   const [module] = await Promise.all([program, load(), fonts])
@@ -122,7 +117,7 @@ async function start () {
     if (window?.guide?.open && !window.guide.paused) send(`pause ${window.id} 1`)
     instance.exports.hidden()
   })
-  const playing = WebAssembly.promising(instance.exports.play)(leaveWords(asked(games)))
+  const playing = run(instance.exports, 'play', leaveWords(asked(games)))
   navigator.serviceWorker?.register('worker.js').catch(() => {})
   await playing
 }

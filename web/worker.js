@@ -2,6 +2,7 @@
 // whole or not at all; what other versions kept goes when this one takes over.
 const version = 'VERSION' // written by scripts/make-web, as is the list
 const files = []
+const other = 'Suspending' in WebAssembly ? 'card-haven-asyncify.wasm' : 'card-haven.wasm' // isn't run here
 const prefix = 'card-haven '
 const mine = prefix + version
 
@@ -14,7 +15,7 @@ self.addEventListener('install', event => {
 async function keep () {
   const cache = await caches.open(mine)
   try {
-    await cache.addAll(files.map(file => new Request(file, { cache: 'reload' })))
+    await cache.addAll(files.filter(file => file !== other).map(file => new Request(file, { cache: 'reload' })))
   } catch (error) {
     await caches.delete(mine)
     throw error

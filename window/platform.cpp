@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "window/number.h"
 #include "window/player.h"
 
 namespace {
@@ -147,11 +148,9 @@ void Platform::Dispatch(const std::function<void()>& handler) {
   timers.now = Milliseconds();
   {
     const Depth within(handlers_);
-    std::optional<std::string> failure;  // is told of outside the `catch`: nobody waits within one
+    std::optional<std::string> failure;
     try {
-      handler();
-    } catch (const std::exception& error) {
-      failure = error.what();
+      failure = FailureOf<std::exception>(handler);
     } catch (const Over&) {
       if (handlers_ > 1 || !waits_.empty()) throw;
     }

@@ -1,10 +1,14 @@
-// The console's program in WebAssembly, run by node: the other side of window/system/web/host.h, with files in memory.
+// A program in WebAssembly, run by node: the other side of window/system/web/host.h, with files in memory.
 import { readFileSync } from 'node:fs'
+import { isAsyncify, run, waiting } from '../../web/suspend.js'
 
-export const load = file => new WebAssembly.Module(readFileSync(file))
+const build = process.env.CARDHAVEN_WEB_BUILD ?? 'build/web'
+
+// The two builds of a program that are run in node; the second waits for each line as a page waits for the player.
+export const builds = name => [name, `${name}-asyncify`].map(each => [each, new WebAssembly.Module(readFileSync(`${build}/app/${each}.wasm`))])
 
 // What the program writes for that input. `files` maps paths to texts of bytes, and is changed by the program.
-export function run (module, args, input, files = new Map()) {
+export async function answers (module, args, input, files = new Map()) {
   const bytes = Buffer.from(input, 'latin1')
   let memory
   let read = 0
@@ -17,6 +21,12 @@ export function run (module, args, input, files = new Map()) {
   const leave = answer => {
     left = Buffer.from(answer, 'latin1')
     return left.length
+  }
+  const hand = (to, size) => {
+    const part = bytes.subarray(read, read + size)
+    read += part.length
+    chunk(to, part.length).set(part)
+    return part.length
   }
   class Exit extends Error {
     constructor (status) {
@@ -33,12 +43,7 @@ export function run (module, args, input, files = new Map()) {
     },
     remove: (path, length) => { files.delete(text(path, length)) },
     names: () => leave([...files.keys()].join('\n')),
-    input: (to, size) => {
-      const part = bytes.subarray(read, read + size)
-      read += part.length
-      chunk(to, part.length).set(part)
-      return part.length
-    },
+    input: isAsyncify(module) ? waiting(module, async (to, size) => hand(to, Math.min(size, bytes.indexOf('\n', read) + 1 - read || size))) : hand,
     output: (what, size) => { written.push(Buffer.from(chunk(what, size))) }
   }
   const given = ['cardhaven-console', ...args].map(each => each + '\0')
@@ -88,7 +93,7 @@ export function run (module, args, input, files = new Map()) {
   memory = instance.exports.memory
   let status = 0
   try {
-    instance.exports._start()
+    await run(instance.exports, '_start')
   } catch (error) {
     if (!(error instanceof Exit)) throw error
     status = error.status

@@ -55,7 +55,7 @@ test('the way back leads to the selector, with the question in a game', { timeou
   await until(page, 'the question', now => now.box !== undefined)
   await answer(page, asked.answers[0])
   await until(page, 'the selector', now => now.window === 'frmSelect')
-  assert.doesNotMatch(page.url(), /#/)
+  await page.waitForFunction(() => location.hash === '')
   assert.deepEqual(page.troubles, [])
   await page.browserContext().close()
 })
@@ -96,7 +96,13 @@ test('a browser without room is told of once, and play goes on', { timeout: 6000
 test('a page that was opened once opens without a network', { timeout: 60000 }, async () => {
   const own = await serve()
   const page = await open(browser, own.address)
-  await page.evaluate(async () => { await navigator.serviceWorker.ready })
+  const programs = await page.evaluate(async () => {
+    await navigator.serviceWorker.ready
+    const cache = await caches.open((await caches.keys())[0])
+    const kept = (await cache.keys()).map(each => each.url.split('/').at(-1)).filter(each => each.endsWith('.wasm'))
+    return { kept, wanted: ['Suspending' in WebAssembly ? 'card-haven.wasm' : 'card-haven-asyncify.wasm'] }
+  })
+  assert.deepEqual(programs.kept, programs.wanted) // of the two builds the one that runs here
   await own.stop()
   await page.goto(`${own.address}#fivestack`)
   await page.reload()

@@ -19,11 +19,16 @@ export async function serve (folder = site, port = 0) {
   }
 }
 
-export const launch = () => puppeteer.launch({
-  executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium',
-  args: ['--no-sandbox', '--disable-dev-shm-usage'],
-  defaultViewport: { width: 1280, height: 1024 }
-})
+// CARDHAVEN_BROWSER is chromium or firefox. CARDHAVEN_JSPI=no: a Firefox that can't suspend WebAssembly, as WebKit.
+const browsers = {
+  chromium: { executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium', args: ['--no-sandbox', '--disable-dev-shm-usage'] },
+  firefox: {
+    browser: 'firefox',
+    executablePath: process.env.FIREFOX ?? '/usr/bin/firefox-esr',
+    extraPrefsFirefox: { 'javascript.options.wasm_js_promise_integration': process.env.CARDHAVEN_JSPI !== 'no' }
+  }
+}
+export const launch = () => puppeteer.launch({ ...browsers[process.env.CARDHAVEN_BROWSER ?? 'chromium'], defaultViewport: { width: 1280, height: 1024 } })
 
 // A page of a player of its own. What it complains of is in `troubles`; `speed` lets its clock go faster.
 export async function open (browser, address, { speed = 1, context, viewport, before } = {}) {

@@ -2,20 +2,20 @@
 import assert from 'node:assert/strict'
 import { readdirSync, readFileSync } from 'node:fs'
 import { test } from 'node:test'
-import { load, run } from './console.mjs'
+import { answers, builds } from './console.mjs'
 
-const build = process.env.CARDHAVEN_WEB_BUILD ?? 'build/web'
-const module = load(`${build}/app/cardhaven-console.wasm`)
 const folder = new URL('../scripts/', import.meta.url)
 
-for (const name of readdirSync(folder).filter(each => each.endsWith('.console'))) {
-  test(name, () => {
-    const script = readFileSync(new URL(name, folder), 'latin1')
-    const expected = readFileSync(new URL(name.replace('.console', '.expected'), folder), 'latin1')
-    const played = run(module, ['--seed', '7', '--folder', '/FOLDER'], script)
-    assert.equal(played.status, 0, played.errors)
-    assert.ok(played.output.replaceAll('/FOLDER', 'FOLDER') === expected, firstDifference(played.output, expected))
-  })
+for (const [build, module] of builds('cardhaven-console')) {
+  for (const name of readdirSync(folder).filter(each => each.endsWith('.console'))) {
+    test(`${name} by ${build}`, async () => {
+      const script = readFileSync(new URL(name, folder), 'latin1')
+      const expected = readFileSync(new URL(name.replace('.console', '.expected'), folder), 'latin1')
+      const played = await answers(module, ['--seed', '7', '--folder', '/FOLDER'], script)
+      assert.equal(played.status, 0, played.errors)
+      assert.ok(played.output.replaceAll('/FOLDER', 'FOLDER') === expected, firstDifference(played.output, expected))
+    })
+  }
 }
 
 function firstDifference (now, before) {
