@@ -126,8 +126,10 @@ void Pictures::Prepare(std::vector<Which> wanted, double scale) {
   std::erase_if(wanted, [&](const Which& which) { return drawn.contains(which) || HasOwn(which.first); });
   const size_t processors = std::thread::hardware_concurrency();
   if (wanted.empty() || processors < 2) return;
-  ahead_ = std::make_unique<Ahead>(scale, std::move(wanted));
-  ahead_->images.resize(ahead_->wanted.size());
+  ahead_ = std::make_unique<Ahead>();
+  ahead_->scale = scale;
+  ahead_->images.resize(wanted.size());
+  ahead_->wanted = std::move(wanted);
   try {
     while (ahead_->helpers.size() < std::min(processors - 1, ahead_->wanted.size()))
       ahead_->helpers.emplace_back([this, &ahead = *ahead_] { DrawAhead(ahead); });

@@ -45,11 +45,11 @@ class Pictures {
   using Drawn = std::map<Which, QPixmap>;
   // Pictures that are drawn ahead; null where there is no usable file of the suite's own.
   struct Ahead {
-    double scale;
+    double scale = 1;
     std::vector<Which> wanted;
-    std::vector<QImage> images = {};
+    std::vector<QImage> images;
     std::atomic<size_t> next = 0;
-    std::vector<std::jthread> helpers = {};
+    std::vector<std::jthread> helpers;  // go first
   };
   enum class Sources { All, SuiteAlone };
 
