@@ -29,7 +29,9 @@ TEST_F(Comforts, TheSelectorSaysWhatGamesAreAboutAndComesBackWhereItStood) {
     input::Settle();
   }
   Start second(folder);
-  EXPECT_EQ(second.Shown("frmSelect").pos(), QPoint(37, 41));
+  if (WindowsHavePlaces()) {
+    EXPECT_EQ(second.Shown("frmSelect").pos(), QPoint(37, 41));
+  }
   // Each button has its picture, and Help tells of all seven.
   std::set<qint64> pictures;
   for (const GameEntry& game : AllGames()) {

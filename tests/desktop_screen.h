@@ -9,12 +9,14 @@
 #include <QApplication>
 #include <QTimer>
 #include <QWindow>
+#include <algorithm>
 #include <functional>
 
 #include "window/desktop/desktop.h"
 #include "window/desktop/painting/canvas.h"
 #include "window/desktop/painting/style.h"
 #include "window/desktop/view/form_window.h"
+#include "window/desktop/view/managed.h"
 
 inline bool OpenScreen() {
   static int count = 1;
@@ -59,8 +61,26 @@ inline bool Means(const QColor& letters, const QColor& told) {
 
 namespace input {
 
+// Whether all windows are there, and the one that was opened last has the keyboard.
+inline bool WindowsStand() {
+  const QWidget* modal = QApplication::activeModalWidget();
+  const QWidget* active = QApplication::activeWindow();
+  if (modal && modal != active) return false;
+  return std::ranges::all_of(QGuiApplication::topLevelWindows(), [&](const QWindow* window) {
+    return !window->isVisible() || window->type() == Qt::Popup || (active && window->isExposed());
+  });
+}
+
+// A compositor answers when it likes; elsewhere all that comes of a deed waits in the queue.
 inline void Settle() {
+  constexpr int kAnswered = 20, kGivenUp = 400;  // milliseconds
   for (int i = 0; i < 5; ++i) QApplication::processEvents();
+  if (!QGuiApplication::platformName().startsWith("wayland")) return;
+  for (int waited = 0; waited < kAnswered || (!WindowsStand() && waited < kGivenUp); waited += kAnswered) {
+    QEventLoop loop;
+    QTimer::singleShot(kAnswered, &loop, &QEventLoop::quit);
+    loop.exec();
+  }
 }
 
 // Lets events come until `happened()`; false if it doesn't.

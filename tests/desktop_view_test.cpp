@@ -56,6 +56,9 @@ class ViewTest : public testing::Test {
 
 QSize TwipsOf(const Form& form) { return {form.Width, form.Height}; }
 
+// A compositor that lets no window take the whole screen when it asks.
+bool NobodyMaximises(const QWidget& window) { return !WindowsHavePlaces() && !window.isMaximized(); }
+
 QRgb Commonest(const QImage& picture, const std::function<bool(QRgb)>& counted) {
   std::map<QRgb, int> counts;
   for (int y = 0; y < picture.height(); ++y)
@@ -74,7 +77,9 @@ TEST_F(ViewTest, ZoomEnlargesWindowsAndTheModelKeepsItsTwips) {
   EXPECT_EQ(front.looks.Now().zoom, 125);
   Set([](View& view) { view.zoom = 150; });
   EXPECT_EQ(WindowOf(Selector()).size(), (QSizeF(natural) * 1.5).toSize());
-  EXPECT_LE((WindowOf(Selector()).geometry().center() - middle).manhattanLength(), 4);
+  if (WindowsHavePlaces()) {
+    EXPECT_LE((WindowOf(Selector()).geometry().center() - middle).manhattanLength(), 4);
+  }
   EXPECT_EQ(TwipsOf(Selector()), QSize(6735, 5490));
   const QWidget& button = *WindowOf(Selector()).WidgetOf(Selector().cmdClose);
   EXPECT_EQ(button.font().pixelSize(), 18);
@@ -105,6 +110,7 @@ TEST_F(ViewTest, ZoomEnlargesWindowsAndTheModelKeepsItsTwips) {
   });
   front.platform.Dispatch([&] { about.Show(true); });
   EXPECT_EQ(zoom, WindowOf(game).Zoom());
+  input::Settle();
   Choose(game, "viewNatural");
   EXPECT_EQ(WindowOf(game).size(), QSize(636, 480));
 }
@@ -118,6 +124,7 @@ TEST_F(ViewTest, MaximisedWindowsFitAndComeBackAsTheyWere) {
   };
   const QRect before = window.geometry();
   show(Qt::WindowMaximized);
+  if (NobodyMaximises(window)) GTEST_SKIP();
   const QSize room = window.size();
   ASSERT_GT(room.width(), before.width());
   EXPECT_EQ(game.WindowState, window_state::kMaximised);
@@ -164,6 +171,7 @@ TEST_F(ViewTest, WindowsFitTheScreenAndOpenAsTheOthersWereLeft) {
   Set([](View& view) { view.zoom = 100; });
   WindowOf(game).setWindowState(Qt::WindowMaximized);
   input::Settle();
+  if (NobodyMaximises(WindowOf(game))) GTEST_SKIP();
   EXPECT_EQ(front.looks.Now().maximised, true);
   game.Discard();
   suite.common.selector->Show();
@@ -220,6 +228,7 @@ TEST_F(ViewTest, AWindowThatIsMaximisedBehindABoxTellsItLater) {
   behindABox({Qt::WindowMaximized, {}});
   EXPECT_EQ(window.geometry(), before);
   behindABox({Qt::WindowMaximized});
+  if (NobodyMaximises(window)) GTEST_SKIP();
   EXPECT_EQ(game.WindowState, window_state::kMaximised);
   EXPECT_EQ(game.Height, static_cast<int>(std::lround(window.height() * 15 / window.Zoom())));
   window.setWindowState({});
@@ -232,6 +241,7 @@ TEST_F(ViewTest, AGameThatOpenedMaximisedIsRestoredInTheMiddle) {
   folder.Write("Sumfall.Ini", "[State]\r\n2\r\n\r\n");
   GameWindow& game = OpenGame();
   FormWindow& window = WindowOf(game);
+  if (NobodyMaximises(window)) GTEST_SKIP();
   ASSERT_EQ(game.WindowState, window_state::kMaximised);
   EXPECT_GT(window.Zoom(), 1.2);
   window.setWindowState({});

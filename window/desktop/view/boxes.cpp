@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "window/desktop/painting/style.h"
+#include "window/desktop/view/managed.h"
 
 namespace {
 
@@ -94,7 +95,7 @@ void BoxWindow::setVisible(bool visible) {
 
 void BoxWindow::showEvent(QShowEvent* event) {
   QMessageBox::showEvent(event);
-  if (!behind_ || event->spontaneous()) return;
+  if (!behind_ || event->spontaneous() || !WindowsHavePlaces()) return;
   const QRect room = behind_->screen()->availableGeometry();
   const QPoint corner = behind_->geometry().center() - rect().center();
   move(std::max(room.left(), std::min(corner.x(), room.right() + 1 - width())),

@@ -188,6 +188,7 @@ void FormWindow::ApplyLimits() {
 }
 
 void FormWindow::ApplyPlace() {
+  if (!WindowsHavePlaces()) return;
   QPoint corner = QPoint(Pixels(form.Left), Pixels(form.Top)) + Aside();
   if (desk_.hasPlayer) {
     const QSize whole = size() + Frame();
@@ -242,7 +243,8 @@ void FormWindow::TellSize() {
 }
 
 void FormWindow::TellPlace() {
-  if (left_ || !isVisible() || IsFilled() || isMinimized() || framed_.isActive()) return;
+  if (!WindowsHavePlaces() || left_ || !isVisible() || IsFilled() || isMinimized() || framed_.isActive())
+    return;
   const QPoint place = pos() - Aside();
   tellsPlace_ = true;
   const QPoint told(Pixels(form.Left), Pixels(form.Top));
@@ -252,7 +254,9 @@ void FormWindow::TellPlace() {
 }
 
 void FormWindow::moveEvent(QMoveEvent*) {
-  if (left_ || !isVisible() || IsFilled() || isMinimized() || !desk_.hasPlayer || zooming_) return;
+  if (!WindowsHavePlaces() || left_ || !isVisible() || IsFilled() || isMinimized() || !desk_.hasPlayer ||
+      zooming_)
+    return;
   if (pos() - Aside() != QPoint(Pixels(form.Left), Pixels(form.Top)))
     desk_.deeds.Deliver(form, [this] { TellPlace(); });
 }

@@ -50,3 +50,5 @@ bool WindowsAreManaged() {
 bool WindowsAreManaged() { return true; }
 
 #endif
+
+bool WindowsHavePlaces() { return !QGuiApplication::platformName().startsWith("wayland"); }

@@ -3,3 +3,6 @@
 #pragma once
 
 bool WindowsAreManaged();
+// Whether windows know where they stand, and may choose it. Where they don't, what the toolkit tells of it
+// isn't so.
+bool WindowsHavePlaces();

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "window/desktop/painting/style.h"
+#include "window/desktop/view/managed.h"
 
 namespace {
 
@@ -157,8 +158,9 @@ void WatchBar::ShowComment(const QString& comment) {
 }
 
 void WatchBar::PlaceBelow(const QWidget& window) {
-  const QRect frame = window.frameGeometry(), room = window.screen()->availableGeometry();
   adjustSize();
+  if (!WindowsHavePlaces()) return;
+  const QRect frame = window.frameGeometry(), room = window.screen()->availableGeometry();
   constexpr int kTitle = 32;
   const int left = frame.center().x() - width() / 2;
   const int top = std::min(frame.bottom() + kTitle, room.bottom() - height());
