@@ -14,19 +14,38 @@
 #include "suite/high_scores.h"
 #include "suite/suite.h"
 #include "window/desktop/program.h"
+#include "window/desktop/second_start.h"
 #include "window/system/folders.h"
+#include "window/system/handover.h"
 
 namespace {
+
+// The game that plays what was saved.
+constexpr char kSaves[] = "Sumfall";
+
+// Whether a game is played here as anywhere: what else may be asked for belongs to this start alone.
+bool IsPlain(const Options& options) {
+  return !options.console && !options.today && options.deal == 0 && options.record.empty() &&
+         !options.noRecords;
+}
 
 struct Running {
   RecordKeeper keeper;
   Suite suite;
+  std::optional<SecondStarts> others;
   Running(DesktopFrontEnd& front, const Options& options, const SuiteOptions& asked)
       : keeper(front.platform, options, Keeps(front, options)), suite(front.platform, asked, AllGames()) {
     keeper.Attach(suite.common, asked);
+    if (IsPlain(options)) others.emplace(front, asked.AppPath.string(), [this] { return Opener(); });
   }
 
  private:
+  // In the selector, which goes when a game's window comes.
+  Control* Opener() {
+    Form& selector = *suite.common.selector;
+    return selector.Visible ? selector.find(std::string("cmd") + kSaves) : nullptr;
+  }
+
   static std::function<bool()> Keeps(DesktopFrontEnd& front, const Options& options) {
     if (options.console || options.noRecords) return nullptr;
     return [&front] { return front.looks.Now().keepsRecords; };
@@ -76,6 +95,12 @@ int main(int argc, char** argv) {
     desktop.records = {own, desktop.folders.installed / "demonstrations",
                        [&own](Form& form) { return TableOf(form, own); }, VerdictOn};
     if (!options.watched.empty()) return Watch(argv, options, desktop);
+    if (!options.savedGame.empty() && options.game == kSaves && IsPlain(options)) {
+      handover::Request request = handover::Here();
+      request.file = folders::Absolute(options.savedGame).string();
+      request.folder = own.string();
+      if (handover::Offer(request)) return EXIT_SUCCESS;
+    }
     return RunDesktop(argv, desktop, Catalogue(), [&](DesktopFrontEnd& front) {
       Platform& platform = front.platform;
       if (options.seed) platform.random.Seed(*options.seed);

@@ -46,6 +46,8 @@ class DesktopFrontEnd : public FrontEnd, public Deeds {
   int Run(const std::function<void()>& start);
   // Null if the form isn't there or loaded.
   FormWindow* WindowOf(const Form& form) const { return windows_.Of(form); }
+  // The window or box that stands before all others; null if none does.
+  QWidget* Foremost() const { return windows_.Next(nullptr); }
 
   void Deliver(Form& form, std::function<void()> deed) override;
   void ClickSoftly(Control& control) override;
