@@ -59,6 +59,7 @@ TEST_F(Outcomes, ALineByTheSplashComparesTheGameAndTellsItsDeal) {
   EXPECT_EQ(Notes(start, "frmSpirehold"),
             "[Your third best of 3 at 45 seconds\nDeal " + std::to_string(deal) + "]");
   // The same again, also in the middle of a game.
+  ASSERT_TRUE(input::Await([&] { return !start.suite->common.window->standing.InputIsDead(); }));
   Entry(start, "dealAgain").trigger();
   input::Settle();
   EXPECT_EQ(Deal(start), deal);

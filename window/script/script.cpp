@@ -146,7 +146,8 @@ std::string GetProperty(const Platform& platform, const std::string& path) {
   const size_t first = path.find('.'), last = path.rfind('.');
   if (last == std::string::npos) throw Refusal("a property is named window.control.Property");
   Form& form = FindWindow(platform, path.substr(0, first));
-  const Control& control = first == last ? form : FindInForm(form, path.substr(first + 1, last - first - 1));
+  const std::string name = first == last ? "" : path.substr(first + 1, last - first - 1);
+  const Control& control = first == last ? form : FindInForm(form, name);
   const std::string wanted = path.substr(last + 1);
   json found;
   control.Visit([&](Prop prop, const Value& value) {
