@@ -1,11 +1,12 @@
 // The board of a window: what lies under the pointer, what a press means, what a voice tells of the cards, and the gold cursor.
-import { kinds, make, plain } from './controls.js'
+import { isNative, kinds, make, plain, shownBy } from './controls.js'
 import { sizeOf } from './pictures.js'
 import { speak } from './speech.js'
 import { beginDrag } from './drag.js'
 import { isBusy, send, takeAsHurry } from './events.js'
 
 const coarse = matchMedia('(pointer: coarse)')
+const taken = 'button, input, textarea, select, label' // what the browser itself presses
 
 let keysUsed = false // last, and not the mouse
 export function useKeys (used) {
@@ -24,8 +25,7 @@ const lets = control => {
 export function controlAt (window, x, y) {
   let empty = null
   for (const element of document.elementsFromPoint(x, y)) {
-    const part = element.closest('.control')
-    const control = part?.control
+    const control = shownBy(element)
     if (!control || control.window !== window || lets(control)) continue
     if (control.kind !== kinds.image || control.picture > 0) return control.kind === kinds.frame && empty ? empty : control
     empty ??= control
@@ -39,15 +39,29 @@ function tappedAt (window, x, y) {
   const spots = window.guide?.spots ?? []
   const playable = spots.filter(([, , flags]) => flags & 1).map(([id]) => window.controls.get(id))
   if (!coarse.matches || (exact && playable.includes(exact))) return exact
+  return nearest(playable, x, y) ?? exact
+}
+
+function nearest (controls, x, y) {
   const reach = 22 // pixels of the page
   let best = null
   let least = reach
-  for (const control of playable) {
+  for (const control of controls) {
     const rect = control.element.getBoundingClientRect()
     const far = Math.hypot(Math.max(rect.left - x, 0, x - rect.right), Math.max(rect.top - y, 0, y - rect.bottom))
     if (far < least) [best, least] = [control, far]
   }
-  return best ?? exact
+  return best
+}
+
+// The same among the fields and buttons of a dialog.
+function tapBeside (window, event) {
+  if (!coarse.matches || !window.modal || event.target.closest(taken)) return
+  const controls = [...window.controls.values()].filter(each => isNative(each.kind) && each.element.checkVisibility() && !each.disabled)
+  const control = nearest(controls, event.clientX, event.clientY)
+  if (!control) return
+  if (control.kind === kinds.button || control.field) (control.field ?? control.element).click()
+  else control.element.focus()
 }
 
 export function listenOnBoard (window) {
@@ -57,7 +71,7 @@ export function listenOnBoard (window) {
   let over = null
   board.addEventListener('pointerdown', event => {
     useKeys(false)
-    if (event.button !== 0 || event.target.closest('button, input, textarea, select, label')) return
+    if (event.button !== 0 || event.target.closest(taken)) return
     const control = tappedAt(window, event.clientX, event.clientY)
     if (!control) return
     event.preventDefault()
@@ -74,9 +88,10 @@ export function listenOnBoard (window) {
   })
   // A press that came by no pointer: a screen reader's.
   board.addEventListener('click', event => {
-    const control = event.detail === 0 && event.target.closest('.image[role=button]')?.control
+    const control = event.detail === 0 && event.target.closest('.image[role=button]') && shownBy(event.target)
     if (control && !takeAsHurry()) send(`click ${control.id}`)
   })
+  board.addEventListener('click', event => { if (event.detail > 0) tapBeside(window, event) })
   board.addEventListener('contextmenu', event => { if (coarse.matches) event.preventDefault() })
 }
 

@@ -36,6 +36,9 @@ export const accessKey = caption => /&([^&])/s.exec(caption)?.[1].toUpperCase()
 // In the letters of one of four sizes.
 export const pixelsOf = points => points <= 10 ? 12 : points <= 14 ? 16 : points <= 20 ? 24 : 34
 
+const owners = new WeakMap() // by its element, or one of its parts
+export const shownBy = element => owners.get(element?.closest?.('.control'))
+
 export function createControl (window, told) {
   const control = { ...told, window, element: null }
   const creators = {
@@ -55,7 +58,7 @@ export function createControl (window, told) {
   control.element = creators[told.kind]?.(control) ?? make('div')
   control.element.classList.add('control', Object.keys(kinds)[told.kind])
   control.element.dataset.name = told.index === undefined ? told.name : `${told.name}(${told.index})`
-  control.element.control = control
+  owners.set(control.element, control)
   return control
 }
 
@@ -75,14 +78,25 @@ export function applyControl (control, told) {
   appliers[control.kind]?.(control)
 }
 
-function place (control) {
+// Where a window is stretched for fingers, what holds something grows; the rest stands in the middle of its row, as tall as a finger.
+const grows = new Set([kinds.label, kinds.frame, kinds.shape, kinds.drives, kinds.folders, kinds.files])
+
+export function place (control) {
   const { style } = control.element
+  const { stretch = 1, finger = Infinity } = control.window
+  let { top, height } = control
+  if (stretch > 1) {
+    const row = height * stretch
+    const tall = grows.has(control.kind) || control.lines ? row : natives.has(control.kind) ? Math.max(height, Math.min(row - 4, finger)) : height
+    top = top * stretch + (row - tall) / 2
+    height = tall
+  }
   style.left = `${control.left}px`
-  style.top = `${control.top + (control.lower ?? 0)}px`
+  style.top = `${top + (control.lower ?? 0)}px`
   style.zIndex = control.z + (natives.has(control.kind) ? 20000 : overlays.has(control.kind) ? 10000 : 0) + 5000
   if (control.kind === kinds.image) return
   style.width = `${control.width}px`
-  style.height = `${control.height}px`
+  style.height = `${height}px`
 }
 
 const appliers = {

@@ -1,6 +1,6 @@
 // What is struck on the keyboard: menus, the keys that a window's guide names, mnemonics, Return and Escape.
 import { boxStands } from './boxes.js'
-import { kinds } from './controls.js'
+import { kinds, shownBy } from './controls.js'
 import { isMenuOpen, takeMenuKey } from './menus.js'
 import { showKeys } from './keys_window.js'
 import { send, takeAsHurry } from './events.js'
@@ -113,6 +113,6 @@ function takeInBox (event) {
 
 // The program hears where the keyboard has gone, as it does of clicks.
 addEventListener('focusin', event => {
-  const control = event.target.closest?.('.control')?.control
+  const control = shownBy(event.target)
   if (control && control.kind !== kinds.image && !control.window.quiet) send(`focus ${control.id}`)
 })

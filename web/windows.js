@@ -1,17 +1,19 @@
 // The windows of the suite: an element for each, as large as its form says at 100 %, and drawn larger or smaller as a whole.
-import { applyControl, createControl, fit, kinds, make, plain } from './controls.js'
+import { applyControl, createControl, fit, kinds, make, place, plain } from './controls.js'
 import { listenOnBoard, settleBoard } from './board.js'
 import { layGround } from './ground.js'
 import { layMenus, makeMenus } from './menus.js'
 import { showKeys } from './keys_window.js'
 import { showNotes } from './notes.js'
+import { tellTable } from './table.js'
 import { send } from './events.js'
 import { alter, calm, view } from './view.js'
 
 const perForm = 4096 // numbers of a window's controls
 const menuHeight = 26
 const statusHeight = 24
-const titleHeight = 32
+const coarse = matchMedia('(pointer: coarse)')
+const titleHeight = () => coarse.matches ? 52 : 32
 
 export const windows = new Map()
 const desk = document.getElementById('desk')
@@ -29,6 +31,7 @@ export function front () {
 
 export function createWindow (told) {
   const window = { ...told, controls: new Map(), shown: false, order: 0, scale: 1, menus: [], panels: [] }
+  window.pictured = told.controls.some(each => each.kind === kinds.image)
   window.isBoard = told.controls.some(each => each.kind === kinds.image || each.kind === kinds.menu)
   window.element = make('section', 'window')
   window.element.dataset.name = told.name
@@ -222,28 +225,37 @@ export function scaleWindows () {
   for (const each of windows.values()) if (!each.modal && each.shown) each.element.hidden = each !== main
   if (main) {
     const natural = Math.min(room.width / main.width, room.height / main.height)
-    const small = (hasBar(main) || main.choice) && ((natural < 1.5 && matchMedia('(pointer: coarse)').matches) || natural < 0.9)
+    const small = (hasBar(main) || main.choice) && ((natural < 1.5 && coarse.matches) || natural < 0.9)
     layStrip(main, small, room)
     const bar = small && hasBar(main) ? menuHeight : 0
     const free = { width: room.width - (small && strip.classList.contains('side') ? strip.offsetWidth : 0),
       height: room.height - (small && !strip.classList.contains('side') ? strip.offsetHeight : 0) }
     const fits = Math.min(free.width / main.width, free.height / (main.height - bar))
-    const most = main.sizable ? 4 : 1.6
+    const most = main.sizable ? 4 : Math.max(1.6, fits * 0.75)
     setScale(main, Math.min(fits * view.zoom / 100, fits, most), free)
   } else {
     strip.hidden = true
   }
-  for (const each of windows.values()) {
-    if (!each.shown || !each.modal) continue
-    const height = each.height + titleHeight
-    const fits = Math.min(room.width / (each.width + 4), room.height / (height + 4))
-    setScale(each, Math.min(fits, Math.max(1, Math.min(main?.scale ?? 1, 2))), room)
-  }
+  for (const each of windows.values()) if (each.shown && each.modal) scaleDialog(each, main, room)
   if (window) settleBoard(window)
 }
 
+// Before fingers a dialog is as broad as fits, and as tall as its fields and buttons need to be tapped.
+function scaleDialog (window, main, room) {
+  const fits = Math.min(room.width / (window.width + 4), room.height / (window.height + titleHeight() + 4))
+  const fingers = coarse.matches && !window.pictured
+  const scale = Math.min(fits, fingers ? 1.5 : Math.max(1, Math.min(main?.scale ?? 1, 2)))
+  const before = window.stretch
+  window.finger = tapped / scale
+  window.stretch = fingers ? Math.min(Math.max(1, (room.height / scale - titleHeight() - 4) / window.height), Math.max(1, 2 / scale)) : 1
+  if (before !== window.stretch) for (const control of window.controls.values()) place(control)
+  window.element.classList.toggle('stretched', window.stretch > 1)
+  window.board.style.height = `${boardHeight(window) * window.stretch}px`
+  setScale(window, scale, room)
+}
+
 function setScale (window, scale, room) {
-  const height = window.height + (window.modal ? titleHeight : 0) - (window.element.classList.contains('barless') ? menuHeight : 0)
+  const height = window.height * (window.stretch ?? 1) + (window.modal ? titleHeight() : 0) - (window.element.classList.contains('barless') ? menuHeight : 0)
   window.scale = scale
   const { style } = window.element
   style.width = `${window.width}px`
@@ -290,6 +302,7 @@ export function settle () {
     window.changed = false
     layGround(window)
     showNotes(window)
+    tellTable(window)
     settleBoard(window)
     if (!strip.hidden) scaleWindows()
   }

@@ -1,0 +1,49 @@
+// What stands on a board beside the game's own texts covers none of them.
+import assert from 'node:assert/strict'
+import { after, before, test } from 'node:test'
+import { launch, open, press, serve, settle, until } from './page.mjs'
+
+let browser, server
+before(async () => {
+  server = await serve()
+  browser = await launch()
+})
+after(async () => {
+  await browser?.close()
+  await server?.stop()
+})
+
+for (const [width, height] of [[1280, 1024], [390, 844]]) {
+  test(`first steps stand beside the splash panel at ${width} by ${height}`, { timeout: 120000 }, async () => {
+    for (const game of ['Sumfall', 'Fivestack', 'Blackrush', 'Duopick', 'Spirehold', 'Handgrid', 'Treyshift']) {
+      const page = await open(browser, `${server.address}#${game.toLowerCase()}`, { viewport: { width, height, hasTouch: width < 500, isMobile: width < 500 } })
+      await until(page, 'the game', now => now.window === `frm${game}`)
+      await settle(page)
+      const met = await page.evaluate(() => {
+        const sheet = document.querySelector('.note.sheet').getBoundingClientRect()
+        const parts = [...document.querySelectorAll('.frame.panel, .surface > .label:not(.empty) > .letters, .surface > button.control')]
+        return parts.filter(each => each.checkVisibility()).filter(each => {
+          const rect = each.getBoundingClientRect()
+          return rect.left < sheet.right && sheet.left < rect.right && rect.top < sheet.bottom && sheet.top < rect.bottom
+        }).map(each => each.textContent)
+      })
+      assert.deepEqual(met, [], game)
+      await page.browserContext().close()
+    }
+  })
+}
+
+test('what is announced side by side stands on one plate', { timeout: 60000 }, async () => {
+  const page = await open(browser, `${server.address}#treyshift`)
+  await until(page, 'the game', now => now.window === 'frmTreyshift')
+  await press(page, 'Play')
+  await until(page, 'the round', now => now.places?.some(each => each.playable))
+  await press(page, 'Take Score')
+  const plates = await page.waitForFunction(() => {
+    const both = [...document.querySelectorAll('.label.announced:not(.empty)')].filter(each => each.checkVisibility())
+    return both.length === 2 && both.map(each => getComputedStyle(each.querySelector('.letters')).backgroundColor).concat(document.querySelectorAll('.plate.joint').length)
+  })
+  assert.deepEqual(await plates.jsonValue(), ['rgba(0, 0, 0, 0)', 'rgba(0, 0, 0, 0)', 1])
+  assert.deepEqual(page.troubles, [])
+  await page.browserContext().close()
+})
