@@ -268,7 +268,10 @@ function setScale (window, scale, room) {
 function layStrip (window, small, room) {
   window.element.classList.toggle('barless', small && hasBar(window))
   strip.hidden = !small
-  if (!small) return strip.replaceChildren()
+  if (!small) {
+    strip.dataset.key = ''
+    return strip.replaceChildren()
+  }
   strip.classList.toggle('side', room.width > room.height)
   const buttons = [...window.controls.values()].filter(control =>
     control.kind === kinds.button && (window.choice || control.within === window.id) && !control.element.hidden)
@@ -281,14 +284,17 @@ function layStrip (window, small, room) {
   strip.replaceChildren()
   if (hasBar(window)) layMenus(window, make('div', 'menubar', strip))
   const commands = make('div', 'commands', strip)
-  for (const each of buttons) {
-    const button = make('button', '', commands)
-    button.type = 'button'
-    button.textContent = plain(each.text).trim()
-    button.disabled = Boolean(each.disabled)
-    button.style.minHeight = `${tapped}px`
-    button.addEventListener('click', () => send(`click ${each.id}`))
-  }
+  for (const each of buttons) addCommand(commands, plain(each.text).trim(), each.disabled, () => send(`click ${each.id}`))
+  if (window.help) addCommand(commands, window.help.text, false, () => showKeys(window))
+}
+
+function addCommand (commands, text, disabled, deed) {
+  const button = make('button', '', commands)
+  button.type = 'button'
+  button.textContent = text
+  button.disabled = Boolean(disabled)
+  button.style.minHeight = `${tapped}px`
+  button.addEventListener('click', deed)
 }
 
 // --- When a batch has been applied -------------------------------------------------------------------------------
