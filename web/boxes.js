@@ -49,6 +49,29 @@ export function hideBox () {
 
 export const boxStands = () => boxes.length > 0
 
+// Asks for a line of text; what is written goes to `written`, unless the player thinks better of it.
+export function ask ({ title, text, name, value, longest, answer }, written) {
+  const close = () => {
+    box.close()
+    box.remove()
+  }
+  const finish = number => {
+    close()
+    if (number === 0) written(field.value.trim())
+  }
+  const box = openBox({ title, text, answers: [answer, 'Cancel'], first: 0 }, finish)
+  const field = make('input', 'asked')
+  field.setAttribute('aria-label', name)
+  field.inputMode = 'numeric'
+  field.autocomplete = 'off'
+  field.maxLength = longest
+  field.value = value
+  field.addEventListener('keydown', event => { if (event.key === 'Enter') finish(0) })
+  box.querySelector('.answers').before(field)
+  field.select()
+  field.focus()
+}
+
 // Of the page itself, where the program isn't asked.
 export function tell (title, text) {
   const box = openBox({ title, text, icon: 'information', answers: ['OK'], first: 0 }, () => {

@@ -3,6 +3,7 @@ import { make, plain, showCaption, accessKey } from './controls.js'
 import { send } from './events.js'
 import { viewEntries } from './view_menu.js'
 import { showKeys } from './keys_window.js'
+import { dealEntries } from './deals.js'
 
 let open = null // { window, title, menu }
 
@@ -71,6 +72,10 @@ export function openMenu (window, button, title) {
     entries = [...entries]
     entries.splice(1, 0, { name: 'keys', text: '&Keys...', visible: true, enabled: true, choose: () => showKeys(window) })
   }
+  if (told.id === window.playMenu) {
+    entries = [...entries]
+    entries.splice(Math.max(0, entries.length - 2), 0, ...dealEntries(window))
+  }
   button.setAttribute('aria-expanded', 'true')
   const menu = build(entries, told.text)
   // In the top layer no page scrolls it and no window cuts it off.
@@ -103,7 +108,8 @@ function build (entries, name) {
       group.setAttribute('role', 'group')
       group.setAttribute('aria-label', plain(entry.text))
       make('span', 'groupname', group).textContent = plain(entry.text)
-      for (const each of entry.entries) addEntry(each, group)
+      const members = make('div', 'members', group)
+      for (const each of entry.entries) addEntry(each, members)
     } else {
       addEntry(entry, menu)
     }

@@ -17,6 +17,7 @@ export function showNotes (window) {
   if (!guide) return
   const notes = guide.notes.map(note => ({ ...note }))
   addFirstSteps(window, notes)
+  addDeal(window, notes)
   addWayOut(window, notes)
   const key = JSON.stringify(notes.map(note => ({ ...note, button: note.button?.id }))) + window.stretch
   if (window.notes.dataset.key === key) return
@@ -96,6 +97,13 @@ function addFirstSteps (window, notes) {
     window.showsSteps = false
     alter({ seen: [...view.seen, window.name] })
   }
+}
+
+// The number of the deal that was played, by the splash panel.
+function addDeal (window, notes) {
+  const { steps, deal } = window.guide
+  if (!steps || !deal || notes.some(note => note.panel)) return
+  notes.push({ ...steps[0], text: `Deal ${deal}`, look: 2, align: 2, panel: true })
 }
 
 function addWayOut (window, notes) {

@@ -192,6 +192,7 @@ void Describe(Json& json, int id, const Form& form, const Guide* guide) {
     DescribeKeys(json, *guide, id, form);
     if (guide->IsChoice()) json.Member("choice", true);
     if (const Menu* const menu = guide->KeysMenu()) json.Member("keysMenu", ids::Of(id, *menu));
+    if (const Menu* const menu = guide->PlayMenu()) json.Member("playMenu", ids::Of(id, *menu));
     if (const auto place = guide->HelpPlace()) {
       json.Key("help");
       DescribeNote(json, id, *place);
@@ -219,6 +220,7 @@ void Describe(Json& json, int id, const Form& form, const Guide& guide, const Vi
   json.Open('{').Member("form", id * ids::kPerForm).Member("state", guide.State());
   json.Member("open", guide.InGame()).Member("paused", guide.Paused());
   if (const auto score = guide.Score()) json.Member("score", *score);
+  if (const auto game = guide.Game(); game && game->deal != 0) json.Member("deal", game->deal);
   if (cursor) json.Member("cursor", ids::Of(id, *cursor));
   if (const Visual* const control = guide.LetsGo()) json.Member("letsGo", ids::Of(id, *control));
   if (const CommandButton* const button = guide.WayOut()) json.Member("wayOut", ids::Of(id, *button));

@@ -148,7 +148,7 @@ Event WebFrontEnd::Take(std::string_view line, const Wait& wait) {
   const auto window = windows_.find(id / ids::kPerForm);
   Control* const control = window == windows_.end() ? nullptr : ids::Find(*window->second.form, id);
   if (!control) return {};
-  if (what == "close" || what == "press" || what == "key" || what == "hidden" || what == "resize") {
+  if (what == "close" || what == "press" || what == "key" || what == "deal" || what == "resize") {
     if (player::WhyNot(*window->second.form).empty()) Do(what, window->second, *control, line);
   } else if (player::WhyNot(*control).empty()) {
     Do(what, window->second, *control, line);
@@ -186,12 +186,22 @@ void WebFrontEnd::Do(std::string_view what, Window& window, Control& control, st
     const bool far = Number(rest) != 0;
     if (Control* const meant = ClickOf(*window.keys, std::string(rest), far, Milliseconds()))
       player::Click(*meant);
+  } else if (what == "deal" && window.guide) {
+    PlayDeal(*window.guide, Number(rest));
   } else if (what == "pause" && window.guide) {
     // Puts the game on one side of the button: "1" pauses it.
     Control* const pause = window.guide->Pause();
     if (pause && window.guide->Paused() != (Number(rest) != 0) && player::WhyNot(*pause).empty())
       player::Click(*pause);
   }
+}
+
+// Only where a game can begin, and not in the window of a day, which has that day's deal.
+void WebFrontEnd::PlayDeal(Guide& guide, int number) {
+  const auto game = guide.Game();
+  if (!game || game->inProgress || !game->day.empty() || number < 1) return;
+  Control* const play = guide.Play();
+  if (play && player::WhyNot(*play).empty() && guide.AskForDeal(number)) player::Click(*play);
 }
 
 void WebFrontEnd::Entered(const Event& event) {

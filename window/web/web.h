@@ -73,6 +73,7 @@ class WebFrontEnd : public FrontEnd {
   void Flush(bool settled);
   Event Take(std::string_view line, const Wait& wait);
   void Do(std::string_view what, Window& window, Control& control, std::string_view rest);
+  void PlayDeal(Guide& guide, int number);
   void Changed(Control& control);
   int IdOf(const Form& form) const;  // 0 if it isn't loaded
 
