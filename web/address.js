@@ -1,6 +1,6 @@
 // The address names the game, and the way back leads to the selector.
 import { send } from './events.js'
-import { windows } from './windows.js'
+import { front, windows } from './windows.js'
 
 const select = 'frmSelect'
 const nameOf = window => window.name.slice(3).toLowerCase()
@@ -27,7 +27,7 @@ export function followWindows () {
   } else history.replaceState(null, '', url)
 }
 
-// Back: the window is closed as by its close box, which may ask; where the player stays, so does the address.
+// Back: the window in front is closed as by its close box, which may ask; where the player stays, so does the address.
 addEventListener('popstate', () => {
   if (going) {
     going = false
@@ -36,7 +36,7 @@ addEventListener('popstate', () => {
   const game = shownGame()
   if (game && location.hash === '') {
     history.pushState({ game: true }, '', `#${nameOf(game)}`)
-    send(`close ${game.id}`)
+    send(`close ${front().id}`)
     return
   }
   if (game) return

@@ -226,13 +226,19 @@ function createButton (control) {
     picture.alt = ''
   }
   control.caption = make('span', 'caption', element)
-  element.addEventListener('click', event => {
-    // A game that the first press of a double click has begun isn't ended by the second one.
-    if (event.detail === 2 && control.window.guide?.open && !control.wasOpen) return
-    control.wasOpen = control.window.guide?.open
-    send(`click ${control.id}`)
-  })
+  element.addEventListener('click', event => pressButton(control, event))
   return element
+}
+
+const twice = 400 // milliseconds
+
+// A game that the first press of a double click has begun isn't ended by the second one.
+export function pressButton (control, event) {
+  const open = Boolean(control.window.guide?.open)
+  const { wasOpen, pressed } = control
+  if (open && wasOpen === false && event.timeStamp - pressed < twice) return
+  Object.assign(control, { wasOpen: open, pressed: event.timeStamp })
+  send(`click ${control.id}`)
 }
 
 function applyButton (control) {

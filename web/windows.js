@@ -1,5 +1,5 @@
 // The windows of the suite: an element for each, as large as its form says at 100 %, and drawn larger or smaller as a whole.
-import { applyControl, createControl, fit, kinds, make, place, plain } from './controls.js'
+import { applyControl, createControl, fit, kinds, make, place, plain, pressButton } from './controls.js'
 import { listenOnBoard, settleBoard } from './board.js'
 import { layGround } from './ground.js'
 import { layMenus, makeMenus } from './menus.js'
@@ -284,7 +284,7 @@ function layStrip (window, small, room) {
   strip.replaceChildren()
   if (hasBar(window)) layMenus(window, make('div', 'menubar', strip))
   const commands = make('div', 'commands', strip)
-  for (const each of buttons) addCommand(commands, plain(each.text).trim(), each.disabled, () => send(`click ${each.id}`))
+  for (const each of buttons) addCommand(commands, plain(each.text).trim(), each.disabled, event => pressButton(each, event))
   if (window.help) addCommand(commands, window.help.text, false, () => showKeys(window))
 }
 

@@ -99,3 +99,18 @@ test('the Hall of Fame is a table, also to who only hears it', { timeout: 60000 
   assert.deepEqual(page.troubles, [])
   await page.browserContext().close()
 })
+
+test('the way back closes a dialog, and the game stays', { timeout: 60000 }, async () => {
+  const page = await open(browser, server.address)
+  await until(page, 'the selector', now => now.window === 'frmSelect')
+  await press(page, 'cmdHandgrid')
+  await until(page, 'the game', now => now.window === 'frmHandgrid')
+  await show(page, 'mnuHelp')
+  await page.evaluate(() => [...document.querySelectorAll('.menu .entry')].find(each => each.textContent.startsWith('About')).click())
+  await until(page, 'the dialog', now => now.window === 'frmAbout')
+  await page.goBack()
+  await until(page, 'the game', now => now.window === 'frmHandgrid')
+  assert.match(page.url(), /#handgrid$/)
+  assert.deepEqual(page.troubles, [])
+  await page.browserContext().close()
+})

@@ -43,6 +43,19 @@ for (const [width, height] of [[390, 844], [844, 390]]) {
   })
 }
 
+test('a double tap on Play begins a game, and asks nothing', { timeout: 60000 }, async () => {
+  const page = await open(browser, `${server.address}#treyshift`, { viewport: { width: 390, height: 844, deviceScaleFactor: 2, hasTouch: true, isMobile: true } })
+  await until(page, 'the game', now => now.window === 'frmTreyshift')
+  await tap(page, 'Play')
+  const begun = page.waitForFunction(() => [...document.querySelectorAll('#strip button')].find(each => each.textContent === 'End Game')?.getBoundingClientRect().toJSON())
+  const { left, top, width, height } = await (await begun).jsonValue()
+  await page.touchscreen.tap(left + width / 2, top + height / 2)
+  const now = await until(page, 'the round or a question', now => now.box !== undefined || now.places?.some(each => each.playable))
+  for (let i = 0; i < 5; ++i) await settle(page)
+  assert.equal(now.box ?? (await look(page)).box, undefined)
+  await page.browserContext().close()
+})
+
 test('a card is dragged to where it is to lie', { timeout: 60000 }, async () => {
   const page = await open(browser, `${server.address}#treyshift`)
   await until(page, 'the game', now => now.window === 'frmTreyshift')
