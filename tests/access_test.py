@@ -55,6 +55,8 @@ class Listener:
             try:
                 if kind == "StateChanged" and values[:2] == ["showing", 1] and node.role == "notification":
                     self.said.append(node.name)
+                elif kind == "Announcement":  # from Qt 6.8 on
+                    self.said.append(values[3])
                 elif kind == "PropertyChange" and values[0] == "accessible-name":
                     self.changed.append(node.name)
             except Error:

@@ -32,6 +32,13 @@ inline bool OpenScreen() {
   return true;
 }
 
+// What is to be deleted later goes with the last test: Qt's own end is too late for windows.
+class LastWindows : public testing::Environment {
+ public:
+  void TearDown() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+};
+inline testing::Environment* const kLastWindows = testing::AddGlobalTestEnvironment(new LastWindows);
+
 // The real front end with short pauses.
 class QuickDesktop : public DesktopFrontEnd {
  public:
