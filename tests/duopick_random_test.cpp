@@ -59,5 +59,5 @@ TEST(DuopickRandomPlayer, DoesNoHarm) {
   AtDuopick player(folder.Path(), "cmdDuopick", 13);
   player.Play(100000);
   EXPECT_GT(player.beyond, 500);
-  EXPECT_GT(player.overflows, 0);
+  EXPECT_TRUE(player.overflows > 0 || player.writesDown);
 }

@@ -1,8 +1,12 @@
 // A player who clicks anywhere, whatever stands before him: boxes, dialogs, menus, the board. A game says how
 // its board is played, and what must be true between two commands.
+//
+// CARDHAVEN_DEEDS names a file, less its ending: what is done is written to .console there, and to .answers
+// what the console says, for other builds of it to do the same (tests/web/players.test.mjs).
 #pragma once
 
 #include <chrono>
+#include <cstdlib>
 #include <iostream>
 
 #include "record/recorder.h"
@@ -17,6 +21,7 @@ class RandomPlayer {
   RandomPlayer(const std::filesystem::path& folder, std::string button, unsigned seed)
       : chance(seed), button_(std::move(button)), suite_(console_.platform, {folder}, AllGames()) {
     console_.platform.random.Seed(seed);
+    if (writesDown) WriteHead(folder, seed);
     recorder_.Attach(suite_.common);
     recorder_.onGameEnd = [this](const std::string& text, const GameResult& result) { Verify(text, result); };
     suite_.Start();
@@ -28,6 +33,7 @@ class RandomPlayer {
     const auto start = std::chrono::steady_clock::now();
     left_ = commands;
     console_.Run();
+    if (writesDown) answers_ << out_.str();
     const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
     std::cout << commands << " commands in " << passed.count() << " s: " << games << " games, " << rounds
               << " moments between rounds, " << dialogs << " commands in dialogs, " << overflows
@@ -37,6 +43,8 @@ class RandomPlayer {
     EXPECT_GT(games, 50);
   }
 
+  // Where all is written down, nobody meddles.
+  const bool writesDown = std::getenv("CARDHAVEN_DEEDS") != nullptr;
   int games = 0, rounds = 0, overflows = 0, dialogs = 0, verified = 0;
   std::string end;  // what the last command led to
 
@@ -90,9 +98,30 @@ class RandomPlayer {
     ASSERT_EQ(verdict.result, result);
   }
 
+  // What another console needs to begin with, in comments.
+  void WriteHead(const std::filesystem::path& folder, unsigned seed) {
+    const std::string deeds = std::getenv("CARDHAVEN_DEEDS");
+    deeds_.open(deeds + ".console");
+    answers_.open(deeds + ".answers");
+    deeds_ << "# seed " << seed << "\n# folder " << folder.native() << "\n";
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+      std::ifstream file(entry.path(), std::ios::binary);
+      const std::string text{std::istreambuf_iterator<char>(file), {}};
+      deeds_ << "# file " << nlohmann::json{entry.path().native(), text}.dump() << "\n";
+    }
+  }
+
   std::optional<std::string> Next() {
+    const bool traces = writesDown && std::exchange(isFirst_, false);
+    const std::optional<std::string> command = traces ? "trace on" : Choose();
+    if (command && writesDown) deeds_ << *command << "\n";
+    return command;
+  }
+
+  std::optional<std::string> Choose() {
     const std::string said = out_.str();
     out_.str("");
+    if (writesDown) answers_ << said;
     if (!said.starts_with("error")) --left_;
     if (Contains(said, "* end") || left_ < 0 || ::testing::Test::HasFatalFailure()) {
       end = said;
@@ -104,7 +133,7 @@ class RandomPlayer {
       return "answer \"" + std::string(AnswerName(Pick(AnswersOf(box->buttons)))) + "\"";
     if (const Form* modal = platform.ModalForm()) return InDialog(*modal);
     if (!suite_.common.window) {
-      meddles = !meddles;
+      meddles = !meddles && !writesDown;
       return "click frmSelect." + button_;
     }
     GameWindow& game = *suite_.common.window;
@@ -173,6 +202,8 @@ class RandomPlayer {
 
   const std::string button_;
   int left_ = 0;
+  std::ofstream deeds_, answers_;
+  bool isFirst_ = true;
   LiveInput input_{[this] { return Next(); }};
   std::istream in_{&input_};
   std::ostringstream out_;

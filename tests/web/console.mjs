@@ -3,6 +3,8 @@ import { readFileSync } from 'node:fs'
 import { isAsyncify, run, waiting } from '../../web/suspend.js'
 
 const build = process.env.CARDHAVEN_WEB_BUILD ?? 'build/web'
+// Where the native programs lie that give the answers to compare with.
+export const native = process.env.CARDHAVEN_NATIVE_TESTS ?? 'build/tests/tests'
 
 // The two builds of a program that are run in node; the second waits for each line as a page waits for the player.
 export const builds = name => [name, `${name}-asyncify`].map(each => [each, new WebAssembly.Module(readFileSync(`${build}/app/${each}.wasm`))])
@@ -22,6 +24,7 @@ export async function answers (module, args, input, files = new Map()) {
     left = Buffer.from(answer, 'latin1')
     return left.length
   }
+  const line = () => (bytes.indexOf('\n', read) + 1 || bytes.length) - read // how long it is
   const hand = (to, size) => {
     const part = bytes.subarray(read, read + size)
     read += part.length
@@ -43,7 +46,7 @@ export async function answers (module, args, input, files = new Map()) {
     },
     remove: (path, length) => { files.delete(text(path, length)) },
     names: () => leave([...files.keys()].join('\n')),
-    input: isAsyncify(module) ? waiting(module, async (to, size) => hand(to, Math.min(size, bytes.indexOf('\n', read) + 1 - read || size))) : hand,
+    input: isAsyncify(module) ? waiting(module, async (to, size) => hand(to, Math.min(size, line()))) : hand,
     output: (what, size) => { written.push(Buffer.from(chunk(what, size))) }
   }
   const given = ['cardhaven-console', ...args].map(each => each + '\0')
@@ -98,5 +101,6 @@ export async function answers (module, args, input, files = new Map()) {
     if (!(error instanceof Exit)) throw error
     status = error.status
   }
-  return { status, output: Buffer.concat(written).toString('latin1'), errors: errors.join('') }
+  const all = Buffer.concat(written)
+  return { status, bytes: all, get output () { return all.toString('latin1') }, errors: errors.join('') }
 }

@@ -67,7 +67,7 @@ for (const game of games) {
     await until(page, 'the selector', now => now.window === 'frmSelect')
     await press(page, `cmd${game}`)
     await until(page, 'the game', now => now.window === `frm${game}`)
-    assert.equal(new URL(page.url()).hash, `#${game.toLowerCase()}`)
+    await page.waitForFunction(game => location.hash === `#${game}`, {}, game.toLowerCase())
     const any = chooser(7)
     let moves = 0
     for (let named = false; moves < 1200; ++moves) {
@@ -83,7 +83,7 @@ for (const game of games) {
     await press(page, 'cmdDone')
     await until(page, 'the game', now => now.window === `frm${game}`)
     await leave(page)
-    assert.equal(new URL(page.url()).hash, '')
+    await page.waitForFunction(() => location.hash === '')
     assert.deepEqual(page.troubles, [])
     await page.browserContext().close()
   })
