@@ -8,7 +8,7 @@ check_packages="$play_packages clang libclang-rt-dev llvm clang-format libgtest-
 web_packages="cmake ninja-build clang-22 lld-22 llvm libc++-22-dev-wasm32 libc++abi-22-dev-wasm32 libclang-rt-22-dev-wasm32 wasi-libc
   nlohmann-json3-dev python3 python3-fonttools python3-brotli opus-tools fonts-open-sans"
 web_host_packages="nodejs npm"
-web_check_packages="$web_host_packages chromium firefox-esr"
+web_check_packages="$web_host_packages chromium firefox-esr webkit2gtk-driver xvfb"
 package_packages="$play_packages debhelper dpkg-dev"
 
 # Prints those of the named packages that aren't installed. Asks the local list only: every start comes through here.

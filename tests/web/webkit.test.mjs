@@ -1,0 +1,97 @@
+// WebKit can't suspend WebAssembly: it plays the second build. Driven by WebDriver, on a virtual screen.
+import assert from 'node:assert/strict'
+import { spawn } from 'node:child_process'
+import { once } from 'node:events'
+import { test } from 'node:test'
+import { serve } from './page.mjs'
+
+const browser = process.env.MINIBROWSER ?? '/usr/lib/x86_64-linux-gnu/webkit2gtk-4.1/MiniBrowser'
+const port = 8000 + process.pid % 20000
+
+async function drive () {
+  // It ends with its screen, and writes the screen's number when that is there.
+  const screen = spawn('Xvfb', ['-displayfd', '1', '-screen', '0', '1400x1100x24'], { stdio: ['ignore', 'pipe', 'ignore'] })
+  const [number] = await once(screen.stdout, 'data')
+  const env = { ...process.env, DISPLAY: `:${String(number).trim()}`, GDK_BACKEND: 'x11', WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS: '1' }
+  const driver = spawn('WebKitWebDriver', [`--port=${port}`], { env, stdio: 'ignore' })
+  const call = async (method, path, body) => {
+    const response = await fetch(`http://127.0.0.1:${port}${path}`, { method, body: body && JSON.stringify(body) })
+    const { value } = await response.json()
+    if (value?.error) throw new Error(`${value.error}: ${value.message}`)
+    return value
+  }
+  const capabilities = { alwaysMatch: { 'webkitgtk:browserOptions': { binary: browser, args: ['--automation'] } } }
+  const session = await again(() => call('POST', '/session', { capabilities }))
+  const at = `/session/${session.sessionId}`
+  return {
+    open: url => call('POST', `${at}/url`, { url }),
+    evaluate: (script, ...args) => call('POST', `${at}/execute/sync`, { script: `return (${script})(...arguments)`, args }),
+    click: (x, y) => call('POST', `${at}/actions`, {
+      actions: [{
+        type: 'pointer', id: 'mouse', parameters: { pointerType: 'mouse' },
+        actions: [{ type: 'pointerMove', x: Math.round(x), y: Math.round(y), duration: 0 }, { type: 'pointerDown', button: 0 }, { type: 'pointerUp', button: 0 }]
+      }]
+    }),
+    stop: async () => {
+      await call('DELETE', at).catch(() => {})
+      driver.kill()
+      screen.kill()
+    }
+  }
+}
+
+// Until it doesn't fail.
+async function again (deed, patience = 30000) {
+  for (const end = Date.now() + patience; ;) {
+    try {
+      return await deed()
+    } catch (error) {
+      if (Date.now() > end) throw error
+      await new Promise(resolve => setTimeout(resolve, 100))
+    }
+  }
+}
+
+const seen = async (page, selector) => {
+  const found = await page.evaluate(`selector => [...document.querySelectorAll(selector)].map(each => {
+    const { left, top, width, height } = each.getBoundingClientRect()
+    return { text: each.getAttribute('aria-label') ?? each.textContent, x: left + width / 2, y: top + height * 0.9 }
+  })`, selector)
+  assert.ok(found.length > 0, `${selector} is not there`)
+  return found
+}
+const press = (page, selector) => again(async () => {
+  const [{ x, y }] = await seen(page, selector)
+  await page.click(x, y)
+})
+const playable = '.image[role=button][aria-disabled=false]'
+
+test('a round in WebKit, and a reload in the middle of it', { timeout: 180000 }, async () => {
+  const server = await serve()
+  let page
+  try {
+    page = await drive()
+    await page.open(server.address)
+    await press(page, '[data-name=cmdSpirehold]')
+    assert.equal(await page.evaluate("() => 'Suspending' in WebAssembly"), false)
+    for (const round of ['first', 'after the reload']) {
+      await again(() => seen(page, '.window[data-name=frmSpirehold]'))
+      await press(page, '[data-name=cmdPlay]')
+      const faces = async () => (await seen(page, '.image[role=button]')).map(each => each.text).join()
+      await again(() => seen(page, playable))
+      for (let moves = 0; moves < 3; ++moves) {
+        const before = await faces()
+        await again(async () => {
+          const free = await seen(page, playable)
+          await page.click(free[0].x, free[0].y)
+          assert.notEqual(await faces(), before, `nothing came of it in the round ${round}`)
+        })
+      }
+      await page.open(`${server.address}#spirehold`)
+      await page.evaluate('() => location.reload()')
+    }
+  } finally {
+    await page?.stop()
+    await server.stop()
+  }
+})
