@@ -1,17 +1,9 @@
 // Every dialog of every game, on a desk and on a phone: it opens, its fields and buttons can be tapped, and it closes.
 import assert from 'node:assert/strict'
-import { after, before, test } from 'node:test'
-import { answer, launch, look, open, press, serve, settle, until } from './page.mjs'
+import { test } from 'node:test'
+import { answer, open, press, settle, until, withBrowser } from './page.mjs'
 
-let browser, server
-before(async () => {
-  server = await serve()
-  browser = await launch()
-})
-after(async () => {
-  await browser?.close()
-  await server?.stop()
-})
+const here = withBrowser()
 
 const show = (page, menu) => page.evaluate(name => [...document.querySelectorAll(`.menubar [data-name=${name}]`)]
   .find(each => each.checkVisibility()).click(), menu)
@@ -50,7 +42,7 @@ for (const [device, viewport] of Object.entries({ desk: { width: 1280, height: 1
   'phone on its side': { width: 844, height: 390, ...phone } })) {
   test(`dialogs on a ${device}`, { timeout: 240000 }, async () => {
     for (const game of games) {
-      const page = await open(browser, `${server.address}#${game.toLowerCase()}`, { viewport })
+      const page = await open(here.browser, `${here.server.address}#${game.toLowerCase()}`, { viewport })
       await until(page, 'the game', now => now.window === `frm${game}`)
       let seen = 0
       const menus = await page.evaluate(() => [...document.querySelectorAll('.menubar .title')].filter(each => each.checkVisibility()).map(each => each.dataset.name))
@@ -83,7 +75,7 @@ for (const [device, viewport] of Object.entries({ desk: { width: 1280, height: 1
 }
 
 test('the Hall of Fame is a table, also to who only hears it', { timeout: 60000 }, async () => {
-  const page = await open(browser, `${server.address}#duopick`)
+  const page = await open(here.browser, `${here.server.address}#duopick`)
   await until(page, 'the game', now => now.window === 'frmDuopick')
   await show(page, 'mnuOptions')
   await page.evaluate(() => [...document.querySelectorAll('.menu .entry')].find(each => each.textContent.startsWith('View High')).click())
@@ -101,7 +93,7 @@ test('the Hall of Fame is a table, also to who only hears it', { timeout: 60000 
 })
 
 test('the way back closes a dialog, and the game stays', { timeout: 60000 }, async () => {
-  const page = await open(browser, server.address)
+  const page = await open(here.browser, here.server.address)
   await until(page, 'the selector', now => now.window === 'frmSelect')
   await press(page, 'cmdHandgrid')
   await until(page, 'the game', now => now.window === 'frmHandgrid')

@@ -1,17 +1,9 @@
 // What is kept from one visit to the next: settings and tables, in two tabs, without a network, where there is no room.
 import assert from 'node:assert/strict'
-import { after, before, test } from 'node:test'
-import { answer, choose, launch, leave, look, open, press, serve, settle, until } from './page.mjs'
+import { test } from 'node:test'
+import { answer, choose, leave, open, press, serve, settle, until, withBrowser } from './page.mjs'
 
-let browser, server
-before(async () => {
-  server = await serve()
-  browser = await launch()
-})
-after(async () => {
-  await browser?.close()
-  await server?.stop()
-})
+const here = withBrowser()
 
 const isTicked = async (page, entry) => {
   await page.click('.menubar [data-name=mnuOptions]')
@@ -26,7 +18,7 @@ const opened = async (page, game) => {
 }
 
 test('a setting outlives a reload in the middle of a round, and closing the game', { timeout: 60000 }, async () => {
-  const page = await open(browser, `${server.address}#spirehold`)
+  const page = await open(here.browser, `${here.server.address}#spirehold`)
   await opened(page, 'Spirehold')
   assert.ok(await isTicked(page, 'Play Sounds'))
   await choose(page, 'mnuOptions', 'Play Sounds')
@@ -40,7 +32,7 @@ test('a setting outlives a reload in the middle of a round, and closing the game
 })
 
 test('the way back leads to the selector, with the question in a game', { timeout: 60000 }, async () => {
-  const page = await open(browser, server.address)
+  const page = await open(here.browser, here.server.address)
   await until(page, 'the selector', now => now.window === 'frmSelect')
   await press(page, 'cmdTreyshift')
   await opened(page, 'Treyshift')
@@ -61,10 +53,10 @@ test('the way back leads to the selector, with the question in a game', { timeou
 })
 
 test('of two tabs none loses what the other has kept', { timeout: 60000 }, async () => {
-  const context = await browser.createBrowserContext()
-  const one = await open(browser, `${server.address}#sumfall`, { context })
+  const context = await here.browser.createBrowserContext()
+  const one = await open(here.browser, `${here.server.address}#sumfall`, { context })
   await opened(one, 'Sumfall')
-  const two = await open(browser, `${server.address}#duopick`, { context })
+  const two = await open(here.browser, `${here.server.address}#duopick`, { context })
   await opened(two, 'Duopick')
   await choose(two, 'mnuOptions', 'Play Sounds')
   await leave(two)
@@ -77,7 +69,7 @@ test('of two tabs none loses what the other has kept', { timeout: 60000 }, async
 })
 
 test('a browser without room is told of once, and play goes on', { timeout: 60000 }, async () => {
-  const page = await open(browser, `${server.address}#handgrid`, {
+  const page = await open(here.browser, `${here.server.address}#handgrid`, {
     before: () => { Storage.prototype.setItem = () => { throw new DOMException('full', 'QuotaExceededError') } }
   })
   const told = await until(page, 'the word about it', now => now.box !== undefined)
@@ -95,7 +87,7 @@ test('a browser without room is told of once, and play goes on', { timeout: 6000
 
 test('a page that was opened once opens without a network', { timeout: 60000 }, async () => {
   const own = await serve()
-  const page = await open(browser, own.address)
+  const page = await open(here.browser, own.address)
   const programs = await page.evaluate(async () => {
     await navigator.serviceWorker.ready
     const cache = await caches.open((await caches.keys())[0])
@@ -114,7 +106,7 @@ test('a page that was opened once opens without a network', { timeout: 60000 }, 
 })
 
 test('all files leave as one archive, and come back', { timeout: 60000 }, async () => {
-  const page = await open(browser, `${server.address}#blackrush`)
+  const page = await open(here.browser, `${here.server.address}#blackrush`)
   await opened(page, 'Blackrush')
   await leave(page)
   const same = await page.evaluate(async () => {

@@ -1,22 +1,14 @@
 // What stands on a board beside the game's own texts covers none of them.
 import assert from 'node:assert/strict'
-import { after, before, test } from 'node:test'
-import { launch, open, press, serve, settle, until } from './page.mjs'
+import { test } from 'node:test'
+import { open, press, settle, until, withBrowser } from './page.mjs'
 
-let browser, server
-before(async () => {
-  server = await serve()
-  browser = await launch()
-})
-after(async () => {
-  await browser?.close()
-  await server?.stop()
-})
+const here = withBrowser()
 
 for (const [width, height] of [[1280, 1024], [390, 844]]) {
   test(`first steps stand beside the splash panel at ${width} by ${height}`, { timeout: 120000 }, async () => {
     for (const game of ['Sumfall', 'Fivestack', 'Blackrush', 'Duopick', 'Spirehold', 'Handgrid', 'Treyshift']) {
-      const page = await open(browser, `${server.address}#${game.toLowerCase()}`, { viewport: { width, height, hasTouch: width < 500, isMobile: width < 500 } })
+      const page = await open(here.browser, `${here.server.address}#${game.toLowerCase()}`, { viewport: { width, height, hasTouch: width < 500, isMobile: width < 500 } })
       await until(page, 'the game', now => now.window === `frm${game}`)
       await settle(page)
       const met = await page.evaluate(() => {
@@ -34,7 +26,7 @@ for (const [width, height] of [[1280, 1024], [390, 844]]) {
 }
 
 test('what is announced side by side stands on one plate', { timeout: 60000 }, async () => {
-  const page = await open(browser, `${server.address}#treyshift`)
+  const page = await open(here.browser, `${here.server.address}#treyshift`)
   await until(page, 'the game', now => now.window === 'frmTreyshift')
   await press(page, 'Play')
   await until(page, 'the round', now => now.places?.some(each => each.playable))

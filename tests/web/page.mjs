@@ -1,6 +1,7 @@
 // A browser without a screen, the page served on this machine, and a player who clicks what can be played.
 import { spawn } from 'node:child_process'
 import { once } from 'node:events'
+import { after, before } from 'node:test'
 import puppeteer from 'puppeteer-core'
 
 const site = process.env.CARDHAVEN_WEB_SITE ?? 'build/web/site'
@@ -29,6 +30,20 @@ const browsers = {
   }
 }
 export const launch = () => puppeteer.launch({ ...browsers[process.env.CARDHAVEN_BROWSER ?? 'chromium'], defaultViewport: { width: 1280, height: 1024 } })
+
+// For the tests of one file: the page, served, and a browser, which are gone after the last of them.
+export function withBrowser () {
+  const here = {}
+  before(async () => {
+    here.server = await serve()
+    here.browser = await launch()
+  })
+  after(async () => {
+    await here.browser?.close()
+    await here.server?.stop()
+  })
+  return here
+}
 
 // A page of a player of its own. What it complains of is in `troubles`; `speed` lets its clock go faster.
 export async function open (browser, address, { speed = 1, context, viewport, before } = {}) {

@@ -1,19 +1,11 @@
 // Whole games by real clicks, from the selector to the Hall of Fame.
 import assert from 'node:assert/strict'
-import { after, before, test } from 'node:test'
-import { answer, choose, launch, leave, look, open, press, serve, settle, until } from './page.mjs'
+import { test } from 'node:test'
+import { answer, choose, leave, look, open, press, settle, until, withBrowser } from './page.mjs'
 
 const hostile = 'Ann <b>&amp; Bob'
 
-let browser, server
-before(async () => {
-  server = await serve()
-  browser = await launch()
-})
-after(async () => {
-  await browser?.close()
-  await server?.stop()
-})
+const here = withBrowser()
 
 // Tables in which every score has a place.
 const openTables = () => {
@@ -63,7 +55,7 @@ async function hallOfFame (page) {
 const games = process.env.GAMES?.split(',') ?? ['Sumfall', 'Fivestack', 'Blackrush', 'Duopick', 'Spirehold', 'Handgrid', 'Treyshift']
 for (const game of games) {
   test(`${game} is played to its end`, { timeout: 240000 }, async () => {
-    const page = await open(browser, server.address, { speed: 20, before: openTables })
+    const page = await open(here.browser, here.server.address, { speed: 20, before: openTables })
     await until(page, 'the selector', now => now.window === 'frmSelect')
     await press(page, `cmd${game}`)
     await until(page, 'the game', now => now.window === `frm${game}`)

@@ -1,17 +1,9 @@
 // A phone held either way: what is tapped is large enough, cards are played by taps and by dragging, and nothing scrolls.
 import assert from 'node:assert/strict'
-import { after, before, test } from 'node:test'
-import { launch, look, open, press, serve, settle, until } from './page.mjs'
+import { test } from 'node:test'
+import { look, open, press, settle, until, withBrowser } from './page.mjs'
 
-let browser, server
-before(async () => {
-  server = await serve()
-  browser = await launch()
-})
-after(async () => {
-  await browser?.close()
-  await server?.stop()
-})
+const here = withBrowser()
 
 async function tap (page, text) {
   const at = await page.evaluate(text => {
@@ -25,7 +17,7 @@ async function tap (page, text) {
 
 for (const [width, height] of [[390, 844], [844, 390]]) {
   test(`a phone of ${width} by ${height}`, { timeout: 120000 }, async () => {
-    const page = await open(browser, server.address, { viewport: { width, height, deviceScaleFactor: 2, hasTouch: true, isMobile: true } })
+    const page = await open(here.browser, here.server.address, { viewport: { width, height, deviceScaleFactor: 2, hasTouch: true, isMobile: true } })
     await until(page, 'the selector', now => now.window === 'frmSelect')
     await tap(page, 'Spirehold')
     await until(page, 'the game', now => now.window === 'frmSpirehold')
@@ -44,7 +36,7 @@ for (const [width, height] of [[390, 844], [844, 390]]) {
 }
 
 test('a double tap on Play begins a game, and asks nothing', { timeout: 60000 }, async () => {
-  const page = await open(browser, `${server.address}#treyshift`, { viewport: { width: 390, height: 844, deviceScaleFactor: 2, hasTouch: true, isMobile: true } })
+  const page = await open(here.browser, `${here.server.address}#treyshift`, { viewport: { width: 390, height: 844, deviceScaleFactor: 2, hasTouch: true, isMobile: true } })
   await until(page, 'the game', now => now.window === 'frmTreyshift')
   await tap(page, 'Play')
   const begun = page.waitForFunction(() => [...document.querySelectorAll('#strip button')].find(each => each.textContent === 'End Game')?.getBoundingClientRect().toJSON())
@@ -57,7 +49,7 @@ test('a double tap on Play begins a game, and asks nothing', { timeout: 60000 },
 })
 
 test('a card is dragged to where it is to lie', { timeout: 60000 }, async () => {
-  const page = await open(browser, `${server.address}#treyshift`)
+  const page = await open(here.browser, `${here.server.address}#treyshift`)
   await until(page, 'the game', now => now.window === 'frmTreyshift')
   await press(page, 'Play')
   const { places } = await until(page, 'the round', now => now.places?.some(each => each.playable))
