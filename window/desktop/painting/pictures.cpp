@@ -100,7 +100,8 @@ QPixmap Pictures::Get(int index, bool framed, double scale) {
     return found == drawn.end() ? QPixmap() : found->second;
   };
   QPixmap picture = find();
-  if (picture.isNull() && ahead_) {
+  // A window that fills the screen after all doesn't wait for the size that it doesn't have.
+  if (picture.isNull() && ahead_ && ahead_->scale == scale) {
     Finish();
     picture = find();
   }
