@@ -22,12 +22,6 @@ int Print(const std::string& text) { return std::cout << text << std::flush ? EX
 
 }  // namespace
 
-std::vector<KnownGame> KnownGames() {
-  std::vector<KnownGame> known;
-  for (const GameEntry& entry : AllGames()) known.push_back({std::string(entry.Name()), entry.rounds});
-  return known;
-}
-
 int PrintHistory(const std::filesystem::path& folder) {
   std::string text;
   if (!ReadHistory(folder, text)) return EXIT_FAILURE;

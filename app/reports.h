@@ -3,12 +3,6 @@
 
 #include <filesystem>
 #include <string>
-#include <vector>
-
-#include "history/statistics.h"
-
-// The games of the suite, as statistics know them.
-std::vector<KnownGame> KnownGames();
 
 // The history's sound lines, under its header; and what they amount to, of all games or of one. The exit
 // status.

@@ -57,6 +57,12 @@ std::vector<GameEntry> AllGames() {
   };
 }
 
+std::vector<KnownGame> KnownGames() {
+  std::vector<KnownGame> known;
+  for (const GameEntry& entry : AllGames()) known.push_back({std::string(entry.Name()), entry.rounds});
+  return known;
+}
+
 std::unique_ptr<Guide> MakeGuide(Form& form) {
   for (const GameEntry& game : AllGames())
     if (auto guide = game.guide(form)) return guide;

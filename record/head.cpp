@@ -4,7 +4,7 @@
 #include <climits>
 #include <cstdio>
 
-#include "suite/moments.h"
+#include "window/moments.h"
 
 namespace record {
 

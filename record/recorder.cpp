@@ -4,7 +4,7 @@
 
 #include "record/events.h"
 #include "suite/game_window.h"
-#include "suite/moments.h"
+#include "window/moments.h"
 
 namespace fs = std::filesystem;
 using namespace record;

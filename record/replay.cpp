@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "record/events.h"
-#include "suite/moments.h"
 #include "suite/suite.h"
+#include "window/moments.h"
 
 namespace fs = std::filesystem;
 

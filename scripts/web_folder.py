@@ -4,6 +4,7 @@ import gzip
 import hashlib
 import json
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -43,9 +44,14 @@ def make_sounds(site):
 
 
 def name_modules(page):
-    """The page asks for all modules at once, rather than for each as another one names it."""
-    names = sorted(path.name for path in (ROOT / "web").glob("*.js") if path.name != "worker.js")
-    links = [f'<link rel="modulepreload" href="{name}">' for name in names]
+    """The page asks at once for all modules that it begins with, rather than for each as another one names it."""
+    names, waiting = set(), ["main.js"]
+    while waiting:
+        name = waiting.pop()
+        if name not in names:
+            names.add(name)
+            waiting += re.findall(r"^import (?:.*? from )?'\./(.+?)'", (ROOT / "web" / name).read_text(), re.M | re.S)
+    links = [f'<link rel="modulepreload" href="{name}">' for name in sorted(names)]
     page.write_text(page.read_text().replace("<!-- modules -->", "\n".join(links)))
 
 

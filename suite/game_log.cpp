@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "suite/game_window.h"
-#include "suite/moments.h"
+#include "window/moments.h"
 
 void GameLog::Begin() {
   End();  // of one that came to no table

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "suite/moments.h"
+#include "window/moments.h"
 
 namespace {
 

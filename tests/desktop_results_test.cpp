@@ -11,8 +11,8 @@
 #include "history/deal_number.h"
 #include "tests/desktop_start.h"
 #include "window/desktop/results/charts.h"
-#include "window/desktop/results/remarks.h"
 #include "window/desktop/results/statistics_window.h"
+#include "window/results/remarks.h"
 
 namespace {
 

@@ -19,9 +19,10 @@ MAY = {
     SYSTEM: "",
     SYSTEM + "/posix": SYSTEM,
     SYSTEM + "/web": SYSTEM,
+    "window/results": MODEL + " history",
     "window/script": MODEL,
     "window/console": MODEL + " window/script",
-    "window/web": MODEL + " window/system/web",
+    "window/web": MODEL + " history window/results window/system/web",
     "history": "",
     "suite": MODEL + " history",
     "games": MODEL + " suite history",
@@ -31,8 +32,8 @@ MAY = {
     "window/desktop/sound": MODEL,
     "window/desktop/input": MODEL + " window/desktop/painting",
     "window/desktop/speech": MODEL + " window/desktop/painting window/desktop/input",
-    "window/desktop/results": MODEL + " history window/desktop/painting",
-    "window/desktop/view": MODEL + " history window/desktop/painting window/desktop/input window/desktop/speech"
+    "window/desktop/results": MODEL + " history window/results window/desktop/painting",
+    "window/desktop/view": MODEL + " history window/results window/desktop/painting window/desktop/input window/desktop/speech"
                                    " window/desktop/results",
     "window/desktop": MODEL + " history window/script window/desktop/painting window/desktop/sound window/desktop/input"
                               " window/desktop/speech window/desktop/view",

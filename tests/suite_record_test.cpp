@@ -5,8 +5,8 @@
 
 #include "record/recorder.h"
 #include "record/replay.h"
-#include "suite/moments.h"
 #include "tests/driver.h"
+#include "window/moments.h"
 #include "window/player.h"
 
 namespace {

@@ -3,13 +3,20 @@ import { send } from './events.js'
 import { front, windows } from './windows.js'
 
 const select = 'frmSelect'
-const nameOf = window => window.name.slice(3).toLowerCase()
+const ofToday = 'today-'
+const nameOf = window => (window.guide?.day ? ofToday : '') + window.name.slice(3).toLowerCase()
+// The name of a game, in small letters, and whether its deal of the day is meant.
+function meant () {
+  const name = decodeURIComponent(location.hash.slice(1)).toLowerCase()
+  return name.startsWith(ofToday) ? { name: name.slice(ofToday.length), today: true } : { name, today: false }
+}
 const shownGame = () => [...windows.values()].find(each => each.shown && !each.modal && each.name !== select)
 
-// What the page was opened with: a game as on its button, or ''.
+// What the page was opened with: a game as on its button, with "today " before it for its deal of the day; or ''.
 export function asked (games) {
-  const name = decodeURIComponent(location.hash.slice(1)).toLowerCase()
-  return games.find(each => each.toLowerCase() === name) ?? ''
+  const { name, today } = meant()
+  const game = games.find(each => each.toLowerCase() === name)
+  return game ? (today ? 'today ' : '') + game : ''
 }
 
 let going = false // back, by ourselves: that comes about a moment later
@@ -41,7 +48,7 @@ addEventListener('popstate', () => {
   }
   if (game) return
   const selector = [...windows.values()].find(each => each.shown && each.name === select)
-  const wanted = location.hash.slice(1).toLowerCase()
-  const button = selector && [...selector.controls.values()].find(each => each.name.toLowerCase() === `cmd${wanted}`)
-  if (button) send(`click ${button.id}`)
+  const { name, today } = meant()
+  const door = selector?.doors.find(each => each[1].toLowerCase() === name)
+  if (door) send(`${today ? 'today' : 'click'} ${door[0]}`)
 })

@@ -6,6 +6,8 @@ import { waiting } from './suspend.js'
 const decoder = new TextDecoder()
 const encoder = new TextEncoder()
 let memory = null
+let program = null // what it exports
+let answered = ''
 let left = new Uint8Array() // what `take` gives next
 
 const bytes = (at, length) => new Uint8Array(memory.buffer, at, length)
@@ -25,6 +27,14 @@ function leave (given) {
 }
 export const leaveWords = text => leave(encoder.encode(text))
 const leaveLetters = text => leave(Uint8Array.from(text, letter => letter.charCodeAt(0)))
+
+// What the program knows beside what it tells by itself; it may be waiting meanwhile.
+export function ask (question) {
+  const event = left
+  program.ask(leaveWords(question))
+  left = event
+  return JSON.parse(answered)
+}
 
 // Lines are measured as they are drawn.
 const pen = document.createElement('canvas').getContext('2d')
@@ -49,6 +59,7 @@ export function imports (module, tell) {
     input: () => 0,
     output: () => {},
     tell: (text, length) => { tell(JSON.parse(words(text, length))) },
+    answer: (text, length) => { answered = words(text, length) || 'null' },
     wait: waiting(module, suspends),
     now: () => performance.now(),
     date: at => {
@@ -82,5 +93,6 @@ export function imports (module, tell) {
 }
 
 export function use (instance) {
-  memory = instance.exports.memory
+  program = instance.exports
+  memory = program.memory
 }

@@ -55,24 +55,27 @@ export function layMenus (window, bar) {
     button.dataset.key = accessKey(title.text) ?? ''
     button.dataset.name = title.name
     showCaption(button, title.text)
-    button.addEventListener('click', () => open?.title === button ? closeMenus() : openMenu(window, button, title))
+    button.addEventListener('click', () => toggleMenu(window, button, title))
     button.addEventListener('pointerenter', event => {
       if (open && open.title !== button && event.pointerType === 'mouse') openMenu(window, button, title)
     })
   })
 }
 
+// By a click on what opens it.
+export const toggleMenu = (window, button, title) => open?.title === button ? closeMenus() : openMenu(window, button, title)
+
 export const isMenuOpen = () => open !== null
 
-export function openMenu (window, button, title) {
+function openMenu (window, button, title) {
   closeMenus()
   const told = title.id ? { ...title, ...entryOf(window, window.menus.find(each => each.id === title.id)) } : title
   let entries = told.name === 'view' ? viewEntries() : told.entries ?? []
-  if (told.id === window.keysMenu) {
+  if (told.id && told.id === window.keysMenu) {
     entries = [...entries]
     entries.splice(1, 0, { name: 'keys', text: '&Keys...', visible: true, enabled: true, choose: () => showKeys(window) })
   }
-  if (told.id === window.playMenu) {
+  if (told.id && told.id === window.playMenu) {
     entries = [...entries]
     entries.splice(Math.max(0, entries.length - 2), 0, ...dealEntries(window))
   }
@@ -149,7 +152,7 @@ export function closeMenus (back = true) {
 export function takeMenuKey (event, window) {
   if (!open) {
     if (!window || (!event.altKey && event.key !== 'F10')) return false
-    const titles = [...document.querySelectorAll('.menubar .title')].filter(each => each.offsetParent)
+    const titles = [...document.querySelectorAll('.menubar .title, .choicemenu')].filter(each => each.checkVisibility())
     const title = event.key === 'F10' ? titles[0] : titles.find(each => each.dataset.key === event.key.toUpperCase())
     if (!title || window.modal) return false
     title.click()
@@ -158,7 +161,7 @@ export function takeMenuKey (event, window) {
   const entries = [...open.menu.querySelectorAll('.entry:not(:disabled)')]
   const at = entries.indexOf(document.activeElement)
   const titles = [...open.title.parentElement.querySelectorAll('.title:not(:disabled)')]
-  const beside = step => titles[(titles.indexOf(open.title) + step + titles.length) % titles.length].click()
+  const beside = step => titles[(titles.indexOf(open.title) + step + titles.length) % titles.length]?.click()
   switch (event.key) {
     case 'ArrowDown': entries[(at + 1) % entries.length]?.focus(); return true
     case 'ArrowUp': entries[(at - 1 + entries.length) % entries.length]?.focus(); return true
@@ -177,5 +180,5 @@ export function takeMenuKey (event, window) {
 }
 
 addEventListener('pointerdown', event => {
-  if (open && !open.menu.contains(event.target) && !event.target.closest?.('.menubar')) closeMenus(false)
+  if (open && !open.menu.contains(event.target) && !event.target.closest?.('.menubar') && !open.title.contains(event.target)) closeMenus(false)
 }, { capture: true })

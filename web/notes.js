@@ -17,7 +17,7 @@ export function showNotes (window) {
   if (!guide) return
   const notes = guide.notes.map(note => ({ ...note }))
   addFirstSteps(window, notes)
-  addDeal(window, notes)
+  addRemark(window, notes)
   addWayOut(window, notes)
   const key = JSON.stringify(notes.map(note => ({ ...note, button: note.button?.id }))) + window.stretch
   if (window.notes.dataset.key === key) return
@@ -56,7 +56,8 @@ function inTwoLines (text) {
 
 // Below the place that was told, or above it; where there is less room, in two lines, or anywhere near.
 function placeSheet (window, element, note) {
-  const areas = taken(window)
+  const others = [...window.notes.querySelectorAll('.sheet')].filter(each => each !== element)
+  const areas = [...taken(window), ...others.map(each => ({ left: each.offsetLeft, top: each.offsetTop, width: each.offsetWidth, height: each.offsetHeight }))]
   const sizeOf = () => ({ width: element.offsetWidth, height: element.offsetHeight })
   for (const text of [note.text, inTwoLines(note.text)]) {
     element.textContent = text
@@ -99,11 +100,10 @@ function addFirstSteps (window, notes) {
   }
 }
 
-// The number of the deal that was played, by the splash panel.
-function addDeal (window, notes) {
-  const { steps, deal } = window.guide
-  if (!steps || !deal || notes.some(note => note.panel)) return
-  notes.push({ ...steps[0], text: `Deal ${deal}`, look: 2, align: 2, panel: true })
+// How the last game compares, and which deal it was, by the splash panel.
+function addRemark (window, notes) {
+  const { steps, remark } = window.guide
+  if (steps && remark) notes.push({ ...steps[0], text: remark, look: 2, align: 2, panel: true })
 }
 
 function addWayOut (window, notes) {

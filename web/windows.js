@@ -1,8 +1,9 @@
 // The windows of the suite: an element for each, as large as its form says at 100 %, and drawn larger or smaller as a whole.
-import { applyControl, createControl, fit, kinds, make, place, plain, pressButton } from './controls.js'
+import { accessKey, applyControl, createControl, fit, kinds, make, place, plain, pressButton, showCaption } from './controls.js'
 import { listenOnBoard, settleBoard } from './board.js'
 import { layGround } from './ground.js'
-import { layMenus, makeMenus } from './menus.js'
+import { choiceEntries } from './choice_menu.js'
+import { layMenus, makeMenus, toggleMenu } from './menus.js'
 import { showKeys } from './keys_window.js'
 import { showNotes } from './notes.js'
 import { tellTable } from './table.js'
@@ -53,17 +54,32 @@ export function createWindow (told) {
   windows.set(told.id, window)
 }
 
-// A window without a menu has a button for it.
+// A window without menus has buttons for them.
 function offerHelp (window) {
   if (!window.help) return
-  const button = make('button', 'control button help', window.surface)
-  button.type = 'button'
-  button.textContent = window.help.text
-  button.dataset.name = 'help'
-  for (const side of ['left', 'top', 'width', 'height']) button.style[side] = `${window.help[side]}px`
-  button.style.zIndex = 25000
-  button.addEventListener('click', () => showKeys(window))
+  const { left, top, width, height, text } = window.help
+  const gap = 8
+  const breadth = window.doors.length ? (width - gap) / 2 : width
+  const offer = (name, caption, x, deed) => {
+    const button = make('button', `control button ${name}`, window.surface)
+    button.type = 'button'
+    button.dataset.name = name
+    showCaption(make('span', 'caption', button), caption)
+    button.dataset.key = accessKey(caption) ?? ''
+    Object.assign(button.style, { left: `${x}px`, top: `${top}px`, width: `${breadth}px`, height: `${height}px`, zIndex: 25000 })
+    button.addEventListener('click', () => deed(button))
+    return button
+  }
+  if (window.doors.length) offerMenu(offer('choicemenu', '&Menu', left, button => showChoiceMenu(window, button)))
+  offer('help', text, left + width - breadth, () => showKeys(window))
 }
+
+function offerMenu (button) {
+  button.setAttribute('aria-haspopup', 'menu')
+  button.setAttribute('aria-expanded', 'false')
+}
+
+const showChoiceMenu = (window, button) => toggleMenu(window, button, { name: 'choice', text: 'Menu', entries: choiceEntries(window) })
 
 function holderOf (window, control) {
   const holder = window.controls.get(control.within)
@@ -285,6 +301,7 @@ function layStrip (window, small, room) {
   if (hasBar(window)) layMenus(window, make('div', 'menubar', strip))
   const commands = make('div', 'commands', strip)
   for (const each of buttons) addCommand(commands, plain(each.text).trim(), each.disabled, event => pressButton(each, event))
+  if (window.doors?.length) offerMenu(addCommand(commands, 'Menu', false, (event, button) => showChoiceMenu(window, button)))
   if (window.help) addCommand(commands, window.help.text, false, () => showKeys(window))
 }
 
@@ -294,7 +311,8 @@ function addCommand (commands, text, disabled, deed) {
   button.textContent = text
   button.disabled = Boolean(disabled)
   button.style.minHeight = `${tapped}px`
-  button.addEventListener('click', deed)
+  button.addEventListener('click', event => deed(event, button))
+  return button
 }
 
 // --- When a batch has been applied -------------------------------------------------------------------------------

@@ -33,7 +33,7 @@ test('the same number deals the same cards', { timeout: 120000 }, async () => {
     await page.keyboard.press('Enter')
     const first = faces(await round(page))
     await endGame(page)
-    assert.match(await page.$eval('.note.sheet', each => each.textContent), /^Deal 4711$/)
+    assert.match(await page.$eval('.note.sheet', each => each.textContent), /^Deal 4711, repeated: in no table$/)
     await choose(page, 'mnuFile', 'Same Deal Again')
     assert.equal(faces(await round(page)), first)
     await endGame(page)

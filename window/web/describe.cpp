@@ -208,7 +208,10 @@ void Describe(Json& json, int id, const Form& form, const Guide* guide) {
     for (const Control* control : form.Controls())
       if (const std::string tip = guide->ToolTip(*control); !tip.empty())
         json.Member(std::to_string(ids::Of(id, *control)), tip);
-    json.Close('}');
+    json.Close('}').Key("doors").Open('[');
+    for (const GameDoor& door : guide->Doors())
+      json.Open('[').Write(ids::Of(id, *door.button)).Write(door.name).Close(']');
+    json.Close(']');
   }
   json.Key("controls").Open('[');
   for (const Control* control : form.Controls())
@@ -216,11 +219,16 @@ void Describe(Json& json, int id, const Form& form, const Guide* guide) {
   json.Close(']').Close('}');
 }
 
-void Describe(Json& json, int id, const Form& form, const Guide& guide, const Visual* cursor) {
+void Describe(Json& json, int id, const Form& form, const Guide& guide, const Visual* cursor,
+              const Outcome& outcome) {
   json.Open('{').Member("form", id * ids::kPerForm).Member("state", guide.State());
   json.Member("open", guide.InGame()).Member("paused", guide.Paused());
   if (const auto score = guide.Score()) json.Member("score", *score);
-  if (const auto game = guide.Game(); game && game->deal != 0) json.Member("deal", game->deal);
+  if (const auto& game = outcome.facts) {
+    if (game->deal != 0) json.Member("deal", game->deal);
+    if (!game->day.empty()) json.Member("day", game->day);
+    if (!outcome.result.empty()) json.Member("result", outcome.result);
+  }
   if (cursor) json.Member("cursor", ids::Of(id, *cursor));
   if (const Visual* const control = guide.LetsGo()) json.Member("letsGo", ids::Of(id, *control));
   if (const CommandButton* const button = guide.WayOut()) json.Member("wayOut", ids::Of(id, *button));
@@ -249,6 +257,7 @@ void Describe(Json& json, int id, const Form& form, const Guide& guide, const Vi
   for (int i = 1; i <= 3; ++i) json.Write(guide.PanelText(i));
   json.Close(']');
   if (const auto place = guide.FirstStepsPlace()) {
+    if (!outcome.remark.empty()) json.Member("remark", outcome.remark);
     json.Key("steps").Open('[');
     DescribeNote(json, id, *place);
     for (const std::string& line : guide.FirstSteps()) json.Write(line);

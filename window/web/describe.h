@@ -21,5 +21,12 @@ int Pixels(int twips);
 void Describe(Json& json, int form, const Control& control);
 // The same of a window with all that is on it, and its keys.
 void Describe(Json& json, int id, const Form& form, const Guide* guide);
+// The games of a window, and what is said of the last one.
+struct Outcome {
+  std::optional<GameFacts> facts = {};
+  std::string remark = {};  // by the splash panel
+  std::string result = {};  // to show to others
+};
 // What a guide tells of a window at the moment. `cursor` is null where none shows.
-void Describe(Json& json, int id, const Form& form, const Guide& guide, const Visual* cursor);
+void Describe(Json& json, int id, const Form& form, const Guide& guide, const Visual* cursor,
+              const Outcome& outcome);

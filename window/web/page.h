@@ -11,6 +11,9 @@ HOST_CALL("tell") void Tell(const char* text, size_t length);
 // length of the event that came, 0 for none; `host::Take` gives it.
 HOST_CALL("wait") int Wait(double milliseconds, int serving);
 
+// What the page has asked for (`WebFrontEnd::Ask`).
+HOST_CALL("answer") void Answer(const char* text, size_t length);
+
 HOST_CALL("now") double Now();           // milliseconds since the start
 HOST_CALL("date") void Date(int* date);  // year, month, day, hour, minute, second, minutes before UTC
 HOST_CALL("chance") double Chance();     // up to 2^53

@@ -3,8 +3,10 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "window/moments.h"
 #include "window/player.h"
-#include "window/web/describe.h"
+#include "window/results/remarks.h"
+#include "window/text.h"
 #include "window/web/page.h"
 
 namespace {
@@ -40,7 +42,8 @@ Control* ClickOf(BoardKeys& keys, const std::string& key, bool far, long long no
 
 }  // namespace
 
-WebFrontEnd::WebFrontEnd(const PictureFiles& pictures, Guides guides) : guides_(std::move(guides)) {
+WebFrontEnd::WebFrontEnd(const PictureFiles& pictures, Guides guides, Played played)
+    : guides_(std::move(guides)), played_(std::move(played)) {
   out_.Open('[');
   Json& json = Say("pictures").Key("files").Open('[');
   for (const PictureFile& picture : pictures)
@@ -103,11 +106,27 @@ void WebFrontEnd::TellChanges() {
 void WebFrontEnd::TellGuide(int id, Window& window) {
   if (!window.guide || !window.form->Loaded() || !window.form->Visible) return;
   if (window.keys) window.keys->Settle();
+  LookBack(window);
   Json json;
-  Describe(json, id, *window.form, *window.guide, window.keys ? window.keys->Cursor() : nullptr);
+  Describe(json, id, *window.form, *window.guide, window.keys ? window.keys->Cursor() : nullptr,
+           window.outcome);
   if (json.Text() == window.guided) return;
   window.guided = json.Text();
   Say("guide").Key("guide").Plain(window.guided).Close('}');
+}
+
+// The history is read only where the remark on it is about to show.
+void WebFrontEnd::LookBack(Window& window) const {
+  auto facts = window.guide->Game();
+  if (!facts) return;
+  Outcome& outcome = window.outcome;
+  if (facts != outcome.facts) {
+    outcome = {facts, "", ResultToCopy(*facts, played_.games)};
+    window.remarked.reset();
+  }
+  if (window.remarked || !window.guide->FirstStepsPlace()) return;
+  window.remarked = outcome.facts;
+  outcome.remark = RemarkOn(*outcome.facts, played_.history);
 }
 
 void WebFrontEnd::Flush(bool settled) {
@@ -165,6 +184,9 @@ void WebFrontEnd::Do(std::string_view what, Window& window, Control& control, st
     softly_ = true;
     player::Click(control);
     softly_ = false;
+  } else if (what == "today" && window.guide) {
+    window.guide->AskForToday();
+    player::Click(control);
   } else if (what == "twice") {
     player::DblClick(control);
   } else if (what == "over") {
@@ -196,10 +218,10 @@ void WebFrontEnd::Do(std::string_view what, Window& window, Control& control, st
   }
 }
 
-// Only where a game can begin, and not in the window of a day, which has that day's deal.
+// Only where a game can begin; the window of a day has that day's deal alone.
 void WebFrontEnd::PlayDeal(Guide& guide, int number) {
   const auto game = guide.Game();
-  if (!game || game->inProgress || !game->day.empty() || number < 1) return;
+  if (!game || game->inProgress || number < 1 || (!game->day.empty() && number != game->deal)) return;
   Control* const play = guide.Play();
   if (play && player::WhyNot(*play).empty() && guide.AskForDeal(number)) player::Click(*play);
 }
@@ -215,6 +237,20 @@ void WebFrontEnd::Hidden() {
 
 void WebFrontEnd::Leaving() {
   if (platform.OnLeave) platform.OnLeave();
+}
+
+std::string WebFrontEnd::Ask(std::string_view question) {
+  const std::string_view what = Word(question);
+  Json json;
+  if (what == "days") {
+    json.Open('{');
+    const std::string today = UtcDay(Now());
+    for (const KnownGame& game : played_.games)
+      if (const auto score = ResultOfDay(today, game.name, played_.history))
+        json.Member(game.name, FormatNumber(*score));
+    json.Close('}');
+  }
+  return json.Text();
 }
 
 // --- The world -----------------------------------------------------------------------------------
@@ -284,7 +320,7 @@ void WebFrontEnd::Triumph(Visual& where, bool goes) {
 // --- Windows -------------------------------------------------------------------------------------
 
 void WebFrontEnd::FormLoaded(Form& form) {
-  Window window{&form, guides_ ? guides_(form) : nullptr, nullptr, false, ""};
+  Window window{.form = &form, .guide = guides_ ? guides_(form) : nullptr, .keys = nullptr};
   if (window.guide && !window.guide->Keys().empty())
     window.keys = std::make_unique<BoardKeys>(form, *window.guide, MiddleOf);
   windows_.emplace(++nextForm_, std::move(window));

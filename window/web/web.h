@@ -9,15 +9,22 @@
 #include <set>
 #include <string_view>
 
+#include "history/statistics.h"
 #include "window/board_keys.h"
 #include "window/guide.h"
 #include "window/pictures.h"
 #include "window/platform.h"
-#include "window/web/json.h"
+#include "window/web/describe.h"
+
+// What was played so far: where that is kept, and which games there are.
+struct Played {
+  std::filesystem::path history;
+  std::vector<KnownGame> games;
+};
 
 class WebFrontEnd : public FrontEnd {
  public:
-  WebFrontEnd(const PictureFiles& pictures, Guides guides);
+  WebFrontEnd(const PictureFiles& pictures, Guides guides, Played played);
 
   Platform platform{*this};
 
@@ -25,6 +32,9 @@ class WebFrontEnd : public FrontEnd {
   void Hidden();
   // The page goes.
   void Leaving();
+  // What the page asks for by itself, also while the program waits: JSON.
+  //   days    what was scored in today's deal of the day, by games
+  std::string Ask(std::string_view question);
 
   Event Next(const Wait& wait) override;
   void Entered(const Event& event) override;
@@ -61,8 +71,10 @@ class WebFrontEnd : public FrontEnd {
     Form* form;
     std::unique_ptr<Guide> guide;
     std::unique_ptr<BoardKeys> keys;
-    bool told = false;   // to the page
-    std::string guided;  // what the page was told last of what the guide says
+    Outcome outcome = {};
+    std::optional<GameFacts> remarked = {};  // of which the remark is
+    bool told = false;                       // to the page
+    std::string guided = {};                 // what the page was told last of what the guide says
   };
 
   // Begins something that the page is told. What has changed so far goes before it.
@@ -70,6 +82,7 @@ class WebFrontEnd : public FrontEnd {
   void SayForm(std::string_view what, const Form& form);
   void TellChanges();
   void TellGuide(int id, Window& window);
+  void LookBack(Window& window) const;
   void Flush(bool settled);
   Event Take(std::string_view line, const Wait& wait);
   void Do(std::string_view what, Window& window, Control& control, std::string_view rest);
@@ -78,6 +91,7 @@ class WebFrontEnd : public FrontEnd {
   int IdOf(const Form& form) const;  // 0 if it isn't loaded
 
   const Guides guides_;
+  const Played played_;
   std::map<int, Window> windows_;
   std::set<Control*> dirty_;
   Json out_;

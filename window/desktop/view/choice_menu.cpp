@@ -5,7 +5,7 @@
 #include <QMenu>
 
 #include "window/desktop/input/deeds.h"
-#include "window/desktop/results/remarks.h"
+#include "window/results/remarks.h"
 #include "window/text.h"
 
 ChoiceMenu::ChoiceMenu(Form& form, Guide& guide, Deeds& deeds, const std::filesystem::path& history,

@@ -16,12 +16,12 @@
 #include "window/desktop/painting/notes.h"
 #include "window/desktop/painting/room.h"
 #include "window/desktop/painting/style.h"
-#include "window/desktop/results/remarks.h"
 #include "window/desktop/view/choice_menu.h"
 #include "window/desktop/view/keys_window.h"
 #include "window/desktop/view/looks.h"
 #include "window/desktop/view/native.h"
 #include "window/player.h"
+#include "window/results/remarks.h"
 
 namespace {
 

@@ -16,9 +16,9 @@
 #include "history/deal_number.h"
 #include "window/desktop/input/deeds.h"
 #include "window/desktop/painting/style.h"
-#include "window/desktop/results/remarks.h"
 #include "window/desktop/view/aside.h"
 #include "window/desktop/view/menus.h"
+#include "window/results/remarks.h"
 
 DealEntries::DealEntries(Form& form, Guide& guide, Deeds& deeds, const Menus& menus,
                          const std::vector<KnownGame>& games, QWidget& window)

@@ -1,4 +1,4 @@
-#include "suite/moments.h"
+#include "window/moments.h"
 
 #include <chrono>
 #include <cstdio>

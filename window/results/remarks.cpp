@@ -1,12 +1,11 @@
-#include "window/desktop/results/remarks.h"
+#include "window/results/remarks.h"
 
-#include <QDate>
-#include <QLocale>
 #include <algorithm>
 #include <cmath>
 
 #include "history/comparison.h"
 #include "history/deal_number.h"
+#include "window/results/days.h"
 #include "window/system/disk.h"
 #include "window/text.h"
 
@@ -19,17 +18,11 @@ std::vector<PlayedGame> GamesWith(const std::filesystem::path& history, const st
   return games;
 }
 
-// "22 November 2026"
-std::string DayText(const std::string& day) {
-  const QDate date = QDate::fromString(QString::fromStdString(day), Qt::ISODate);
-  return QLocale(QLocale::English, QLocale::UnitedKingdom).toString(date, "d MMMM yyyy").toStdString();
-}
-
 // Which deal was played here, or is to be.
 std::string DealText(const GameFacts& facts, const std::filesystem::path& history) {
   const std::string number = "Deal " + std::to_string(facts.last.empty() ? facts.next : facts.deal);
   if (!facts.day.empty()) {
-    const std::string name = "Deal of the day, " + DayText(facts.day);
+    const std::string name = "Deal of the day, " + results::LongDay(results::ReadDay(facts.day));
     if (!facts.last.empty()) return name + (facts.repeated ? ": practice, in no table" : "");
     if (ResultOfDay(facts.day, facts.name, history))
       return name + ", played already:\nfrom here on it is practice, and enters no table";
@@ -69,9 +62,10 @@ std::string ResultToCopy(const GameFacts& facts, const std::vector<KnownGame>& k
     signs += payment <= 0 ? kNothing : kBars[std::lround(share * (std::size(kBars) - 1))];
   }
   const std::string cards =
-      !facts.day.empty() ? "deal of the day, " + DayText(facts.day)
-      : facts.deal != 0  ? "deal " + std::to_string(facts.deal) + ", " + DayText(last->ended.substr(0, 10))
-                         : DayText(last->ended.substr(0, 10));
+      !facts.day.empty() ? "deal of the day, " + results::LongDay(results::ReadDay(facts.day))
+      : facts.deal != 0
+          ? "deal " + std::to_string(facts.deal) + ", " + results::LongDay(results::ReadDay(last->ended))
+          : results::LongDay(results::ReadDay(last->ended));
   return "Card Haven, " + facts.name + ", " + cards + "\n" + FormatNumber(last->score) + " points  " + signs +
          (facts.repeated ? "  (practice)" : "") + "\n";
 }
