@@ -1,6 +1,7 @@
 // The suite in a page, which starts it by these calls.
 #include <memory>
 
+#include "app/records.h"
 #include "games/games.h"
 #include "history/history.h"
 #include "suite/catalogue.h"
@@ -12,6 +13,9 @@
 #define PAGE_CALL(name) extern "C" __attribute__((export_name(name)))
 
 namespace {
+
+// The browser has some 5 MB for everything.
+constexpr record::Room kRoom{20, 1'500'000};
 
 std::unique_ptr<WebFrontEnd> front;
 
@@ -28,7 +32,10 @@ PAGE_CALL("play") void Play(int length) {
   front = std::make_unique<WebFrontEnd>(Catalogue(), MakeGuide,
                                         Played{options.AppPath / kHistoryFile, KnownGames()});
   {
+    RecordKeeper keeper(
+        front->platform, {}, [] { return page::KeepsRecords() != 0; }, kRoom);
     Suite suite(front->platform, options, AllGames());
+    keeper.Attach(suite.common, options);
     suite.Start();
     front->platform.Run();
   }

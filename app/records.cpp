@@ -11,8 +11,9 @@
 #include "window/system/folders.h"
 #include "window/text.h"
 
-RecordKeeper::RecordKeeper(Platform& platform, const Options& options, std::function<bool()> keeps)
-    : file_(options.record), keeps_(std::move(keeps)) {
+RecordKeeper::RecordKeeper(Platform& platform, const Options& options, std::function<bool()> keeps,
+                           const record::Room& room)
+    : file_(options.record), keeps_(std::move(keeps)), room_(room) {
   if (!file_.empty() || keeps_) recorder_ = std::make_unique<Recorder>(platform, CARDHAVEN_VERSION);
 }
 
@@ -34,7 +35,7 @@ void RecordKeeper::Attach(modCommon& common, const SuiteOptions& suite) {
 // The history names the record as soon as the game ends; so it has its name by then. What can't be written is
 // told once.
 void RecordKeeper::KeepBeside(modCommon& common) {
-  keeper_ = std::make_unique<record::Keeper>(common.files.Folder());
+  keeper_ = std::make_unique<record::Keeper>(common.files.Folder(), room_);
   recorder_->onGameBegin = [this, &common](const std::string& game, const DateTime& now) {
     common.record = keeps_() ? keeper_->NameFor(game, now) : "";
   };
@@ -43,7 +44,7 @@ void RecordKeeper::KeepBeside(modCommon& common) {
     if (record.empty() || common.record.empty() || !keeps_()) return;
     if (keeper_->Keep(common.record, record))
       kept_ = common.record;
-    else if (!std::exchange(complained_, true))
+    else if (common.complain && !std::exchange(complained_, true))
       common.complain("records of games can't be written");
   };
   recorder_->onEntered = [this, &common](const TableEntry& entry) {

@@ -13,7 +13,8 @@ class RecordKeeper {
  public:
   // To be made before any window. `keeps`: whether records are kept beside the tables just now; null where
   // that is nobody's wish.
-  RecordKeeper(Platform& platform, const Options& options, std::function<bool()> keeps = nullptr);
+  RecordKeeper(Platform& platform, const Options& options, std::function<bool()> keeps = nullptr,
+               const record::Room& room = {});
   void Attach(modCommon& common, const SuiteOptions& suite);
 
  private:
@@ -22,6 +23,7 @@ class RecordKeeper {
   std::unique_ptr<Recorder> recorder_;
   const std::string file_;  // "" where records are kept beside the tables
   const std::function<bool()> keeps_;
+  const record::Room room_;
   std::unique_ptr<record::Keeper> keeper_;
   std::string kept_;  // the record of the game that ended last
   bool complained_ = false;

@@ -136,7 +136,7 @@ void Keeper::Prune(const std::string& newest) {
   for (const std::string& name : names) {
     const bool isEntered = entered.contains(name), isNewest = name == newest;
     if (!isNewest) bytes += folders::SizeOf(PathOf(name));
-    const bool goes = bytes > kMostBytes || (!isEntered && ++games > kLastGames);
+    const bool goes = bytes > room_.mostBytes || (!isEntered && ++games > room_.lastGames);
     if (goes && !isNewest) disk_.Remove(PathOf(name));
   }
 }

@@ -22,13 +22,17 @@ struct KeptEntry {
 // Whether a record holds and belongs to that entry.
 bool Proves(const Verdict& verdict, const KeptEntry& entry);
 
+// How much is kept.
+struct Room {
+  size_t lastGames = 100;  // besides those that have an entry in a table
+  uintmax_t mostBytes = 50'000'000;
+};
+
 class Keeper {
  public:
-  static constexpr size_t kLastGames = 100;
-  static constexpr uintmax_t kMostBytes = 50'000'000;
-
   // `folder` is `AppPath`; nothing is made before there is a record.
-  explicit Keeper(const std::filesystem::path& folder) : tables_(folder), folder_(folder / "records") {}
+  explicit Keeper(const std::filesystem::path& folder, const Room& room = {})
+      : room_(room), tables_(folder), folder_(folder / "records") {}
 
   // A name for the record of a game that begins now; those of later games sort behind it.
   std::string NameFor(const std::string& game, const DateTime& now);
@@ -46,6 +50,7 @@ class Keeper {
   std::vector<KeptEntry> Written();
   void Prune(const std::string& newest);
 
+  const Room room_;
   Disk disk_;
   std::filesystem::path tables_, folder_;
 };

@@ -1,11 +1,12 @@
 // All of the player's files as one, and back: an archive that any system opens, whose files are those of the desktop's folder.
 import { tell } from './boxes.js'
 import * as storage from './storage.js'
+import { folder } from './storage.js'
 import { pack, unpack } from './archive.js'
 
-const folder = '/card-haven/'
-// What the suite keeps: settings, tables, saved games, lists.
-const isKept = name => /^[^/\\]+\.(ini|txt|sfl|csv|deal|json)$/i.test(name)
+// What the suite keeps: settings, tables, saved games, lists; in a folder of their own records of games and which entries they are of.
+const isKept = name => /^[^/\\]+\.(ini|txt|sfl|csv|deal|json|record)$/i.test(name)
+const isOfRecords = name => /\.record$|^Entries\.csv$/i.test(name)
 const largest = 1 << 20
 
 export function keepCopy () {
@@ -38,9 +39,12 @@ async function take (chosen) {
     const good = files.map(([name, bytes]) => [name.split('/').at(-1), bytes])
       .filter(([name, bytes]) => isKept(name) && bytes.length <= largest)
     if (!good.length) return tell('Card Haven', 'There are no files of Card Haven in it.')
+    // Records last, and of them those that were made last first: what there is no room for is left out.
+    good.sort(([a], [b]) => isOfRecords(a) - isOfRecords(b) || (a < b ? 1 : -1))
     for (const [name, bytes] of good) {
       const text = Array.from(bytes, byte => String.fromCharCode(byte)).join('')
-      if (!storage.write(folder + name, text)) return tell('Card Haven', `The browser has no room for ${name}.`)
+      const path = folder + (isOfRecords(name) ? 'records/' : '') + name
+      if (!storage.write(path, text) && !isOfRecords(name)) return tell('Card Haven', `The browser has no room for ${name}.`)
     }
     // What is open has read its files already.
     location.replace(location.pathname + location.search)

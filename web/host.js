@@ -2,13 +2,14 @@
 import * as storage from './storage.js'
 import { wait } from './events.js'
 import { waiting } from './suspend.js'
+import { view } from './view.js'
 
 const decoder = new TextDecoder()
 const encoder = new TextEncoder()
 let memory = null
 let program = null // what it exports
 let answered = ''
-let left = new Uint8Array() // what `take` gives next
+let left = new Uint8Array() // what `take` gives next, or a text of bytes
 
 const bytes = (at, length) => new Uint8Array(memory.buffer, at, length)
 const words = (at, length) => decoder.decode(bytes(at, length))
@@ -26,7 +27,13 @@ function leave (given) {
   return left.length
 }
 export const leaveWords = text => leave(encoder.encode(text))
-const leaveLetters = text => leave(Uint8Array.from(text, letter => letter.charCodeAt(0)))
+
+// Many a file is only asked for its size.
+function take (to) {
+  if (typeof left !== 'string') return bytes(to, left.length).set(left)
+  const all = bytes(to, left.length)
+  for (let i = 0; i < left.length; ++i) all[i] = left.charCodeAt(i)
+}
 
 // What the program knows beside what it tells by itself; it may be waiting meanwhile.
 export function ask (question) {
@@ -48,10 +55,10 @@ const suspends = async (milliseconds, serving) => leaveWords(await wait(millisec
 
 export function imports (module, tell) {
   const host = {
-    take: to => { bytes(to, left.length).set(left) },
+    take,
     read: (path, length) => {
       const text = storage.read(words(path, length))
-      return text === null ? -1 : leaveLetters(text)
+      return text === null ? -1 : leave(text)
     },
     write: (path, length, text, size) => Number(storage.write(words(path, length), letters(text, size))),
     remove: (path, length) => { storage.remove(words(path, length)) },
@@ -67,6 +74,7 @@ export function imports (module, tell) {
       new Int32Array(memory.buffer, at, 7).set([now.getFullYear(), now.getMonth() + 1, now.getDate(), now.getHours(),
         now.getMinutes(), now.getSeconds(), -now.getTimezoneOffset()])
     },
+    keepsRecords: () => Number(view.keepsRecords),
     chance: () => {
       const [high, low] = crypto.getRandomValues(new Uint32Array(2))
       return (high & 0x1fffff) * 2 ** 32 + low

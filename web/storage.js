@@ -1,6 +1,8 @@
 // The program's files in the browser's storage: one entry a file, under its whole path, read anew at each call, since there
 // may be another tab. Bytes are kept as letters of the same number.
 const prefix = 'card-haven:'
+export const folder = '/card-haven/'
+const records = `${folder}records/`
 
 function store () {
   try {
@@ -15,15 +17,28 @@ export function read (path) {
   return store()?.getItem(prefix + path) ?? null
 }
 
-// False if there is no room, or we may keep nothing.
+// False if there is no room, or we may keep nothing. Records of games make room for all else.
 export function write (path, text) {
-  try {
-    const kept = store()
-    kept?.setItem(prefix + path, text)
-    return kept !== null
-  } catch {
-    return false
+  const kept = store()
+  while (kept) {
+    try {
+      kept.setItem(prefix + path, text)
+      return true
+    } catch {
+      const oldest = path.startsWith(records) ? null : recordsByWorth().at(-1)
+      if (!oldest) return false
+      remove(oldest)
+    }
   }
+  return false
+}
+
+// Those of table entries first, and newer ones before older ones, as their names tell.
+function recordsByWorth () {
+  const entries = read(`${records}Entries.csv`) ?? ''
+  const worth = path => Number(entries.includes(path.slice(records.length)))
+  return names().filter(path => path.startsWith(records) && path.endsWith('.record'))
+    .sort((a, b) => worth(b) - worth(a) || (a < b ? 1 : -1))
 }
 
 export function remove (path) {

@@ -3,7 +3,7 @@ import { read, write } from './storage.js'
 
 const file = '/card-haven/web.json'
 const first = {
-  zoom: 100, fourColours: false, highContrast: false, lessMotion: false, waves: 100, music: 100, seen: [], lastName: '', lastGame: ''
+  zoom: 100, fourColours: false, highContrast: false, lessMotion: false, waves: 100, music: 100, keepsRecords: true, seen: [], lastName: '', lastGame: ''
 }
 
 function kept () {

@@ -43,6 +43,7 @@ export function viewEntries () {
     volume('Sounds', 'waves'),
     volume('Music', 'music'),
     line,
+    flag('keepRecords', 'Keep &Records of Games', 'keepsRecords'),
     { name: 'keep', text: '&Keep a Copy', choose: keepCopy },
     { name: 'bring', text: '&Bring Back...', choose: bringBack }
   ]

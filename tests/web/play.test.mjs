@@ -2,6 +2,7 @@
 import assert from 'node:assert/strict'
 import { test } from 'node:test'
 import { answer, choose, leave, look, open, press, settle, until, withBrowser } from './page.mjs'
+import { consoleSays, files } from './records.mjs'
 
 const hostile = 'Ann <b>&amp; Bob'
 
@@ -76,6 +77,10 @@ for (const game of games) {
     await until(page, 'the game', now => now.window === `frm${game}`)
     await leave(page)
     await page.waitForFunction(() => location.hash === '')
+    // The game has left a record, which belongs to the entry and holds.
+    const proved = consoleSays(await files(page), '--verify-tables').split('\n').filter(line => line.includes(hostile))
+    assert.equal(proved.length, 1)
+    assert.match(proved[0], new RegExp(`: holds ${game} `))
     assert.deepEqual(page.troubles, [])
     await page.browserContext().close()
   })

@@ -14,9 +14,10 @@ HOST_CALL("wait") int Wait(double milliseconds, int serving);
 // What the page has asked for (`WebFrontEnd::Ask`).
 HOST_CALL("answer") void Answer(const char* text, size_t length);
 
-HOST_CALL("now") double Now();           // milliseconds since the start
-HOST_CALL("date") void Date(int* date);  // year, month, day, hour, minute, second, minutes before UTC
-HOST_CALL("chance") double Chance();     // up to 2^53
+HOST_CALL("now") double Now();                 // milliseconds since the start
+HOST_CALL("date") void Date(int* date);        // year, month, day, hour, minute, second, minutes before UTC
+HOST_CALL("keepsRecords") int KeepsRecords();  // whether the player wants them kept
+HOST_CALL("chance") double Chance();           // up to 2^53
 // How broad a line is in letters of so many pixels.
 HOST_CALL("breadth") double Breadth(const char* text, size_t length, int pixels, int bold);
 

@@ -145,6 +145,8 @@ void WebFrontEnd::Flush(bool settled) {
 
 Event WebFrontEnd::Next(const Wait& wait) {
   const bool sleeps = wait.serving == Wait::Serving::Nothing;
+  if (wait.serving == Wait::Serving::All)
+    for (auto& [id, window] : windows_) ShowWholeBoard(window);
   Flush(!sleeps);
   const double until = wait.until == Wait::kForever ? -1 : std::max(0ll, wait.until - Milliseconds());
   const int length = page::Wait(until, static_cast<int>(wait.serving));
@@ -330,14 +332,20 @@ void WebFrontEnd::FormShown(Form& form) {
   const int id = IdOf(form);
   if (id == 0) return;
   const auto& guide = windows_.at(id).guide;
-  // All of the board is to be seen.
-  const int breadth = guide ? guide->Breadth() : 0;
-  if (breadth > form.Width && form.Width == form.MinWidth && form.Height == form.MinHeight)
-    player::Resize(form, breadth, form.Height);
   Json& json = Say("show").Member("id", id * ids::kPerForm).Member("modal", form.Modal());
   if (TextBox* const box = guide ? guide->OffersAgain() : nullptr) json.Member("offer", ids::Of(id, *box));
   if (const Visual* const active = form.ActiveControl()) json.Member("focus", ids::Of(id, *active));
   json.Close('}');
+}
+
+// As long as the player has chosen no size all of the board is to be seen.
+void WebFrontEnd::ShowWholeBoard(Window& window) {
+  if (!window.isNew || !window.form->Visible) return;
+  window.isNew = false;
+  Form& form = *window.form;
+  const int breadth = window.guide ? window.guide->Breadth() : 0;
+  if (breadth > form.Width && form.Width == form.MinWidth && form.Height == form.MinHeight)
+    player::Resize(form, breadth, form.Height);
 }
 
 void WebFrontEnd::FormHidden(Form& form) { SayForm("hide", form); }

@@ -75,8 +75,10 @@ class WebFrontEnd : public FrontEnd {
     std::optional<GameFacts> remarked = {};  // of which the remark is
     bool told = false;                       // to the page
     std::string guided = {};                 // what the page was told last of what the guide says
+    bool isNew = true;                       // nothing has waited for the player yet
   };
 
+  void ShowWholeBoard(Window& window);
   // Begins something that the page is told. What has changed so far goes before it.
   Json& Say(std::string_view what);
   void SayForm(std::string_view what, const Form& form);

@@ -9,6 +9,8 @@
 
 namespace fs = std::filesystem;
 
+extern "C" int getentropy(void* buffer, size_t length);  // of the C library
+
 namespace {
 
 constexpr size_t kLargestFile = 1 << 20;
@@ -109,7 +111,17 @@ void Disk::Remove(const fs::path& path) { Drop(path); }
 
 void Disk::Sync(const fs::path&) {}
 void Disk::Sweep(const fs::path&) {}
-std::string Disk::Suffix() { return std::string(kSuffixLetters, '0'); }
+
+std::string Disk::Suffix() {
+  unsigned char chance[kSuffixLetters / 2] = {};
+  getentropy(chance, sizeof chance);
+  std::string suffix;
+  for (const unsigned char byte : chance) {
+    suffix += "0123456789abcdef"[byte >> 4];
+    suffix += "0123456789abcdef"[byte & 15];
+  }
+  return suffix;
+}
 
 FolderLock Disk::Lock(const fs::path& folder, int patience, const std::function<bool()>& mustHurry) {
   return FolderLock(folder, patience, mustHurry);
