@@ -10,8 +10,8 @@
 
 #include "history/deal_number.h"
 #include "tests/desktop_start.h"
-#include "window/desktop/results/charts.h"
 #include "window/desktop/results/statistics_window.h"
+#include "window/results/charts.h"
 #include "window/results/remarks.h"
 
 namespace {

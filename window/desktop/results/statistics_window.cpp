@@ -18,10 +18,9 @@
 
 #include "window/desktop/painting/baize.h"
 #include "window/desktop/painting/style.h"
-#include "window/desktop/results/picture.h"
+#include "window/desktop/results/painter.h"
 #include "window/system/disk.h"
 #include "window/system/foreign_files.h"
-#include "window/text.h"
 
 namespace fs = std::filesystem;
 
@@ -29,11 +28,11 @@ namespace {
 
 constexpr QSize kUsual(860, 640), kSmallest(520, 470);
 
-bool IsStrong() { return QApplication::palette().color(QPalette::Window) == style::kStrongGround; }
-
-QString Shown(const std::optional<long long>& number) {
-  return number ? QString::fromStdString(FormatNumber(*number)) : "\u2013";
+std::chrono::sys_days DayOf(QDate date) {
+  return std::chrono::sys_days(std::chrono::days(QDate(1970, 1, 1).daysTo(date)));
 }
+
+bool IsStrong() { return QApplication::palette().color(QPalette::Window) == style::kStrongGround; }
 
 // A table whose second column takes what the others leave.
 class Table : public QTableWidget {
@@ -60,11 +59,11 @@ class StatisticsWindow::View : public QWidget {
   View(const results::Page& page, QWidget* parent) : QWidget(parent), page_(page) {
     setObjectName("page");
     const double zoom = style::ZoomOf(parent);
-    setMinimumSize((QSizeF(results::kLeast) * zoom).toSize());
+    setMinimumSize((QSizeF(results::kLeastWidth, results::kLeastHeight) * zoom).toSize());
   }
 
   void Show() {
-    setAccessibleName(results::InWords(page_));
+    setAccessibleName(QString::fromStdString(results::InWords(page_)));
     update();
   }
 
@@ -94,12 +93,10 @@ StatisticsWindow::StatisticsWindow(const fs::path& history, const std::vector<Kn
   std::string text, why;
   const bool read = !ReadForeignFile(history, kLargestHistory, text, why) || why.empty();
   games_ = ParseHistory(text);
-  const QDate today = QDateTime::currentDateTimeUtc().date();
-  rows_ =
-      OverviewOf(games_, known, std::chrono::sys_days(std::chrono::days(QDate(1970, 1, 1).daysTo(today))));
+  rows_ = OverviewOf(games_, known, DayOf(QDateTime::currentDateTimeUtc().date()));
   told_ = new QLabel(read ? "" : "The history can't be read: " + QString::fromStdString(why), this);
   told_->setObjectName("told");
-  table_ = new Table(0, 10, this);
+  table_ = new Table(0, static_cast<int>(std::size(results::kColumns)), this);
   view_ = new View(page_, this);
   FillTable(game);
 
@@ -145,8 +142,14 @@ void StatisticsWindow::FitScreen() {
 void StatisticsWindow::FillTable(const std::string& game) {
   table_->setObjectName("table");
   table_->setAccessibleName("Statistics");
-  table_->setHorizontalHeaderLabels({"Game", "Played with", "Games", "Played out", "Best", "Average",
-                                     "Median", "Last ten", "Bonus", "Time"});
+  const auto cell = [](int column, const std::string& text) {
+    const bool isNumber = column >= static_cast<int>(results::kFirstNumber);
+    auto* item = new QTableWidgetItem(QString::fromStdString(text));
+    item->setTextAlignment((isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    return item;
+  };
+  for (int column = 0; column < table_->columnCount(); ++column)
+    table_->setHorizontalHeaderItem(column, cell(column, results::kColumns[column]));
   table_->verticalHeader()->hide();
   table_->setShowGrid(false);
   table_->setAlternatingRowColors(true);
@@ -157,36 +160,11 @@ void StatisticsWindow::FillTable(const std::string& game) {
   table_->setWordWrap(false);
   table_->horizontalHeader()->setHighlightSections(false);
   table_->setRowCount(static_cast<int>(rows_.size()));
-  int chosen = 0;
-  size_t newest = 0;
   for (int i = 0; i < table_->rowCount(); ++i) {
-    const HistoryRow& row = rows_[static_cast<size_t>(i)];
-    const Statistics& of = row.figures;
-    const QString cells[] = {QString::fromStdString(of.game),
-                             QString::fromStdString(SettingsOf(row)),
-                             Shown(of.games),
-                             Shown(of.playedOut),
-                             Shown(of.best),
-                             Shown(of.average),
-                             Shown(of.median),
-                             Shown(row.lastTenAverage),
-                             Shown(of.bonus),
-                             QString::fromStdString(DurationText(of.seconds))};
-    for (int column = 0; column < table_->columnCount(); ++column) {
-      auto* item = new QTableWidgetItem(cells[column]);
-      item->setTextAlignment((column < 2 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-      table_->setItem(i, column, item);
-    }
-    // A row of the game that is asked for goes before all others, then the newest.
-    const bool asked = game.empty() || of.game == game;
-    if (asked && !row.daily && row.games.back() + 1 > newest) {
-      newest = row.games.back() + 1;
-      chosen = i;
-    }
+    const std::vector<std::string> cells = results::CellsOf(rows_[static_cast<size_t>(i)]);
+    for (int column = 0; column < table_->columnCount(); ++column)
+      table_->setItem(i, column, cell(column, cells[static_cast<size_t>(column)]));
   }
-  for (int column = 0; column < table_->columnCount(); ++column)
-    table_->horizontalHeaderItem(column)->setTextAlignment((column < 2 ? Qt::AlignLeft : Qt::AlignRight) |
-                                                           Qt::AlignVCenter);
   table_->resizeRowsToContents();
   table_->resizeColumnsToContents();
   const int room = static_cast<int>(std::lround(10 * style::ZoomOf(this)));
@@ -195,12 +173,12 @@ void StatisticsWindow::FillTable(const std::string& game) {
   static_cast<Table*>(table_)->least = table_->columnWidth(1);
   table_->setMinimumHeight(table_->horizontalHeader()->sizeHint().height() + 3 * table_->rowHeight(0));
   connect(table_, &QTableWidget::currentCellChanged, this, [this](int row) { Choose(row); });
-  if (!rows_.empty()) table_->setCurrentCell(chosen, 0);
+  if (!rows_.empty()) table_->setCurrentCell(static_cast<int>(results::NewestRow(rows_, game)), 0);
 }
 
 void StatisticsWindow::Choose(int row) {
   if (row < 0) return;
-  page_ = results::PageOf(rows_[static_cast<size_t>(row)], games_, QDate::currentDate());
+  page_ = results::PageOf(rows_[static_cast<size_t>(row)], games_, DayOf(QDate::currentDate()));
   view_->Show();
 }
 
@@ -228,7 +206,7 @@ void StatisticsWindow::Ask(const QString& title, const QString& name, const QStr
 bool StatisticsWindow::SavePicture(const fs::path& file) {
   constexpr int kSharp = 2;
   const bool strong = IsStrong();
-  const QSize size = kUsual - QSize(20, 100);
+  const QSize size(results::kSavedWidth, results::kSavedHeight);
   const auto paint = [&](QPaintDevice& device, double scale) {
     QPainter painter(&device);
     painter.scale(scale, scale);
@@ -242,7 +220,7 @@ bool StatisticsWindow::SavePicture(const fs::path& file) {
     drawing.setOutputDevice(&bytes);
     drawing.setSize(size);
     drawing.setViewBox(QRect(QPoint(), size));
-    drawing.setTitle(page_.title);
+    drawing.setTitle(QString::fromStdString(page_.title));
     paint(drawing, 1);
   } else {
     QImage image(size * kSharp, QImage::Format_RGB32);

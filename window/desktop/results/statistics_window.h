@@ -5,7 +5,7 @@
 #include <QDialog>
 #include <filesystem>
 
-#include "window/desktop/results/page.h"
+#include "window/results/page.h"
 
 class QLabel;
 class QTableWidget;

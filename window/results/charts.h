@@ -1,17 +1,16 @@
 // The three pictures of a page, each on its plate.
 #pragma once
 
-#include <QPainter>
-
-#include "window/desktop/results/page.h"
+#include "window/results/drawing.h"
+#include "window/results/page.h"
 
 namespace results {
 
-void PaintScores(QPainter& painter, const Page& page, const QRectF& plate, bool strong);
-void PaintHistogram(QPainter& painter, const Page& page, const QRectF& plate, bool strong);
-void PaintCalendar(QPainter& painter, const Page& page, const QRectF& plate, bool strong);
+void DrawScores(Drawing& drawing, const Page& page, const Area& plate);
+void DrawHistogram(Drawing& drawing, const Page& page, const Area& plate);
+void DrawCalendar(Drawing& drawing, const Page& page, const Area& plate);
 // What the calendar's plate needs.
-double CalendarHeight();
+double CalendarHeight(const Letters& letters);
 
 // Bins of round numbers that hold all scores; the first begins at `from`.
 struct Bins {
