@@ -15,6 +15,7 @@ set(CMAKE_CXX_FLAGS_INIT
   "-Wno-deprecated -fwasm-exceptions -fno-threadsafe-statics -ffunction-sections -fdata-sections")
 set(CMAKE_CXX_FLAGS_RELEASE_INIT "-Os -DNDEBUG")
 set(CMAKE_CXX_FLAGS_RELEASE "-Os -DNDEBUG")
+# The names of functions stay: scripts/asyncify goes by them, and what a host gets has lost them.
 set(CMAKE_EXE_LINKER_FLAGS_INIT
-  "-nostdlib++ -L/usr/lib/llvm-${llvm}/lib/wasm32-wasi -Wl,--gc-sections,--strip-all,-z,stack-size=524288")
+  "-nostdlib++ -L/usr/lib/llvm-${llvm}/lib/wasm32-wasi -Wl,--gc-sections,--strip-debug,-z,stack-size=524288")
 set(CMAKE_CXX_STANDARD_LIBRARIES "-lc++ -lc++abi")

@@ -62,7 +62,7 @@ def main(site, *programs):
         shutil.copy(path, site)
     name_modules(site / "index.html")
     for program, name in zip(programs, ("card-haven.wasm", "card-haven-asyncify.wasm")):
-        shutil.copy(program, site / name)
+        subprocess.run(["llvm-strip", "--strip-all", program, "-o", site / name], check=True)
     (site / "pictures.json").write_text(pictures())
     (site / "icons").mkdir()
     shutil.copy(ROOT / "data/icons/card-haven.svg", site / "icons")
