@@ -3,45 +3,13 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "app/showing.h"
 #include "games/games.h"
 #include "record/replay.h"
 #include "suite/catalogue.h"
 #include "window/desktop/watching.h"
-#include "window/text.h"
 
-namespace {
-
-using record::Moment;
 using record::Verdict;
-
-class Screening : public record::Viewer {
- public:
-  explicit Screening(WatchingDesktop& desktop) : desktop_(desktop) {}
-  void Passes(const Moment& moment) override {
-    desktop_.Pass(moment.passes, moment.at, moment.step, moment.isDeed);
-  }
-  void Says(const std::string& comment) override { desktop_.Say(comment); }
-  void Comes(const Event& event) override { desktop_.Comes(event); }
-  void Ended() override { desktop_.AtEnd(); }
-
- private:
-  WatchingDesktop& desktop_;
-};
-
-Recording Describe(const record::Contents& contents, const GameResult& result) {
-  Recording recording;
-  recording.length = contents.length;
-  recording.hasComments = contents.comments > 0;
-  recording.title = result.game + ", " + FormatNumber(result.score) + " points";
-  const bool hasMany = !contents.rounds.empty() && contents.rounds.back().game > 1;
-  for (const record::Round& round : contents.rounds)
-    recording.rounds.push_back({(hasMany ? "Game " + std::to_string(round.game) + ", round " : "Round ") +
-                                    std::to_string(round.number),
-                                round.step, round.at});
-  return recording;
-}
-
-}  // namespace
 
 void TakeRecord(Options& options) {
   std::string text;
@@ -61,8 +29,5 @@ int Watch(char** argv, const Options& options, const DesktopOptions& desktop) {
     return static_cast<int>(verdict.kind);
   }
   return RunWatching(argv, desktop, Catalogue(), Describe(contents, verdict.result),
-                     [&](WatchingDesktop& windows) {
-                       Screening screening(windows);
-                       ReplayBefore(screening, text, CARDHAVEN_VERSION, AllGames(), &windows.platform);
-                     });
+                     [&](WatchingDesktop& windows) { Show(windows.watching, text, windows.platform); });
 }

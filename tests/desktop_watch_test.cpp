@@ -45,14 +45,14 @@ class WatchTest : public testing::Test, public record::Viewer {
   }
 
   void Passes(const record::Moment& moment) override {
-    desktop_->Pass(moment.passes, moment.at, moment.step, moment.isDeed);
+    desktop_->watching.Pass(moment.passes, moment.at, moment.step, moment.isDeed);
     last_ = moment;
   }
-  void Says(const std::string& comment) override { desktop_->Say(comment); }
-  void Comes(const Event& event) override { desktop_->Comes(event); }
+  void Says(const std::string& comment) override { desktop_->watching.Say(comment); }
+  void Comes(const Event& event) override { desktop_->watching.Comes(event); }
   void Ended() override {
     ended_ = true;
-    desktop_->AtEnd();
+    desktop_->watching.AtEnd();
   }
 
   void Watch() {

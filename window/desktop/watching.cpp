@@ -16,8 +16,7 @@
 
 namespace {
 
-constexpr int kSlice = 15;          // milliseconds
-constexpr double kHandShows = 700;  // before the deed
+constexpr int kSlice = 15;  // milliseconds
 
 }  // namespace
 
@@ -72,162 +71,61 @@ class WatchingDesktop::Hand : public QWidget {
 WatchingDesktop::WatchingDesktop(const DesktopFolders& folders, PictureFiles pictures,
                                  const Recording& recording)
     : DesktopFrontEnd(folders, std::move(pictures), Operator::Recording),
-      bar_(recording),
+      watching(recording, *this),
+      bar_(watching),
       guard_(std::make_unique<Guard>(bar_)) {
   looks.keepsView = false;
   looks.Alter([](View& view) { view.fullScreen = false; });
   style::SetZoom(bar_, looks.Now().zoom / 100.0);
   bar_.Fit();
-  bar_.left = [this] { left_ = true; };
-  bar_.goTo = [this](const Recording::Round& round) {
-    goesBack_ = round.step <= step_;
-    target_ = round.step;
-  };
 }
 
 WatchingDesktop::~WatchingDesktop() = default;
 
 void WatchingDesktop::Play(const std::function<void()>& once) {
   bar_.show();
-  while (!left_) {
-    goesBack_ = false;
-    step_ = 0;
-    at_ = 0;
-    owed_ = reading_ = 0;
-    bar_.ShowComment("");
-    const bool fast = target_ > 0;
-    looks.HoldCards(fast);
-    try {
-      once();
-    } catch (const Elsewhere&) {
-    }
-  }
+  watching.Play(once);
   platform.End();
 }
 
-void WatchingDesktop::LeaveIfAsked() {
-  if (!left_ && !goesBack_) return;
-  delete hand_;
-  next_ = {};
-  ForgetWindows();
-  throw Elsewhere{};
-}
-
-void WatchingDesktop::Pass(long long milliseconds, long long at, int step, bool isDeed) {
-  const bool wasFast = IsFast();
-  at_ = at;
-  step_ = step;
-  if (stepping_ && stepped_) {
-    stepping_ = stepped_ = false;
-    bar_.SetPaused(true);
-  }
-  if (stepping_ && isDeed) stepped_ = true;
+void WatchingDesktop::StepBegins(bool fast) {
   ++paintbox.occasion.number;
   paintbox.occasion.clicked = nullptr;
-  if (IsFast()) {
-    if (!sinceFast_.isValid() || sinceFast_.elapsed() > 4 * kSlice) {
-      QCoreApplication::processEvents();
-      sinceFast_.start();
-      LeaveIfAsked();
-    }
-    return;
-  }
-  if (wasFast) {  // what has come meanwhile isn't seen to move
-    SettleBoards();
-    looks.HoldCards(false);
-    milliseconds = 0;
-  }
-  if (next_.kind != Event::Kind::None) SettleWindows();  // no handler is in the middle of something
-  Wait(static_cast<double>(std::clamp(milliseconds, 0ll, 3'600'000ll)));
-  delete hand_;
-  next_ = {};
+  if (!fast || (sinceFast_.isValid() && sinceFast_.elapsed() <= 4 * kSlice)) return;
+  QCoreApplication::processEvents();
+  sinceFast_.start();
 }
 
-// Nobody sits through long thoughts, but the clock of the game is seen to run: it ticks.
-void WatchingDesktop::Wait(double milliseconds) {
-  if (IsFast()) return;
-  SettleBoards();
-  owed_ = std::max(owed_, -static_cast<double>(kSlice) * bar_.Speed()) + milliseconds;
-  const double all = owed_;
-  QElapsedTimer taken;
-  taken.start();
-  while (true) {
-    if (bar_.TakeStep()) {
-      bar_.SetPaused(false);
-      stepping_ = true;
-    }
-    LeaveIfAsked();
-    if (IsFast()) {
-      looks.HoldCards(true);
-      owed_ = 0;
-      return;
-    }
-    if (stepping_) owed_ = std::min(owed_, 0.0);
-    if (!bar_.Paused() && owed_ <= 0 && reading_ <= 0) break;
-    if (owed_ <= kHandShows) ShowHand();
-    bar_.ShowPlace(at_ + std::llround(std::clamp(all - owed_, 0.0, all)));
-    QEventLoop loop;
-    const double left = std::max(owed_, reading_) / bar_.Speed();
-    QTimer::singleShot(bar_.Paused() ? kSlice : std::clamp(static_cast<int>(left), 1, kSlice),
-                       Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec();
-    const double passed = static_cast<double>(taken.restart()) * bar_.Speed();
-    if (bar_.Paused()) continue;
-    // Who reads lets the game wait.
-    if (reading_ > 0)
-      reading_ -= passed;
-    else
-      owed_ -= passed;
-  }
+void WatchingDesktop::Rest(double milliseconds) {
+  QEventLoop loop;
+  const int slice = milliseconds < 0 ? kSlice : std::clamp(static_cast<int>(milliseconds), 1, kSlice);
+  QTimer::singleShot(slice, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+  loop.exec();
 }
 
-void WatchingDesktop::Comes(const Event& event) { next_ = event; }
-
-void WatchingDesktop::ShowHand() {
+void WatchingDesktop::Point(const Event& next) {
+  if (next.kind == Event::Kind::None) delete hand_;
   if (hand_) return;
-  if (next_.kind == Event::Kind::Answer) {
+  if (next.kind == Event::Kind::Answer) {
     QMessageBox* const box = StandingBox();
-    QWidget* const button = box ? box->button(ButtonOf(next_.answer)) : nullptr;
+    QWidget* const button = box ? box->button(ButtonOf(next.answer)) : nullptr;
     if (button) hand_ = new Hand(box, button->mapTo(box, button->rect().center()));
     return;
   }
-  if ((next_.kind != Event::Kind::Click && next_.kind != Event::Kind::DblClick) || !next_.control) return;
-  FormWindow* const window = WindowOf(next_.control->form);
+  if ((next.kind != Event::Kind::Click && next.kind != Event::Kind::DblClick) || !next.control) return;
+  FormWindow* const window = WindowOf(next.control->form);
   if (!window || !window->isVisible()) return;
-  if (QWidget* widget = window->WidgetOf(*next_.control)) {
+  if (QWidget* widget = window->WidgetOf(*next.control)) {
     hand_ = new Hand(window, widget->mapTo(window, widget->rect().center()));
-  } else if (next_.control->kind == Control::Kind::Image ||
-             next_.control->kind == Control::Kind::PictureBox ||
-             next_.control->kind == Control::Kind::Label || next_.control->kind == Control::Kind::Shape) {
-    if (const auto spot = window->Board().SpotOf(static_cast<const Visual&>(*next_.control)))
+  } else if (next.control->kind == Control::Kind::Image || next.control->kind == Control::Kind::PictureBox ||
+             next.control->kind == Control::Kind::Label || next.control->kind == Control::Kind::Shape) {
+    if (const auto spot = window->Board().SpotOf(static_cast<const Visual&>(*next.control)))
       hand_ = new Hand(window, window->Board().mapTo(window, *spot));
   }
 }
 
-void WatchingDesktop::Say(const std::string& comment) {
-  constexpr double kLetter = 55, kLeast = 1500;  // milliseconds of a slow reader
-  if (IsFast()) return;
-  const QString text = QString::fromStdString(comment);
-  bar_.ShowComment(text);
-  if (FormWindow* front = FrontWindow()) Ears().Say(front->Board(), text);
-  reading_ = kLeast + kLetter * static_cast<double>(text.size());
-}
-
-void WatchingDesktop::AtEnd() {
-  target_ = 0;
-  bar_.ShowPlace(at_);
-  bar_.SetPaused(true);
-  stepping_ = stepped_ = false;
-  const bool hasComment = reading_ > 0;
-  if (!hasComment) bar_.ShowComment("The recording ends here. Page Up and Home go back.");
-  // Going on from here is going back.
-  while (true) {
-    Wait(0);
-    if (!bar_.Paused()) {
-      target_ = 0;
-      goesBack_ = true;
-    }
-  }
+void WatchingDesktop::Speak(const std::string& comment) {
+  if (FormWindow* front = FrontWindow()) Ears().Say(front->Board(), QString::fromStdString(comment));
 }
 
 void WatchingDesktop::FormShown(Form& form) {
@@ -249,5 +147,5 @@ void WatchingDesktop::PropertyChanged(Control& control, Prop prop) {
 }
 
 void WatchingDesktop::PlayWave(const std::string& path) {
-  if (!IsFast()) DesktopFrontEnd::PlayWave(path);
+  if (!watching.IsFast()) DesktopFrontEnd::PlayWave(path);
 }

@@ -14,13 +14,7 @@
 
 namespace {
 
-constexpr int kSpeeds[] = {1, 2, 4, 8};
 constexpr int kTick = 100;  // milliseconds to a step of the slider
-
-QString Clock(long long milliseconds) {
-  const long long seconds = milliseconds / 1000;
-  return QString("%1:%2").arg(seconds / 60).arg(seconds % 60, 2, 10, QChar('0'));
-}
 
 QToolButton* Button(QWidget* parent, const char* name, const QString& text, const QString& tip) {
   auto* button = new QToolButton(parent);
@@ -33,8 +27,9 @@ QToolButton* Button(QWidget* parent, const char* name, const QString& text, cons
 
 }  // namespace
 
-WatchBar::WatchBar(const Recording& recording)
-    : QWidget(nullptr, Qt::Tool | Qt::WindowStaysOnTopHint), recording_(recording) {
+WatchBar::WatchBar(Watching& watching)
+    : QWidget(nullptr, Qt::Tool | Qt::WindowStaysOnTopHint), watching_(watching) {
+  const Recording& recording = watching.recording;
   setObjectName("watchBar");
   setWindowTitle("Recording: " + QString::fromStdString(recording.title));
   comment_ = new QLabel(this);
@@ -45,8 +40,9 @@ WatchBar::WatchBar(const Recording& recording)
   comment_->setVisible(recording.hasComments);
   pause_ = Button(this, "pause", "Pause", "Space");
   pause_->setCheckable(true);
+  connect(pause_, &QToolButton::clicked, this, [this](bool paused) { watching_.SetPaused(paused); });
   auto* deed = Button(this, "deed", "Next Deed", "Right");
-  connect(deed, &QToolButton::clicked, this, [this] { step_ = true; });
+  connect(deed, &QToolButton::clicked, this, [this] { watching_.NextDeed(); });
   slider_ = new QSlider(Qt::Horizontal, this);
   slider_->setObjectName("place");
   slider_->setAccessibleName("Round");
@@ -55,10 +51,8 @@ WatchBar::WatchBar(const Recording& recording)
   slider_->setTracking(false);
   slider_->setMinimumWidth(240);
   connect(slider_, &QSlider::actionTriggered, this, &WatchBar::Slide);
-  connect(slider_, &QSlider::sliderReleased, this, [this] {
-    if (goTo && !recording_.rounds.empty())
-      goTo(recording_.rounds[RoundAt(static_cast<long long>(slider_->sliderPosition()) * kTick)]);
-  });
+  connect(slider_, &QSlider::sliderReleased, this,
+          [this] { watching_.GoTo(static_cast<long long>(slider_->sliderPosition()) * kTick); });
   place_ = new QLabel(this);
   place_->setObjectName("where");
 
@@ -66,21 +60,20 @@ WatchBar::WatchBar(const Recording& recording)
   row->addWidget(pause_);
   row->addWidget(deed);
   auto* group = new QButtonGroup(this);
-  for (const int speed : kSpeeds) {
+  for (const int speed : Watching::kSpeeds) {
     auto* button = Button(this, qPrintable(QString("speed%1").arg(speed)), QString("x%1").arg(speed),
                           QString("%1 times as fast, key %1").arg(speed));
     button->setCheckable(true);
     group->addButton(button);
     row->addWidget(button);
     speeds_.push_back(button);
-    connect(button, &QToolButton::clicked, this, [this, speed] { SetSpeed(speed); });
+    connect(button, &QToolButton::clicked, this, [this, speed] { watching_.SetSpeed(speed); });
   }
   row->addWidget(slider_, 1);
   row->addWidget(place_);
   auto* column = new QVBoxLayout(this);
   column->addWidget(comment_);
   column->addLayout(row);
-  SetSpeed(1);
   Fit();
 }
 
@@ -89,65 +82,43 @@ void WatchBar::Fit() {
   letters.setPixelSize(static_cast<int>(std::lround(letters.pixelSize() * style::ZoomOf(this))));
   comment_->setFont(letters);
   comment_->setMinimumHeight(2 * comment_->fontMetrics().height());
-  ShowPlace(recording_.length);  // the longest text
+  place_->setText(QString::fromStdString(watching_.Place(watching_.recording.length)));  // the longest text
   place_->setMinimumWidth(place_->sizeHint().width() + place_->fontMetrics().horizontalAdvance("00"));
-  ShowPlace(0);
+  Show();
   adjustSize();
 }
 
-void WatchBar::SetSpeed(int speed) {
-  speed_ = speed;
-  for (size_t i = 0; i < speeds_.size(); ++i) speeds_[i]->setChecked(kSpeeds[i] == speed);
-}
-
-size_t WatchBar::RoundAt(long long at) const {
-  size_t round = 0;
-  while (round + 1 < recording_.rounds.size() && recording_.rounds[round + 1].at <= at) ++round;
-  return round;
-}
-
-void WatchBar::GoBy(int rounds) {
-  if (recording_.rounds.empty() || !goTo) return;
-  constexpr long long kJustBegun = 3000;  // one back from there is the round before
-  const auto now = static_cast<int>(RoundAt(at_));
-  const bool restarts = rounds < 0 && at_ - recording_.rounds[static_cast<size_t>(now)].at > kJustBegun;
-  const int last = static_cast<int>(recording_.rounds.size()) - 1;
-  if (rounds > 0 && now == last) return;
-  const auto& round =
-      recording_.rounds[static_cast<size_t>(std::clamp(restarts ? now : now + rounds, 0, last))];
-  goTo(round);
-  at_ = round.at;  // for the next key
+void WatchBar::Show() {
+  pause_->setChecked(watching_.Paused());
+  for (size_t i = 0; i < speeds_.size(); ++i)
+    speeds_[i]->setChecked(Watching::kSpeeds[i] == watching_.Speed());
+  if (!slider_->isSliderDown()) {
+    const QSignalBlocker quiet(slider_);
+    slider_->setValue(static_cast<int>(watching_.At() / kTick));
+  }
+  const QString text = QString::fromStdString(watching_.Place(watching_.At()));
+  if (place_->text() != text) place_->setText(text);
+  const QString comment = QString::fromStdString(watching_.Comment());
+  if (comment_->text() != comment) ShowComment(comment);
 }
 
 void WatchBar::Slide(int action) {
   switch (action) {
     case QAbstractSlider::SliderSingleStepAdd:
     case QAbstractSlider::SliderPageStepAdd:
-      GoBy(1);
+      watching_.GoBy(1);
       break;
     case QAbstractSlider::SliderSingleStepSub:
     case QAbstractSlider::SliderPageStepSub:
-      GoBy(-1);
+      watching_.GoBy(-1);
       break;
     case QAbstractSlider::SliderToMinimum:
-      GoBy(-static_cast<int>(recording_.rounds.size()));
+      watching_.Take("Home");
       break;
     default:
       return;
   }
-  slider_->setSliderPosition(static_cast<int>(at_ / kTick));
-}
-
-void WatchBar::ShowPlace(long long at) {
-  at_ = at;
-  if (!slider_->isSliderDown()) {
-    const QSignalBlocker quiet(slider_);
-    slider_->setValue(static_cast<int>(at / kTick));
-  }
-  QString text = Clock(at) + " of " + Clock(recording_.length);
-  if (!recording_.rounds.empty() && at >= recording_.rounds.front().at)
-    text = QString::fromStdString(recording_.rounds[RoundAt(at)].name) + ", " + text;
-  if (place_->text() != text) place_->setText(text);
+  slider_->setSliderPosition(static_cast<int>(watching_.At() / kTick));
 }
 
 void WatchBar::ShowComment(const QString& comment) {
@@ -170,44 +141,27 @@ void WatchBar::PlaceBelow(const QWidget& window) {
 bool WatchBar::Take(const QKeyEvent& key) {
   switch (key.key()) {
     case Qt::Key_Space:
-      pause_->toggle();
-      return true;
+      return watching_.Take("Space");
     case Qt::Key_Right:
-    case Qt::Key_Period:
-      step_ = true;
-      return true;
+      return watching_.Take("Right");
     case Qt::Key_PageDown:
-      GoBy(1);
-      return true;
+      return watching_.Take("PageDown");
     case Qt::Key_PageUp:
-      GoBy(-1);
-      return true;
+      return watching_.Take("PageUp");
     case Qt::Key_Home:
-      GoBy(-static_cast<int>(recording_.rounds.size()));
-      return true;
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-      SetSpeed(std::min(speed_ * 2, 8));
-      return true;
-    case Qt::Key_Minus:
-      SetSpeed(std::max(speed_ / 2, 1));
-      return true;
+      return watching_.Take("Home");
     case Qt::Key_Escape:
       close();
       return true;
     default:
       break;
   }
-  const int digit = key.key() - Qt::Key_0;
-  if (std::ranges::find(kSpeeds, digit) == std::end(kSpeeds)) return false;
-  SetSpeed(digit);
-  return true;
+  const int letter = key.key();
+  return letter < 0x7f && watching_.Take(std::string(1, static_cast<char>(letter)));
 }
 
 void WatchBar::keyPressEvent(QKeyEvent* event) {
   if (!Take(*event)) QWidget::keyPressEvent(event);
 }
 
-void WatchBar::closeEvent(QCloseEvent*) {
-  if (left) left();
-}
+void WatchBar::closeEvent(QCloseEvent*) { watching_.Leave(); }

@@ -3,42 +3,18 @@
 
 #include <QLabel>
 #include <QSlider>
-#include <QString>
 #include <QToolButton>
 #include <QWidget>
-#include <functional>
-#include <string>
 #include <vector>
 
-// What is watched.
-struct Recording {
-  struct Round {
-    std::string name;  // "Round 2"
-    int step = 0;      // of the record, with which it begins
-    long long at = 0;  // milliseconds after its beginning
-  };
-  std::string title;
-  std::vector<Round> rounds;
-  long long length = 0;      // milliseconds
-  bool hasComments = false;  // for those who watch
-};
+#include "window/watching.h"
 
 class WatchBar : public QWidget {
  public:
-  explicit WatchBar(const Recording& recording);
+  explicit WatchBar(Watching& watching);
 
-  // The viewer goes to a round, or leaves.
-  std::function<void(const Recording::Round&)> goTo;
-  std::function<void()> left;
-
-  bool Paused() const { return pause_->isChecked(); }
-  void SetPaused(bool paused) { pause_->setChecked(paused); }
-  int Speed() const { return speed_; }
-  // Whether one deed was asked for; asked once.
-  bool TakeStep() { return std::exchange(step_, false); }
-  // The recording stands there.
-  void ShowPlace(long long at);
-  void ShowComment(const QString& comment);
+  // Shows how the watching stands.
+  void Show();
   // Has room for all that it may say.
   void Fit();
   // Under that window, or where there is room.
@@ -51,19 +27,13 @@ class WatchBar : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void SetSpeed(int speed);
-  // So many rounds on from where it stands.
-  void GoBy(int rounds);
   void Slide(int action);
-  size_t RoundAt(long long at) const;
+  void ShowComment(const QString& comment);
 
-  const Recording recording_;
+  Watching& watching_;
   QLabel* comment_;
   QLabel* place_;
   QSlider* slider_;
   QToolButton* pause_;
   std::vector<QToolButton*> speeds_;
-  int speed_ = 1;
-  long long at_ = 0;
-  bool step_ = false;
 };
