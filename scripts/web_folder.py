@@ -16,7 +16,7 @@ FONTS = pathlib.Path("/usr/share/fonts/truetype/open-sans")
 # Letters of the suite's own texts and of most names; others come from the player's system.
 LETTERS = "U+0020-007E,U+00A0-017F,U+2010-2027,U+20AC,U+2122,U+2190-2193,U+2212,U+2660-2666,U+2713"
 LICENCE = pathlib.Path("/usr/share/doc/fonts-open-sans/copyright")
-PACKED = {".wasm", ".json", ".js", ".css", ".html", ".svg", ".webmanifest"}
+PACKED = {".wasm", ".json", ".js", ".css", ".html", ".svg", ".webmanifest", ".record"}
 
 
 def pictures():
@@ -68,6 +68,7 @@ def main(site, *programs):
     shutil.copy(ROOT / "data/icons/card-haven.svg", site / "icons")
     for size in (128, 256):
         shutil.copy(ROOT / f"data/icons/{size}x{size}/card-haven.png", site / f"icons/{size}.png")
+    shutil.copytree(ROOT / "data/demonstrations", site / "demonstrations")
     make_fonts(site)
     make_sounds(site)
     shutil.copy(ROOT / "LICENSE", site / "LICENSE.txt")

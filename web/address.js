@@ -1,5 +1,6 @@
 // The address names the game, and the way back leads to the selector.
 import { send } from './events.js'
+import { shown } from './shown.js'
 import { front, windows } from './windows.js'
 
 const select = 'frmSelect'
@@ -22,7 +23,7 @@ export function asked (games) {
 let going = false // back, by ourselves: that comes about a moment later
 
 export function followWindows () {
-  if (going) return
+  if (going || shown || document.querySelector('.watching')) return
   const game = shownGame()
   const name = game ? `#${nameOf(game)}` : ''
   if (name === location.hash) return

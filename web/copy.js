@@ -1,7 +1,7 @@
 // All of the player's files as one, and back: an archive that any system opens, whose files are those of the desktop's folder.
 import { tell } from './boxes.js'
 import * as storage from './storage.js'
-import { folder } from './storage.js'
+import { folder, lettersOf } from './storage.js'
 import { pack, unpack } from './archive.js'
 
 // What the suite keeps: settings, tables, saved games, lists; in a folder of their own records of games and which entries they are of.
@@ -20,16 +20,18 @@ export function keepCopy () {
   setTimeout(() => URL.revokeObjectURL(link.href), 60000)
 }
 
-export function bringBack () {
+export function chooseFiles (multiple, chosen) {
   const field = document.createElement('input')
   field.type = 'file'
-  field.multiple = true
-  field.addEventListener('change', () => take([...field.files]))
+  field.multiple = multiple
+  field.addEventListener('change', () => chosen([...field.files]))
   field.click()
 }
 
+export const bringBack = () => chooseFiles(true, take)
+
 // The copy's archive, or single files of the desktop's folder.
-async function take (chosen) {
+export async function take (chosen) {
   try {
     const files = []
     for (const file of chosen) {
@@ -42,9 +44,8 @@ async function take (chosen) {
     // Records last, and of them those that were made last first: what there is no room for is left out.
     good.sort(([a], [b]) => isOfRecords(a) - isOfRecords(b) || (a < b ? 1 : -1))
     for (const [name, bytes] of good) {
-      const text = Array.from(bytes, byte => String.fromCharCode(byte)).join('')
       const path = folder + (isOfRecords(name) ? 'records/' : '') + name
-      if (!storage.write(path, text) && !isOfRecords(name)) return tell('Card Haven', `The browser has no room for ${name}.`)
+      if (!storage.write(path, lettersOf(bytes)) && !isOfRecords(name)) return tell('Card Haven', `The browser has no room for ${name}.`)
     }
     // What is open has read its files already.
     location.replace(location.pathname + location.search)

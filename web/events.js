@@ -1,10 +1,12 @@
 // What the player does, in order, until the program asks for it; and the program's waiting.
+import { shown } from './shown.js'
 
 const queue = []
 let wake = null // ends the wait under way
 
 // A line as window/web/web.cpp reads it.
 export function send (line) {
+  if (shown && !line.startsWith('watch ')) return
   queue.push(line)
   wake?.()
 }

@@ -27,6 +27,7 @@ function leave (given) {
   return left.length
 }
 export const leaveWords = text => leave(encoder.encode(text))
+export const leaveLetters = text => leave(text)
 
 // Many a file is only asked for its size.
 function take (to) {
@@ -36,9 +37,13 @@ function take (to) {
 }
 
 // What the program knows beside what it tells by itself; it may be waiting meanwhile.
-export function ask (question) {
+export const ask = question => answerTo('ask', encoder.encode(question))
+// Whether a record holds, in a line.
+export const verdictOn = record => answerTo('verdict', record)
+
+function answerTo (call, given) {
   const event = left
-  program.ask(leaveWords(question))
+  program[call](leave(given))
   left = event
   return JSON.parse(answered)
 }

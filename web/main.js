@@ -1,14 +1,15 @@
 // Starts the program, and carries out what it tells.
 import { followWindows, asked } from './address.js'
 import { hideBox, showBox, openBox } from './boxes.js'
-import { imports, leaveWords, use } from './host.js'
+import { imports, leaveLetters, leaveWords, use } from './host.js'
 import { program } from './program.js'
 import { load, setCatalogue, setFourColours } from './pictures.js'
 import { applyForm, applyGuide, applyTold, controlOf, createWindow, firstOf, forgetWindow, front, hideWindow, holdsFocus, isOrnament,
-  scaleWindows, settle, showWindow, windowOf, windows } from './windows.js'
+  pauseGame, scaleWindows, settle, showWindow, windowOf, windows } from './windows.js'
 import { onOffer, send } from './events.js'
 import { make, applyControl, kinds } from './controls.js'
 import { celebrate, flash, remember, move } from './motion.js'
+import { shown, tellBar } from './shown.js'
 import { speak } from './speech.js'
 import { playWave } from './sound.js'
 import { run } from './suspend.js'
@@ -48,6 +49,8 @@ const deeds = {
     speak(spot ? `Refused: ${spot[1]}` : 'Refused')
     if (control?.kind === kinds.image) flash(control)
   },
+  mark: async told => (await import('./marks.js')).mark(told),
+  unmark: ({ id }) => windowOf(id)?.surface.querySelectorAll('.proof').forEach(each => each.remove()),
   triumph: ({ id }) => celebrate(controlOf(id)),
   open: ({ url }) => window.open(url, '_blank', 'noopener'),
   end: ({ failure }) => end(failure)
@@ -59,7 +62,8 @@ function tell (batch) {
   const occasion = remember(windows, batch)
   for (const each of batch) deeds[each.do](each)
   settle()
-  move(windows, occasion)
+  if (!batch.some(each => each.do === 'still')) move(windows, occasion)
+  if (shown && batch.some(each => each.do === 'show' || each.do === 'box')) tellBar({ do: 'stole' })
   followWindows()
 }
 
@@ -101,20 +105,39 @@ onView(() => {
   scaleWindows()
 })
 
+// A file that is dropped never takes the place of the page.
+addEventListener('dragover', event => { if (event.dataTransfer.types.includes('Files')) event.preventDefault() })
+addEventListener('drop', async event => {
+  const [file] = event.dataTransfer.files
+  if (!file) return
+  event.preventDefault()
+  if (front()?.choice) (await import('./offer.js')).offer(file)
+})
+
+async function watchAsked () {
+  if (!location.hash.startsWith('#watch=')) return
+  const { asked, watch } = await import('./watch.js')
+  if (asked()) await watch(asked())
+}
+addEventListener('popstate', watchAsked)
+
 async function start () {
   document.getElementById('word').textContent = ''
   show()
+  const showing = shown && await import('./showing.js')
+  if (showing) Object.assign(deeds, showing.deeds)
+  else await watchAsked()
   const fonts = Promise.all([400, 600].map(weight => document.fonts.load(`${weight} 12px "Card Haven"`))).catch(() => {})
   const [module] = await Promise.all([program, load(), fonts])
   const instance = await WebAssembly.instantiate(module, imports(module, tell))
   use(instance)
   instance.exports._initialize()
+  if (showing) return run(instance.exports, 'watch', leaveLetters(await showing.record))
   addEventListener('pagehide', () => instance.exports.leaving())
   addEventListener('pageshow', event => { if (event.persisted) location.reload() }) // its program has left
   document.addEventListener('visibilitychange', () => {
     if (document.visibilityState !== 'hidden') return
-    const window = front()
-    if (window?.guide?.open && !window.guide.paused) send(`pause ${window.id} 1`)
+    pauseGame()
     instance.exports.hidden()
   })
   const playing = run(instance.exports, 'play', leaveWords(asked(games)))

@@ -73,7 +73,7 @@ function openMenu (window, button, title) {
   let entries = told.name === 'view' ? viewEntries() : told.entries ?? []
   if (told.id && told.id === window.keysMenu) {
     entries = [...entries]
-    entries.splice(1, 0, { name: 'keys', text: '&Keys...', visible: true, enabled: true, choose: () => showKeys(window) })
+    entries.splice(1, 0, { name: 'watchGame', text: '&Watch a Game', choose: () => watchGame(window) }, { name: 'keys', text: '&Keys...', visible: true, enabled: true, choose: () => showKeys(window) })
   }
   if (told.id && told.id === window.playMenu) {
     entries = [...entries]
@@ -95,6 +95,9 @@ function openMenu (window, button, title) {
   open = { window, title: button, menu, back: document.activeElement }
   menu.querySelector('.entry:not(:disabled)')?.focus()
 }
+
+// One that is played well, with comments.
+const watchGame = async window => (await import('./watch.js')).watch(`demonstrations/${window.name.slice(3)}.record`)
 
 function build (entries, name) {
   const menu = make('div', 'menu')

@@ -1,4 +1,5 @@
 // Waves, from the first press on: before it browsers let nobody be heard.
+import { shown } from './shown.js'
 import { onView, view } from './view.js'
 
 let context = null
@@ -45,7 +46,7 @@ export async function playWave ({ path, handler }) {
   const goesOn = last.path === path && last.handler === handler && now - last.at <= 500
   last = { path, handler, at: now, step: goesOn ? last.step + 1 : 0 }
   const { cents, level } = touchOf(last.step)
-  if (!context || view.waves === 0) return
+  if (!context || view.waves === 0 || (shown && context.state !== 'running')) return
   const number = ++asked
   const wave = await waveOf(path.replace(/^.*[\\/]/, '').replace(/\.wav$/i, ''))
   if (!wave || number !== asked || performance.now() - now > 400) return

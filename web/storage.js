@@ -1,5 +1,7 @@
 // The program's files in the browser's storage: one entry a file, under its whole path, read anew at each call, since there
 // may be another tab. Bytes are kept as letters of the same number.
+import { shown } from './shown.js'
+
 const prefix = 'card-haven:'
 export const folder = '/card-haven/'
 const records = `${folder}records/`
@@ -12,6 +14,8 @@ function store () {
   }
 }
 
+export const lettersOf = bytes => Array.from(bytes, byte => String.fromCharCode(byte)).join('')
+
 // Null if there is no such file.
 export function read (path) {
   return store()?.getItem(prefix + path) ?? null
@@ -19,6 +23,7 @@ export function read (path) {
 
 // False if there is no room, or we may keep nothing. Records of games make room for all else.
 export function write (path, text) {
+  if (shown) return true
   const kept = store()
   while (kept) {
     try {
@@ -42,7 +47,7 @@ function recordsByWorth () {
 }
 
 export function remove (path) {
-  store()?.removeItem(prefix + path)
+  if (!shown) store()?.removeItem(prefix + path)
 }
 
 export function names () {

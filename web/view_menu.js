@@ -43,8 +43,9 @@ export function viewEntries () {
     volume('Sounds', 'waves'),
     volume('Music', 'music'),
     line,
-    flag('keepRecords', 'Keep &Records of Games', 'keepsRecords'),
+    flag('keepRecords', 'Keep Records of &Games', 'keepsRecords'),
     { name: 'keep', text: '&Keep a Copy', choose: keepCopy },
-    { name: 'bring', text: '&Bring Back...', choose: bringBack }
+    { name: 'bring', text: '&Bring Back...', choose: bringBack },
+    { name: 'openRecord', text: 'Watch or Check a &Record...', choose: async () => (await import('./offer.js')).askForRecord() }
   ]
 }

@@ -8,6 +8,7 @@ import { showKeys } from './keys_window.js'
 import { showNotes } from './notes.js'
 import { tellTable } from './table.js'
 import { send } from './events.js'
+import { shown } from './shown.js'
 import { alter, calm, view } from './view.js'
 
 const perForm = 4096 // numbers of a window's controls
@@ -28,6 +29,12 @@ export const isOrnament = told => Boolean(windowOf(told.id)?.ornaments?.includes
 // The window in front, of those that show.
 export function front () {
   return [...windows.values()].filter(each => each.shown).sort((a, b) => a.order - b.order).at(-1)
+}
+
+// A round that is being played waits.
+export function pauseGame () {
+  const window = front()
+  if (window?.guide?.open && !window.guide.paused) send(`pause ${window.id} 1`)
 }
 
 export function createWindow (told) {
@@ -139,7 +146,7 @@ function dress (window) {
   window.board.style.height = `${boardHeight(window)}px`
   window.element.classList.toggle('waiting', window.pointer === 11)
   if (window.title) window.title.textContent = window.text
-  window.element.setAttribute('aria-label', window.text)
+  window.element.setAttribute('aria-label', shown ? `${window.text} (recording)` : window.text)
   if (!window.modal && window.shown) document.title = window.text
 }
 
@@ -241,7 +248,7 @@ export function scaleWindows () {
   for (const each of windows.values()) if (!each.modal && each.shown) each.element.hidden = each !== main
   if (main) {
     const natural = Math.min(room.width / main.width, room.height / main.height)
-    const small = (hasBar(main) || main.choice) && ((natural < 1.5 && coarse.matches) || natural < 0.9)
+    const small = !shown && (hasBar(main) || main.choice) && ((natural < 1.5 && coarse.matches) || natural < 0.9)
     layStrip(main, small, room)
     const bar = small && hasBar(main) ? menuHeight : 0
     const free = { width: room.width - (small && strip.classList.contains('side') ? strip.offsetWidth : 0),

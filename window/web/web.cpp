@@ -147,12 +147,36 @@ Event WebFrontEnd::Next(const Wait& wait) {
   const bool sleeps = wait.serving == Wait::Serving::Nothing;
   if (wait.serving == Wait::Serving::All)
     for (auto& [id, window] : windows_) ShowWholeBoard(window);
+  Window* const idle = Idle(wait);
   Flush(!sleeps);
-  const double until = wait.until == Wait::kForever ? -1 : std::max(0ll, wait.until - Milliseconds());
-  const int length = page::Wait(until, static_cast<int>(wait.serving));
+  constexpr long long kIdle = 60;  // milliseconds in which nothing has happened
+  const long long until = idle ? std::min(wait.until, Milliseconds() + kIdle) : wait.until;
+  const double left = until == Wait::kForever ? -1 : std::max(0ll, until - Milliseconds());
+  const int length = page::Wait(left, static_cast<int>(wait.serving));
   if (length > 0) return Take(host::Taken(length), wait);
-  const bool due = wait.serving == Wait::Serving::All && wait.until <= Milliseconds();
-  return {due ? Event::Kind::Tick : Event::Kind::None};
+  if (wait.serving == Wait::Serving::All && wait.until <= Milliseconds()) return {Event::Kind::Tick};
+  if (idle && !idle->chore()) idle->chore = nullptr;
+  return {};
+}
+
+// The window for which there is something to be done in a wait; null if there is none.
+WebFrontEnd::Window* WebFrontEnd::Idle(const Wait& wait) {
+  if (wait.serving != Wait::Serving::All || wait.box) return nullptr;
+  for (auto& [id, window] : windows_) {
+    if (!window.hasChores || !window.form->Visible) continue;
+    if (std::exchange(window.isOther, false)) {
+      Say("unmark").Member("id", id * ids::kPerForm).Close('}');
+      window.chore = choreFor(*window.form);
+    }
+    if (window.chore) return &window;
+  }
+  return nullptr;
+}
+
+void WebFrontEnd::Mark(const Label& score, size_t place, const std::string& record) {
+  const int id = IdOf(score.form);
+  if (id == 0) return;
+  Say("mark").Member("id", ids::Of(id, score)).Member("place", place).Member("record", record).Close('}');
 }
 
 // "click 4100", "type 4101 text", "key 4096 0 P", "answer 2"
@@ -316,7 +340,11 @@ void WebFrontEnd::Triumph(Visual& where, bool goes) {
   Say("triumph").Member("id", ids::Of(id, where)).Close('}');
   if (!goes) return;
   Flush(false);
-  page::Wait(kSeen, static_cast<int>(Wait::Serving::Nothing));
+  Hold(kSeen);
+}
+
+void WebFrontEnd::Hold(int milliseconds) {
+  page::Wait(milliseconds, static_cast<int>(Wait::Serving::Nothing));
 }
 
 // --- Windows -------------------------------------------------------------------------------------
@@ -331,7 +359,9 @@ void WebFrontEnd::FormLoaded(Form& form) {
 void WebFrontEnd::FormShown(Form& form) {
   const int id = IdOf(form);
   if (id == 0) return;
-  const auto& guide = windows_.at(id).guide;
+  Window& window = windows_.at(id);
+  const auto& guide = window.guide;
+  window.hasChores = window.isOther = choreFor && choreFor(form);
   Json& json = Say("show").Member("id", id * ids::kPerForm).Member("modal", form.Modal());
   if (TextBox* const box = guide ? guide->OffersAgain() : nullptr) json.Member("offer", ids::Of(id, *box));
   if (const Visual* const active = form.ActiveControl()) json.Member("focus", ids::Of(id, *active));
@@ -357,11 +387,26 @@ void WebFrontEnd::FormUnloaded(Form& form) {
   std::erase_if(dirty_, [&](const Control* control) { return &control->form == &form; });
 }
 
+bool WebFrontEnd::IsChoice(const Form& form) const {
+  const int id = IdOf(form);
+  return id != 0 && windows_.at(id).guide && windows_.at(id).guide->IsChoice();
+}
+
+void WebFrontEnd::ForgetWindows() {
+  for (const auto& [id, window] : windows_) Say("gone").Member("id", id * ids::kPerForm).Close('}');
+  windows_.clear();
+  dirty_.clear();
+  clicked_ = nullptr;
+}
+
 void WebFrontEnd::PropertyChanged(Control& control, Prop) { Changed(control); }
 
 // Nobody tells when a control of a window that isn't loaded goes.
 void WebFrontEnd::Changed(Control& control) {
-  if (control.kind != Control::Kind::Timer && IdOf(control.form) != 0) dirty_.insert(&control);
+  const int id = control.kind == Control::Kind::Timer ? 0 : IdOf(control.form);
+  if (id == 0) return;
+  dirty_.insert(&control);
+  if (control.kind == Control::Kind::Label) windows_.at(id).isOther = true;
 }
 
 void WebFrontEnd::FocusMoved(Visual& control) {

@@ -28,6 +28,13 @@ class WebFrontEnd : public FrontEnd {
 
   Platform platform{*this};
 
+  // What there is to be done for a window while it waits for the player; some of it at each call, and false
+  // once all is done. Null for none.
+  using Chore = std::function<bool()>;
+  std::function<Chore(Form&)> choreFor;
+  // That record proves the score that stands there, at that place from 1.
+  void Mark(const Label& score, size_t place, const std::string& record);
+
   // The page is hidden: what closing the windows would keep is kept, and a running round pauses.
   void Hidden();
   // The page goes.
@@ -66,31 +73,43 @@ class WebFrontEnd : public FrontEnd {
   void BoxGone(const MessageBox& box) override;
   void Ended(const std::string& failure) override;
 
+ protected:
+  // Begins something that the page is told. What has changed so far goes before it.
+  Json& Say(std::string_view what);
+  // `settled`: no handler is in the middle of something.
+  void Flush(bool settled);
+  // What stands on the page for so long while a handler runs.
+  virtual void Hold(int milliseconds);
+  // All windows go, and are heard of no more.
+  void ForgetWindows();
+  int IdOf(const Form& form) const;  // 0 if it isn't loaded
+  // Whether games are opened from there.
+  bool IsChoice(const Form& form) const;
+
  private:
   struct Window {
     Form* form;
     std::unique_ptr<Guide> guide;
     std::unique_ptr<BoardKeys> keys;
     Outcome outcome = {};
-    std::optional<GameFacts> remarked = {};  // of which the remark is
-    bool told = false;                       // to the page
-    std::string guided = {};                 // what the page was told last of what the guide says
-    bool isNew = true;                       // nothing has waited for the player yet
+    std::optional<GameFacts> remarked = {};   // of which the remark is
+    bool told = false;                        // to the page
+    std::string guided = {};                  // what the page was told last of what the guide says
+    bool isNew = true;                        // nothing has waited for the player yet
+    bool hasChores = false, isOther = false;  // what there is to be done is to be asked for anew
+    Chore chore = nullptr;
   };
 
   void ShowWholeBoard(Window& window);
-  // Begins something that the page is told. What has changed so far goes before it.
-  Json& Say(std::string_view what);
+  Window* Idle(const Wait& wait);
   void SayForm(std::string_view what, const Form& form);
   void TellChanges();
   void TellGuide(int id, Window& window);
   void LookBack(Window& window) const;
-  void Flush(bool settled);
   Event Take(std::string_view line, const Wait& wait);
   void Do(std::string_view what, Window& window, Control& control, std::string_view rest);
   void PlayDeal(Guide& guide, int number);
   void Changed(Control& control);
-  int IdOf(const Form& form) const;  // 0 if it isn't loaded
 
   const Guides guides_;
   const Played played_;

@@ -1,0 +1,23 @@
+// Marks in the Hall of Fame at the entries whose record holds: they show their games.
+import { make } from './controls.js'
+import { watch } from './watch.js'
+import { controlOf } from './windows.js'
+
+// Left of the scores, where few names end.
+const width = 70
+const height = 20
+
+export function mark ({ id, place, record }) {
+  const score = controlOf(id)
+  if (!score?.window.shown) return
+  const stretch = score.window.stretch ?? 1
+  const button = make('button', 'control button proof', score.window.surface)
+  button.type = 'button'
+  button.textContent = '\u2713 Watch'
+  button.dataset.name = `proof${place}`
+  button.title = 'The record of this game holds: that score came of it. Watch the game.'
+  button.setAttribute('aria-label', `Watch the game of place ${place}, whose record holds`)
+  const top = (score.top + score.height / 3) * stretch - height * stretch / 2
+  Object.assign(button.style, { left: `${score.left + 30 - width}px`, top: `${top}px`, width: `${width}px`, height: `${height * stretch}px`, zIndex: 25000 })
+  button.addEventListener('click', () => watch(`records/${record}`))
+}
