@@ -9,6 +9,7 @@ import { applyForm, applyGuide, applyTold, controlOf, createWindow, firstOf, for
 import { onOffer, send } from './events.js'
 import { make, applyControl, kinds } from './controls.js'
 import { celebrate, flash, remember, move } from './motion.js'
+import { drawAnew } from './ornaments.js'
 import { shown, tellBar } from './shown.js'
 import { speak } from './speech.js'
 import { playWave } from './sound.js'
@@ -99,7 +100,8 @@ onView(() => {
   setFourColours(view.fourColours)
   for (const window of windows.values()) {
     window.changed = true
-    for (const control of window.controls.values()) if (control.kind === kinds.image) applyControl(control, { ...control })
+    for (const control of window.controls.values()) if (control.kind === kinds.image && !isOrnament(control)) applyControl(control, { ...control })
+    drawAnew(window)
   }
   settle()
   scaleWindows()

@@ -6,6 +6,7 @@ import { choiceEntries } from './choice_menu.js'
 import { layMenus, makeMenus, toggleMenu } from './menus.js'
 import { showKeys } from './keys_window.js'
 import { showNotes } from './notes.js'
+import { applyOrnament, createOrnaments, forgetDrawn, scaleOrnaments } from './ornaments.js'
 import { tellTable } from './table.js'
 import { send } from './events.js'
 import { shown } from './shown.js'
@@ -54,8 +55,8 @@ export function createWindow (told) {
   }
   // Whoever reads or tabs through meets the buttons that digits stand for before the others.
   for (const control of window.controls.values()) holderOf(window, control).append(control.element)
-  for (const each of told.controls) if (window.controls.has(each.id)) applyControl(window.controls.get(each.id), each)
-  for (const id of window.ornaments ?? []) window.controls.get(id).element.classList.add('ornament')
+  for (const each of told.controls) if (window.controls.has(each.id) && !window.ornaments?.includes(each.id)) applyControl(window.controls.get(each.id), each)
+  if (window.ornaments?.length) createOrnaments(window, holderOf(window, window.controls.get(window.ornaments[0])))
   offerHelp(window)
   nameFields(window)
   windows.set(told.id, window)
@@ -134,10 +135,10 @@ export function applyTold (told) {
     window.status = told
     showPanels(window)
   } else {
-    const ornament = isOrnament(told)
-    if (ornament && calm()) return // what only pleases the eye stands still
-    applyControl(window.controls.get(told.id), told)
-    window.changed ||= !ornament
+    const control = window.controls.get(told.id)
+    if (isOrnament(told)) return calm() || applyOrnament(window, control, told) // what only pleases the eye may stand still
+    applyControl(control, told)
+    window.changed = true
   }
 }
 
@@ -213,6 +214,7 @@ export function hideWindow (id) {
   window.dialog?.remove()
   window.dialog = null
   window.element.remove()
+  forgetDrawn(window)
   scaleWindows()
 }
 
@@ -283,8 +285,9 @@ function setScale (window, scale, room) {
   const { style } = window.element
   style.width = `${window.width}px`
   style.height = `${height}px`
-  style.transform = `translate(${Math.max(0, Math.round((room.width - window.width * scale) / 2))}px, ` +
-    `${Math.max(0, Math.round((room.height - height * scale) / 2))}px) scale(${scale})`
+  const at = [Math.max(0, Math.round((room.width - window.width * scale) / 2)), Math.max(0, Math.round((room.height - height * scale) / 2))]
+  style.transform = `translate(${at[0]}px, ${at[1]}px) scale(${scale})`
+  scaleOrnaments(window, at)
 }
 
 // Menus and commands as large as a finger, in the room that the board leaves.

@@ -1,7 +1,7 @@
 // What stands on a board beside the game's own texts covers none of them.
 import assert from 'node:assert/strict'
 import { test } from 'node:test'
-import { open, press, settle, until, withBrowser } from './page.mjs'
+import { leave, open, press, settle, until, withBrowser } from './page.mjs'
 
 const here = withBrowser()
 
@@ -36,6 +36,35 @@ test('what is announced side by side stands on one plate', { timeout: 60000 }, a
     return both.length === 2 && both.map(each => getComputedStyle(each.querySelector('.letters')).backgroundColor).concat(document.querySelectorAll('.plate.joint').length)
   })
   assert.deepEqual(await plates.jsonValue(), ['rgba(0, 0, 0, 0)', 'rgba(0, 0, 0, 0)', 1])
+  assert.deepEqual(page.troubles, [])
+  await page.browserContext().close()
+})
+
+test('the ring of cards turns, and stands still with Less Motion, also behind a game', { timeout: 90000 }, async () => {
+  const page = await open(here.browser, here.server.address, { speed: 10 })
+  await until(page, 'the selector', now => now.window === 'frmSelect')
+  const seen = async () => Buffer.from(await (await page.$('.window:not([hidden]) canvas.ornaments')).screenshot()).toString('base64')
+  const changed = async before => {
+    for (const end = Date.now() + 20000; ; await settle(page)) {
+      const now = await seen()
+      if (now !== before) return now
+      assert.ok(Date.now() < end, 'nothing turns')
+    }
+  }
+  const cloth = await page.evaluate(() => document.querySelector('canvas.ornaments').style.visibility = 'hidden') && await seen()
+  await page.evaluate(() => { document.querySelector('canvas.ornaments').style.visibility = '' })
+  assert.notEqual(await changed(cloth), await changed(await changed(cloth)))
+  await press(page, 'Menu')
+  await page.click('.menu [data-name=lessMotion]')
+  await settle(page)
+  const still = await seen()
+  await page.evaluate(() => new Promise(resolve => setTimeout(resolve, 3000))) // a dozen ticks of the ring's clock
+  assert.equal(await seen(), still)
+  await press(page, 'cmdHandgrid')
+  await until(page, 'the game', now => now.window === 'frmHandgrid')
+  await leave(page)
+  await settle(page)
+  assert.equal(await seen(), still)
   assert.deepEqual(page.troubles, [])
   await page.browserContext().close()
 })
