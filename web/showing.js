@@ -10,8 +10,9 @@ import { controlOf } from './windows.js'
 let given = null
 export const record = new Promise(resolve => { given = resolve })
 
-addEventListener('message', ({ source, origin, data }) => {
-  if (source !== parent || origin !== location.origin) return
+// WebKit doesn't always tell who sent it.
+addEventListener('message', ({ origin, data }) => {
+  if (origin !== location.origin) return
   if (data.record !== undefined) given(data.record)
   else send(`watch ${data.watch}`)
 })

@@ -19,18 +19,17 @@ async function textOf (name) {
   return answer.ok ? lettersOf(new Uint8Array(await answer.arrayBuffer())) : null
 }
 
-let open = null
+let open = false
+let dressed = null // its style is here
 
 // Until the viewer leaves. `text` is a record that has no name here.
 export async function watch (name, text = null) {
   if (open) return
-  open = {}
-  const sheet = make('link')
-  sheet.rel = 'stylesheet'
-  sheet.href = 'watch.css'
-  const dressed = new Promise(resolve => { sheet.onload = sheet.onerror = resolve })
-  if (!document.querySelector('link[href="watch.css"]')) document.head.append(sheet)
-  else sheet.onload()
+  open = true
+  dressed ??= new Promise(resolve => {
+    const sheet = make('link', '', document.head)
+    Object.assign(sheet, { rel: 'stylesheet', onload: resolve, onerror: resolve, href: 'watch.css' })
+  })
   try {
     text ??= await textOf(name)
   } catch {
@@ -39,7 +38,7 @@ export async function watch (name, text = null) {
   await dressed
   if (text === null) tell('Card Haven', "There is no such record, or it can't be had now.")
   else await show(name, text)
-  open = null
+  open = false
   if (location.hash.startsWith(base)) history.replaceState(null, '', location.pathname + location.search)
 }
 
@@ -61,14 +60,16 @@ async function show (name, text) {
   }
   const here = base + encodeURIComponent(name)
   if (location.hash !== here) history.pushState({ watches: true }, '', here)
+  const heard = new AbortController()
+  const { signal } = heard
   const outcome = await new Promise(resolve => {
-    const hear = ({ source, origin, data }) => {
-      if (source !== frame.contentWindow || origin !== location.origin) return
+    const hear = ({ origin, data }) => {
+      if (origin !== location.origin) return
       if (data.do === 'left' || data.do === 'unfit') resolve(data)
       else deeds[data.do]?.(data)
     }
-    addEventListener('message', hear)
-    addEventListener('popstate', () => resolve({ back: true }), { once: true })
+    addEventListener('message', hear, { signal })
+    addEventListener('popstate', () => resolve({ back: true }), { signal })
     dialog.addEventListener('cancel', event => {
       event.preventDefault()
       bar.take('Escape')
@@ -80,6 +81,7 @@ async function show (name, text) {
     dialog.showModal()
     bar.refocus()
   })
+  heard.abort()
   dialog.close()
   dialog.remove()
   document.title = title

@@ -90,6 +90,18 @@ test('a round in WebKit, and a reload in the middle of it', { timeout: 180000 },
       await page.open(`${server.address}#spirehold`)
       await page.evaluate('() => location.reload()')
     }
+    // A demonstration is watched, and left.
+    await page.open('about:blank')
+    await page.open(`${server.address}#watch=demonstrations/Sumfall.record`)
+    const where = async (round, paused) => assert.match(await page.evaluate(`() => ['where', 'pause']
+      .map(name => document.querySelector('.watchbar .' + name)).map(each => each.textContent + each.ariaPressed).join()`), new RegExp(`^Round ${round}.*${paused}$`))
+    await again(() => where(1, false))
+    await press(page, '.watchbar .pause')
+    await again(() => where(1, true))
+    await page.evaluate("() => document.querySelector('.watchbar').dispatchEvent(new KeyboardEvent('keydown', { key: 'PageDown', bubbles: true }))")
+    await again(() => where(2, true))
+    await press(page, '.watchbar .leave')
+    await again(() => seen(page, '.window[data-name=frmSelect]'))
   } finally {
     await page?.stop()
     await server.stop()
