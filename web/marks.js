@@ -17,7 +17,8 @@ export function mark ({ id, place, record }) {
   button.dataset.name = `proof${place}`
   button.title = 'The record of this game holds: that score came of it. Watch the game.'
   button.setAttribute('aria-label', `Watch the game of place ${place}, whose record holds`)
-  const top = (score.top + score.height / 3) * stretch - height * stretch / 2
+  const middle = stretch > 1 ? score.height / 2 : score.height / 3 // in stretched rows all stands in the middle
+  const top = (score.top + middle - height / 2) * stretch
   Object.assign(button.style, { left: `${score.left + 30 - width}px`, top: `${top}px`, width: `${width}px`, height: `${height * stretch}px`, zIndex: 25000 })
   button.addEventListener('click', () => watch(`records/${record}`))
 }
