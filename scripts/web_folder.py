@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Lays out the folder that a host serves: web_folder.py FOLDER PROGRAM.wasm [SECOND-BUILD.wasm]"""
+"""Lays out the folder that a host serves: web_folder.py FOLDER STATISTICS.wasm PROGRAM.wasm [SECOND-BUILD.wasm]"""
 import gzip
 import hashlib
 import json
@@ -61,7 +61,7 @@ def main(site, *programs):
     for path in sorted((ROOT / "web").iterdir()):
         shutil.copy(path, site)
     name_modules(site / "index.html")
-    for program, name in zip(programs, ("card-haven.wasm", "card-haven-asyncify.wasm")):
+    for program, name in zip(programs, ("statistics.wasm", "card-haven.wasm", "card-haven-asyncify.wasm")):
         subprocess.run(["llvm-strip", "--strip-all", program, "-o", site / name], check=True)
     (site / "pictures.json").write_text(pictures())
     (site / "icons").mkdir()

@@ -49,6 +49,26 @@ export function hideBox () {
 
 export const boxStands = () => boxes.length > 0
 
+// A window of the page's own that stands before one of the program's, whose game pauses meanwhile; what closes it.
+export function openAside (window, kind, name, closed = () => {}) {
+  send(`pause ${window.id} 1`)
+  const paused = window.guide?.open && !window.guide.paused
+  const dialog = make('dialog', kind, document.body)
+  dialog.setAttribute('aria-label', name)
+  make('h2', '', dialog).textContent = name
+  const close = () => {
+    dialog.close()
+    dialog.remove()
+    closed()
+    if (paused) send(`pause ${window.id} 0`)
+  }
+  dialog.addEventListener('cancel', event => {
+    event.preventDefault()
+    close()
+  })
+  return { dialog, close }
+}
+
 // Asks for a line of text; what is written goes to `written`, unless the player thinks better of it.
 export function ask ({ title, text, name, value, longest, answer }, written) {
   const close = () => {

@@ -7,5 +7,5 @@ import { viewEntries } from './view_menu.js'
 export function choiceEntries (window) {
   const scores = ask('days')
   const days = window.doors.map(([id, name]) => ({ name: `today${name}`, text: name, keys: scores[name], choose: () => send(`today ${id}`) }))
-  return [{ text: 'Deal of the &Day', entries: days }, { line: true }, ...viewEntries()]
+  return [{ text: 'Deal of the &Day', entries: days }, { line: true }, ...viewEntries(window)]
 }

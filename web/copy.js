@@ -2,22 +2,19 @@
 import { tell } from './boxes.js'
 import * as storage from './storage.js'
 import { folder, lettersOf } from './storage.js'
+import { download } from './download.js'
 import { pack, unpack } from './archive.js'
 
 // What the suite keeps: settings, tables, saved games, lists; in a folder of their own records of games and which entries they are of.
 const isKept = name => /^[^/\\]+\.(ini|txt|sfl|csv|deal|json|record)$/i.test(name)
 const isOfRecords = name => /\.record$|^Entries\.csv$/i.test(name)
-const largest = 1 << 20
+const largest = name => (/\.csv$/i.test(name) ? 4 : 1) << 20 // bytes; a history grows
 
 export function keepCopy () {
   const files = storage.names().filter(path => path.startsWith(folder))
     .map(path => [path.slice(folder.length), Uint8Array.from(storage.read(path), letter => letter.charCodeAt(0))])
   if (!files.length) return tell('Card Haven', 'There is nothing to keep yet.')
-  const link = document.createElement('a')
-  link.href = URL.createObjectURL(new Blob([pack(files)], { type: 'application/zip' }))
-  link.download = 'card-haven.zip'
-  link.click()
-  setTimeout(() => URL.revokeObjectURL(link.href), 60000)
+  download('card-haven.zip', 'application/zip', pack(files))
 }
 
 export function chooseFiles (multiple, chosen) {
@@ -39,7 +36,7 @@ export async function take (chosen) {
       files.push(...(/\.zip$/i.test(file.name) ? await unpack(bytes) : [[file.name, bytes]]))
     }
     const good = files.map(([name, bytes]) => [name.split('/').at(-1), bytes])
-      .filter(([name, bytes]) => isKept(name) && bytes.length <= largest)
+      .filter(([name, bytes]) => isKept(name) && bytes.length <= largest(name))
     if (!good.length) return tell('Card Haven', 'There are no files of Card Haven in it.')
     // Records last, and of them those that were made last first: what there is no room for is left out.
     good.sort(([a], [b]) => isOfRecords(a) - isOfRecords(b) || (a < b ? 1 : -1))

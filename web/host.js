@@ -48,6 +48,24 @@ function answerTo (call, given) {
   return JSON.parse(answered)
 }
 
+// A program that is only asked, and never waits: what asks it.
+export async function load (file) {
+  const module = await WebAssembly.compileStreaming(fetch(file))
+  const instance = await WebAssembly.instantiate(module, imports(module))
+  // Its calls out are about its own memory.
+  const within = deed => {
+    const suite = program
+    use(instance.exports)
+    try {
+      return deed()
+    } finally {
+      use(suite)
+    }
+  }
+  within(() => program._initialize())
+  return question => within(() => ask(question))
+}
+
 // Lines are measured as they are drawn.
 const pen = document.createElement('canvas').getContext('2d')
 function breadth (text, length, pixels, bold) {
@@ -72,7 +90,7 @@ export function imports (module, tell) {
     output: () => {},
     tell: (text, length) => { tell(JSON.parse(words(text, length))) },
     answer: (text, length) => { answered = words(text, length) || 'null' },
-    wait: waiting(module, suspends),
+    get wait () { return waiting(module, suspends) },
     now: () => performance.now(),
     date: at => {
       const now = new Date()
@@ -105,7 +123,7 @@ export function imports (module, tell) {
   return all
 }
 
-export function use (instance) {
-  program = instance.exports
+export function use (exports) {
+  program = exports
   memory = program.memory
 }

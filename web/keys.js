@@ -104,8 +104,8 @@ function takeMnemonic (event, within) {
 }
 
 function takeInBox (event) {
-  if (!boxStands() || event.key.length !== 1) return false
-  const box = [...document.querySelectorAll('dialog.box-window')].at(-1)
+  if (!(boxStands() || event.altKey) || event.key.length !== 1) return false
+  const box = [...document.querySelectorAll('dialog.keys-window, dialog.box-window')].at(-1)
   const button = [...box?.querySelectorAll('button') ?? []].find(each => each.dataset.key === event.key.toUpperCase())
   button?.click()
   return Boolean(button)

@@ -1,6 +1,6 @@
 // The table of keys of a window.
 import { make, plain } from './controls.js'
-import { send } from './events.js'
+import { openAside } from './boxes.js'
 
 // In a choice each key is told with what it opens.
 function rowsOf (window) {
@@ -14,12 +14,8 @@ function rowsOf (window) {
 }
 
 export function showKeys (window) {
-  send(`pause ${window.id} 1`)
-  const paused = window.guide?.open && !window.guide.paused
-  const dialog = make('dialog', 'keys-window', document.body)
   const name = window.choice ? 'Help' : 'Keys'
-  dialog.setAttribute('aria-label', name)
-  make('h2', '', dialog).textContent = name
+  const { dialog, close } = openAside(window, 'keys-window', name)
   const scroll = make('div', 'scroll', dialog)
   scroll.tabIndex = 0
   scroll.setAttribute('role', 'region')
@@ -35,16 +31,7 @@ export function showKeys (window) {
   const ok = make('button', '', make('div', 'answers', dialog))
   ok.type = 'button'
   ok.textContent = 'OK'
-  const close = () => {
-    dialog.close()
-    dialog.remove()
-    if (paused) send(`pause ${window.id} 0`)
-  }
   ok.addEventListener('click', close)
-  dialog.addEventListener('cancel', event => {
-    event.preventDefault()
-    close()
-  })
   dialog.showModal()
   ok.focus()
 }

@@ -132,7 +132,7 @@ async function start () {
   const fonts = Promise.all([400, 600].map(weight => document.fonts.load(`${weight} 12px "Card Haven"`))).catch(() => {})
   const [module] = await Promise.all([program, load(), fonts])
   const instance = await WebAssembly.instantiate(module, imports(module, tell))
-  use(instance)
+  use(instance.exports)
   instance.exports._initialize()
   if (showing) return run(instance.exports, 'watch', leaveLetters(await showing.record))
   addEventListener('pagehide', () => instance.exports.leaving())

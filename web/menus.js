@@ -70,7 +70,7 @@ export const isMenuOpen = () => open !== null
 function openMenu (window, button, title) {
   closeMenus()
   const told = title.id ? { ...title, ...entryOf(window, window.menus.find(each => each.id === title.id)) } : title
-  let entries = told.name === 'view' ? viewEntries() : told.entries ?? []
+  let entries = told.name === 'view' ? viewEntries(window) : told.entries ?? []
   if (told.id && told.id === window.keysMenu) {
     entries = [...entries]
     entries.splice(1, 0, { name: 'watchGame', text: '&Watch a Game', choose: () => watchGame(window) }, { name: 'keys', text: '&Keys...', visible: true, enabled: true, choose: () => showKeys(window) })

@@ -1,5 +1,6 @@
 // The View menu: how the page shows and sounds, and the player's files as a whole.
 import { alter, browserStopsMotion, calm, view } from './view.js'
+import { tell } from './boxes.js'
 import { bringBack, keepCopy } from './copy.js'
 
 const zooms = [50, 75, 100]
@@ -8,7 +9,17 @@ const volumes = [100, 75, 50, 25, 0]
 const flag = (name, text, key) => ({ name, text, checked: view[key], choose: () => alter({ [key]: !view[key] }) })
 const line = { line: true }
 
-export function viewEntries () {
+// Fetched when it is asked for.
+async function showStatistics (window) {
+  try {
+    const { show } = await import('./statistics.js')
+    show(window)
+  } catch (error) {
+    tell('Statistics', `They can't be shown: ${error.message}`)
+  }
+}
+
+export function viewEntries (window) {
   const volume = (text, key) => ({
     text,
     entries: volumes.map(percent => ({
@@ -42,6 +53,8 @@ export function viewEntries () {
     line,
     volume('Sounds', 'waves'),
     volume('Music', 'music'),
+    line,
+    { name: 'statistics', text: 'S&tatistics...', choose: () => showStatistics(window) },
     line,
     flag('keepRecords', 'Keep Records of &Games', 'keepsRecords'),
     { name: 'keep', text: '&Keep a Copy', choose: keepCopy },

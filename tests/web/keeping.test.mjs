@@ -85,13 +85,14 @@ test('a browser without room is told of once, and play goes on', { timeout: 6000
   await page.browserContext().close()
 })
 
-test('a page that was opened once opens without a network', { timeout: 60000 }, async () => {
+test('a page that was opened once opens without a network', { timeout: 60000 }, async t => {
   const own = await serve()
+  t.after(own.stop)
   const page = await open(here.browser, own.address)
   const programs = await page.evaluate(async () => {
     await navigator.serviceWorker.ready
     const cache = await caches.open((await caches.keys())[0])
-    const kept = (await cache.keys()).map(each => each.url.split('/').at(-1)).filter(each => each.endsWith('.wasm'))
+    const kept = (await cache.keys()).map(each => each.url.split('/').at(-1)).filter(each => /^card-haven.*wasm$/.test(each))
     return { kept, wanted: ['Suspending' in WebAssembly ? 'card-haven.wasm' : 'card-haven-asyncify.wasm'] }
   })
   assert.deepEqual(programs.kept, programs.wanted) // of the two builds the one that runs here
@@ -100,6 +101,9 @@ test('a page that was opened once opens without a network', { timeout: 60000 }, 
   await page.reload()
   await page.waitForSelector('.window .control')
   await opened(page, 'Fivestack')
+  await choose(page, 'view', 'Statistics...')
+  await page.waitForSelector('.statistics[open]')
+  await page.keyboard.press('Escape')
   await press(page, 'Play')
   await until(page, 'the round', now => now.buttons?.some(each => each.said && /^Hit/.test(each.text)))
   await page.browserContext().close()

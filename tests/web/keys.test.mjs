@@ -1,18 +1,9 @@
 // A game of each kind by keys alone, from the selector to its end; and what axe finds wrong with what is shown.
 import assert from 'node:assert/strict'
-import { readFileSync } from 'node:fs'
-import { createRequire } from 'node:module'
 import { test } from 'node:test'
-import { look, open, settle, until, withBrowser } from './page.mjs'
+import { findings, look, open, settle, until, withBrowser } from './page.mjs'
 
-const axe = readFileSync(createRequire(import.meta.url).resolve('axe-core'), 'utf8')
 const here = withBrowser()
-
-async function findings (page) {
-  await page.evaluate(axe)
-  const { violations } = await page.evaluate(() => axe.run(document, { resultTypes: ['violations'] }))
-  return violations.map(each => `${each.id}: ${each.nodes.map(node => node.html.slice(0, 200) + ' ' + node.failureSummary).slice(0, 3).join(' | ')}`)
-}
 
 const letters = { Sumfall: 'ArrowUp', Fivestack: '1', Blackrush: '2', Duopick: 'ArrowLeft', Spirehold: 'ArrowRight', Handgrid: 'ArrowDown', Treyshift: 'ArrowRight' }
 for (const [game, key] of Object.entries(letters).filter(([name]) => !process.env.GAMES || process.env.GAMES.split(',').includes(name))) {

@@ -1,6 +1,8 @@
 // A browser without a screen, the page served on this machine, and a player who clicks what can be played.
 import { spawn } from 'node:child_process'
 import { once } from 'node:events'
+import { readFileSync } from 'node:fs'
+import { createRequire } from 'node:module'
 import { after, before } from 'node:test'
 import puppeteer from 'puppeteer-core'
 
@@ -14,6 +16,7 @@ export async function serve (folder = site, port = 0) {
   return {
     address,
     stop: async () => {
+      if (server.killed) return
       server.kill()
       await once(server, 'exit')
     }
@@ -146,4 +149,12 @@ export async function until (page, what, seen, patience = 20000) {
     if (Date.now() > end) throw new Error(`${what} has not come: ${JSON.stringify(now).slice(0, 2000)}`)
     await settle(page)
   }
+}
+
+// What axe finds wrong with what is shown.
+const axe = readFileSync(createRequire(import.meta.url).resolve('axe-core'), 'utf8')
+export async function findings (page) {
+  await page.evaluate(axe)
+  const { violations } = await page.evaluate(() => window.axe.run(document, { resultTypes: ['violations'] }))
+  return violations.map(each => `${each.id}: ${each.nodes.map(node => node.html.slice(0, 200) + ' ' + node.failureSummary).slice(0, 3).join(' | ')}`)
 }

@@ -27,7 +27,7 @@ long long RoundStep(double least) {
 }
 
 // Scores that are all alike still stand on a scale that says something.
-double LeastStep(int score) { return std::max(1.0, std::abs(score) / 20.0); }
+double LeastStep(int score) { return std::max(1.0, std::abs(1.0 * score) / 20); }
 
 long long FloorTo(long long value, long long step) {
   return (value - ((value % step) + step) % step) / step * step;

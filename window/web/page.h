@@ -1,6 +1,7 @@
 // The page in which the program runs: what `web/host.js` does for this front end.
 #pragma once
 
+#include "window/border.h"
 #include "window/system/web/host.h"
 
 namespace page {
@@ -20,5 +21,11 @@ HOST_CALL("keepsRecords") int KeepsRecords();  // whether the player wants them 
 HOST_CALL("chance") double Chance();           // up to 2^53
 // How broad a line is in letters of so many pixels.
 HOST_CALL("breadth") double Breadth(const char* text, size_t length, int pixels, int bold);
+
+inline DateTime LocalTime() {
+  int date[7] = {};
+  Date(date);
+  return {date[0], date[1], date[2], date[3], date[4], date[5], date[6]};
+}
 
 }  // namespace page

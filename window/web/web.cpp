@@ -8,18 +8,9 @@
 #include "window/results/remarks.h"
 #include "window/text.h"
 #include "window/web/page.h"
+#include "window/web/words.h"
 
 namespace {
-
-// What stands before the next blank; the rest stays.
-std::string_view Word(std::string_view& rest) {
-  const size_t end = std::min(rest.find(' '), rest.size());
-  const std::string_view word = rest.substr(0, end);
-  rest.remove_prefix(std::min(end + 1, rest.size()));
-  return word;
-}
-
-int Number(std::string_view& rest) { return std::atoi(std::string(Word(rest)).c_str()); }
 
 BoardKeys::Point MiddleOf(const Visual& control) {
   BoardKeys::Point middle{control.Left + control.Width / 2, control.Top + control.Height / 2};
@@ -181,15 +172,15 @@ void WebFrontEnd::Mark(const Label& score, size_t place, const std::string& reco
 
 // "click 4100", "type 4101 text", "key 4096 0 P", "answer 2"
 Event WebFrontEnd::Take(std::string_view line, const Wait& wait) {
-  const std::string_view what = Word(line);
+  const std::string_view what = WordOf(line);
   if (what == "answer") {
     if (!wait.box) return {};
     const auto answers = AnswersOf(wait.box->buttons);
-    const auto number = static_cast<size_t>(Number(line));
+    const auto number = static_cast<size_t>(NumberOf(line));
     return {.kind = Event::Kind::Answer,
             .answer = number < answers.size() ? answers[number] : answers.back()};
   }
-  const int id = Number(line);
+  const int id = NumberOf(line);
   const auto window = windows_.find(id / ids::kPerForm);
   Control* const control = window == windows_.end() ? nullptr : ids::Find(*window->second.form, id);
   if (!control) return {};
@@ -222,24 +213,24 @@ void WebFrontEnd::Do(std::string_view what, Window& window, Control& control, st
   } else if (what == "type" && control.kind == Control::Kind::TextBox) {
     player::Type(static_cast<TextBox&>(control), std::string(rest));
   } else if (what == "select") {
-    player::Select(control, Number(rest));
+    player::Select(control, NumberOf(rest));
   } else if (what == "press") {
-    player::Press(form, Number(rest) == 0 ? Key::Return : Key::Escape);
+    player::Press(form, NumberOf(rest) == 0 ? Key::Return : Key::Escape);
   } else if (what == "close") {
     player::Close(form);
   } else if (what == "resize") {
-    const int width = Number(rest), height = Number(rest);
+    const int width = NumberOf(rest), height = NumberOf(rest);
     player::Resize(form, width * 15, height * 15);
   } else if (what == "key" && window.keys) {
-    const bool far = Number(rest) != 0;
+    const bool far = NumberOf(rest) != 0;
     if (Control* const meant = ClickOf(*window.keys, std::string(rest), far, Milliseconds()))
       player::Click(*meant);
   } else if (what == "deal" && window.guide) {
-    PlayDeal(*window.guide, Number(rest));
+    PlayDeal(*window.guide, NumberOf(rest));
   } else if (what == "pause" && window.guide) {
     // Puts the game on one side of the button: "1" pauses it.
     Control* const pause = window.guide->Pause();
-    if (pause && window.guide->Paused() != (Number(rest) != 0) && player::WhyNot(*pause).empty())
+    if (pause && window.guide->Paused() != (NumberOf(rest) != 0) && player::WhyNot(*pause).empty())
       player::Click(*pause);
   }
 }
@@ -266,7 +257,7 @@ void WebFrontEnd::Leaving() {
 }
 
 std::string WebFrontEnd::Ask(std::string_view question) {
-  const std::string_view what = Word(question);
+  const std::string_view what = WordOf(question);
   Json json;
   if (what == "days") {
     json.Open('{');
@@ -275,6 +266,10 @@ std::string WebFrontEnd::Ask(std::string_view question) {
       if (const auto score = ResultOfDay(today, game.name, played_.history))
         json.Member(game.name, FormatNumber(*score));
     json.Close('}');
+  } else if (what == "games") {
+    json.Open('[');
+    for (const KnownGame& game : played_.games) json.Open('[').Write(game.name).Write(game.rounds).Close(']');
+    json.Close(']');
   }
   return json.Text();
 }
@@ -283,11 +278,7 @@ std::string WebFrontEnd::Ask(std::string_view question) {
 
 long long WebFrontEnd::Milliseconds() { return static_cast<long long>(page::Now()); }
 
-DateTime WebFrontEnd::Now() {
-  int date[7] = {};
-  page::Date(date);
-  return {date[0], date[1], date[2], date[3], date[4], date[5], date[6]};
-}
+DateTime WebFrontEnd::Now() { return page::LocalTime(); }
 
 uint64_t WebFrontEnd::Chance() { return static_cast<uint64_t>(page::Chance()); }
 

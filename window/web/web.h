@@ -40,7 +40,8 @@ class WebFrontEnd : public FrontEnd {
   // The page goes.
   void Leaving();
   // What the page asks for by itself, also while the program waits: JSON.
-  //   days    what was scored in today's deal of the day, by games
+  //   days   what was scored in today's deal of the day, by games
+  //   games  each game, and how many rounds it has before the bonus round
   std::string Ask(std::string_view question);
 
   Event Next(const Wait& wait) override;
