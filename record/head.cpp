@@ -2,7 +2,6 @@
 
 #include <charconv>
 #include <climits>
-#include <cstdio>
 
 #include "window/moments.h"
 
@@ -121,16 +120,17 @@ std::string Head::Text(const Shelf& shelf, bool withMemory) const {
   return text + "begin\n";
 }
 
+// What isn't written as we would write it is none.
 DateTime ReadMoment(Line& line) {
   const std::string text = line.Word();
-  DateTime at;
-  char sign = 0;
-  int hours = 0, minutes = 0, length = 0;
-  const bool read =
-      std::sscanf(text.c_str(), "%4d-%2d-%2dT%2d:%2d:%2d%c%2d:%2d%n", &at.year, &at.month, &at.day, &at.hour,
-                  &at.minute, &at.second, &sign, &hours, &minutes, &length) == 9;
-  if (!read || static_cast<size_t>(length) != text.size()) line.Wrong("there is no moment " + text);
-  at.offset = (sign == '-' ? -1 : 1) * (60 * hours + minutes);
+  const auto number = [&](size_t at, size_t digits) {
+    int value = 0;
+    if (at + digits <= text.size()) std::from_chars(text.data() + at, text.data() + at + digits, value);
+    return value;
+  };
+  DateTime at{number(0, 4), number(5, 2), number(8, 2), number(11, 2), number(14, 2), number(17, 2)};
+  at.offset = 60 * number(20, 2) + number(23, 2);
+  if (text.find('-', 19) == 19) at.offset = -at.offset;
   const bool sound = at.year > 0 && at.month > 0 && at.month <= 12 && at.day > 0 && at.day <= 31;
   if (!sound || IsoText(at) != text) line.Wrong("there is no moment " + text);
   return at;
