@@ -4,10 +4,14 @@ import { chooseFiles, take } from './copy.js'
 import { verdictOn } from './host.js'
 import { lettersOf } from './storage.js'
 import { watch } from './watch.js'
+import { pauseGame } from './windows.js'
 
 const largest = 1 << 20
 
-export const askForRecord = () => chooseFiles(false, ([file]) => offer(file, false))
+export function askForRecord () {
+  pauseGame()
+  chooseFiles(false, ([file]) => offer(file, false))
+}
 
 // What is dropped may be any of the player's files.
 export async function offer (file, mayBeOther = true) {

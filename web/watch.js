@@ -58,8 +58,7 @@ async function show (name, text) {
     key: told => bar.take(told.key),
     stole: () => { if (document.activeElement === frame) bar.refocus() }
   }
-  const here = base + encodeURIComponent(name)
-  if (location.hash !== here) history.pushState({ watches: true }, '', here)
+  if (!location.hash.startsWith(base) || asked() !== name) history.pushState({ watches: true }, '', base + encodeURI(name))
   const heard = new AbortController()
   const { signal } = heard
   const outcome = await new Promise(resolve => {

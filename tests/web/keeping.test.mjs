@@ -106,6 +106,8 @@ test('a page that was opened once opens without a network', { timeout: 60000 }, 
   await page.keyboard.press('Escape')
   await press(page, 'Play')
   await until(page, 'the round', now => now.buttons?.some(each => each.said && /^Hit/.test(each.text)))
+  await choose(page, 'mnuHelp', 'Watch a Game')
+  await page.waitForFunction(() => /^Round 1/.test(document.querySelector('.watchbar .where')?.textContent))
   await page.browserContext().close()
 })
 
