@@ -128,7 +128,8 @@ void Keeper::Prune(const std::string& newest) {
   for (const KeptEntry& entry : Entries()) entered.insert(entry.record);
   std::vector<std::string> names = disk_.Names(folder_, Disk::Entries::Files);
   std::erase_if(names, [](const std::string& name) { return !IsPlainName(name, kEnding); });
-  std::ranges::sort(names, std::greater());
+  std::ranges::sort(names);
+  std::ranges::reverse(names);
   std::stable_partition(names.begin(), names.end(),
                         [&](const std::string& name) { return entered.contains(name); });
   size_t games = 0;

@@ -38,7 +38,7 @@ def make_sounds(site):
     (site / "sounds").mkdir()
     for wave in sorted((ROOT / "data/sounds").glob("*.wav")):
         shutil.copy(wave, site / "sounds")  # for browsers that don't know the other form
-        subprocess.run(["opusenc", "--quiet", "--bitrate", "48", "--discard-comments", "--serial", "1", wave,
+        subprocess.run(["opusenc", "--quiet", "--bitrate", "32", "--discard-comments", "--serial", "1", wave,
                         site / "sounds" / (wave.stem + ".opus")], check=True)
     shutil.copy(ROOT / "data/music/Quillmark.MID", site / "sounds/quillmark.mid")
 
