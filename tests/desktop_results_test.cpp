@@ -11,8 +11,6 @@
 #include "history/deal_number.h"
 #include "tests/desktop_start.h"
 #include "window/desktop/results/statistics_window.h"
-#include "window/results/charts.h"
-#include "window/results/remarks.h"
 
 namespace {
 
@@ -127,19 +125,6 @@ TEST_F(Outcomes, TheDealOfTheDayIsOpenedFromTheSelectorAndItsResultCopied) {
   EXPECT_EQ(days->actions().at(4)->text(), "Spirehold\t0");
 }
 
-TEST(Results, SignsTellWhatTheRoundsHavePaid) {
-  GameFacts facts;
-  facts.name = "Spirehold";
-  facts.deal = 77;
-  facts.payments = {500, 1000, 0, 250};
-  facts.last = "2026-11-21T12:00:00+01:00,Spirehold,45,,0,3,1750,0,9,77,played,";
-  EXPECT_EQ(
-      ResultToCopy(facts, {{"Spirehold", 3}}),
-      "Card Haven, Spirehold, deal 77, 21 November 2026\n1,750 points  \u2585\u2588\u00b7\u2605\u2583\n");
-  facts.last = "2026-11-21T12:00:00+01:00,Spirehold,45,,0,3,1750,0,9,77,given-up,";
-  EXPECT_EQ(ResultToCopy(facts, {}), "");
-}
-
 TEST_F(Outcomes, StatisticsAreATableWithPictures) {
   {
     Start start(folder);
@@ -186,15 +171,4 @@ TEST_F(Outcomes, StatisticsAreATableWithPictures) {
   EXPECT_NE(folder.Read("a.csv").find("\r\nDuopick,45,,0,0,40,40,600,"), std::string::npos);
   window.close();
   input::Settle();
-}
-
-TEST(Results, ScalesAreOfRoundNumbersAndRecordsOnlyRise) {
-  using results::Page;
-  std::vector<Page::Score> scores;
-  for (const int score : {-250, 300, 300, 120, 999, 5}) scores.push_back({score, {}});
-  const results::Bins bins = results::BinsOf(scores, 10);
-  EXPECT_EQ(std::tuple(bins.from, bins.step, bins.counts.size()), std::tuple(-400, 200, 7u));
-  EXPECT_EQ(bins.counts, (std::vector<int>{1, 0, 2, 2, 0, 0, 1}));
-  EXPECT_EQ(results::RecordsOf(scores), (std::vector<size_t>{1, 4}));
-  EXPECT_EQ(results::RunningMeans(scores, 2), (std::vector<double>{-250, 25, 300, 210, 559.5, 502}));
 }

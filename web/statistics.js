@@ -18,12 +18,14 @@ await new Promise((resolve, reject) => {
 
 const ask = await program
 
+const usual = { width: 960, height: 760 } // what the window fills at its natural size
+
 const contrast = () => Number(view.highContrast)
 
 export function show (window) {
   const told = ask(`open ${window.choice ? '-' : window.name.slice(3)} ${askSuite('games').flat().join(' ')}`)
   const { dialog, close } = openAside(window, 'keys-window statistics', 'Statistics', () => watcher.disconnect())
-  const scale = Math.max(1, Math.min(window.scale, 1.6))
+  const scale = Math.max(1, Math.min(innerWidth / usual.width, innerHeight / usual.height, 2))
   dialog.style.fontSize = `${14 * scale}px`
   const body = make('div', 'body', dialog)
   const page = {}

@@ -42,7 +42,7 @@ const catchFiles = () => {
 }
 
 const withHistory = (text, view = {}) => `(() => {
-  if (location.protocol === 'about:') return
+  if (!location.host) return
   localStorage['card-haven:/card-haven/History.csv'] ??= ${JSON.stringify(text)}
   localStorage['card-haven:/card-haven/web.json'] ??= ${JSON.stringify(JSON.stringify(view))}
   ;(${catchFiles})()

@@ -102,6 +102,13 @@ test('a round in WebKit, and a reload in the middle of it', { timeout: 180000 },
     await again(() => where(2, true))
     await press(page, '.watchbar .leave')
     await again(() => seen(page, '.window[data-name=frmSelect]'))
+    // What was played is told, and can be saved as a picture.
+    await press(page, '.choicemenu')
+    await press(page, '.menu [data-name=statistics]')
+    await again(() => seen(page, '.statistics .charts svg'))
+    assert.match((await seen(page, '.statistics tbody tr'))[0].text, /^Spirehold45 seconds/)
+    await press(page, '.statistics [data-name=savePicture]')
+    await again(async () => assert.equal((await seen(page, '.statistics .told'))[0].text, 'Saved: statistics.png'))
   } finally {
     await page?.stop()
     await server.stop()

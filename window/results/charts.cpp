@@ -257,12 +257,14 @@ void DrawCalendar(Drawing& drawing, const Page& page, const Area& plate) {
   const auto counted = [](size_t count, const char* what) {
     return FormatNumber(static_cast<long long>(count)) + " " + what + (count == 1 ? "" : "s");
   };
-  Title(drawing, plate,
-        counted(static_cast<size_t>(games), "game") + " on " + counted(played.size(), "day") + " since " +
-            ShortDay(first));
+  const std::string text = "deal of the day", since = " since " + ShortDay(first);
+  const double x =
+      dailies.empty() ? plate.Right() : plate.Right() - kMargin - letters.Breadth(Font::Small, text);
+  std::string title = counted(static_cast<size_t>(games), "game") + " on " + counted(played.size(), "day");
+  const double room = x - 20 - plate.left - kMargin;
+  if (letters.Breadth(Font::Strong, title + since) <= room) title += since;
+  Title(drawing, plate, title);
   if (!dailies.empty()) {
-    const std::string text = "deal of the day";
-    const double x = plate.Right() - kMargin - letters.Breadth(Font::Small, text);
     drawing.Write(Point{x, LineOfTitle(drawing, plate)}, text);
     drawing.Box({x - 15, MiddleOfTitle(plate) - 4.5, 9, 9}, {Colour::Body}, {Colour::Mark}, 2, 2);
   }
