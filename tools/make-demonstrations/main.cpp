@@ -77,6 +77,11 @@ class Demonstrator : private std::streambuf {
       begun_ = true;
       return "advance 1500";
     }
+    if (const auto guide = MakeGuide(*window); !wide_ && guide->Breadth() > window->Width) {
+      wide_ = true;  // all of the board is to be seen
+      return "resize " + std::string(window->name) + " " + std::to_string(guide->Breadth()) + " " +
+             std::to_string(window->Height);
+    }
     if (!window->standing.InGame()) return "click " + window->cmdPlay.FullName();
     if (!window->standing.IsPlaying() || window->standing.InputIsDead()) {
       clicks_.clear();
@@ -124,7 +129,7 @@ class Demonstrator : private std::streambuf {
   std::map<std::string, int> told_;
   std::string line_;
   int lines_ = 0;
-  bool begun_ = false, thought_ = false, struck_ = false, over_ = false;
+  bool begun_ = false, wide_ = false, thought_ = false, struck_ = false, over_ = false;
   Demonstration done_;
 };
 
