@@ -33,12 +33,12 @@ export function controlAt (window, x, y) {
   return empty
 }
 
-// A finger is broader than a card's edge: the nearest place that can be played wins.
+// A finger is broader than a card's edge: the nearest place that can be played wins, but where the cloth beside it is scrolled.
 function tappedAt (window, x, y) {
   const exact = controlAt(window, x, y)
   const spots = window.guide?.spots ?? []
   const playable = spots.filter(([, , flags]) => flags & 1).map(([id]) => window.controls.get(id))
-  if (!coarse.matches || (exact && playable.includes(exact))) return exact
+  if (!coarse.matches || window.scrolls || (exact && playable.includes(exact))) return exact
   return nearest(playable, x, y) ?? exact
 }
 
@@ -160,6 +160,7 @@ function showRing (window) {
   const control = window.controls.get(window.guide.cursor)
   window.ring.hidden = !control || !window.guide.open
   if (window.ring.hidden) return
+  if (window.scrolls && keysUsed) control.element.scrollIntoView({ block: 'nearest', inline: 'nearest' })
   const place = placeOf(window, control)
   Object.assign(window.ring.style, { left: `${place.left}px`, top: `${place.top}px`, width: `${place.width}px`, height: `${place.height}px` })
   // The keyboard stays with the board, also while a card that had it goes.

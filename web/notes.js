@@ -66,7 +66,7 @@ function placeSheet (window, element, note) {
     for (const gap of [12, 3]) {
       for (const top of [note.top + note.height + gap, note.top - gap - height]) {
         const here = { left, top, width, height }
-        if (top >= 0 && top + height <= window.board.clientHeight && isFree(here, areas)) return settle(element, here)
+        if (top >= 0 && top + height <= window.surface.clientHeight && isFree(here, areas)) return settle(element, here)
       }
     }
   }

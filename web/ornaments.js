@@ -41,12 +41,16 @@ export function scaleOrnaments (window, [x, y]) {
   drawAnew(window)
 }
 
-// While nobody sees them.
-export const forgetDrawn = window => window.turning?.drawn.clear()
+// While nobody sees them they aren't drawn, and all of them as soon as they are seen again.
+export function forgetDrawn ({ turning }) {
+  if (!turning) return
+  turning.key = ''
+  turning.drawn.clear()
+}
 
 // Larger or smaller, or in other colours.
 export function drawAnew ({ turning }) {
-  if (!turning?.fine) return
+  if (!turning?.key) return
   turning.drawn.clear()
   for (const card of turning.cards) draw(turning, card)
 }
@@ -54,7 +58,7 @@ export function drawAnew ({ turning }) {
 export function applyOrnament ({ turning }, card, told) {
   delete card.hidden
   Object.assign(card, told)
-  if (turning.fine) draw(turning, card)
+  if (turning.key) draw(turning, card)
 }
 
 // What was drawn once is kept, the latest first: a picture takes the browser longer than all the rest.

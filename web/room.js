@@ -7,7 +7,7 @@ export const over = { nothing: 0, backs: 1, cards: 2 }
 
 // What shows on the board itself, but for those cards over which the note may lie.
 export function taken (window, yields = over.nothing) {
-  const board = window.board.getBoundingClientRect()
+  const board = window.surface.getBoundingClientRect()
   const areas = []
   for (const control of window.controls.values()) {
     if (control.within !== window.id || control.hidden) continue
@@ -29,7 +29,7 @@ export const isFree = ({ left, top, width, height }, areas, margin = 0) => areas
 // The free place that is nearest to a point; null if there is none.
 export function findRoom (window, { width, height }, x, y, areas) {
   const step = 4
-  const end = { x: window.board.clientWidth - width, y: window.board.clientHeight - height }
+  const end = { x: window.surface.clientWidth - width, y: window.surface.clientHeight - height }
   let best = null
   let least = Infinity
   for (let top = step; top < end.y; top += step) {

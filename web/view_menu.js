@@ -3,7 +3,7 @@ import { alter, browserStopsMotion, calm, view } from './view.js'
 import { tell } from './boxes.js'
 import { bringBack, keepCopy } from './copy.js'
 
-const zooms = [50, 75, 100]
+const zooms = [50, 75, 100, 125, 150]
 const volumes = [100, 75, 50, 25, 0]
 
 const flag = (name, text, key) => ({ name, text, checked: view[key], choose: () => alter({ [key]: !view[key] }) })

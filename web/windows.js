@@ -1,5 +1,5 @@
 // The windows of the suite: an element for each, as large as its form says at 100 %, and drawn larger or smaller as a whole.
-import { accessKey, applyControl, createControl, fit, kinds, make, place, plain, pressButton, showCaption } from './controls.js'
+import { accessKey, applyControl, createControl, fit, isNative, kinds, make, place, plain, pressButton, showCaption } from './controls.js'
 import { listenOnBoard, settleBoard } from './board.js'
 import { layGround } from './ground.js'
 import { choiceEntries } from './choice_menu.js'
@@ -16,7 +16,7 @@ const perForm = 4096 // numbers of a window's controls
 const menuHeight = 26
 const statusHeight = 24
 const coarse = matchMedia('(pointer: coarse)')
-const titleHeight = () => coarse.matches ? 52 : 32
+const titleHeight = scale => coarse.matches ? Math.max(32, 48 / scale) : 32
 
 export const windows = new Map()
 const desk = document.getElementById('desk')
@@ -143,8 +143,6 @@ export function applyTold (told) {
 }
 
 function dress (window) {
-  window.board.style.width = `${window.width}px`
-  window.board.style.height = `${boardHeight(window)}px`
   window.element.classList.toggle('waiting', window.pointer === 11)
   if (window.title) window.title.textContent = window.text
   window.element.setAttribute('aria-label', shown ? `${window.text} (recording)` : window.text)
@@ -241,6 +239,7 @@ export function showPanels (window) {
 // --- Size --------------------------------------------------------------------------------------------------------
 
 const tapped = 44 // pixels of what is tapped
+const lowest = 32 // of a field in a row of that height
 
 // A window in the page is as large as fits; where it would get too small to tap, its commands stand in a strip beside it.
 export function scaleWindows () {
@@ -257,7 +256,7 @@ export function scaleWindows () {
       height: room.height - (small && !strip.classList.contains('side') ? strip.offsetHeight : 0) }
     const fits = Math.min(free.width / main.width, free.height / (main.height - bar))
     const most = main.sizable ? 4 : Math.max(1.6, fits * 0.75)
-    setScale(main, Math.min(fits * view.zoom / 100, fits, most), free)
+    setScale(main, Math.min(fits * Math.min(view.zoom, 100) / 100, most) * Math.max(1, view.zoom / 100), free)
   } else {
     strip.hidden = true
   }
@@ -265,28 +264,67 @@ export function scaleWindows () {
   if (window) settleBoard(window)
 }
 
-// Before fingers a dialog is as broad as fits, and as tall as its fields and buttons need to be tapped.
+// Before fingers a dialog is as broad as fits, and as tall as its fields and buttons need to be tapped; what is too tall then
+// scrolls.
 function scaleDialog (window, main, room) {
-  const fits = Math.min(room.width / (window.width + 4), room.height / (window.height + titleHeight() + 4))
+  const broad = room.width / (window.width + 4)
+  const fits = Math.min(broad, room.height / (window.height + (coarse.matches ? 52 : 32) + 4))
   const fingers = coarse.matches && !window.pictured
-  const scale = Math.min(fits, fingers ? 1.5 : Math.max(1, Math.min(main?.scale ?? 1, 2)))
+  let scale = Math.min(fits, fingers ? 1.5 : Math.max(1, Math.min(main?.scale ?? 1, 2)))
+  let stretch = 1
+  if (fingers) {
+    stretch = Math.min(Math.max(1, (room.height / scale - titleHeight(scale) - 4) / window.height), Math.max(1, 2 / scale))
+    if (stretch < stretchToTap(window, scale)) {
+      scale = Math.min(broad, 1.5)
+      stretch = stretchToTap(window, scale)
+    }
+  }
   const before = window.stretch
   window.finger = tapped / scale
-  window.stretch = fingers ? Math.min(Math.max(1, (room.height / scale - titleHeight() - 4) / window.height), Math.max(1, 2 / scale)) : 1
-  if (before !== window.stretch) for (const control of window.controls.values()) place(control)
-  window.element.classList.toggle('stretched', window.stretch > 1)
-  window.board.style.height = `${boardHeight(window) * window.stretch}px`
+  window.stretch = stretch
+  if (before !== stretch) for (const control of window.controls.values()) place(control)
+  window.element.classList.toggle('stretched', stretch > 1)
   setScale(window, scale, room)
 }
 
+// How much taller the rows have to be for fields of 32 pixels, and for a finger's breadth from one to the next. What is only read
+// is seen as a whole, or scrolls by itself.
+function stretchToTap (window, scale) {
+  const fields = [...window.controls.values()].filter(each => isNative(each.kind) && !each.element.hidden)
+  let least = 1
+  if (fields.every(each => each.kind === kinds.button || each.lines)) return least // taps beside buttons are taken for them
+  for (const one of fields) {
+    if (!one.field) least = Math.max(least, (lowest / scale + 4) / one.height)
+    for (const other of fields) {
+      const beside = one.left < other.left + other.width && other.left < one.left + one.width
+      if (beside && one.within === other.within && other.top > one.top) least = Math.max(least, tapped / scale / (other.top - one.top))
+    }
+  }
+  return least
+}
+
+// What is larger than the room that it has is scrolled within its window.
 function setScale (window, scale, room) {
-  const height = window.height * (window.stretch ?? 1) + (window.modal ? titleHeight() : 0) - (window.element.classList.contains('barless') ? menuHeight : 0)
+  const whole = { width: window.width, height: boardHeight(window) * (window.stretch ?? 1) }
+  const bars = (window.modal ? titleHeight(scale) : 0) + (hasBar(window) && !window.element.classList.contains('barless') ? menuHeight : 0) +
+    (hasStatus(window) ? statusHeight : 0)
+  const seen = { width: Math.min(whole.width, room.width / scale), height: Math.min(whole.height, room.height / scale - bars - (window.modal ? 4 : 0)) }
+  const tooHigh = seen.height < whole.height - 1
+  if (tooHigh && !coarse.matches) seen.width = Math.min(whole.width + 16, room.width / scale) // a bar to scroll it by
+  window.scrolls = tooHigh || seen.width < whole.width - 1
+  window.board.classList.toggle('scrolls', window.scrolls)
+  for (const side of ['width', 'height']) {
+    window.board.style[side] = `${seen[side]}px`
+    for (const each of [window.surface, window.over]) each.style[side] = `${whole[side]}px`
+  }
   window.scale = scale
-  const { style } = window.element
-  style.width = `${window.width}px`
-  style.height = `${height}px`
-  const at = [Math.max(0, Math.round((room.width - window.width * scale) / 2)), Math.max(0, Math.round((room.height - height * scale) / 2))]
-  style.transform = `translate(${at[0]}px, ${at[1]}px) scale(${scale})`
+  if (window.modal) {
+    window.element.style.setProperty('--title', `${titleHeight(scale)}px`)
+    window.element.style.setProperty('--letters', `${Math.max(14, 13 / scale)}px`)
+  }
+  const at = [room.width - seen.width * scale, room.height - (seen.height + bars) * scale].map(rest => Math.max(0, Math.round(rest / 2)))
+  Object.assign(window.element.style, { width: `${seen.width}px`, height: `${seen.height + bars}px`,
+    transform: `translate(${at[0]}px, ${at[1]}px) scale(${scale})` })
   scaleOrnaments(window, at)
 }
 
@@ -305,14 +343,29 @@ function layStrip (window, small, room) {
   const rank = each => each.index !== undefined ? 0 : window.tips?.[each.id] ? 1 : 2
   buttons.sort((a, b) => rank(a) - rank(b))
   const key = [window.id, ...buttons.map(each => `${each.id}${each.text}${each.disabled}`), window.menus.map(each => each.text)].join()
-  if (strip.dataset.key === key) return
+  if (strip.dataset.key === key) return sayCommands(window, buttons)
   strip.dataset.key = key
   strip.replaceChildren()
   if (hasBar(window)) layMenus(window, make('div', 'menubar', strip))
   const commands = make('div', 'commands', strip)
-  for (const each of buttons) addCommand(commands, plain(each.text).trim(), each.disabled, event => pressButton(each, event))
+  for (const each of buttons) addCommand(commands, captionOf(each, buttons), each.disabled, event => pressButton(each, event))
+  sayCommands(window, buttons)
   if (window.doors?.length) offerMenu(addCommand(commands, 'Menu', false, (event, button) => showChoiceMenu(window, button)))
   if (window.help) addCommand(commands, window.help.text, false, () => showKeys(window))
+}
+
+// Of several buttons with one caption each says which it is: on the board that is told by where they stand.
+function captionOf (button, buttons) {
+  const caption = plain(button.text).trim()
+  return buttons.some(each => each !== button && each.text === button.text) ? `${caption} ${button.index + 1}` : caption
+}
+
+function sayCommands ({ guide }, buttons) {
+  const commands = strip.querySelectorAll('.commands button')
+  buttons.forEach((button, i) => {
+    const spot = guide?.spots.find(([id]) => id === button.id)
+    if (spot) commands[i].setAttribute('aria-label', `${captionOf(button, buttons)}, ${spot[1]}`)
+  })
 }
 
 function addCommand (commands, text, disabled, deed) {

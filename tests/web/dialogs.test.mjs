@@ -16,7 +16,10 @@ const missed = page => page.evaluate(() => {
   const parts = [...dialog.querySelectorAll('input.control, textarea.control')].filter(each => each.checkVisibility() && !each.readOnly)
   const bad = []
   for (const each of parts) {
+    each.scrollIntoView({ block: 'center' })
     const { left, width, top, height } = each.getBoundingClientRect()
+    if (each.matches('input') && height < 31.9) bad.push(`${each.getAttribute('aria-label')} is ${Math.round(height)} high`)
+    if (top < 0 || top + height > innerHeight) bad.push(`${each.getAttribute('aria-label')} can't be reached`)
     for (const y of [top + height / 2 - 20, top + height / 2 + 20]) {
       const at = { clientX: left + width / 2, clientY: y, bubbles: true, detail: 1 }
       const target = document.elementFromPoint(at.clientX, at.clientY)

@@ -4,6 +4,7 @@ import { test } from 'node:test'
 import { look, open, press, settle, until, withBrowser } from './page.mjs'
 
 const here = withBrowser()
+const phone = { width: 390, height: 844, deviceScaleFactor: 2, hasTouch: true, isMobile: true }
 
 async function tap (page, text) {
   const at = await page.evaluate(text => {
@@ -17,7 +18,7 @@ async function tap (page, text) {
 
 for (const [width, height] of [[390, 844], [844, 390]]) {
   test(`a phone of ${width} by ${height}`, { timeout: 120000 }, async () => {
-    const page = await open(here.browser, here.server.address, { viewport: { width, height, deviceScaleFactor: 2, hasTouch: true, isMobile: true } })
+    const page = await open(here.browser, here.server.address, { viewport: { ...phone, width, height } })
     await until(page, 'the selector', now => now.window === 'frmSelect')
     await tap(page, 'Spirehold')
     await until(page, 'the game', now => now.window === 'frmSpirehold')
@@ -35,8 +36,20 @@ for (const [width, height] of [[390, 844], [844, 390]]) {
   })
 }
 
+test('what stands several times in the strip says which it is', { timeout: 60000 }, async () => {
+  const page = await open(here.browser, `${here.server.address}#fivestack`, { viewport: phone })
+  await until(page, 'the game', now => now.window === 'frmFivestack')
+  await tap(page, 'Play')
+  await until(page, 'the round', now => now.buttons?.some(each => each.said))
+  await tap(page, 'Hit 2')
+  await page.waitForFunction(() => [...document.querySelectorAll('#strip button')].some(each => /^Hit 2, Column 2: [1-9]/.test(each.getAttribute('aria-label'))))
+  assert.deepEqual(await page.$$eval('#strip .commands button', all => all.map(each => each.textContent).filter(text => text.startsWith('Hit'))),
+    ['Hit 1', 'Hit 2', 'Hit 3', 'Hit 4', 'Hit 5'])
+  await page.browserContext().close()
+})
+
 test('a double tap on Play begins a game, and asks nothing', { timeout: 60000 }, async () => {
-  const page = await open(here.browser, `${here.server.address}#treyshift`, { viewport: { width: 390, height: 844, deviceScaleFactor: 2, hasTouch: true, isMobile: true } })
+  const page = await open(here.browser, `${here.server.address}#treyshift`, { viewport: phone })
   await until(page, 'the game', now => now.window === 'frmTreyshift')
   await tap(page, 'Play')
   const begun = page.waitForFunction(() => [...document.querySelectorAll('#strip button')].find(each => each.textContent === 'End Game')?.getBoundingClientRect().toJSON())
