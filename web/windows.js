@@ -243,7 +243,7 @@ const lowest = 32 // of a field in a row of that height
 
 // A window in the page is as large as fits; where it would get too small to tap, its commands stand in a strip beside it.
 export function scaleWindows () {
-  const room = { width: innerWidth, height: innerHeight }
+  const room = { width: innerWidth, height: innerHeight } // may be next to nothing, before the page has its place
   const window = front()
   const main = [...windows.values()].filter(each => each.shown && !each.modal).sort((a, b) => a.order - b.order).at(-1)
   for (const each of windows.values()) if (!each.modal && each.shown) each.element.hidden = each !== main
@@ -252,8 +252,8 @@ export function scaleWindows () {
     const small = !shown && (hasBar(main) || main.choice) && ((natural < 1.5 && coarse.matches) || natural < 0.9)
     layStrip(main, small, room)
     const bar = small && hasBar(main) ? menuHeight : 0
-    const free = { width: room.width - (small && strip.classList.contains('side') ? strip.offsetWidth : 0),
-      height: room.height - (small && !strip.classList.contains('side') ? strip.offsetHeight : 0) }
+    const free = { width: Math.max(1, room.width - (small && strip.classList.contains('side') ? strip.offsetWidth : 0)),
+      height: Math.max(1, room.height - (small && !strip.classList.contains('side') ? strip.offsetHeight : 0)) }
     const fits = Math.min(free.width / main.width, free.height / (main.height - bar))
     const most = main.sizable ? 4 : Math.max(1.6, fits * 0.75)
     setScale(main, Math.min(fits * Math.min(view.zoom, 100) / 100, most) * Math.max(1, view.zoom / 100), free)
