@@ -55,6 +55,14 @@ TEST(Keeper, KeepsTheLastGamesAndThoseOfEntries) {
   EXPECT_EQ(names[0], NameOf(3));
   EXPECT_EQ(names[1], NameOf(211));
   EXPECT_EQ(names.size(), 49u + 2);
+
+  // Where there is less room fewer stay.
+  ASSERT_TRUE(Keeper(folder.Path(), {3, 2'500'000}).Keep(NameOf(260), "text"));
+  EXPECT_EQ(Kept(folder),
+            (std::vector<std::string>{NameOf(3), NameOf(258), NameOf(259), NameOf(260), "Entries.csv"}));
+  ASSERT_TRUE(Keeper(folder.Path(), {3, 1'500'000}).Keep(NameOf(261), "text"));
+  EXPECT_EQ(Kept(folder),
+            (std::vector<std::string>{NameOf(3), NameOf(259), NameOf(260), NameOf(261), "Entries.csv"}));
 }
 
 TEST(Keeper, KnowsWhichEntryARecordBelongsTo) {

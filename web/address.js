@@ -1,4 +1,5 @@
 // The address names the game, and the way back leads to the selector.
+import { isWatching } from './boxes.js'
 import { send } from './events.js'
 import { shown } from './shown.js'
 import { front, windows } from './windows.js'
@@ -23,7 +24,7 @@ export function asked (games) {
 let going = false // back, by ourselves: that comes about a moment later
 
 export function followWindows () {
-  if (going || shown || document.querySelector('.watching')) return
+  if (going || shown || isWatching()) return
   const game = shownGame()
   const name = game ? `#${nameOf(game)}` : ''
   if (name === location.hash) return

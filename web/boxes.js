@@ -47,6 +47,9 @@ export function hideBox () {
   box?.remove()
 }
 
+// A recording is watched above all else.
+export const isWatching = () => document.querySelector('dialog.watching') !== null
+
 export const boxStands = () => boxes.length > 0
 
 // A window of the page's own that stands before one of the program's, whose game pauses meanwhile; what closes it.

@@ -1,5 +1,5 @@
 // What is struck on the keyboard: menus, the keys that a window's guide names, mnemonics, Return and Escape.
-import { boxStands } from './boxes.js'
+import { boxStands, isWatching } from './boxes.js'
 import { kinds, shownBy } from './controls.js'
 import { isMenuOpen, takeMenuKey } from './menus.js'
 import { showKeys } from './keys_window.js'
@@ -29,6 +29,7 @@ addEventListener('keydown', event => {
 }, { capture: true })
 
 function take (event) {
+  if (isWatching()) return false
   const { key, target } = event
   if ((key === ' ' || key === 'Escape') && !event.repeat && takeAsHurry()) return true
   const window = front()

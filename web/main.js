@@ -1,6 +1,6 @@
 // Starts the program, and carries out what it tells.
 import { followWindows, asked } from './address.js'
-import { hideBox, showBox, openBox } from './boxes.js'
+import { hideBox, isWatching, showBox, openBox } from './boxes.js'
 import { imports, leaveLetters, leaveWords, use } from './host.js'
 import { program } from './program.js'
 import { load, setCatalogue, setFourColours } from './pictures.js'
@@ -113,7 +113,7 @@ addEventListener('drop', async event => {
   const [file] = event.dataTransfer.files
   if (!file) return
   event.preventDefault()
-  if (front()?.choice) (await import('./offer.js')).offer(file)
+  if (front()?.choice && !isWatching()) (await import('./offer.js')).offer(file)
 })
 
 async function watchAsked () {

@@ -5,6 +5,7 @@ export const shown = new URLSearchParams(location.search).has('show')
 export const tellBar = told => parent.postMessage(told, location.origin)
 
 if (shown) {
+  HTMLElement.prototype.focus = () => {} // the keyboard stays with the bar
   const deeds = ['pointerdown', 'pointermove', 'pointerup', 'mousedown', 'click', 'dblclick', 'contextmenu', 'dragstart', 'keydown', 'focusin']
   for (const kind of deeds) {
     addEventListener(kind, event => {

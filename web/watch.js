@@ -77,6 +77,7 @@ async function show (name, text) {
     frame.addEventListener('load', () => {
       if (!frame.contentDocument?.getElementById('desk')) resolve({ why: 'the host allows no frames.' })
     })
+    document.addEventListener('visibilitychange', () => { if (document.hidden) bar.stop() }, { signal })
     dialog.showModal()
     bar.refocus()
   })
@@ -145,6 +146,7 @@ function makeBar (dialog, say) {
   element.addEventListener('focusin', event => { last = event.target })
   return {
     leave,
+    stop: () => { if (pause.getAttribute('aria-pressed') === 'false') pause.click() },
     take,
     refocus: () => last.focus({ preventScroll: true }),
     begin: ({ title, length, comments, rounds: begins }) => {

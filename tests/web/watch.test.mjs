@@ -130,6 +130,9 @@ test('a record dropped on the selector is checked or watched, also by its addres
   await answer(page, 'OK')
   await drop(demonstration, 'Watch')
   await barSays(page, 'the round', now => /^Round 1/.test(now.where))
+  assert.equal(await page.evaluate(() => document.activeElement.className), 'pause')
+  await page.keyboard.press('2') // which opens a game where no recording stands before the selector
+  await barSays(page, 'double speed', now => now.speed === 'x2')
   await page.click('.watchbar .leave')
   await left(page)
   await until(page, 'the selector', now => now.window === 'frmSelect')
