@@ -256,7 +256,8 @@ export function scaleWindows () {
       height: Math.max(1, room.height - (small && !strip.classList.contains('side') ? strip.offsetHeight : 0)) }
     const fits = Math.min(free.width / main.width, free.height / (main.height - bar))
     const most = main.sizable ? 4 : Math.max(1.6, fits * 0.75)
-    setScale(main, Math.min(fits * Math.min(view.zoom, 100) / 100, most) * Math.max(1, view.zoom / 100), free)
+    const zoom = shown ? Math.min(view.zoom, 100) : view.zoom // nobody scrolls in a recording
+    setScale(main, Math.min(fits * Math.min(zoom, 100) / 100, most) * Math.max(1, zoom / 100), free)
   } else {
     strip.hidden = true
   }

@@ -73,16 +73,19 @@ test('a demonstration is watched to its end, and the game on the page waits', { 
   await page.browserContext().close()
 })
 
+// A table with three entries: one that is proved, one whose record was changed, one without any.
+function keepRecords (points, holds, fails) {
+  const put = (name, text) => localStorage.setItem(`card-haven:/card-haven/${name}`, text)
+  put('HiScores90_11.Txt', `Ada, ${points}\r\nBob, 150000\r\nCy, 300\r\n`)
+  put('records/20260101-000000-Sumfall-a.record', holds)
+  put('records/20260102-000000-Sumfall-b.record', fails)
+  put('records/Entries.csv', 'table,record,score,name\r\n' +
+    `HiScores90_11.Txt,20260101-000000-Sumfall-a.record,${points},Ada\r\nHiScores90_11.Txt,20260102-000000-Sumfall-b.record,150000,Bob\r\n`)
+}
+
 test('marks stand at entries whose record holds, and show their games', { timeout: 60000 }, async () => {
   const page = await open(here.browser, here.server.address)
-  await page.evaluate((points, holds, fails) => {
-    const put = (name, text) => localStorage.setItem(`card-haven:/card-haven/${name}`, text)
-    put('HiScores90_11.Txt', `Ada, ${points}\r\nBob, 150000\r\nCy, 300\r\n`)
-    put('records/20260101-000000-Sumfall-a.record', holds)
-    put('records/20260102-000000-Sumfall-b.record', fails)
-    put('records/Entries.csv', 'table,record,score,name\r\n' +
-      `HiScores90_11.Txt,20260101-000000-Sumfall-a.record,${points},Ada\r\nHiScores90_11.Txt,20260102-000000-Sumfall-b.record,150000,Bob\r\n`)
-  }, points, demonstration, altered)
+  await page.evaluate(keepRecords, points, demonstration, altered)
   await press(page, 'cmdSumfall')
   await until(page, 'the game', now => now.window === 'frmSumfall')
   await choose(page, 'mnuOptions', 'View High Scores...')
@@ -102,6 +105,25 @@ test('marks stand at entries whose record holds, and show their games', { timeou
   await answer(page, 'Yes')
   await page.waitForFunction(() => !document.querySelector('.proof'))
   assert.deepEqual(page.troubles, [])
+  await page.browserContext().close()
+})
+
+test('on a phone marks stay beside their scores when it is turned', { timeout: 60000 }, async () => {
+  const phone = { width: 390, height: 844, hasTouch: true, isMobile: true }
+  const page = await open(here.browser, `${here.server.address}#sumfall`, { viewport: phone })
+  await page.evaluate(keepRecords, points, demonstration, altered)
+  const press = name => page.evaluate(name => [...document.querySelectorAll(`[data-name=${name}]`)].find(each => each.checkVisibility()).click(), name)
+  await press('mnuOptions')
+  await press('mnuViewHiScore')
+  await page.waitForSelector('.proof')
+  for (const turned of [false, true, false]) {
+    await page.setViewport(turned ? { ...phone, width: phone.height, height: phone.width } : phone)
+    await page.waitForFunction(turned => {
+      const middleOf = element => element.getBoundingClientRect().top + element.getBoundingClientRect().height / 2
+      const score = document.querySelector('[data-name="ScoreList(1)"] .letters')
+      return innerWidth > innerHeight === turned && Math.abs(middleOf(document.querySelector('.proof')) - middleOf(score)) < 6
+    }, {}, turned)
+  }
   await page.browserContext().close()
 })
 
