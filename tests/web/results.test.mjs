@@ -1,7 +1,7 @@
 // What the page tells of games that have ended: the line by the splash panel, the deal of the day, the result to copy.
 import assert from 'node:assert/strict'
 import { test } from 'node:test'
-import { choose, leave, look, open, press, settle, until, withBrowser } from './page.mjs'
+import { choose, findings, leave, look, open, press, settle, until, withBrowser } from './page.mjs'
 
 const here = withBrowser()
 const phone = { width: 390, height: 844, hasTouch: true, isMobile: true, deviceScaleFactor: 2 }
@@ -65,6 +65,7 @@ test('the deal of the day: by the menu or the address, the first game counts', {
   await until(page, 'the selector', now => now.window === 'frmSelect')
   const entries = await openChoiceMenu(page)
   assert.equal(entries.filter(([name]) => name?.startsWith('today')).length, 7)
+  assert.deepEqual(await findings(page), [])
   await page.click('.menu [data-name=todaySpirehold]')
   await opened(page, 'Spirehold')
   await page.waitForFunction(() => location.hash === '#today-spirehold')

@@ -5,6 +5,7 @@ import { test } from 'node:test'
 
 globalThis.matchMedia = () => ({ matches: false, addEventListener () {} })
 globalThis.window = globalThis
+globalThis.location = { search: '' }
 globalThis.addEventListener = () => {}
 globalThis.document = { createElement: () => ({ canPlayType: () => '' }), documentElement: { classList: { toggle () {} } } }
 const { readTune } = await import('../../web/tune.js')
