@@ -74,7 +74,24 @@ function hasten (speed) {
   window.setTimeout = (deed, milliseconds, ...rest) => later(deed, milliseconds / speed, ...rest)
 }
 
-// --- What a player sees ------------------------------------------------------------------------------------------
+// --- What a player finds, and sees ------------------------------------------------------------------------------------------
+
+// Tables in which every score has a place.
+export const openTables = () => {
+  const rows = 'Quillmark, -1000000\r\n'.repeat(10) + '\r\n'
+  for (const name of ['BlackrushHiScores90', 'DuopickHighScores45', 'HiScores60', 'HiScores90_11', 'HandgridHighScores75', 'SpireholdHiScores45',
+    'TreyshiftHiScores120']) {
+    localStorage.setItem(`card-haven:/card-haven/${name}.Txt`, rows)
+  }
+}
+
+// Anything that can be played, the same in each run.
+export function chooser (seed) {
+  return list => {
+    seed = (seed * 1103515245 + 12345) % 2147483648
+    return list[Math.floor(seed / 2147483648 * list.length)]
+  }
+}
 
 // The window in front, and what can be done there: places with the middle of a part that shows.
 export const look = page => page.evaluate(() => {

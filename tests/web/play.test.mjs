@@ -1,29 +1,12 @@
 // Whole games by real clicks, from the selector to the Hall of Fame.
 import assert from 'node:assert/strict'
 import { test } from 'node:test'
-import { answer, choose, leave, look, open, press, settle, until, withBrowser } from './page.mjs'
+import { answer, choose, chooser, leave, look, open, openTables, press, settle, until, withBrowser } from './page.mjs'
 import { consoleSays, files } from './records.mjs'
 
 const hostile = 'Ann <b>&amp; Bob'
 
 const here = withBrowser()
-
-// Tables in which every score has a place.
-const openTables = () => {
-  const rows = 'Quillmark, -1000000\r\n'.repeat(10) + '\r\n'
-  for (const name of ['BlackrushHiScores90', 'DuopickHighScores45', 'HiScores60', 'HiScores90_11', 'HandgridHighScores75', 'SpireholdHiScores45',
-    'TreyshiftHiScores120']) {
-    localStorage.setItem(`card-haven:/card-haven/${name}.Txt`, rows)
-  }
-}
-
-// Anything that can be played, the same in each run.
-function chooser (seed) {
-  return list => {
-    seed = (seed * 1103515245 + 12345) % 2147483648
-    return list[Math.floor(seed / 2147483648 * list.length)]
-  }
-}
 
 async function playOn (page, any) {
   const now = await look(page)

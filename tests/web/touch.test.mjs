@@ -1,7 +1,7 @@
 // A phone held either way: what is tapped is large enough, cards are played by taps and by dragging, and nothing scrolls.
 import assert from 'node:assert/strict'
 import { test } from 'node:test'
-import { look, open, press, settle, until, withBrowser } from './page.mjs'
+import { chooser, look, open, openTables, press, settle, until, withBrowser } from './page.mjs'
 
 const here = withBrowser()
 const phone = { width: 390, height: 844, deviceScaleFactor: 2, hasTouch: true, isMobile: true }
@@ -48,6 +48,56 @@ test('what stands several times in the strip says which it is', { timeout: 60000
   await page.browserContext().close()
 })
 
+// By its caption, wherever it can be tapped just now.
+async function tapOn (page, text) {
+  const at = await page.evaluate(text => {
+    const all = [...document.querySelectorAll('dialog[open] button, .menu .entry, #strip button')].filter(each => each.checkVisibility() && !each.disabled)
+    const found = all.find(each => (each.querySelector('.caption') ?? each).textContent.trim() === text)
+    const { left, top, width, height } = found?.getBoundingClientRect() ?? {}
+    return found && [left + width / 2, top + height / 2]
+  }, text)
+  if (at) await page.touchscreen.tap(...at)
+  return Boolean(at)
+}
+
+for (const game of ['Sumfall', 'Blackrush']) {
+  test(`${game} is played whole on a phone, by taps alone`, { timeout: 180000 }, async () => {
+    const page = await open(here.browser, here.server.address, { viewport: phone, speed: 20, before: openTables })
+    await until(page, 'the selector', now => now.window === 'frmSelect')
+    await tap(page, game === 'Sumfall' ? 'Sumfall!' : game)
+    await until(page, 'the game', now => now.window === `frm${game}`)
+    const any = chooser(3)
+    let cards = 0
+    for (let taps = 0; ; ++taps) {
+      assert.ok(taps < 800, `the game has no end: ${JSON.stringify(await look(page))}`)
+      const now = await look(page)
+      if (now.window === 'frmHighScores') {
+        assert.match(now.text, /^Tap$/m)
+        break
+      }
+      if (now.box !== undefined) await tapOn(page, now.answers[0])
+      else if (now.window === 'frmHiScoreName') {
+        await page.keyboard.type('Tap')
+        await tapOn(page, 'OK')
+      } else if (now.window === `frm${game}`) {
+        if (now.buttons.some(each => each.text === 'Play')) await tapOn(page, 'Play')
+        const hits = now.buttons.filter(each => each.said && /^Hit/.test(each.text)).map(each => `Hit ${Number(/\d/.exec(each.name)) + 1}`)
+        const move = any([...now.places.filter(each => each.playable), ...hits])
+        if (typeof move === 'string') await tapOn(page, move)
+        else if (move) await page.touchscreen.tap(...move.at)
+        else if (cards > 10) await tapOn(page, 'Take Score')
+        cards += Number(Boolean(move))
+      }
+      await settle(page)
+    }
+    assert.ok(cards > 10, `only ${cards} cards were tapped`)
+    await tapOn(page, 'Done')
+    await until(page, 'the game', now => now.window === `frm${game}`)
+    assert.deepEqual(page.troubles, [])
+    await page.browserContext().close()
+  })
+}
+
 test('a double tap on Play begins a game, and asks nothing', { timeout: 60000 }, async () => {
   const page = await open(here.browser, `${here.server.address}#treyshift`, { viewport: phone })
   await until(page, 'the game', now => now.window === 'frmTreyshift')
@@ -61,10 +111,17 @@ test('a double tap on Play begins a game, and asks nothing', { timeout: 60000 },
   await page.browserContext().close()
 })
 
-test('a card is dragged to where it is to lie', { timeout: 60000 }, async () => {
+for (const zoom of [100, 125]) test(`a card is dragged to where it is to lie, at ${zoom} %`, { timeout: 60000 }, async () => {
   const page = await open(here.browser, `${here.server.address}#treyshift`)
   await until(page, 'the game', now => now.window === 'frmTreyshift')
   await press(page, 'Play')
+  if (zoom > 100) {
+    await page.click('.menubar [data-name=view]')
+    await page.click(`.menu [data-name=zoom${zoom}]`)
+    await page.mouse.move(640, 512)
+    await page.mouse.wheel({ deltaY: 50 })
+    await page.waitForFunction(() => document.querySelector('.board.scrolls').scrollTop > 0)
+  }
   const { places } = await until(page, 'the round', now => now.places?.some(each => each.playable))
   const card = places.find(each => each.playable)
   const to = places.find(each => each.name === 'TempCard(1)')

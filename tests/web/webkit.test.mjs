@@ -3,7 +3,7 @@ import assert from 'node:assert/strict'
 import { spawn } from 'node:child_process'
 import { once } from 'node:events'
 import { test } from 'node:test'
-import { serve } from './page.mjs'
+import { openTables, serve } from './page.mjs'
 
 const browser = process.env.MINIBROWSER ?? '/usr/lib/x86_64-linux-gnu/webkit2gtk-4.1/MiniBrowser'
 const port = 8000 + process.pid % 20000
@@ -31,6 +31,9 @@ async function drive () {
         type: 'pointer', id: 'mouse', parameters: { pointerType: 'mouse' },
         actions: [{ type: 'pointerMove', x: Math.round(x), y: Math.round(y), duration: 0 }, { type: 'pointerDown', button: 0 }, { type: 'pointerUp', button: 0 }]
       }]
+    }),
+    type: text => call('POST', `${at}/actions`, {
+      actions: [{ type: 'key', id: 'keys', actions: [...text].flatMap(value => [{ type: 'keyDown', value }, { type: 'keyUp', value }]) }]
     }),
     stop: async () => {
       await call('DELETE', at).catch(() => {})
@@ -87,9 +90,25 @@ test('a round in WebKit, and a reload in the middle of it', { timeout: 180000 },
           assert.notEqual(await faces(), before, `nothing came of it in the round ${round}`)
         })
       }
+      await page.evaluate(String(openTables))
       await page.open(`${server.address}#spirehold`)
       await page.evaluate('() => location.reload()')
     }
+    // A whole game: the score of each round is taken, and the last one goes to the Hall of Fame.
+    await again(() => press(page, '[data-name=cmdPlay]'))
+    const shows = async (selector, text = '') => (await page.evaluate(`selector => [...document.querySelectorAll(selector)]
+      .filter(each => each.checkVisibility() && !each.disabled).map(each => each.textContent.trim())`, selector)).some(each => each.startsWith(text))
+    for (const end = Date.now() + 90000; !await shows('.window[data-name=frmHiScoreName]');) {
+      assert.ok(Date.now() < end, 'the game has no end')
+      if (await shows('.box-window button')) await press(page, '.box-window button')
+      else if (await shows('[data-name=cmdTakeScore]') && await shows(playable)) await press(page, '[data-name=cmdTakeScore]')
+      else if (await shows('.skip')) await page.click(20, 500)
+      await new Promise(resolve => setTimeout(resolve, 100))
+    }
+    await page.type('Kit')
+    await press(page, '.dialog [data-name=cmdOK]')
+    await again(async () => assert.match((await seen(page, '.window[data-name=frmHighScores] .surface'))[0].text, /Kit/))
+    await press(page, '[data-name=cmdDone]')
     // A demonstration is watched, and left.
     await page.open('about:blank')
     await page.open(`${server.address}#watch=demonstrations/Sumfall.record`)
