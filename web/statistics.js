@@ -7,22 +7,28 @@ import { ask as askSuite, load } from './host.js'
 import { paint } from './shapes.js'
 import { view } from './view.js'
 
-const program = load('statistics.wasm')
-await new Promise((resolve, reject) => {
-  const sheet = make('link', '', document.head)
-  sheet.rel = 'stylesheet'
-  sheet.onload = resolve
-  sheet.onerror = () => reject(new Error('a file is missing.'))
-  sheet.href = 'statistics.css'
-})
+let ask = null // what asks their program, once it is there
 
-const ask = await program
+function loadStyle () {
+  return new Promise((resolve, reject) => {
+    const sheet = make('link', '', document.head)
+    sheet.rel = 'stylesheet'
+    sheet.onload = resolve
+    sheet.onerror = () => {
+      sheet.remove()
+      reject(new Error('a file is missing.'))
+    }
+    sheet.href = 'statistics.css'
+  })
+}
 
 const usual = { width: 960, height: 760 } // what the window fills at its natural size
 
 const contrast = () => Number(view.highContrast)
 
-export function show (window) {
+export async function show (window) {
+  if (!ask) [ask] = await Promise.all([load('statistics.wasm'), loadStyle()])
+  if (!window.shown) return // it has closed meanwhile
   const told = ask(`open ${window.choice ? '-' : window.name.slice(3)} ${askSuite('games').flat().join(' ')}`)
   const { dialog, close } = openAside(window, 'keys-window statistics', 'Statistics', () => watcher.disconnect())
   const scale = Math.max(1, Math.min(innerWidth / usual.width, innerHeight / usual.height, 2))

@@ -9,14 +9,18 @@ const volumes = [100, 75, 50, 25, 0]
 const flag = (name, text, key) => ({ name, text, checked: view[key], choose: () => alter({ [key]: !view[key] }) })
 const line = { line: true }
 
-// Fetched when it is asked for.
+// Fetched when it is asked for, once.
+let fetching = false
 async function showStatistics (window) {
+  if (fetching) return
+  fetching = true
   try {
     const { show } = await import('./statistics.js')
-    show(window)
+    await show(window)
   } catch (error) {
     tell('Statistics', `They can't be shown: ${error.message}`)
   }
+  fetching = false
 }
 
 export function viewEntries (window) {

@@ -1,7 +1,7 @@
 // The statistics in the page: the console's figures of the same history, by mouse, keys and touch, and what is saved of them.
 import assert from 'node:assert/strict'
 import { test } from 'node:test'
-import { choose, findings, open, press, settle, until, withBrowser } from './page.mjs'
+import { answer, choose, findings, open, press, settle, until, withBrowser } from './page.mjs'
 import { consoleSays } from './records.mjs'
 
 const here = withBrowser()
@@ -127,6 +127,31 @@ test('statistics by keys, from a game that pauses meanwhile', { timeout: 60000 }
   await page.waitForSelector('.statistics', { hidden: true })
   const game = await until(page, 'the round', now => now.places?.some(each => each.playable))
   assert.ok(game.buttons.some(each => each.text === 'Pause'))
+  assert.deepEqual(page.troubles, [])
+  await page.browserContext().close()
+})
+
+test('statistics that can\'t be fetched are told of, and there the next time', { timeout: 60000 }, async () => {
+  const page = await open(here.browser, here.server.address, {
+    before: () => {
+      const all = window.fetch
+      window.fetch = (...asked) => {
+        if (!/statistics/.test(asked[0])) return all(...asked)
+        window.fetch = all
+        return Promise.reject(new TypeError('no network'))
+      }
+    }
+  })
+  const ask = async () => {
+    await page.evaluate(() => document.querySelector('.choicemenu').click())
+    await page.click('.menu [data-name=statistics]')
+  }
+  await until(page, 'the selector', now => now.window === 'frmSelect')
+  await ask()
+  assert.match((await until(page, 'the box', now => now.box !== undefined)).box, /can't be shown: no network/)
+  await answer(page, 'OK')
+  await ask()
+  await page.waitForSelector('.statistics[open] .nothing')
   assert.deepEqual(page.troubles, [])
   await page.browserContext().close()
 })
