@@ -36,7 +36,7 @@ export function followWindows () {
   } else history.replaceState(null, '', url)
 }
 
-// Back: the window in front is closed as by its close box, which may ask; where the player stays, so does the address.
+// Back: what stands in front is closed, a window as by its close box, which may ask; where the player stays, so does the address.
 addEventListener('popstate', () => {
   if (going) {
     going = false
@@ -45,7 +45,9 @@ addEventListener('popstate', () => {
   const game = shownGame()
   if (game && location.hash === '') {
     history.pushState({ game: true }, '', `#${nameOf(game)}`)
-    send(`close ${front().id}`)
+    const aside = document.querySelector('dialog.keys-window[open]')
+    if (aside) aside.dispatchEvent(new Event('cancel'))
+    else send(`close ${front().id}`)
     return
   }
   if (game) return
