@@ -48,7 +48,7 @@ export function hideBox () {
 }
 
 // A recording is watched above all else.
-export const isWatching = () => document.querySelector('dialog.watching') !== null
+export const isWatching = () => document.querySelector('dialog.watching[open]') !== null
 
 export const boxStands = () => boxes.length > 0
 

@@ -50,7 +50,10 @@ async function show (name, text) {
   frame.title = 'The recorded game'
   frame.allow = 'autoplay'
   frame.src = '?show'
-  const bar = makeBar(dialog, words => frame.contentWindow.postMessage({ watch: words }, location.origin))
+  const say = words => frame.contentWindow?.postMessage({ watch: words }, location.origin)
+  const bar = makeBar(dialog, say)
+  let gone = null // called when the frame's program has ended
+  const ended = new Promise(resolve => { gone = resolve })
   const deeds = {
     ready: () => frame.contentWindow.postMessage({ record: text }, location.origin),
     recording: told => bar.begin(told),
@@ -64,6 +67,7 @@ async function show (name, text) {
   const outcome = await new Promise(resolve => {
     const hear = ({ origin, data }) => {
       if (origin !== location.origin) return
+      if (data.do === 'left') gone()
       if (data.do === 'left' || data.do === 'unfit') resolve(data)
       else deeds[data.do]?.(data)
     }
@@ -81,8 +85,13 @@ async function show (name, text) {
     dialog.showModal()
     bar.refocus()
   })
-  heard.abort()
   dialog.close()
+  // A frame whose program still waits is kept by some browsers for as long as this page.
+  if (!outcome.why) {
+    say('key Escape')
+    await Promise.race([ended, new Promise(resolve => setTimeout(resolve, 1000))])
+  }
+  heard.abort()
   dialog.remove()
   document.title = title
   if (!outcome.back && history.state?.watches) {

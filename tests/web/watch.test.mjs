@@ -73,6 +73,27 @@ test('a demonstration is watched to its end, and the game on the page waits', { 
   await page.browserContext().close()
 })
 
+test('nothing of a frame is left when the viewer leaves', { timeout: 60000, skip: process.env.CARDHAVEN_BROWSER === 'firefox' }, async () => {
+  const page = await open(here.browser, here.server.address)
+  const session = await page.createCDPSession()
+  const heaps = [] // MB
+  for (let times = 0; times < 4; ++times) {
+    await page.evaluate(() => { import('./watch.js').then(({ watch }) => watch('demonstrations/Handgrid.record')) })
+    await page.waitForFunction(() => /^Round/.test(document.querySelector('.watchbar .where')?.textContent))
+    if (times % 2) await page.keyboard.press('Escape')
+    else await page.goBack()
+    await left(page)
+    const heap = async () => {
+      await session.send('HeapProfiler.collectGarbage')
+      return (await page.metrics()).JSHeapUsedSize / 1e6
+    }
+    for (const end = Date.now() + 10000; await heap() > (heaps[0] ?? Infinity) + 0.7 && Date.now() < end;) await settle(page)
+    heaps.push(await heap())
+  }
+  assert.ok(heaps.at(-1) < heaps[0] + 0.7, heaps.join()) // each would be 1.4 MB
+  await page.browserContext().close()
+})
+
 // A table with three entries: one that is proved, one whose record was changed, one without any.
 function keepRecords (points, holds, fails) {
   const put = (name, text) => localStorage.setItem(`card-haven:/card-haven/${name}`, text)
