@@ -124,7 +124,6 @@ async function watchAsked () {
 addEventListener('popstate', watchAsked)
 
 async function start () {
-  document.getElementById('word').textContent = ''
   show()
   const showing = shown && await import('./showing.js')
   if (showing) Object.assign(deeds, showing.deeds)

@@ -178,7 +178,7 @@ export function showWindow (told) {
     window.dialog.addEventListener('cancel', event => event.preventDefault())
     window.dialog.showModal()
   } else {
-    desk.querySelector('#word')?.remove()
+    desk.querySelector('#name')?.remove()
     desk.append(body)
   }
   window.bar = hasBar(window) ? makeMenus(window, body) : null
